@@ -1,0 +1,34 @@
+# Every target is built with the same warnings and sanitizers.
+function(nst_flags target)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+  target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
+                             QT_NO_FOREACH QT_NO_KEYWORDS)
+  if(NST_SANITIZE)
+    target_compile_options(${target} PRIVATE -fsanitize=${NST_SANITIZE} -fno-sanitize-recover=all
+                           -fno-omit-frame-pointer)
+    target_link_options(${target} PRIVATE -fsanitize=${NST_SANITIZE})
+  endif()
+endfunction()
+
+# nst_room(NAME SOURCES ... USES ...): one static library for the room in the current folder.
+# Headers are included by their path below src/ ("platform/core/Waiting.h").
+function(nst_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
+  add_library(${name} STATIC ${ROOM_SOURCES})
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(${name} PUBLIC ${ROOM_USES})
+  nst_flags(${name})
+endfunction()
+
+# nst_test(ROOM SOURCES ... USES ...): the tests of one room, run on Qt's offscreen platform.
+# The label is the room's name, so that `ctest -L settings` runs them alone.
+function(nst_test room)
+  cmake_parse_arguments(TEST "" "" "SOURCES;USES" ${ARGN})
+  add_executable(${room}-tests ${TEST_SOURCES})
+  target_include_directories(${room}-tests PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_link_libraries(${room}-tests PRIVATE ${room} ${TEST_USES} GTest::gtest GTest::gtest_main Qt6::Test)
+  nst_flags(${room}-tests)
+  gtest_discover_tests(${room}-tests DISCOVERY_TIMEOUT 60
+    PROPERTIES TIMEOUT 120 LABELS ${room}
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+endfunction()

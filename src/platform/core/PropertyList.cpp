@@ -1,0 +1,98 @@
+#include "platform/core/PropertyList.h"
+
+#include <plist/plist.h>
+
+#include <QFile>
+#include <QVariant>
+#include <cstdlib>
+#include <limits>
+#include <memory>
+
+namespace {
+
+const QString resourceFolder = QStringLiteral(":/plists");
+
+QString &folder() {
+    static QString current = resourceFolder;
+    return current;
+}
+
+QVariant valueOf(plist_t node);
+
+QVariantMap dictionaryOf(plist_t node) {
+    QVariantMap map;
+    plist_dict_iter iterator = nullptr;
+    plist_dict_new_iter(node, &iterator);
+    for (;;) {
+        char *key = nullptr;
+        plist_t child = nullptr;
+        plist_dict_next_item(node, iterator, &key, &child);
+        if (!child) break;
+        map.insert(QString::fromUtf8(key), valueOf(child));
+        std::free(key);
+    }
+    std::free(iterator);
+    return map;
+}
+
+QVariant valueOf(plist_t node) {
+    switch (plist_get_node_type(node)) {
+        case PLIST_DICT:
+            return dictionaryOf(node);
+        case PLIST_ARRAY: {
+            QVariantList list;
+            for (uint32_t i = 0; i < plist_array_get_size(node); ++i)
+                list.append(valueOf(plist_array_get_item(node, i)));
+            return list;
+        }
+        case PLIST_STRING: {
+            uint64_t length = 0;
+            const char *text = plist_get_string_ptr(node, &length);
+            return QString::fromUtf8(text, static_cast<qsizetype>(length));
+        }
+        case PLIST_DATA: {
+            uint64_t length = 0;
+            const char *bytes = plist_get_data_ptr(node, &length);
+            return QByteArray(bytes, static_cast<qsizetype>(length));
+        }
+        case PLIST_BOOLEAN: {
+            uint8_t flag = 0;
+            plist_get_bool_val(node, &flag);
+            return flag != 0;
+        }
+        case PLIST_UINT: {
+            uint64_t number = 0;
+            plist_get_uint_val(node, &number);
+            return static_cast<qlonglong>(number);
+        }
+        case PLIST_REAL: {
+            double number = 0;
+            plist_get_real_val(node, &number);
+            return number;
+        }
+        default:
+            return {};
+    }
+}
+
+}  // namespace
+
+QVariantMap PropertyList::dictionary(const QString &name, const QString &type) {
+    QFile file(QStringLiteral("%1/%2.%3").arg(folder(), name, type));
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    const QByteArray bytes = file.readAll();
+    if (bytes.isEmpty() || bytes.size() > std::numeric_limits<int>::max()) return {};
+    plist_t root = nullptr;
+    plist_from_memory(bytes.constData(), static_cast<uint32_t>(bytes.size()), &root);
+    const std::unique_ptr<void, decltype(&plist_free)> owner(root, plist_free);
+    if (!root || plist_get_node_type(root) != PLIST_DICT) return {};
+    return dictionaryOf(root);
+}
+
+PropertyList::FolderOverride::FolderOverride(const QString &path) {
+    folder() = path;
+}
+
+PropertyList::FolderOverride::~FolderOverride() {
+    folder() = resourceFolder;
+}

@@ -1,0 +1,83 @@
+#include "platform/core/Waiting.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QObject>
+#include <algorithm>
+#include <thread>
+
+#include "platform/core/MainThread.h"
+
+namespace {
+
+// Swallows what a person does while the program waits.
+class InputFilter : public QObject {
+  public:
+    InputFilter() { QCoreApplication::instance()->installEventFilter(this); }
+
+  protected:
+    bool eventFilter(QObject *, QEvent *event) override {
+        switch (event->type()) {
+            case QEvent::Close:
+                event->ignore();  // the window stays open
+                return true;
+            case QEvent::KeyPress:
+            case QEvent::KeyRelease:
+            case QEvent::Shortcut:
+            case QEvent::ShortcutOverride:
+            case QEvent::InputMethod:
+            case QEvent::MouseButtonPress:
+            case QEvent::MouseButtonRelease:
+            case QEvent::MouseButtonDblClick:
+            case QEvent::MouseMove:
+            case QEvent::NonClientAreaMouseButtonPress:
+            case QEvent::NonClientAreaMouseButtonRelease:
+            case QEvent::NonClientAreaMouseButtonDblClick:
+            case QEvent::Wheel:
+            case QEvent::ContextMenu:
+            case QEvent::TouchBegin:
+            case QEvent::TouchUpdate:
+            case QEvent::TouchEnd:
+            case QEvent::TouchCancel:
+            case QEvent::NativeGesture:
+            case QEvent::TabletPress:
+            case QEvent::TabletMove:
+            case QEvent::TabletRelease:
+            case QEvent::DragEnter:
+            case QEvent::DragMove:
+            case QEvent::DragLeave:
+            case QEvent::Drop:
+                return true;
+            default:
+                return false;
+        }
+    }
+};
+
+}  // namespace
+
+void idle() {
+    if (!MainThread::isCurrent()) return;
+    const InputFilter filter;
+    QCoreApplication::processEvents();
+}
+
+bool waitUntil(const std::function<bool()> &done, const QDeadlineTimer &deadline,
+               const std::function<void(std::chrono::milliseconds)> &pause) {
+    for (;;) {
+        if (done()) return true;
+        const auto left =
+            std::chrono::ceil<std::chrono::milliseconds>(deadline.remainingTimeAsDuration());
+        if (!deadline.isForever() && left.count() <= 0) return false;
+        const auto slice = deadline.isForever() ? waitSlice : std::min(waitSlice, left);
+        if (pause)
+            pause(slice);
+        else
+            std::this_thread::sleep_for(slice);
+        idle();
+    }
+}
+
+void waitFor(std::chrono::milliseconds duration) {
+    waitUntil([] { return false; }, QDeadlineTimer(duration));
+}
