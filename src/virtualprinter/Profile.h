@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QList>
+#include <QMap>
+#include <QString>
+#include <optional>
+
+// The description of a virtual printer (docs/virtual-printer.md), as values.
+
+// What goes wrong with one item. Unset members go right.
+struct ItemFault {
+    bool noReply = false;
+    bool garbage = false;           // random-looking bytes instead of a reply
+    std::optional<int> code;        // another item code in the reply
+    std::optional<int> truncate;    // only that many bytes of the reply
+    std::optional<int> length;      // another length in the reply's header
+    std::optional<int> resultCode;  // a setting frame is refused with this code
+    int delay = 0;                  // ms before the reply, on top of the printer's own
+};
+
+struct Faults {
+    bool refuseConnection = false;
+    // The channel closes after that many frames; 0: never.
+    int closeAfterFrames = 0;
+    int delay = 0;  // ms before every reply
+    QMap<quint16, ItemFault> items;
+};
+
+// A network that the printer's search finds.
+struct Network {
+    QByteArray ssid;  // at most 32 bytes
+    int mode = 0;
+    int authentic = 0;
+    int encryption = 0;
+    int signal = 0;  // dBm, negative
+};
+
+struct Profile {
+    QByteArray password;              // at most 8 bytes; empty: none
+    QMap<quint16, QByteArray> items;  // every item, in the layout of Items.h
+    QList<Network> networks;
+    int scanPolls = 1;  // polls answered before the search has finished
+    Faults faults;
+};
+
+struct ProfileResult {
+    std::optional<Profile> profile;
+    // The first place that is wrong, and why: "items.0x1006: not a text".
+    QString error;
+};
+
+// Reads a description. Everything in it is checked; what is unknown is refused.
+ProfileResult profileFromJson(const QJsonObject &object);
+
+// Reads a description from a file.
+ProfileResult profileFromFile(const QString &path);

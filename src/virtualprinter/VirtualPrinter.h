@@ -1,0 +1,98 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QMap>
+#include <memory>
+#include <mutex>
+
+#include "virtualprinter/FrameParser.h"
+#include "virtualprinter/Profile.h"
+
+// A printer in software: the device side of the setting protocol. Bytes in, bytes out; who carries
+// them is not its business. All operations may be called from every thread.
+class VirtualPrinter {
+  public:
+    // Result codes of a refused setting frame; 0 is an accepted one.
+    enum ResultCode : int {
+        Accepted = 0,
+        LoginNeeded = 1,    // a password is set and no login succeeded in this transaction
+        WrongPassword = 2,  // the login's password is another one
+        NotWritable = 3,    // the item is unknown or read-only
+        BadValue = 4        // the payload does not have the layout of the item
+    };
+
+    struct LoggedFrame {
+        enum Direction { Received, Sent };
+        Direction direction;
+        QByteArray bytes;
+        bool operator==(const LoggedFrame &) const = default;
+    };
+
+    struct Reply {
+        QByteArray bytes;
+        int delay = 0;  // ms to wait before these bytes are sent
+    };
+
+    // One connection of a host. Settings written in it are applied by its update frame and dropped
+    // when it closes, or ends its transaction, without one. It must not outlive its printer; used
+    // by one thread at a time.
+    class Channel {
+      public:
+        ~Channel();
+
+        // Takes bytes of the host, in any pieces, and gives the replies to the frames that they
+        // complete. A frame that is wrong, or stands outside start and end, has no reply.
+        QList<Reply> receive(const QByteArray &bytes);
+
+        // False once the printer has closed the channel.
+        bool isOpen() const { return m_open; }
+
+      private:
+        friend class VirtualPrinter;
+        explicit Channel(VirtualPrinter &printer) : m_printer(printer) {}
+
+        VirtualPrinter &m_printer;
+        FrameParser m_parser;
+        bool m_open = true;
+        bool m_started = false;
+        bool m_loggedIn = false;
+        int m_frames = 0;
+        QMap<quint16, QByteArray> m_staged;
+        std::optional<QByteArray> m_stagedPassword;
+    };
+
+    explicit VirtualPrinter(Profile profile);
+
+    // Opens a connection; a null pointer while the faults refuse one.
+    std::unique_ptr<Channel> openChannel();
+
+    // The applied value of an item, in the layout of Items.h; empty for an unknown one.
+    QByteArray item(quint16 code) const;
+    QByteArray password() const;
+
+    // Every frame received and sent since the last clearLog(), in order.
+    QList<LoggedFrame> log() const;
+    void clearLog();
+
+    // Replaces what goes wrong, for example when the printer is unplugged.
+    void setFaults(const Faults &faults);
+    Faults faults() const;
+
+  private:
+    // The lines below run under m_mutex.
+    void handle(Channel &channel, const FrameParser::Frame &frame, QList<Reply> &replies);
+    void handleCommand(Channel &channel, const FrameParser::Frame &frame, QList<Reply> &replies);
+    std::optional<QByteArray> valueForRequest(quint16 code);
+    QByteArray networkBlock(int block) const;
+    int write(Channel &channel, quint16 code, const QByteArray &payload);
+    int writePassword(Channel &channel, quint16 code, const QByteArray &payload);
+    void apply(Channel &channel);
+    void reply(char kind, quint16 code, const QByteArray &payload, QList<Reply> &replies);
+    void followAddress(quint16 configured, quint16 inUse, const QByteArray &automatic);
+
+    mutable std::mutex m_mutex;
+    Profile m_profile;
+    int m_pollsLeft = 0;
+    QList<LoggedFrame> m_log;
+};

@@ -1,0 +1,74 @@
+#include <sys/signalfd.h>
+#include <unistd.h>
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QSocketNotifier>
+#include <csignal>
+#include <cstdio>
+
+#include "virtualprinter/VirtualPrinterServer.h"
+
+namespace {
+
+int fail(const QString &message) {
+    std::fprintf(stderr, "virtual-printer: %s\n", qUtf8Printable(message));
+    return 1;
+}
+
+// Splits "127.0.0.1:9100"; false when it is no address and port.
+bool splitListen(const QString &text, QHostAddress &address, quint16 &port) {
+    const qsizetype colon = text.lastIndexOf(u':');
+    bool ok = false;
+    port = text.mid(colon + 1).toUShort(&ok);
+    return colon > 0 && ok && address.setAddress(text.left(colon));
+}
+
+// Interrupt and termination signals end the event loop.
+void quitOnSignals(QCoreApplication &app) {
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGINT);
+    sigaddset(&signals, SIGTERM);
+    sigprocmask(SIG_BLOCK, &signals, nullptr);
+    const int descriptor = signalfd(-1, &signals, SFD_CLOEXEC);
+    auto *notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, &app);
+    QObject::connect(notifier, &QSocketNotifier::activated, &app, &QCoreApplication::quit);
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("virtual-printer"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(NST_VERSION));
+    quitOnSignals(app);
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Serves a label printer in software."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption listen(QStringLiteral("listen"),
+                                    QStringLiteral("Address and port to listen on."),
+                                    QStringLiteral("address:port"));
+    const QCommandLineOption profile(QStringLiteral("profile"),
+                                     QStringLiteral("Description of the printer (JSON)."),
+                                     QStringLiteral("file"));
+    parser.addOptions({listen, profile});
+    parser.process(app);
+    if (!parser.positionalArguments().isEmpty())
+        return fail(QStringLiteral("unexpected \"%1\"").arg(parser.positionalArguments().first()));
+
+    QHostAddress address;
+    quint16 port = 0;
+    if (!splitListen(parser.value(listen), address, port))
+        return fail(QStringLiteral("--listen wants ADDRESS:PORT, such as 127.0.0.1:9100"));
+    const ProfileResult result = profileFromFile(parser.value(profile));
+    if (!result.profile) return fail(result.error);
+
+    VirtualPrinterServer server(std::make_shared<VirtualPrinter>(*result.profile));
+    if (!server.listen(address, port))
+        return fail(QStringLiteral("%1: %2").arg(parser.value(listen), server.errorString()));
+    std::printf("listening on %s:%d\n", qUtf8Printable(address.toString()), server.port());
+    std::fflush(stdout);
+    return QCoreApplication::exec();
+}

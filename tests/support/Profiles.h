@@ -1,0 +1,19 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QJsonDocument>
+#include <memory>
+
+#include "virtualprinter/VirtualPrinter.h"
+
+// The virtual printer of a description in JSON text.
+inline std::shared_ptr<VirtualPrinter> printerOf(const QByteArray &json) {
+    const auto result = profileFromJson(QJsonDocument::fromJson(json).object());
+    EXPECT_TRUE(result.profile) << qPrintable(result.error);
+    return std::make_shared<VirtualPrinter>(result.profile.value_or(Profile{}));
+}
+
+inline QByteArray hex(const char *digits) {
+    return QByteArray::fromHex(digits);
+}
