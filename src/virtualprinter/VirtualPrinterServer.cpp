@@ -78,6 +78,10 @@ QString VirtualPrinterServer::errorString() const {
 void VirtualPrinterServer::serve(QTcpSocket *socket) {
     connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
     socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    // A host that ends a transaction and connects anew must find its changes made.
+    for (QTcpSocket *other : m_server.findChildren<QTcpSocket *>())
+        while (other->state() == QAbstractSocket::ConnectedState && other->waitForReadyRead(0))
+            continue;
     auto channel = m_printer->openChannel();
     if (!channel) {
         socket->abort();

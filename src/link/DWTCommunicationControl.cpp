@@ -1,0 +1,131 @@
+#include "link/DWTCommunicationControl.h"
+
+#include "link/Binding.h"
+
+namespace {
+
+// Longest time one library call may take, in milliseconds.
+constexpr int timeout = 15000;
+// Size in bytes of the area in which a reply is examined.
+constexpr int replyArea = 512;
+// Status length of models that the status table does not know, in bytes.
+constexpr int defaultStatusLength = 20;
+
+// The reply when the library reported success.
+std::optional<QByteArray> replyOf(int result, const QByteArray &reply) {
+    return result == ZMLib::Success ? std::optional(reply) : std::nullopt;
+}
+
+// Stores a copy of `frame`; true when there is none.
+bool store(QByteArray &field, const QByteArray &frame) {
+    field = frame;
+    return field.isNull();
+}
+
+}  // namespace
+
+std::shared_ptr<DWTCommunicationControl> DWTCommunicationControl::communicationControl(
+    const PrinterEntry &entry) {
+    auto link = make<DWTCommunicationControl>();
+    return link && link->NUS_InitMember(entry) ? link : nullptr;
+}
+
+DWTCommunicationControl::~DWTCommunicationControl() {
+    NUS_Dealloc();
+}
+
+bool DWTCommunicationControl::init() {
+    return DWTBaseClass::init() && NUS_Init();
+}
+
+void DWTCommunicationControl::communicationToPrinterList(const PrinterEntry &entry) {
+    dictionary_PrinterInfomation = entry;
+}
+
+bool DWTCommunicationControl::setStartSetting(const QByteArray &frame) {
+    return store(settingStartCommand_Data, frame);
+}
+
+bool DWTCommunicationControl::setEndSetting(const QByteArray &frame) {
+    return store(settingEndCommand_Data, frame);
+}
+
+bool DWTCommunicationControl::setUpdateSetting(const QByteArray &frame) {
+    return store(settingUpdateCommand_Data, frame);
+}
+
+void DWTCommunicationControl::setCommandSettingToArray() {
+    settingCommands_Array = {settingStartCommand_Data, settingUpdateCommand_Data,
+                             settingEndCommand_Data};
+}
+
+void DWTCommunicationControl::qkStatusLength(int length) {
+    qkStatusLength_Integer = length;
+}
+
+std::optional<QList<PrinterEntry>> DWTCommunicationControl::printerList() {
+    return installedLibrary()->ZMCreatePrinterURI();
+}
+
+int DWTCommunicationControl::connectPrinter(int) {
+    const auto library = installedLibrary();
+    const QString uri = deviceURI();
+    switch (library->ZMGetEngageStatusSub(uri, timeout)) {
+        case 0:
+            return library->ZMStartCommand(uri, settingCommands_Array, qkStatusLength_Integer,
+                                           timeout);
+        case 1:
+            return library->ZMEngageConnectAndStartCommand(uri, settingCommands_Array,
+                                                           qkStatusLength_Integer, timeout);
+        default:
+            return 1;
+    }
+}
+
+int DWTCommunicationControl::disconnectPrinter(int) {
+    return installedLibrary()->ZMEndCommandAndEngageDisConnect(deviceURI(), settingCommands_Array,
+                                                               qkStatusLength_Integer, timeout);
+}
+
+std::optional<QByteArray> DWTCommunicationControl::selectPrinterInfomation(
+    const QByteArray &request) {
+    QByteArray reply;
+    const int result = installedLibrary()->ZMGetSettingData(deviceURI(), replyArea, request, reply,
+                                                            settingCommands_Array, timeout);
+    return replyOf(result, reply);
+}
+
+std::optional<QByteArray> DWTCommunicationControl::sendSetting(const QByteArray &frame) {
+    QByteArray reply;
+    const int result = installedLibrary()->ZMSendSettingData(
+        deviceURI(), static_cast<int>(frame.size()), frame, reply, settingCommands_Array, timeout);
+    return replyOf(result, reply);
+}
+
+int DWTCommunicationControl::checkConnect(const QString &address) {
+    const bool usb = dictionary_PrinterInfomation.value(QStringLiteral("ConnectionType")) == u"USB";
+    const QString target = usb ? QStringLiteral("ZMtcpip://") : deviceURI();
+    return installedLibrary()->ZMIOOpenForUDP(target, address, qkStatusLength_Integer, timeout);
+}
+
+bool DWTCommunicationControl::NUS_Init() {
+    settingStartCommand_Data.clear();
+    settingEndCommand_Data.clear();
+    settingUpdateCommand_Data.clear();
+    settingCommands_Array.clear();
+    dictionary_PrinterInfomation.clear();
+    qkStatusLength_Integer = defaultStatusLength;
+    return true;
+}
+
+// The fields are values and go with the object.
+void DWTCommunicationControl::NUS_Dealloc() {}
+
+bool DWTCommunicationControl::NUS_InitMember(const PrinterEntry &entry) {
+    dictionary_PrinterInfomation = entry;
+    return !dictionary_PrinterInfomation.isEmpty();
+}
+
+QString DWTCommunicationControl::deviceURI() const {
+    return dictionary_PrinterInfomation.value(QStringLiteral("DeviceURI"));
+}

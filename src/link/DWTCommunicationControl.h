@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <memory>
+#include <optional>
+
+#include "app/base/DWTBaseClass.h"
+#include "zmlib/ZMLib.h"
+
+// The link to one printer: the only object that calls the communication library. It deals in byte
+// buffers and result codes and never looks into a frame.
+//
+// Used from one thread at a time. Every operation that asks the printer blocks its thread for at
+// most 15000 ms (on the main thread windows go on painting meanwhile). Integer results are the
+// library's own, 0 = success, unless stated otherwise.
+class DWTCommunicationControl : public DWTBaseClass {
+  public:
+    // A link for `entry`, without command frames; a null pointer when there is no entry to copy.
+    static std::shared_ptr<DWTCommunicationControl> communicationControl(const PrinterEntry &entry);
+
+    ~DWTCommunicationControl() override;
+    bool init() override;
+
+    // Points the link at another printer; frames, command list and status length stay.
+    void communicationToPrinterList(const PrinterEntry &entry);
+
+    // Each stores a copy of a command frame. Result: true when there was NO frame to store.
+    bool setStartSetting(const QByteArray &frame);
+    bool setEndSetting(const QByteArray &frame);
+    bool setUpdateSetting(const QByteArray &frame);
+
+    // Builds the command list from the three frames, in the order start, update, end.
+    void setCommandSettingToArray();
+
+    // Stores the status length (bytes) that the library needs for the printer's model; 20 until
+    // then.
+    void qkStatusLength(int length);
+
+    // The printers that the library can reach; nothing when it gives no list. Needs no connection.
+    std::optional<QList<PrinterEntry>> printerList();
+
+    // Opens the printer's channel unless it is open, and starts a transaction. The argument is not
+    // used. Result: 0 connected; 1 the library answered an engage status other than 0 and 1;
+    // otherwise the library's.
+    int connectPrinter(int);
+
+    // Ends the transaction and closes the channel. The argument is not used.
+    int disconnectPrinter(int);
+
+    // The printer's reply to a request frame; nothing when the library reports a failure, also
+    // when bytes had come. At most 512 bytes.
+    std::optional<QByteArray> selectPrinterInfomation(const QByteArray &request);
+
+    // The printer's reply to a setting frame; otherwise as above.
+    std::optional<QByteArray> sendSetting(const QByteArray &frame);
+
+    // Whether a printer answers at `address` (dotted IPv4); negative when not. For a USB printer
+    // any printer's answer counts. Needs no connection.
+    int checkConnect(const QString &address);
+
+  private:
+    bool NUS_Init();
+    void NUS_Dealloc();
+    bool NUS_InitMember(const PrinterEntry &entry);
+    QString deviceURI() const;
+
+    QByteArray settingStartCommand_Data;
+    QByteArray settingEndCommand_Data;
+    QByteArray settingUpdateCommand_Data;
+    QList<QByteArray> settingCommands_Array;
+    PrinterEntry dictionary_PrinterInfomation;
+    int qkStatusLength_Integer = 0;
+};

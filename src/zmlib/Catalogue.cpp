@@ -1,0 +1,116 @@
+#include "zmlib/Catalogue.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "virtualprinter/Profile.h"
+#include "virtualprinter/VirtualPrinter.h"
+
+namespace {
+
+const QStringList entryKeys{QStringLiteral("DeviceURI"), QStringLiteral("ConnectionType"),
+                            QStringLiteral("ProductName"), QStringLiteral("BonjourServiceName")};
+const QString profileKey = QStringLiteral("profile");
+
+// The problem with the texts of an entry, or an empty text.
+QString problemWithTexts(const QJsonObject &object) {
+    for (const QString &key : object.keys()) {
+        if (key == profileKey) continue;
+        if (!entryKeys.contains(key)) return QStringLiteral("unknown key \"%1\"").arg(key);
+        if (!object[key].isString()) return QStringLiteral("\"%1\" is not a text").arg(key);
+    }
+    const QString connection = object[u"ConnectionType"].toString();
+    if (connection != u"USB" && connection != u"Network")
+        return QStringLiteral("\"ConnectionType\" is neither \"USB\" nor \"Network\"");
+    if (object[u"ProductName"].toString().isEmpty())
+        return QStringLiteral("\"ProductName\" is missing");
+    if (connection == u"Network" && object[u"BonjourServiceName"].toString().isEmpty())
+        return QStringLiteral("a network printer needs a \"BonjourServiceName\"");
+    return {};
+}
+
+// Makes the virtual printer of an entry; answers the problem, or an empty text.
+QString addVirtualPrinter(const QString &uri, const QJsonObject &object, Catalogue &catalogue) {
+    const QJsonValue description = object[profileKey];
+    if (!description.isUndefined() && !description.isObject())
+        return QStringLiteral("\"profile\" is not an object");
+    ProfileResult result = profileFromJson(description.toObject());
+    if (!result.profile) return QStringLiteral("profile: %1").arg(result.error);
+    catalogue.virtualPrinters.insert(uri, std::make_shared<VirtualPrinter>(*result.profile));
+    return {};
+}
+
+QString problemWithTcp(const QUrl &url, const QJsonObject &object) {
+    if (url.host().isEmpty() || url.port() < 1)
+        return QStringLiteral("\"DeviceURI\" lacks a host or a port");
+    if (object.contains(profileKey))
+        return QStringLiteral("\"profile\" belongs to virtual:// printers only");
+    return {};
+}
+
+// Adds one entry; answers the problem with it, or an empty text.
+QString addEntry(const QJsonValue &value, Catalogue &catalogue) {
+    if (!value.isObject()) return QStringLiteral("not an object");
+    const QJsonObject object = value.toObject();
+    const QString uri = object[u"DeviceURI"].toString();
+    if (uri.isEmpty()) return QStringLiteral("\"DeviceURI\" is missing");
+    for (const PrinterEntry &entry : std::as_const(catalogue.entries))
+        if (entry[QStringLiteral("DeviceURI")] == uri)
+            return QStringLiteral("\"%1\" is listed already").arg(uri);
+    if (const QString problem = problemWithTexts(object); !problem.isEmpty()) return problem;
+
+    const QUrl url(uri, QUrl::StrictMode);
+    QString problem =
+        QStringLiteral("\"%1\" is neither virtual://name nor tcp://host:port").arg(uri);
+    if (url.scheme() == u"virtual" && !url.host().isEmpty())
+        problem = addVirtualPrinter(uri, object, catalogue);
+    else if (url.scheme() == u"tcp")
+        problem = problemWithTcp(url, object);
+    if (!problem.isEmpty()) return problem;
+
+    PrinterEntry entry;
+    for (const QString &key : entryKeys)
+        if (object.contains(key)) entry.insert(key, object[key].toString());
+    catalogue.entries.append(entry);
+    return {};
+}
+
+}  // namespace
+
+Catalogue catalogueFromJson(const QByteArray &json, const QString &source) {
+    Catalogue catalogue;
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
+    if (error.error != QJsonParseError::NoError) {
+        catalogue.problems << QStringLiteral("%1: not JSON at byte %2: %3")
+                                  .arg(source)
+                                  .arg(error.offset)
+                                  .arg(error.errorString());
+        return catalogue;
+    }
+    const QJsonValue printers = document.object()[u"printers"];
+    if (!printers.isArray()) {
+        catalogue.problems << QStringLiteral("%1: no array \"printers\"").arg(source);
+        return catalogue;
+    }
+    const QJsonArray array = printers.toArray();
+    for (qsizetype i = 0; i < array.size(); ++i)
+        if (const QString problem = addEntry(array[i], catalogue); !problem.isEmpty())
+            catalogue.problems
+                << QStringLiteral("%1: printers[%2]: %3").arg(source).arg(i).arg(problem);
+    return catalogue;
+}
+
+Catalogue catalogueFromEnvironment() {
+    const QString name = qEnvironmentVariable("ZMLIB_PRINTERS");
+    if (name.isEmpty()) return {};
+    QFile file(name == u"demo" ? QStringLiteral(":/zmlib/demo.json") : name);
+    if (!file.open(QIODevice::ReadOnly)) {
+        Catalogue nothing;
+        nothing.problems << QStringLiteral("%1: %2").arg(name, file.errorString());
+        return nothing;
+    }
+    return catalogueFromJson(file.readAll(), name);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+#include <memory>
+
+#include "zmlib/ZMLib.h"
+
+class VirtualPrinter;
+
+// The printers that the library knows, in the order of the catalogue file.
+//
+// A catalogue is a JSON object {"printers": [entry, ...]}. An entry is an object of texts
+// "DeviceURI" ("virtual://name" or "tcp://host:port"), "ConnectionType" ("USB" or "Network"),
+// "ProductName" and, for a network printer, "BonjourServiceName"; a virtual printer has its
+// description (docs/virtual-printer.md) as an object under "profile".
+struct Catalogue {
+    QList<PrinterEntry> entries;
+    // The virtual printers of the process, by "DeviceURI".
+    QMap<QString, std::shared_ptr<VirtualPrinter>> virtualPrinters;
+    // What was wrong, one readable line each, naming the source and the entry. Entries named here
+    // are not listed; the others are.
+    QStringList problems;
+};
+
+// Reads a catalogue from JSON text; `source` names it in the problems.
+Catalogue catalogueFromJson(const QByteArray &json, const QString &source);
+
+// The catalogue named by the environment variable ZMLIB_PRINTERS: the path of a catalogue file, or
+// "demo" for the built-in one. Unset or empty: no printers and no problem.
+Catalogue catalogueFromEnvironment();

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QDeadlineTimer>
+#include <functional>
+#include <limits>
+#include <map>
+#include <memory>
+#include <mutex>
+
+#include "zmlib/Catalogue.h"
+#include "zmlib/Transport.h"
+#include "zmlib/ZMLib.h"
+
+// The library that ships: the printers of a catalogue, each over the transport of its URI.
+// Callable from several threads; a channel serves one call at a time.
+class CatalogueLibrary : public ZMLib {
+  public:
+    // `longestWait` (milliseconds) caps the time-out of every call, for tests of silent printers.
+    explicit CatalogueLibrary(Catalogue catalogue,
+                              int longestWait = std::numeric_limits<int>::max());
+
+    std::optional<QList<PrinterEntry>> ZMCreatePrinterURI() override;
+    int ZMGetEngageStatusSub(const QString &uri, int timeout) override;
+    int ZMStartCommand(const QString &uri, const QList<QByteArray> &commands, int statusLength,
+                       int timeout) override;
+    int ZMEngageConnectAndStartCommand(const QString &uri, const QList<QByteArray> &commands,
+                                       int statusLength, int timeout) override;
+    int ZMEndCommandAndEngageDisConnect(const QString &uri, const QList<QByteArray> &commands,
+                                        int statusLength, int timeout) override;
+    int ZMGetSettingData(const QString &uri, int replySize, const QByteArray &request,
+                         QByteArray &reply, const QList<QByteArray> &commands,
+                         int timeout) override;
+    int ZMSendSettingData(const QString &uri, int frameSize, const QByteArray &frame,
+                          QByteArray &reply, const QList<QByteArray> &commands,
+                          int timeout) override;
+    int ZMIOOpenForUDP(const QString &target, const QString &address, int statusLength,
+                       int timeout) override;
+
+  private:
+    struct Channel {
+        std::unique_ptr<Transport> transport;
+        bool busy = false;
+    };
+    using Exchange = std::function<int(Transport &, const QDeadlineTimer &)>;
+
+    QDeadlineTimer deadlineFor(int timeout) const;
+    bool isListed(const QString &uri) const;
+    bool isOpen(const QString &uri);
+    std::unique_ptr<Transport> openTransport(const QString &uri, const QDeadlineTimer &deadline);
+    int useChannel(const QString &uri, int timeout, const Exchange &exchange);
+    bool answersAt(const QString &uri, const QString &address, const QDeadlineTimer &deadline);
+
+    const Catalogue m_catalogue;
+    const int m_longestWait;
+    std::mutex m_mutex;  // guards m_channels; never held while a call waits
+    std::map<QString, Channel> m_channels;
+};

@@ -1,0 +1,152 @@
+#include <fcntl.h>
+#include <netdb.h>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <QHostAddress>
+#include <QHostInfo>
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <functional>
+#include <future>
+#include <thread>
+
+#include "platform/core/Waiting.h"
+#include "zmlib/Transport.h"
+
+namespace {
+
+// Sockets are used directly, since a wait has to be interrupted every few milliseconds on whatever
+// thread it runs, and a QTcpSocket gives up a connection whose wait is interrupted.
+class Socket {
+  public:
+    explicit Socket(int family)
+        : m_fd(::socket(family, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0)) {}
+    ~Socket() {
+        if (m_fd >= 0) ::close(m_fd);
+    }
+    Socket(Socket &&other) noexcept : m_fd(std::exchange(other.m_fd, -1)) {}
+    Socket(const Socket &) = delete;
+    Socket &operator=(const Socket &) = delete;
+    Socket &operator=(Socket &&) = delete;
+
+    int fd() const { return m_fd; }
+
+    // Waits until the socket can be read or written (POLLIN, POLLOUT); false after the deadline.
+    bool waitFor(short events, const QDeadlineTimer &deadline) const {
+        bool ready = false;
+        const auto poll = [&](std::chrono::milliseconds slice) {
+            pollfd entry{m_fd, events, 0};
+            ready = ::poll(&entry, 1, static_cast<int>(slice.count())) > 0;
+        };
+        poll(std::chrono::milliseconds(0));
+        return waitUntil([&] { return ready; }, deadline, poll);
+    }
+
+  private:
+    int m_fd;
+};
+
+class TcpTransport : public Transport {
+  public:
+    explicit TcpTransport(Socket socket) : m_socket(std::move(socket)) {
+        // Frames are short and each waits for its answer.
+        const int on = 1;
+        ::setsockopt(m_socket.fd(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+    }
+
+    Outcome write(const QByteArray &bytes, const QDeadlineTimer &deadline) override {
+        qsizetype written = 0;
+        while (written < bytes.size()) {
+            const ssize_t n = ::send(m_socket.fd(), bytes.constData() + written,
+                                     static_cast<size_t>(bytes.size() - written), MSG_NOSIGNAL);
+            if (n >= 0) {
+                written += n;
+            } else if (errno == EAGAIN || errno == EWOULDBLOCK) {
+                if (!m_socket.waitFor(POLLOUT, deadline)) return Outcome::TimedOut;
+            } else if (errno != EINTR) {
+                return Outcome::Closed;
+            }
+        }
+        return Outcome::Done;
+    }
+
+    Outcome read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) override {
+        std::array<char, 512> buffer;
+        const auto size = std::min(static_cast<size_t>(limit), buffer.size());
+        for (;;) {
+            if (!m_socket.waitFor(POLLIN, deadline)) return Outcome::TimedOut;
+            const ssize_t n = ::recv(m_socket.fd(), buffer.data(), size, 0);
+            if (n > 0) {
+                bytes.append(buffer.data(), n);
+                return Outcome::Done;
+            }
+            if (n == 0) return Outcome::Closed;
+            if (errno != EAGAIN && errno != EWOULDBLOCK && errno != EINTR) return Outcome::Closed;
+        }
+    }
+
+  private:
+    Socket m_socket;
+};
+
+// The addresses of `host`. A name is looked up on a thread of its own, which may outlive the wait.
+QList<QHostAddress> addressesOf(const QString &host, const QDeadlineTimer &deadline) {
+    if (const QHostAddress address(host); !address.isNull()) return {address};
+    std::promise<QList<QHostAddress>> promise;
+    auto found = promise.get_future();
+    std::thread([host, promise = std::move(promise)]() mutable {
+        promise.set_value(QHostInfo::fromName(host).addresses());
+    }).detach();
+    const auto ready = [&] {
+        return found.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+    };
+    const auto pause = [&](std::chrono::milliseconds slice) { found.wait_for(slice); };
+    return waitUntil(ready, deadline, pause) ? found.get() : QList<QHostAddress>();
+}
+
+bool startConnecting(const Socket &socket, const QHostAddress &address, quint16 port) {
+    int result = -1;
+    if (address.protocol() == QAbstractSocket::IPv6Protocol) {
+        sockaddr_in6 name{};
+        name.sin6_family = AF_INET6;
+        name.sin6_port = htons(port);
+        const Q_IPV6ADDR bytes = address.toIPv6Address();
+        std::copy(std::begin(bytes.c), std::end(bytes.c), std::begin(name.sin6_addr.s6_addr));
+        result = ::connect(socket.fd(), reinterpret_cast<const sockaddr *>(&name), sizeof name);
+    } else {
+        sockaddr_in name{};
+        name.sin_family = AF_INET;
+        name.sin_port = htons(port);
+        name.sin_addr.s_addr = htonl(address.toIPv4Address());
+        result = ::connect(socket.fd(), reinterpret_cast<const sockaddr *>(&name), sizeof name);
+    }
+    return result == 0 || errno == EINPROGRESS;
+}
+
+bool connectSocket(const Socket &socket, const QHostAddress &address, quint16 port,
+                   const QDeadlineTimer &deadline) {
+    if (socket.fd() < 0 || !startConnecting(socket, address, port)) return false;
+    if (!socket.waitFor(POLLOUT, deadline)) return false;
+    int error = 0;
+    socklen_t size = sizeof error;
+    return ::getsockopt(socket.fd(), SOL_SOCKET, SO_ERROR, &error, &size) == 0 && error == 0;
+}
+
+}  // namespace
+
+std::unique_ptr<Transport> openTcpTransport(const QString &host, quint16 port,
+                                            const QDeadlineTimer &deadline) {
+    const QList<QHostAddress> addresses = addressesOf(host, deadline);
+    for (const QHostAddress &address : addresses) {
+        const bool v6 = address.protocol() == QAbstractSocket::IPv6Protocol;
+        Socket socket(v6 ? AF_INET6 : AF_INET);
+        if (connectSocket(socket, address, port, deadline))
+            return std::make_unique<TcpTransport>(std::move(socket));
+    }
+    return nullptr;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDeadlineTimer>
+#include <QString>
+#include <memory>
+
+class VirtualPrinter;
+
+// A byte stream to one printer. Used by one thread at a time; every wait is sliced and ends at the
+// deadline given.
+class Transport {
+  public:
+    enum class Outcome { Done, TimedOut, Closed };
+
+    virtual ~Transport() = default;
+
+    // Writes all of `bytes`.
+    virtual Outcome write(const QByteArray &bytes, const QDeadlineTimer &deadline) = 0;
+
+    // Waits for at least one byte and appends what has come, `limit` bytes at most, to `bytes`.
+    virtual Outcome read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) = 0;
+};
+
+// Opens the stream to `host` (a name or an IPv4 or IPv6 address) and `port`; a null pointer when it
+// cannot be opened before the deadline.
+std::unique_ptr<Transport> openTcpTransport(const QString &host, quint16 port,
+                                            const QDeadlineTimer &deadline);
+
+// Opens a channel of a virtual printer of this process; a null pointer when it refuses.
+std::unique_ptr<Transport> openVirtualTransport(std::shared_ptr<VirtualPrinter> printer);

@@ -1,0 +1,54 @@
+#include <algorithm>
+#include <deque>
+
+#include "platform/core/Waiting.h"
+#include "virtualprinter/VirtualPrinter.h"
+#include "zmlib/Transport.h"
+
+namespace {
+
+class VirtualTransport : public Transport {
+  public:
+    VirtualTransport(std::shared_ptr<VirtualPrinter> printer,
+                     std::unique_ptr<VirtualPrinter::Channel> channel)
+        : m_printer(std::move(printer)), m_channel(std::move(channel)) {}
+
+    Outcome write(const QByteArray &bytes, const QDeadlineTimer &) override {
+        if (!m_channel->isOpen()) return Outcome::Closed;
+        for (const auto &reply : m_channel->receive(bytes))
+            m_replies.push_back({reply.bytes, QDeadlineTimer(reply.delay)});
+        return Outcome::Done;
+    }
+
+    Outcome read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) override {
+        if (m_replies.empty() && !m_channel->isOpen()) return Outcome::Closed;
+        const auto arrived = [&] {
+            return !m_replies.empty() && m_replies.front().due.hasExpired();
+        };
+        if (!waitUntil(arrived, deadline)) return Outcome::TimedOut;
+        QByteArray &front = m_replies.front().bytes;
+        const qsizetype taken = std::min(limit, front.size());
+        bytes.append(front.constData(), taken);
+        front.remove(0, taken);
+        if (front.isEmpty()) m_replies.pop_front();
+        return Outcome::Done;
+    }
+
+  private:
+    struct Pending {
+        QByteArray bytes;
+        QDeadlineTimer due;
+    };
+
+    const std::shared_ptr<VirtualPrinter> m_printer;  // the channel refers to it
+    const std::unique_ptr<VirtualPrinter::Channel> m_channel;
+    std::deque<Pending> m_replies;
+};
+
+}  // namespace
+
+std::unique_ptr<Transport> openVirtualTransport(std::shared_ptr<VirtualPrinter> printer) {
+    auto channel = printer->openChannel();
+    if (!channel) return nullptr;
+    return std::make_unique<VirtualTransport>(std::move(printer), std::move(channel));
+}

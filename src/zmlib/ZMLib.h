@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QMap>
+#include <QString>
+#include <optional>
+
+// One printer as the library lists it: "DeviceURI", "ConnectionType" ("USB" or "Network"),
+// "ProductName" and, for a printer found on the network, "BonjourServiceName".
+using PrinterEntry = QMap<QString, QString>;
+
+// The printer-communication library: it finds printers, opens and closes a printer's command
+// channel and carries byte frames to and from it. It never looks into a setting.
+//
+// Common to all functions: `uri` is the "DeviceURI" of a listed printer; `timeout` is in
+// milliseconds, greater than 0, and bounds the whole call; `commands` is the command list of a
+// transaction (start, update, end frame, in this order); `statusLength` is the length in bytes of
+// the model's status reply, handed through to transports that ask for the status. Every wait is a
+// sliced one (platform/core/Waiting.h). A call whose channel another call is using fails.
+class ZMLib {
+  public:
+    // Results shared by the functions that return an integer; the library's own are all negative.
+    enum Result : int {
+        Success = 0,
+        UnknownPrinter = -1,  // no printer of that URI, or it cannot be reached
+        NotOpen = -2,         // the printer's channel is not open, or in use by another call
+        TimedOut = -3,
+        Closed = -4,    // the printer closed the channel
+        NotAReply = -5  // what came back is no reply frame
+    };
+
+    virtual ~ZMLib() = default;
+
+    // The printers that can be listed at this moment; nothing when there is no list at all.
+    virtual std::optional<QList<PrinterEntry>> ZMCreatePrinterURI() = 0;
+
+    // 1: the channel is closed and the printer can be reached; 0: this process holds the channel
+    // open; negative: the printer cannot be reached or is unknown.
+    virtual int ZMGetEngageStatusSub(const QString &uri, int timeout) = 0;
+
+    // Sends the start frame on the open channel; the printer does not answer it.
+    // Result: 0, or a negative Result.
+    virtual int ZMStartCommand(const QString &uri, const QList<QByteArray> &commands,
+                               int statusLength, int timeout) = 0;
+
+    // Opens the channel and sends the start frame. Result: 0, or a negative Result.
+    virtual int ZMEngageConnectAndStartCommand(const QString &uri,
+                                               const QList<QByteArray> &commands, int statusLength,
+                                               int timeout) = 0;
+
+    // Sends the update frame, then the end frame, and closes the channel. The channel is closed
+    // whatever the result. Result: 0, or a negative Result.
+    virtual int ZMEndCommandAndEngageDisConnect(const QString &uri,
+                                                const QList<QByteArray> &commands, int statusLength,
+                                                int timeout) = 0;
+
+    // Sends `request` and appends the printer's reply to `reply`, at most `replySize` bytes of it.
+    // Result: 0, or a negative Result. After a negative result other than NotOpen the channel is
+    // closed: what the printer still sends could not be told from the next reply.
+    virtual int ZMGetSettingData(const QString &uri, int replySize, const QByteArray &request,
+                                 QByteArray &reply, const QList<QByteArray> &commands,
+                                 int timeout) = 0;
+
+    // Sends the setting frame `frame` of `frameSize` bytes and appends the printer's reply to
+    // `reply`, at most 512 bytes of it. Results as for ZMGetSettingData.
+    virtual int ZMSendSettingData(const QString &uri, int frameSize, const QByteArray &frame,
+                                  QByteArray &reply, const QList<QByteArray> &commands,
+                                  int timeout) = 0;
+
+    // Asks whether a printer answers at `address` (dotted IPv4). `target` is the URI of a listed
+    // printer, or "ZMtcpip://" for any. Result: 0 when it does, negative otherwise.
+    virtual int ZMIOOpenForUDP(const QString &target, const QString &address, int statusLength,
+                               int timeout) = 0;
+};
