@@ -2,10 +2,10 @@
 
 #include <QApplication>
 
-// Tests of rooms with widgets run inside an application object, as the tool's code does.
+// Tests of rooms with widgets run inside an application with real windows.
 int main(int argc, char **argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -1,28 +1,18 @@
 #include "platform/ui/FieldWidth.h"
 
-#include <QFontMetricsF>
+#include <QFontMetrics>
+#include <QLineEdit>
 #include <QStyle>
 #include <QStyleOptionFrame>
-#include <QtMath>
 
-namespace {
-
-// What QLineEdit keeps free: 2 pixels on either side of the text, and one for the caret.
-constexpr int innerMargins = 2 * 2 + 1;
-
-}  // namespace
-
-void setFieldWidth(QLineEdit *field, int characters, const QString &sample) {
+void fitWidth(QLineEdit *field, const QString &sample) {
     field->ensurePolished();
-    const QFontMetricsF metrics(field->font());
-    const qreal average = metrics.horizontalAdvance(sample) / static_cast<qreal>(sample.size());
-    const QMargins margins = field->textMargins();
-    QSize contents(qCeil(average * characters) + innerMargins, qCeil(metrics.height()));
-    contents.rwidth() += margins.left() + margins.right();
-
     QStyleOptionFrame option;
     option.initFrom(field);
     option.lineWidth = field->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, field);
-    field->setFixedWidth(
-        field->style()->sizeFromContents(QStyle::CT_LineEdit, &option, contents, field).width());
+    const QFontMetrics metrics(field->font());
+    // A line edit keeps 2 px beside its text on either side, and room for the caret.
+    const QSize text(metrics.horizontalAdvance(sample) + 6, metrics.height());
+    const QSize size = field->style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, field);
+    field->setFixedWidth(size.width());
 }

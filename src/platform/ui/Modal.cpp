@@ -1,8 +1,8 @@
 #include "platform/ui/Modal.h"
 
-#include <QApplication>
 #include <QEventLoop>
 #include <QPointer>
+#include <QWidget>
 #include <algorithm>
 #include <vector>
 
@@ -14,60 +14,43 @@ struct Run {
     bool stopped = false;
 };
 
-// Outermost first. Each entry lives on the stack of its run().
+// The runs, outermost first. Stopped ones stay until their action has finished.
 std::vector<Run *> &runs() {
     static std::vector<Run *> list;
     return list;
 }
 
-Run *innermostRunning() {
-    const auto &list = runs();
-    const auto it =
-        std::find_if(list.rbegin(), list.rend(), [](const Run *run) { return !run->stopped; });
-    return it == list.rend() ? nullptr : *it;
-}
-
-void end(Run &run, int outcome) {
-    run.outcome = outcome;
-    run.stopped = true;
-    run.loop.quit();
-}
-
-void showModally(QWidget *window) {
-    // The modality of a window that is already up takes effect when it is shown anew.
-    if (window->windowModality() != Qt::ApplicationModal) {
-        window->hide();
-        window->setWindowModality(Qt::ApplicationModal);
-    }
-    window->show();
-    window->raise();
-    window->activateWindow();
+Run *innermost() {
+    const auto found =
+        std::find_if(runs().rbegin(), runs().rend(), [](const Run *run) { return !run->stopped; });
+    return found == runs().rend() ? nullptr : *found;
 }
 
 }  // namespace
 
 int Modal::run(QWidget *window) {
-    const QPointer<QWidget> guarded = window;
-    const QPointer<QWidget> previous = QApplication::activeWindow();
-    Run run;
-    QObject::connect(window, &QObject::destroyed, &run.loop, [&run] {
-        if (!run.stopped) end(run, stoppedOutcome);
-    });
-    runs().push_back(&run);
-    showModally(window);
-    run.loop.exec();
-    runs().erase(std::find(runs().begin(), runs().end(), &run));
-
-    if (!run.stopped && guarded) guarded->hide();
-    if (previous && previous->isVisible() && !QApplication::activeWindow())
-        previous->activateWindow();
-    return run.outcome;
+    Run current;
+    runs().push_back(&current);
+    const QPointer<QWidget> shown(window);
+    window->hide();  // modality changes only while a window is hidden
+    window->setWindowModality(Qt::ApplicationModal);
+    window->show();
+    window->raise();
+    window->activateWindow();
+    if (!current.stopped) current.loop.exec();
+    if (!current.stopped && shown) shown->hide();
+    std::erase(runs(), &current);
+    return current.outcome;
 }
 
 void Modal::stop(int outcome) {
-    if (Run *run = innermostRunning()) end(*run, outcome);
+    Run *const current = innermost();
+    if (!current) return;
+    current->outcome = outcome;
+    current->stopped = true;
+    current->loop.quit();
 }
 
 bool Modal::isRunning() {
-    return innermostRunning() != nullptr;
+    return innermost() != nullptr;
 }

@@ -1,26 +1,23 @@
 #pragma once
 
-#include <QWidget>
+class QWidget;
 
-// Application-modal runs with an outcome. Main thread only; runs may nest.
+// Application-modal runs with an outcome. Main thread only.
 namespace Modal {
 
-// Outcome of a run that was stopped without naming one, whose window was destroyed, or that ended
-// because the application did. Never 0.
+// Outcome of a run that was stopped without a value, or that the end of the application ended.
 inline constexpr int stoppedOutcome = -1000;
 
-// Shows `window` (a top-level window, not owned) application-modally and returns the outcome that
-// stop() names. The outcome is delivered when the action that called stop() has finished; a run
-// started inside that action, also with the same window, ends first.
-// Does not hide the window: whoever stops the run hides it. Only when the run ends without a stop()
-// (the application is ending) is a window that is still up hidden here.
-// Afterwards the window that was active before is active again, unless another one is by then.
+// Shows `window` application-modally and runs until stop() ends this run. The outcome is delivered
+// when the action that stopped it has finished; a run started inside that action, also of the same
+// window, ends first. Who stops a run also hides its window; a run that ends with the application
+// hides it itself.
 int run(QWidget *window);
 
-// Ends the innermost run that has not been stopped yet; nothing when there is none.
+// Ends the innermost run that has not been stopped; does nothing when there is none.
 void stop(int outcome = stoppedOutcome);
 
-// True while there is a run that has not been stopped.
+// True while a run has not been stopped.
 bool isRunning();
 
 }  // namespace Modal

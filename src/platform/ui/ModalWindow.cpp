@@ -1,28 +1,19 @@
 #include "platform/ui/ModalWindow.h"
 
+#include <QAbstractButton>
 #include <QCloseEvent>
-#include <QKeyEvent>
 
-#include "platform/ui/DialogButtons.h"
-
-void ModalWindow::accept() {}
+ModalWindow::ModalWindow(QWidget *parent) : QDialog(parent) {}
 
 void ModalWindow::reject() {
-    if (QAbstractButton *button = DialogButtons::cancelButton(this)) button->click();
+    for (QAbstractButton *button : findChildren<QAbstractButton *>()) {
+        if (!button->property("cancelButton").toBool() || !button->isVisible()) continue;
+        button->click();  // does nothing while the button is disabled
+        return;
+    }
 }
-
-void ModalWindow::done(int) {}
 
 void ModalWindow::closeEvent(QCloseEvent *event) {
     event->ignore();
     reject();
-}
-
-void ModalWindow::keyPressEvent(QKeyEvent *event) {
-    if (!DialogButtons::answerKey(this, event)) QDialog::keyPressEvent(event);
-}
-
-void ModalWindow::showEvent(QShowEvent *event) {
-    QDialog::showEvent(event);
-    DialogButtons::showDefaultButton(this);
 }

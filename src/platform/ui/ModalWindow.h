@@ -2,21 +2,16 @@
 
 #include <QDialog>
 
-// A window for Modal::run(). It never closes by itself: Escape and the close box click its Cancel
-// button and Return its default button (see DialogButtons); without such a button they do nothing.
+// A window that Modal runs. It never closes by itself: Escape, the close box and the window
+// system's close keys press the visible, enabled button whose property "cancelButton" is true; a
+// view without one does not react to them. Return presses the visible view's default button.
 class ModalWindow : public QDialog {
     Q_OBJECT
   public:
-    using QDialog::QDialog;
+    explicit ModalWindow(QWidget *parent = nullptr);
 
-    // Accepting and rejecting are left to the buttons' own actions: accept() and done() do nothing,
-    // reject() clicks the Cancel button.
-    void accept() override;
     void reject() override;
-    void done(int result) override;
 
   protected:
     void closeEvent(QCloseEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void showEvent(QShowEvent *event) override;
 };

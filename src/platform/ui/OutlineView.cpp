@@ -1,108 +1,195 @@
 #include "platform/ui/OutlineView.h"
 
-#include <QKeyEvent>
-#include <QMouseEvent>
+#include <QAbstractItemModel>
+#include <QHeaderView>
+#include <memory>
+#include <vector>
 
-#include "platform/ui/GatedSelectionModel.h"
-#include "platform/ui/OutlineModel.h"
+// The data source as Qt's model sees it: the tree is fetched as a whole at every reload.
+class OutlineModel : public QAbstractItemModel {
+  public:
+    explicit OutlineModel(OutlineView *outline) : QAbstractItemModel(outline), m_outline(outline) {}
 
-OutlineView::OutlineView(QWidget *parent)
-    : QTreeView(parent), m_model(std::make_unique<OutlineModel>(this)) {
-    setModel(m_model.get());
-    const std::unique_ptr<QItemSelectionModel> replaced(selectionModel());
-    m_selection = new GatedSelectionModel(
-        m_model.get(),
-        [this](const QModelIndex &target) {
-            return target.isValid() &&
-                   (!m_delegate || m_delegate->shouldSelectItem(this, m_model->item(target)));
-        },
-        this);
-    setSelectionModel(m_selection);
+    OutlineDataSource *source = nullptr;
+    QString column;
+
+    void reload() {
+        beginResetModel();
+        m_root = Node();
+        if (source) fetch(m_root);
+        endResetModel();
+    }
+    QVariantMap item(const QModelIndex &index) const { return node(index)->item; }
+
+    QModelIndex index(int row, int column_, const QModelIndex &parent) const override {
+        if (!hasIndex(row, column_, parent)) return {};
+        return createIndex(row, column_, node(parent)->children[static_cast<size_t>(row)].get());
+    }
+    QModelIndex parent(const QModelIndex &index) const override {
+        const Node *const above = index.isValid() ? node(index)->parent : nullptr;
+        return above && above->parent ? createIndex(above->row, 0, above) : QModelIndex();
+    }
+    int rowCount(const QModelIndex &parent) const override {
+        return static_cast<int>(node(parent)->children.size());
+    }
+    int columnCount(const QModelIndex &) const override { return 1; }
+    QVariant data(const QModelIndex &index, int role) const override {
+        if (role != Qt::DisplayRole || !source || !index.isValid()) return {};
+        return source->objectValueForTableColumn(m_outline, column, node(index)->item);
+    }
+
+  private:
+    struct Node {
+        QVariantMap item;
+        Node *parent = nullptr;
+        int row = 0;
+        std::vector<std::unique_ptr<Node>> children;
+    };
+
+    void fetch(Node &above) {
+        const bool isRoot = above.parent == nullptr;
+        if (!isRoot && !source->isItemExpandable(m_outline, above.item)) return;
+        const int count = source->numberOfChildren(m_outline, above.item);
+        for (int i = 0; i < count; ++i) {
+            auto below = std::make_unique<Node>();
+            below->item = source->child(m_outline, i, above.item);
+            below->parent = &above;
+            below->row = i;
+            fetch(*below);
+            above.children.push_back(std::move(below));
+        }
+    }
+    const Node *node(const QModelIndex &index) const {
+        return index.isValid() ? static_cast<const Node *>(index.constInternalPointer()) : &m_root;
+    }
+
+    OutlineView *const m_outline;
+    Node m_root;
+};
+
+namespace {
+
+// Asks before the user's selection moves. Selection and current item move together or not at all.
+class AskingSelection : public QItemSelectionModel {
+  public:
+    AskingSelection(OutlineModel *model, OutlineView *outline)
+        : QItemSelectionModel(model, outline), m_outline(outline), m_model(model) {}
+
+    OutlineDelegate *delegate = nullptr;
+    bool asks = true;
+    bool frozen = false;  // nothing moves
+
+    void setCurrentIndex(const QModelIndex &index, SelectionFlags) override {
+        if (frozen || !index.isValid() || index == currentIndex() || !mayMoveTo(index)) return;
+        QItemSelectionModel::setCurrentIndex(index, ClearAndSelect);
+    }
+    // The view selects what it has just made current; nothing else is ever selected, and nothing is
+    // deselected but by a reset.
+    void select(const QModelIndex &index, SelectionFlags flags) override {
+        if (m_resetting || (index == currentIndex() && flags.testFlag(Select)))
+            QItemSelectionModel::select(index, flags);
+    }
+    void select(const QItemSelection &selection, SelectionFlags flags) override {
+        const bool current = selection.size() == 1 && selection.contains(currentIndex());
+        if (m_resetting || (current && flags.testFlag(Select)))
+            QItemSelectionModel::select(selection, flags);
+    }
+    void reset() override {
+        m_resetting = true;
+        QItemSelectionModel::reset();
+        m_resetting = false;
+    }
+
+  private:
+    bool mayMoveTo(const QModelIndex &index) {
+        return !asks || !delegate || delegate->shouldSelectItem(m_outline, m_model->item(index));
+    }
+
+    OutlineView *const m_outline;
+    OutlineModel *const m_model;
+    bool m_resetting = false;
+};
+
+AskingSelection *selectionOf(const OutlineView *outline) {
+    return static_cast<AskingSelection *>(outline->selectionModel());
+}
+
+}  // namespace
+
+OutlineView::OutlineView(QWidget *parent) : QTreeView(parent), m_model(new OutlineModel(this)) {
+    setModel(m_model);
+    QItemSelectionModel *const plain = selectionModel();
+    setSelectionModel(new AskingSelection(m_model, this));
+    delete plain;
     setSelectionMode(SingleSelection);
-    setSelectionBehavior(SelectRows);
     setEditTriggers(NoEditTriggers);
     setHeaderHidden(true);
-    connect(this, &QTreeView::collapsed, this, [this](const QModelIndex &index) {
-        if (m_delegate && !m_delegate->shouldCollapseItem(this, m_model->item(index)))
-            expand(index);
-    });
+    setExpandsOnDoubleClick(true);
+    connect(this, &QTreeView::collapsed, this, &OutlineView::keepExpanded);
 }
 
-OutlineView::~OutlineView() = default;
-
-void OutlineView::setDataSource(OutlineDataSource *source) {
-    m_model->setSource(source);
+void OutlineView::setColumn(const QString &identifier) {
+    m_model->column = identifier;
 }
 
-void OutlineView::setDelegate(OutlineDelegate *delegate) {
+void OutlineView::setOutlineDataSource(OutlineDataSource *source) {
+    m_model->source = source;
+    reloadData();
+}
+
+void OutlineView::setOutlineDelegate(OutlineDelegate *delegate) {
     m_delegate = delegate;
-}
-
-void OutlineView::addColumn(const QString &identifier) {
-    m_model->addColumn(identifier);
-    setHeaderHidden(m_model->columnCount() <= 1);
+    selectionOf(this)->delegate = delegate;
 }
 
 void OutlineView::reloadData() {
     m_model->reload();
 }
 
-QModelIndexList OutlineView::visibleRows() const {
-    QModelIndexList rows;
-    for (QModelIndex row = m_model->index(0, 0); row.isValid(); row = indexBelow(row))
-        rows.append(row);
+int OutlineView::numberOfRows() const {
+    int rows = 0;
+    for (QModelIndex index = indexAtRow(0); index.isValid(); index = indexBelow(index)) ++rows;
     return rows;
 }
 
-int OutlineView::numberOfRows() const {
-    return static_cast<int>(visibleRows().size());
-}
-
 QVariantMap OutlineView::itemAtRow(int row) const {
-    return m_model->item(visibleRows().value(row));
-}
-
-void OutlineView::expandRow(int row, bool withDescendants) {
-    const QModelIndex index = visibleRows().value(row);
-    if (!index.isValid()) return;
-    if (withDescendants)
-        expandRecursively(index);
-    else
-        expand(index);
-}
-
-void OutlineView::selectRow(int row) {
-    const QModelIndex index = visibleRows().value(row);
-    if (index.isValid()) m_selection->moveFromCode(index);
+    const QModelIndex index = indexAtRow(row);
+    return index.isValid() ? m_model->item(index) : QVariantMap();
 }
 
 int OutlineView::selectedRow() const {
-    const QModelIndex selected = m_selection->selectedIndex();
-    return selected.isValid() ? static_cast<int>(visibleRows().indexOf(selected)) : -1;
+    int row = 0;
+    for (QModelIndex index = indexAtRow(0); index.isValid(); index = indexBelow(index), ++row)
+        if (selectionModel()->isSelected(index)) return row;
+    return -1;
 }
 
-void OutlineView::keyPressEvent(QKeyEvent *event) {
-    const GatedSelectionModel::UserAction action(m_selection);
-    QTreeView::keyPressEvent(event);
+void OutlineView::expandRow(int row) {
+    expandRecursively(indexAtRow(row));
 }
 
-void OutlineView::mousePressEvent(QMouseEvent *event) {
-    const GatedSelectionModel::UserAction action(m_selection);
-    QTreeView::mousePressEvent(event);
+void OutlineView::selectRow(int row) {
+    AskingSelection *const selection = selectionOf(this);
+    selection->asks = false;
+    setCurrentIndex(indexAtRow(row));
+    selection->asks = true;
 }
 
-void OutlineView::mouseMoveEvent(QMouseEvent *event) {
-    // Dragging over the rows must not ask the delegate about each of them.
-    if (event->buttons() == Qt::NoButton) QTreeView::mouseMoveEvent(event);
+// A view without a current item takes its first one when it gets the focus; here that would be a
+// selection that nobody made.
+void OutlineView::focusInEvent(QFocusEvent *event) {
+    selectionOf(this)->frozen = true;
+    QTreeView::focusInEvent(event);
+    selectionOf(this)->frozen = false;
 }
 
-void OutlineView::mouseDoubleClickEvent(QMouseEvent *event) {
-    const GatedSelectionModel::UserAction action(m_selection);
-    QTreeView::mouseDoubleClickEvent(event);
+QModelIndex OutlineView::indexAtRow(int row) const {
+    QModelIndex index = m_model->index(0, 0, {});
+    for (; index.isValid() && row > 0; --row) index = indexBelow(index);
+    return index;
 }
 
-QItemSelectionModel::SelectionFlags OutlineView::selectionCommand(const QModelIndex &index,
-                                                                  const QEvent *) const {
-    if (!index.isValid()) return QItemSelectionModel::NoUpdate;
-    return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+// A refused collapse is taken back at once.
+void OutlineView::keepExpanded(const QModelIndex &index) {
+    if (m_delegate && !m_delegate->shouldCollapseItem(this, m_model->item(index))) expand(index);
 }

@@ -1,32 +1,30 @@
 #pragma once
 
-#include <QButtonGroup>
+#include <QList>
+#include <QRadioButton>
 #include <QWidget>
 
-// A group of radio buttons ("cells") of which at most one is selected. Every QRadioButton below
-// this widget is a cell, whenever it is added; its integer dynamic property "tag" names it.
+// A group of radio buttons of which at most one is selected. Its cells are the QRadioButtons inside
+// it; each carries an integer as its property "tag". Enabled and disabled as one.
 class RadioGroup : public QWidget {
     Q_OBJECT
   public:
     explicit RadioGroup(QWidget *parent = nullptr);
 
-    // Tag of the selected cell; -1 when none is selected or it has no tag.
+    // The tag of the selected cell; -1 when none is selected.
     int selectedTag() const;
 
-    // Selects the cell of `tag`. An unknown tag deselects all and gives false. Does not raise
-    // selected().
+    // Selects the cell with the tag; an unknown tag selects none and gives false.
     bool selectTag(int tag);
 
   Q_SIGNALS:
-    // The user picked the cell of `tag` by mouse or keyboard, also when it was selected already.
+    // The user picked the cell with the tag, also the one that was selected before.
     void selected(int tag);
 
   protected:
     bool event(QEvent *event) override;
 
   private:
-    void adoptCells();
-    void deselectAll();
-
-    QButtonGroup m_cells;
+    QList<QRadioButton *> cells() const { return findChildren<QRadioButton *>(); }
+    void cellClicked();
 };

@@ -1,77 +1,64 @@
 #pragma once
 
 #include <QTableView>
-#include <memory>
 
-class GatedSelectionModel;
 class TableView;
+class TableModel;
 
-// Supplies the rows of a table.
-struct TableDataSource {
+// Gives a table its contents.
+class TableDataSource {
+  public:
     virtual ~TableDataSource() = default;
-    virtual int numberOfRowsInTableView(TableView *tableView) = 0;
-    // What the cell in `column` (an identifier) of `row` (0 or more, below the number of rows at
-    // the last reload) shows; an invalid value shows nothing.
-    virtual QVariant objectValueForTableColumn(TableView *tableView, const QString &column,
+    virtual int numberOfRowsInTableView(TableView *table) = 0;
+    // What the cell shows; nothing for a column that the source does not know.
+    virtual QVariant objectValueForTableColumn(TableView *table, const QString &column,
                                                int row) = 0;
 };
 
-struct TableDelegate {
+// Asked before the selection moves, and told afterwards.
+class TableDelegate {
+  public:
     virtual ~TableDelegate() = default;
-    // Asked before the user moves the selection; false leaves it where it is.
     virtual bool selectionShouldChangeInTableView(TableView *) { return true; }
-    // The selection was moved, by the user or from code, or a reload has dropped its row.
     virtual void tableViewSelectionDidChange(TableView *) {}
 };
 
-// A table of whole rows, of which at most one is selected, filled by a data source. Cells whose
-// text is cut off show it whole in a tool tip.
+// A table whose columns are named and whose contents come from a data source. One whole row may be
+// selected.
 class TableView : public QTableView {
     Q_OBJECT
   public:
     explicit TableView(QWidget *parent = nullptr);
-    ~TableView() override;
 
-    // Neither is owned; null takes it away. A new data source is asked at the next reload.
-    void setDataSource(TableDataSource *source);
-    void setDelegate(TableDelegate *delegate);
+    // Neither is owned; both must outlive the table or be taken away with a null pointer.
+    void setTableDataSource(TableDataSource *source);
+    void setTableDelegate(TableDelegate *delegate) { m_delegate = delegate; }
 
-    // Adds a column at the right; its title is the identifier until setHeaderTitle().
+    // Appends a column; its header is the identifier until it gets a title.
     void addColumn(const QString &identifier);
-    // Nothing when there is no such column.
     void setHeaderTitle(const QString &identifier, const QString &title);
     QStringList columnIdentifiers() const;
 
-    // Asks the data source anew. The selected row stays selected if there still is one of its
-    // number.
+    // Fetches everything anew. The selection stays while its row remains.
     void reloadData();
 
-    // Number of the selected row, from 0; -1 when none is selected.
+    // -1 when no row is selected.
     int selectedRow() const;
-    // Selects without asking the delegate; a row that does not exist deselects all.
+    // Selects a row from code, without asking the delegate whether it may; it is told.
     void selectRow(int row);
     void deselectAll();
 
   Q_SIGNALS:
-    // A double click on a row, or Return with a row selected. -1 for a double click on the header
-    // or below the last row.
+    // Double click, or Return on the selected row; -1 on the header or the empty area.
     void doubleAction(int clickedRow);
 
   protected:
-    void keyPressEvent(QKeyEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
-    bool viewportEvent(QEvent *event) override;
-    void selectionChanged(const QItemSelection &selected,
-                          const QItemSelection &deselected) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
 
   private:
-    class Model;
-    void showToolTip(const QPoint &position, const QPoint &globalPosition);
-
-    const std::unique_ptr<Model> m_model;
-    GatedSelectionModel *m_selection;  // owned by Qt
+    TableModel *const m_model;
     TableDelegate *m_delegate = nullptr;
-    bool m_reloading = false;
 };

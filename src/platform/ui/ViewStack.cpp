@@ -1,49 +1,51 @@
 #include "platform/ui/ViewStack.h"
 
-#include <QAbstractButton>
-#include <QButtonGroup>
+#include <QGridLayout>
+#include <QPushButton>
+#include <QWidget>
 
-#include "platform/ui/DialogButtons.h"
-
-namespace {
-
-// The first control of `view` in tab order; of a radio group the cell that is selected.
-QWidget *firstControl(QWidget *view) {
-    for (QWidget *w = view->nextInFocusChain(); w != view; w = w->nextInFocusChain()) {
-        if (!view->isAncestorOf(w) || !w->isEnabled() || !w->isVisibleTo(view)) continue;
-        if ((w->focusPolicy() & Qt::TabFocus) == 0 || w->focusProxy()) continue;
-        const auto *button = qobject_cast<QAbstractButton *>(w);
-        if (button && button->group() && button->group()->checkedButton())
-            return button->group()->checkedButton();
-        return w;
-    }
-    return nullptr;
+ViewStack::ViewStack(QWidget *container) : m_container(container) {
+    auto *layout = new QGridLayout(container);
+    layout->setContentsMargins(0, 0, 0, 0);
 }
 
-}  // namespace
-
-ViewStack::ViewStack(QWidget *container) : m_layout(new QStackedLayout(container)) {}
-
 void ViewStack::add(const QString &key, QWidget *view) {
-    Q_ASSERT(!m_views.contains(key));
-    m_views.insert(key, view);
-    m_layout->addWidget(view);
+    QSizePolicy policy = view->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    view->setSizePolicy(policy);
+    view->setParent(m_container);
+    static_cast<QGridLayout *>(m_container->layout())->addWidget(view, 0, 0);
     view->hide();
+    m_views.push_back({key, view});
 }
 
 void ViewStack::select(const QString &key) {
-    QWidget *shown = m_views.value(key);
-    const bool wasShown = shown && shown->isVisible();
-    m_selectedKey = shown ? key : QString();
-    if (shown) m_layout->setCurrentWidget(shown);
-    for (QWidget *view : std::as_const(m_views)) view->setVisible(view == shown);
-
-    QWidget *container = m_layout->parentWidget();
-    if (shown && !wasShown) {
-        if (QWidget *control = firstControl(shown))
-            control->setFocus(Qt::OtherFocusReason);
-        else if (QWidget *focused = container->window()->focusWidget())
-            focused->clearFocus();
+    QWidget *shown = nullptr;
+    for (const View &view : m_views) {
+        if (view.key == key) shown = view.widget;
+        if (view.key != key && view.widget) view.widget->hide();
     }
-    DialogButtons::showDefaultButton(container->window());
+    if (!shown) return;
+    for (QPushButton *button : shown->findChildren<QPushButton *>())
+        if (button->property("defaultButton").toBool()) button->setDefault(true);
+    shown->show();
+}
+
+void ViewStack::focusFirstControl() const {
+    for (const View &view : m_views) {
+        if (!view.widget || view.widget->isHidden()) continue;
+        for (QWidget *next = view.widget->nextInFocusChain(); next != view.widget;
+             next = next->nextInFocusChain()) {
+            const bool inView = view.widget->isAncestorOf(next);
+            if (!inView || !next->isEnabled() || !(next->focusPolicy() & Qt::TabFocus)) continue;
+            next->setFocus(Qt::OtherFocusReason);
+            return;
+        }
+    }
+}
+
+QString ViewStack::selectedKey() const {
+    for (const View &view : m_views)
+        if (view.widget && !view.widget->isHidden()) return view.key;
+    return {};
 }

@@ -1,31 +1,36 @@
 #pragma once
 
-#include <QMap>
-#include <QStackedLayout>
+#include <QPointer>
 #include <QString>
-#include <QWidget>
+#include <vector>
 
-// The views of a wizard or dialog, stacked in one container and switched by key. The container is
-// as large as the largest view, so that switching never resizes the window.
+class QWidget;
+
+// Views stacked in one container, of which at most one is visible. The container is as large as
+// its largest view, so that a window does not change its size when views are switched.
 class ViewStack {
   public:
-    // `container` has no layout yet; it gets one, becomes the parent of the views and outlives this
-    // object or is not used through it again.
+    // The container must not have a layout; it owns the views from add() on.
     explicit ViewStack(QWidget *container);
 
-    // Puts `view` into the container, hidden. `key` is not in use yet.
+    // Adds a view under `key`, hidden.
     void add(const QString &key, QWidget *view);
 
-    // Shows the view of `key` and hides every other one; with an unknown key hides all. The focus
-    // goes to the first control of a view that was not shown before, and the view's default button
-    // becomes the window's.
+    // Shows the view of `key` and hides every other; an unknown key hides all. In a dialog the
+    // button of the view whose property "defaultButton" is true becomes the default one.
     void select(const QString &key);
 
-    // Key of the shown view; null when none is shown.
-    QString selectedKey() const { return m_selectedKey; }
+    // Gives the focus to the first control of the shown view that takes it.
+    void focusFirstControl() const;
+
+    // The key of the shown view; a null text when all are hidden.
+    QString selectedKey() const;
 
   private:
-    QStackedLayout *m_layout;  // owned by the container
-    QMap<QString, QWidget *> m_views;
-    QString m_selectedKey;
+    struct View {
+        QString key;
+        QPointer<QWidget> widget;
+    };
+    QWidget *const m_container;
+    std::vector<View> m_views;
 };

@@ -1,72 +1,46 @@
 #include "platform/ui/WaitSheet.h"
 
 #include <QApplication>
-#include <QEvent>
+#include <QDeadlineTimer>
+#include <QProgressBar>
 #include <QWindow>
 
 #include "platform/core/Waiting.h"
 
 namespace {
 
-// Longest wait for the windowing system to bring the sheet up; it is not waited for for ever since
-// a window on a minimised parent never appears.
-constexpr std::chrono::milliseconds appearTimeout{500};
-
-void centreOn(QWidget *window, const QWidget *parent) {
-    window->adjustSize();
-    QRect frame = window->geometry();
-    frame.moveCenter(parent->geometry().center());
-    window->move(frame.topLeft());
-}
+// How long the window system may take to show the sheet, in milliseconds; after that the work
+// starts all the same.
+constexpr int longestExposure = 500;
 
 }  // namespace
 
-WaitSheet::WaitSheet(QWidget *sheetWindow, QWidget *parent, QProgressBar *indicator)
-    : m_sheet(sheetWindow),
-      m_parent(parent->window()),
-      m_indicator(indicator),
-      m_focused(m_parent->focusWidget()) {
-    sheetWindow->hide();
-    sheetWindow->setParent(m_parent,
-                           (sheetWindow->windowFlags() & ~Qt::WindowType_Mask) | Qt::Dialog);
-    sheetWindow->setWindowModality(Qt::WindowModal);
-    sheetWindow->installEventFilter(this);
-    indicator->setRange(0, 0);
-    centreOn(sheetWindow, m_parent);
-    sheetWindow->show();
-
-    idle();
-    waitUntil([this] { return !m_sheet || m_sheet->windowHandle()->isExposed(); },
-              QDeadlineTimer(appearTimeout));
-    if (m_sheet) m_sheet->repaint();
-    if (m_parent) m_parent->repaint();
+WaitSheet::WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator)
+    : m_sheet(sheet), m_indicator(indicator), m_focus(QApplication::focusWidget()) {
+    indicator->setRange(0, 0);  // busy
+    sheet->hide();              // modality changes only while a window is hidden
+    sheet->setParent(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    sheet->setWindowModality(Qt::WindowModal);
+    sheet->adjustSize();
+    const QRect area(parent->mapToGlobal(QPoint(0, 0)), parent->size());
+    sheet->move(area.center() - sheet->rect().center());
+    sheet->show();
+    const auto exposed = [sheet] {
+        return sheet->windowHandle() && sheet->windowHandle()->isExposed();
+    };
+    waitUntil(exposed, QDeadlineTimer(longestExposure));
+    sheet->repaint();
+    parent->repaint();
 }
 
 WaitSheet::~WaitSheet() {
-    idle();
+    idle();  // what the user did during the last slice is dropped, too
     if (m_indicator) {
         m_indicator->setRange(0, 1);
         m_indicator->reset();
     }
-    if (m_sheet) {
-        m_sheet->removeEventFilter(this);
-        m_sheet->hide();
-    }
-    if (!m_parent || !m_parent->isVisible()) return;
-    if (!QApplication::activeWindow()) m_parent->activateWindow();
-    if (m_focused && m_focused->isEnabled() && m_focused->isVisible() &&
-        m_focused->window() == m_parent)
-        m_focused->setFocus(Qt::OtherFocusReason);
-}
-
-bool WaitSheet::eventFilter(QObject *, QEvent *event) {
-    switch (event->type()) {
-        case QEvent::Close:
-            event->ignore();
-            return true;
-        case QEvent::KeyPress:
-            return true;
-        default:
-            return false;
-    }
+    if (m_sheet) m_sheet->hide();
+    if (!m_focus) return;
+    m_focus->activateWindow();
+    m_focus->setFocus(Qt::OtherFocusReason);
 }

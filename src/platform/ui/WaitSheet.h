@@ -1,31 +1,24 @@
 #pragma once
 
-#include <QObject>
 #include <QPointer>
-#include <QProgressBar>
-#include <QWidget>
 
-// A wait window on another window, up as long as this object lives. The slow work calls idle()
-// (platform/core/Waiting.h) every now and then, which keeps the indicator moving.
-class WaitSheet : public QObject {
-    Q_OBJECT
+class QProgressBar;
+class QWidget;
+
+// Shows a wait window while it lives. Both windows have been painted when the constructor returns;
+// the indicator moves whenever the work calls idle(), and what the user does meanwhile is dropped.
+class WaitSheet {
   public:
-    // Shows `sheetWindow` window-modally, centred on the window of `parent`, with `indicator`
-    // busy, and paints both windows. `sheetWindow` is not hidden by Escape or the close box
-    // meanwhile; it becomes a child of that window. The indicator lies in the sheet. None of them
-    // is owned; each may be destroyed while the sheet is up.
-    WaitSheet(QWidget *sheetWindow, QWidget *parent, QProgressBar *indicator);
-
-    // Drops what the user did meanwhile, stops the indicator, hides the sheet and gives the focus
-    // back to the control that had it.
-    ~WaitSheet() override;
-
-  protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    // `sheet` is shown window-modally, centred on `parent`; `indicator` is a bar inside it. The
+    // widgets stay the caller's.
+    WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator);
+    // Hides the sheet and gives the focus back to the control that had it.
+    ~WaitSheet();
+    WaitSheet(const WaitSheet &) = delete;
+    WaitSheet &operator=(const WaitSheet &) = delete;
 
   private:
     const QPointer<QWidget> m_sheet;
-    const QPointer<QWidget> m_parent;
     const QPointer<QProgressBar> m_indicator;
-    const QPointer<QWidget> m_focused;
+    const QPointer<QWidget> m_focus;
 };

@@ -1,181 +1,203 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QLineEdit>
+#include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "platform/core/Waiting.h"
+#include "platform/ui/Alert.h"
 #include "platform/ui/Modal.h"
 #include "platform/ui/ModalWindow.h"
 #include "platform/ui/ViewStack.h"
+#include "platform/ui/WaitSheet.h"
 
 namespace {
 
-// A modal window with two views, of which only the first has buttons.
-struct Dialog {
+// A dialog of two stacked views: "ask" has OK (default) and Cancel, "busy" has no button.
+struct Dialog : ModalWindow {
     Dialog() {
-        auto *first = new QWidget;
-        auto *layout = new QVBoxLayout(first);
-        for (QWidget *control : {static_cast<QWidget *>(&field), static_cast<QWidget *>(&ok),
-                                 static_cast<QWidget *>(&cancel)})
-            layout->addWidget(control);
-        ok.setProperty("defaultButton", true);
-        cancel.setProperty("cancelButton", true);
-        auto *second = new QWidget;
-        second->setMinimumSize(300, 200);
-        auto *container = new QWidget(&window);
-        (new QVBoxLayout(&window))->addWidget(container);
-        stack = std::make_unique<ViewStack>(container);
-        stack->add(u"first"_qs, first);
-        stack->add(u"second"_qs, second);
-        stack->select(u"first"_qs);
-        QObject::connect(&ok, &QPushButton::clicked, [this] { close(1); });
-        QObject::connect(&cancel, &QPushButton::clicked, [this] { close(0); });
+        auto *ask = new QWidget;
+        auto *layout = new QVBoxLayout(ask);
+        ok = new QPushButton(QStringLiteral("OK"));
+        cancel = new QPushButton(QStringLiteral("Cancel"));
+        ok->setProperty("defaultButton", true);
+        cancel->setProperty("cancelButton", true);
+        layout->addWidget(cancel);
+        layout->addWidget(ok);
+        views.add(QStringLiteral("ask"), ask);
+        views.add(QStringLiteral("busy"), new QProgressBar);
     }
-
-    void close(int outcome) {
-        Modal::stop(outcome);
-        window.hide();
+    // Runs on a view; `action` happens once the dialog is shown.
+    int runOn(const char *view, const std::function<void()> &action) {
+        views.select(QLatin1String(view));
+        QTimer::singleShot(0, this, action);
+        return Modal::run(this);
     }
-
-    // The controls outlive the window's own children, so they are taken out first.
-    ~Dialog() {
-        for (QWidget *control : {static_cast<QWidget *>(&field), static_cast<QWidget *>(&ok),
-                                 static_cast<QWidget *>(&cancel)})
-            control->setParent(nullptr);
-    }
-
-    ModalWindow window;
-    QLineEdit field;
-    QPushButton ok{u"OK"_qs};
-    QPushButton cancel{u"Cancel"_qs};
-    std::unique_ptr<ViewStack> stack;
+    ViewStack views{this};
+    QPushButton *ok, *cancel;
 };
 
-void whenUp(const QWidget &window, const std::function<void()> &action) {
-    QTimer::singleShot(0, &window, [&window, action] {
-        ASSERT_TRUE(QTest::qWaitForWindowActive(const_cast<QWidget *>(&window)));
-        action();
+TEST(Modal, DeliversTheOutcomeWhenTheStoppingActionHasFinished) {
+    Dialog dialog;
+    QStringList order;
+    QObject::connect(dialog.ok, &QPushButton::clicked, [&] {
+        Modal::stop(5);
+        dialog.hide();
+        order << QStringLiteral("stopped");
+        // The same window again, from inside the action.
+        const int inner = dialog.runOn("ask", [&] { Modal::stop(7); });
+        order << QString::number(inner);
+        EXPECT_FALSE(Modal::isRunning());
     });
+    const int outer = dialog.runOn("ask", [&] { QTest::mouseClick(dialog.ok, Qt::LeftButton); });
+    order << QString::number(outer);
+    EXPECT_EQ(order.join(u' '), QStringLiteral("stopped 7 5"));
 }
 
-TEST(Modal, WaysOutPressTheButtonsOfTheShownView) {
-    struct Case {
+TEST(Modal, StopsTheInnermostRunAndNothingWithoutOne) {
+    Modal::stop(3);
+    Dialog outer, inner;
+    QList<int> outcomes;
+    outcomes << outer.runOn("ask", [&] {
+        outcomes << inner.runOn("ask", [&] { Modal::stop(); });
+        inner.hide();
+        EXPECT_TRUE(Modal::isRunning());
+        Modal::stop(0);
+    });
+    EXPECT_EQ(outcomes, (QList<int>{Modal::stoppedOutcome, 0}));
+    EXPECT_NE(Modal::stoppedOutcome, 0);
+}
+
+TEST(ModalWindow, EveryWayOutPressesTheVisibleCancelButton) {
+    const struct {
         const char *name;
-        std::function<void(Dialog &)> act;
-        int outcome;
-    };
-    const Case cases[] = {
-        {"Return", [](Dialog &d) { QTest::keyClick(&d.field, Qt::Key_Return); }, 1},
-        {"Return on Cancel",
-         [](Dialog &d) {
-             d.cancel.setFocus();
-             QTest::keyClick(&d.cancel, Qt::Key_Return);
-         },
-         0},
-        {"Escape", [](Dialog &d) { QTest::keyClick(&d.field, Qt::Key_Escape); }, 0},
-        {"close box", [](Dialog &d) { d.window.close(); }, 0},
-        {"disabled Cancel",
-         [](Dialog &d) {
-             d.cancel.setEnabled(false);
-             QTest::keyClick(&d.field, Qt::Key_Escape);
-             EXPECT_TRUE(Modal::isRunning());
-             QTest::mouseClick(&d.ok, Qt::LeftButton);
-         },
-         1},
-        {"a view without buttons",
-         [](Dialog &d) {
-             d.stack->select(u"second"_qs);
-             QTest::keyClick(&d.window, Qt::Key_Escape);
-             QTest::keyClick(&d.window, Qt::Key_Return);
-             d.window.close();
-             EXPECT_TRUE(d.window.isVisible() && Modal::isRunning());
-             d.close(7);
-         },
-         7},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
+        std::function<void(Dialog &)> leave;
+    } ways[] = {{"Escape", [](Dialog &d) { QTest::keyClick(&d, Qt::Key_Escape); }},
+                {"close box", [](Dialog &d) { d.close(); }}};
+    for (const auto &way : ways) {
         Dialog dialog;
-        whenUp(dialog.window, [&] { c.act(dialog); });
-        EXPECT_EQ(Modal::run(&dialog.window), c.outcome);
-        EXPECT_FALSE(Modal::isRunning());
-        EXPECT_FALSE(dialog.window.isVisible());
+        int cancelled = 0;
+        QObject::connect(dialog.cancel, &QPushButton::clicked, [&] {
+            ++cancelled;
+            Modal::stop(0);
+        });
+        EXPECT_EQ(dialog.runOn("ask", [&] { way.leave(dialog); }), 0) << way.name;
+        EXPECT_EQ(cancelled, 1) << way.name;
+        EXPECT_TRUE(dialog.isVisible()) << way.name << " closed the window by itself";
+
+        EXPECT_EQ(dialog.runOn("busy",
+                               [&] {
+                                   way.leave(dialog);
+                                   EXPECT_TRUE(dialog.isVisible()) << way.name;
+                                   Modal::stop(9);
+                               }),
+                  9)
+            << way.name << " left a view without Cancel";
+        EXPECT_EQ(cancelled, 1);
     }
 }
 
-TEST(Modal, OutcomeWaitsForTheActionAndTheRunsInsideIt) {
+TEST(ModalWindow, ReturnPressesTheDefaultButtonOfTheShownView) {
     Dialog dialog;
-    QStringList log;
-    QWidget below;
-    below.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&below));
-    QObject::connect(&dialog.ok, &QPushButton::clicked, [&] {  // after the one that stops
-        whenUp(dialog.window, [&] { QTest::keyClick(&dialog.window, Qt::Key_Escape); });
-        log += u"inner %1"_qs.arg(Modal::run(&dialog.window));
-        EXPECT_FALSE(Modal::isRunning());
-        Modal::stop(9);  // there is none left to stop
-        log += u"action done"_qs;
-    });
-    whenUp(dialog.window, [&] { QTest::mouseClick(&dialog.ok, Qt::LeftButton); });
-    log += u"outer %1"_qs.arg(Modal::run(&dialog.window));
-    EXPECT_EQ(log, (QStringList{u"inner 0"_qs, u"action done"_qs, u"outer 1"_qs}));
-    EXPECT_FALSE(QApplication::activeModalWidget());
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&below));
+    QObject::connect(dialog.ok, &QPushButton::clicked, [] { Modal::stop(1); });
+    QObject::connect(dialog.cancel, &QPushButton::clicked, [] { Modal::stop(2); });
+    EXPECT_EQ(dialog.runOn("ask", [&] { QTest::keyClick(&dialog, Qt::Key_Return); }), 1);
 }
 
-TEST(Modal, InnermostRunningOneIsStopped) {
-    Dialog outer;
-    Dialog inner;
-    int innerOutcome = 0;
-    whenUp(outer.window, [&] {
-        whenUp(inner.window, [&] {
-            Modal::stop(5);
-            Modal::stop();  // the inner one is stopped already
-            inner.window.hide();
+TEST(ViewStack, ShowsOneViewAndKeepsTheSizeOfTheLargest) {
+    QWidget container;
+    ViewStack stack(&container);
+    auto *small = new QWidget, *large = new QWidget;
+    small->setMinimumSize(10, 10);
+    large->setMinimumSize(300, 200);
+    stack.add(QStringLiteral("small"), small);
+    stack.add(QStringLiteral("large"), large);
+    EXPECT_TRUE(stack.selectedKey().isNull());
+    container.show();
+    stack.select(QStringLiteral("small"));
+    EXPECT_EQ(stack.selectedKey(), QStringLiteral("small"));
+    EXPECT_GE(container.minimumSizeHint().width(), 300);
+    stack.select(QStringLiteral("large"));
+    EXPECT_FALSE(small->isVisible());
+    EXPECT_TRUE(large->isVisible());
+    stack.select(QStringLiteral("unknown"));
+    EXPECT_TRUE(stack.selectedKey().isNull());
+}
+
+// Counts how often the indicator was painted.
+struct CountingBar : QProgressBar {
+    int paints = 0;
+    void paintEvent(QPaintEvent *event) override {
+        ++paints;
+        QProgressBar::paintEvent(event);
+    }
+};
+
+TEST(WaitSheet, IsPaintedBeforeTheWorkMovesDuringItAndDropsInput) {
+    QWidget window;
+    auto *button = new QPushButton(QStringLiteral("Press"), &window);
+    int pressed = 0;
+    QObject::connect(button, &QPushButton::clicked, [&] { ++pressed; });
+    window.resize(400, 300);
+    window.show();
+    window.activateWindow();
+    button->setFocus();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+
+    auto *sheet = new QWidget(&window);
+    auto *bar = new CountingBar;
+    (new QVBoxLayout(sheet))->addWidget(bar);
+    {
+        const WaitSheet wait(sheet, &window, bar);
+        EXPECT_TRUE(sheet->isVisible());
+        const int before = bar->paints;
+        EXPECT_GT(before, 0) << "the work starts before the sheet is painted";
+        // As a person's input reaches the application: posted to the windows.
+        for (QWidget *target : {static_cast<QWidget *>(button), sheet}) {
+            QCoreApplication::postEvent(
+                target, new QKeyEvent(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier));
+            QCoreApplication::postEvent(
+                target, new QKeyEvent(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier));
+        }
+        QCoreApplication::postEvent(sheet, new QCloseEvent);
+        waitFor(std::chrono::milliseconds(300));
+        EXPECT_TRUE(sheet->isVisible());
+        EXPECT_GE(bar->paints - before, 3) << "the indicator stands still";
+        QCoreApplication::postEvent(button,
+                                    new QKeyEvent(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier));
+    }
+    EXPECT_FALSE(sheet->isVisible());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(pressed, 0);
+    EXPECT_FALSE(button->isDown());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return button->hasFocus(); })) << "the focus was lost";
+}
+
+TEST(Alert, ShowsItsTextsAndIsDismissedByReturnOrEscape) {
+    Alert alert(Alert::Style::Critical);
+    alert.setButtonTitle(QStringLiteral("Fine"));
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        alert.setMessageText(QStringLiteral("Text %1").arg(key));
+        alert.setInformativeText(QStringLiteral("<b>Why</b>"));
+        bool seen = false;
+        QTimer::singleShot(0, [&] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            ASSERT_TRUE(box);
+            EXPECT_EQ(box->text(), QStringLiteral("Text %1").arg(key));
+            EXPECT_EQ(box->informativeText(), QStringLiteral("<b>Why</b>"));
+            EXPECT_EQ(box->icon(), QMessageBox::Critical);
+            ASSERT_EQ(box->buttons().size(), 1);
+            EXPECT_EQ(box->buttons()[0]->text(), QStringLiteral("Fine"));
+            seen = true;
+            QTest::keyClick(box, key);
         });
-        innerOutcome = Modal::run(&inner.window);
-        outer.window.hide();
-    });
-    EXPECT_EQ(Modal::run(&outer.window), Modal::stoppedOutcome);
-    EXPECT_EQ(innerOutcome, 5);
-}
-
-TEST(Modal, EndsWithItsWindowAndWithTheApplication) {
-    auto *window = new QWidget;
-    whenUp(*window, [&] { delete window; });
-    EXPECT_EQ(Modal::run(window), Modal::stoppedOutcome);
-
-    Dialog dialog;
-    int outcome = 0;
-    QTimer::singleShot(0, [&] {
-        whenUp(dialog.window, [] { QCoreApplication::exit(); });
-        outcome = Modal::run(&dialog.window);
-    });
-    QCoreApplication::exec();
-    EXPECT_EQ(outcome, Modal::stoppedOutcome);
-    EXPECT_FALSE(dialog.window.isVisible());
-    EXPECT_FALSE(Modal::isRunning());
-}
-
-TEST(ViewStack, SwitchesViewFocusAndDefaultButtonWithoutResizing) {
-    Dialog dialog;
-    EXPECT_GE(dialog.window.sizeHint().width(), 300);  // the hidden view fits too
-    dialog.window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog.window));
-    EXPECT_TRUE(dialog.field.hasFocus());
-    EXPECT_TRUE(dialog.ok.isDefault());
-    dialog.stack->select(u"second"_qs);
-    EXPECT_FALSE(dialog.field.isVisible());
-    EXPECT_FALSE(dialog.ok.isDefault());
-    EXPECT_EQ(dialog.stack->selectedKey(), u"second"_qs);
-    dialog.stack->select(u"first"_qs);
-    EXPECT_TRUE(dialog.field.hasFocus());
-    dialog.stack->select(u"unknown"_qs);
-    EXPECT_FALSE(dialog.field.isVisible());
-    EXPECT_TRUE(dialog.stack->selectedKey().isNull());
+        alert.runModal();
+        EXPECT_TRUE(seen);
+    }
 }
 
 }  // namespace
