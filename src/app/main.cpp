@@ -1,20 +1,20 @@
 #include <QCoreApplication>
 #include <cstdio>
 
-#include "link/DWTCommunicationControl.h"
+#include "settings/DWTDataManager.h"
 
-// Prints the printers that the communication library can reach.
+// Prints the supported printers that can be reached.
 int main(int argc, char **argv) {
     const QCoreApplication app(argc, argv);
-    const auto link = make<DWTCommunicationControl>();
-    const auto printers = link->printerList();
-    if (!printers || printers->isEmpty()) {
+    const auto printers = make<DWTDataManager>()->printerList().value_or(QList<PrinterEntry>());
+    if (printers.isEmpty())
         std::puts("No printers. ZMLIB_PRINTERS names the catalogue that lists them.");
-        return 0;
+    for (const PrinterEntry &entry : printers) {
+        const QString service = entry.value(QStringLiteral("BonjourServiceName"));
+        const QString name = entry.value(QStringLiteral("MachineName"), service);
+        std::printf(
+            "%-8s %-16s %s\n", qUtf8Printable(entry.value(QStringLiteral("ConnectionType"))),
+            qUtf8Printable(entry.value(QStringLiteral("ProductName"))), qUtf8Printable(name));
     }
-    for (const PrinterEntry &entry : *printers)
-        std::printf("%-8s %-16s %s\n", qUtf8Printable(entry[QStringLiteral("ConnectionType")]),
-                    qUtf8Printable(entry[QStringLiteral("ProductName")]),
-                    qUtf8Printable(entry[QStringLiteral("DeviceURI")]));
     return 0;
 }

@@ -2,8 +2,13 @@
 
 #include <QCoreApplication>
 
+#include "support/Arguments.h"
+
+char **programArguments = nullptr;
+
 // Tests of rooms without widgets run inside an application object, as the tool's code does.
 int main(int argc, char **argv) {
+    programArguments = argv;
     QCoreApplication app(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

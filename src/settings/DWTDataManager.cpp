@@ -1,0 +1,98 @@
+// The record, and the making of a data manager.
+
+#include "settings/DWTDataManager.h"
+
+#include <algorithm>
+
+#include "settings/Frames.h"
+
+namespace {
+
+const QStringList categories{DWT_View_Key_Network,        DWT_View_Key_Wireless,
+                             DWT_View_Key_Infrastructure, DWT_View_Key_SimpleAP,
+                             DWT_View_Key_Ethernet,       DWT_View_Key_Firmware,
+                             DWT_View_Key_Password};
+
+std::optional<CategoryDictionary> categoryOf(const std::optional<SettingRecord> &record,
+                                             const QString &viewKey) {
+    if (!record || !record->contains(viewKey)) return {};
+    return record->value(viewKey);
+}
+
+}  // namespace
+
+std::shared_ptr<DWTDataManager> DWTDataManager::dataManager(const PrinterEntry &entry) {
+    auto manager = make<DWTDataManager>();
+    return manager && manager->NDM_InitMember(entry) ? manager : nullptr;
+}
+
+DWTDataManager::~DWTDataManager() {
+    NDM_Dealloc();
+}
+
+bool DWTDataManager::init() {
+    return DWTBaseClass::init() && NDM_Init();
+}
+
+std::optional<CategoryDictionary> DWTDataManager::setupDataToMainView(
+    const QString &viewKey) const {
+    return categoryOf(dictionary_SaveData, viewKey);
+}
+
+std::optional<CategoryDictionary> DWTDataManager::setupDataFromChangeData(
+    const QString &viewKey) const {
+    return categoryOf(mutableDictionary_ChangeData, viewKey);
+}
+
+int DWTDataManager::setupDataFromMainView(const CategoryDictionary &category,
+                                          const QString &viewKey) {
+    if (mutableDictionary_ChangeData) mutableDictionary_ChangeData->insert(viewKey, category);
+    return 0;
+}
+
+bool DWTDataManager::isEqualToSaveData() const {
+    return std::all_of(categories.begin(), categories.end(), [&](const QString &viewKey) {
+        const auto saved = setupDataToMainView(viewKey);
+        return saved && saved == setupDataFromChangeData(viewKey);
+    });
+}
+
+bool DWTDataManager::NDM_Init() {
+    dictionary_SaveData.reset();
+    mutableDictionary_ChangeData.reset();
+    nsObjectRelease(ncc_Object);
+    resultSettingRequest_BOOL = true;
+    loginPassword_String.clear();
+    return true;
+}
+
+void DWTDataManager::NDM_Dealloc() {
+    nsObjectRelease(ncc_Object);
+}
+
+bool DWTDataManager::NDM_InitMember(const PrinterEntry &entry) {
+    ncc_Object = DWTCommunicationControl::communicationControl(entry);
+    if (!ncc_Object) return false;
+    installCommands(*ncc_Object);
+    return true;
+}
+
+bool DWTDataManager::NDM_SetCommandSettingStart(DWTCommunicationControl &link) {
+    return link.setStartSetting(Frames::startFrame());
+}
+
+bool DWTDataManager::NDM_SetCommandSettingEnd(DWTCommunicationControl &link) {
+    return link.setEndSetting(Frames::endFrame());
+}
+
+bool DWTDataManager::NDM_SetCommandSettingUpDate(DWTCommunicationControl &link) {
+    return link.setUpdateSetting(Frames::updateFrame());
+}
+
+bool DWTDataManager::installCommands(DWTCommunicationControl &link) {
+    if (NDM_SetCommandSettingStart(link)) return false;
+    if (NDM_SetCommandSettingEnd(link)) return false;
+    if (NDM_SetCommandSettingUpDate(link)) return false;
+    link.setCommandSettingToArray();
+    return true;
+}

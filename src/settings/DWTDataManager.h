@@ -1,0 +1,175 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <memory>
+#include <optional>
+
+#include "app/base/DWTBaseClass.h"
+#include "link/DWTCommunicationControl.h"
+#include "settings/ItemCodec.h"
+#include "settings/SettingKeys.h"
+#include "settings/SettingRecord.h"
+
+// The settings of one printer: what it reported (saved data), what the user entered (change data),
+// and every exchange that fills the one and writes the other. It owns the link to the printer.
+//
+// Made with the plain init() it has no link; every exchange then fails as its result says. All
+// operations run on the main thread and wait there for the printer, at most 15000 ms for each of
+// its answers. Only the send runs on a thread of its own; while it does, no other operation is
+// called.
+class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<DWTDataManager> {
+  public:
+    // A data manager for the printer of `entry`; a null pointer when the link cannot be made.
+    static std::shared_ptr<DWTDataManager> dataManager(const PrinterEntry &entry);
+
+    ~DWTDataManager() override;
+    bool init() override;
+
+    // --- The record (DWTDataManager.cpp) ---
+
+    // The saved category of a view key; nothing when it is absent.
+    std::optional<CategoryDictionary> setupDataToMainView(const QString &viewKey) const;
+    // The change category of a view key; nothing when it is absent.
+    std::optional<CategoryDictionary> setupDataFromChangeData(const QString &viewKey) const;
+    // Replaces the change category of a view key; stores nothing while there is no change data.
+    // Always 0.
+    int setupDataFromMainView(const CategoryDictionary &category, const QString &viewKey);
+    // True when all seven categories are present in both records and equal.
+    bool isEqualToSaveData() const;
+
+    // --- Reading (DWTDataManagerReading.cpp) ---
+
+    // Reads every setting and makes both records anew. The argument is not used. Result: 0 every
+    // request was answered; 1 there is no link; 6 at least one request got no reply (its value and
+    // those after it have their defaults); otherwise the link's result of connecting.
+    int setupDataFromPrinter(int);
+    // The networks that the printer finds, in its order; empty when it found none or did not finish
+    // in ten polls (about 10 s); nothing when it cannot be connected.
+    std::optional<QList<SSIDEntry>> SSIDList();
+
+    // --- Sending (DWTDataManagerSending.cpp) ---
+
+    // Writes the change data to the printer on a thread of its own, which keeps this object alive,
+    // and returns at once. Reports by the notifications DWT_DataSend_Start_Message (0),
+    // DWT_DataSend_Progress_Message (16, 33, 50, 66, 85, 100) and DWT_DataSend_Stop_Message (0; 1
+    // when the printer could not be connected), each handled on the main thread before the send
+    // goes on, with this object as sender and the MSW_Searching_Value_ numbers. The saved data then
+    // holds what the printer accepted. Not to be called again before the stop.
+    void sendDataToPrinter();
+
+    // --- Printers and login (DWTDataManagerPrinters.cpp) ---
+
+    // The supported printers that can be reached, USB printers with their own name under
+    // "MachineName"; only USB printers in installer mode. Nothing when no link can be made.
+    std::optional<QList<PrinterEntry>> printerList();
+    // The name of the printer of `entry`, asked through `link`; " " when it cannot be read.
+    QString printerName(const std::shared_ptr<DWTCommunicationControl> &link,
+                        const PrinterEntry &entry);
+    // Whether a printer answers at the address of exactly four parts; negative when not, when there
+    // are not four parts, or without a link.
+    int isCheckConnectToPrinter(const QStringList &address);
+    // 2: an administrator password is set; 3: none is set; 1: the printer cannot be connected or
+    // gives no usable answer.
+    int isPassword();
+    // 4: the password is accepted, and kept for the next send; 0: there is no link; 1: refused
+    // unsent; otherwise the printer's code, or -1 for an unusable reply. Call it between
+    // connectPrinter() and disconnectPrinter().
+    int checkLoginPassword(const QString &password);
+    // The link's results, 0 = connected; 1 without a link.
+    int connectPrinter();
+    void disconnectPrinter();
+    // The status length (bytes) of the printer's model, for the link.
+    void qkStatusLength(int length);
+
+  private:
+    bool NDM_Init();
+    void NDM_Dealloc();
+    bool NDM_InitMember(const PrinterEntry &entry);
+
+    // Command frames: each installs one into the link; true when it could not be stored.
+    bool NDM_SetCommandSettingStart(DWTCommunicationControl &link);
+    bool NDM_SetCommandSettingEnd(DWTCommunicationControl &link);
+    bool NDM_SetCommandSettingUpDate(DWTCommunicationControl &link);
+    // All three, and the command list when all could be stored; false when one could not.
+    bool installCommands(DWTCommunicationControl &link);
+
+    // One request; an empty reply clears the read-failure flag.
+    QByteArray NDM_SendCommandSettingRequest(int code);
+    int NDM_ResultDataToInteger(const std::optional<QByteArray> &reply, int code);
+    // Items as values; each asks nothing while the read-failure flag is cleared. A value that
+    // cannot be read is " ", 0 or nothing.
+    QString NDM_DataToString(int code);
+    int NDM_DataToInteger(int code);
+    QString NDM_DataToStringAndLength(int code);
+    QString NDM_DataToMacAddress(int code);
+    QString NDM_DataToSoftwareVersion(int code);
+    std::optional<CategoryDictionary> NDM_DataToArray(int code);
+    std::optional<CategoryDictionary> NDM_DataToIntegerAndArray(int code);
+    // Asks whatever the flag says.
+    std::optional<QList<SSIDEntry>> NDM_SSIDInfo(int code);
+    QString NDM_DataToPrinterName(const std::shared_ptr<DWTCommunicationControl> &link);
+
+    // The categories, on a connected link.
+    CategoryDictionary NDM_NetworkDataFromPrinter();
+    CategoryDictionary NDM_WirelessDataFromPrinter();
+    CategoryDictionary NDM_InfrastructureDataFromPrinter();
+    CategoryDictionary NDM_SimpleAPDataFromPrinter();
+    CategoryDictionary NDM_EthernetDataFromPrinter();
+    CategoryDictionary NDM_PasswordDataFromPrinter();
+    CategoryDictionary NDM_FirmwareDataFromPrinter();
+    std::optional<QList<SSIDEntry>> NDM_DataToSSIDArray();
+
+    // Items written: 0 accepted; 1 there is no link, or the value was refused unsent; -1 no usable
+    // reply; otherwise the printer's code.
+    int NDM_StringToData(int code, const QString &text);
+    int NDM_IntegerToData(int code, int value);
+    int NDM_StringAndLengthToData(int code, const QString &text);
+    int NDM_IntegerAndStringAndLengthToData(int code, int value, const QString &text);
+    int NDM_DataToData(int code, const QByteArray &bytes);
+    int NDM_IntegerAndArrayToData(int code, int value, const QStringList &first,
+                                  const QStringList &second, const QStringList &third);
+    int sendFrame(int code, const std::optional<QByteArray> &frame);
+
+    // The send, on its own thread.
+    void NDM_SendDataToPrinterThread();
+    void NDM_ProgressSetting(const QString &notification, double step);
+    int sendLogin();
+    void sendCategories();
+    void sendPassword();
+    CategoryDictionary sendNetwork();
+    CategoryDictionary sendEthernet();
+    CategoryDictionary sendWireless();
+    CategoryDictionary sendInfrastructure();
+    void sendInfrastructureKey(const CategoryDictionary &change);
+    CategoryDictionary sendSimpleAP(CategoryDictionary copy);
+    CategoryDictionary sendFirmware();
+    CategoryDictionary changeOf(const QString &viewKey) const;
+    CategoryDictionary savedOf(const QString &viewKey) const;
+
+    bool NDM_InitMemberToPrinterList(const std::shared_ptr<DWTCommunicationControl> &link,
+                                     const PrinterEntry &entry);
+
+    std::optional<SettingRecord> dictionary_SaveData;
+    std::optional<SettingRecord> mutableDictionary_ChangeData;
+    std::shared_ptr<DWTCommunicationControl> ncc_Object;
+    // Categories as last read, and the address items inside them.
+    CategoryDictionary networkData_Dictionary;
+    CategoryDictionary wirelessData_Dictionary;
+    CategoryDictionary infrastructureData_Dictionary;
+    CategoryDictionary infrastructureAddressInfo_Dictionary;
+    CategoryDictionary infrastructureConnectAddressInfo_Dictionary;
+    CategoryDictionary simpleAPData_Dictionary;
+    CategoryDictionary simpleAPAddressData_Dictionary;
+    CategoryDictionary simpleAPStartAddressData_Dictionary;
+    CategoryDictionary ethernetData_Dictionary;
+    CategoryDictionary ethernetAddressInfo_Dictionary;
+    CategoryDictionary ethernetConnectAddressInfo_Dictionary;
+    CategoryDictionary firmwareData_Dictionary;
+    CategoryDictionary passwordData_Dictionary;
+    // True while every request since the last full read got a reply.
+    bool resultSettingRequest_BOOL = false;
+    // Password of the last successful login; consumed by the next send.
+    QString loginPassword_String;
+};

@@ -1,0 +1,252 @@
+// Reading: single items, the seven categories, the search for networks.
+
+#include <initializer_list>
+#include <utility>
+
+#include "platform/core/Waiting.h"
+#include "settings/DWTDataManager.h"
+#include "settings/Frames.h"
+
+namespace {
+
+// What a text shows that could not be read.
+const QString unreadable = QStringLiteral(" ");
+
+// Result of a full read in which a request got no reply.
+constexpr int missingReply = 6;
+constexpr int noLink = 1;
+
+constexpr int scanPolls = 10;
+constexpr std::chrono::milliseconds scanInterval{1000};
+constexpr int scanFinished = 2;
+// The first network found (counted from 1) whose block is then read.
+constexpr std::pair<int, int> scanBlocks[] = {{1, 0x3121}, {6, 0x3122}, {11, 0x3123}, {16, 0x3124}};
+
+using Entry = std::pair<QString, std::optional<SettingValue>>;
+
+// A category in its order of building; it ends before the first key whose value is missing.
+CategoryDictionary category(std::initializer_list<Entry> entries) {
+    CategoryDictionary values;
+    for (const auto &[key, value] : entries) {
+        if (!value) break;
+        values.insert(key, *value);
+    }
+    return values;
+}
+
+// The value of `key` in a decoded address item.
+Entry from(const CategoryDictionary &item, const QString &key) {
+    const auto found = item.constFind(key);
+    return {key, found == item.constEnd() ? std::nullopt : std::optional(*found)};
+}
+
+// A decoder's value, from a reply that may be missing.
+template <typename Value>
+std::optional<Value> decoded(const QByteArray &reply, int code,
+                             std::optional<Value> (*decoder)(const QByteArray &, quint16)) {
+    if (reply.isEmpty()) return {};
+    return decoder(reply, static_cast<quint16>(code));
+}
+
+}  // namespace
+
+int DWTDataManager::setupDataFromPrinter(int) {
+    resultSettingRequest_BOOL = true;
+    dictionary_SaveData.reset();
+    mutableDictionary_ChangeData.reset();
+    if (!ncc_Object) return noLink;
+    const int connected = ncc_Object->connectPrinter(0);
+    if (connected == 0) {
+        SettingRecord record;
+        record.insert(DWT_View_Key_Network, NDM_NetworkDataFromPrinter());
+        record.insert(DWT_View_Key_Wireless, NDM_WirelessDataFromPrinter());
+        record.insert(DWT_View_Key_Infrastructure, NDM_InfrastructureDataFromPrinter());
+        record.insert(DWT_View_Key_SimpleAP, NDM_SimpleAPDataFromPrinter());
+        record.insert(DWT_View_Key_Ethernet, NDM_EthernetDataFromPrinter());
+        record.insert(DWT_View_Key_Password, NDM_PasswordDataFromPrinter());
+        record.insert(DWT_View_Key_Firmware, NDM_FirmwareDataFromPrinter());
+        dictionary_SaveData = record;
+        ncc_Object->disconnectPrinter(0);
+    }
+    mutableDictionary_ChangeData = dictionary_SaveData.value_or(SettingRecord());
+    if (connected != 0) return connected;
+    return resultSettingRequest_BOOL ? 0 : missingReply;
+}
+
+std::optional<QList<SSIDEntry>> DWTDataManager::SSIDList() {
+    if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) return {};
+    const auto networks = NDM_DataToSSIDArray();
+    ncc_Object->disconnectPrinter(0);
+    return networks.value_or(QList<SSIDEntry>());
+}
+
+QByteArray DWTDataManager::NDM_SendCommandSettingRequest(int code) {
+    const QByteArray frame = Frames::requestFrame(static_cast<quint16>(code));
+    QByteArray reply;
+    if (ncc_Object) reply = ncc_Object->selectPrinterInfomation(frame).value_or(QByteArray());
+    if (reply.isEmpty()) resultSettingRequest_BOOL = false;
+    return reply;
+}
+
+QString DWTDataManager::NDM_DataToString(int code) {
+    if (!resultSettingRequest_BOOL) return unreadable;
+    return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::text).value_or(unreadable);
+}
+
+int DWTDataManager::NDM_DataToInteger(int code) {
+    if (!resultSettingRequest_BOOL) return 0;
+    return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::integer).value_or(0);
+}
+
+QString DWTDataManager::NDM_DataToStringAndLength(int code) {
+    if (!resultSettingRequest_BOOL) return unreadable;
+    return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::textWithLength)
+        .value_or(unreadable);
+}
+
+QString DWTDataManager::NDM_DataToMacAddress(int code) {
+    if (!resultSettingRequest_BOOL) return unreadable;
+    return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::macAddress)
+        .value_or(unreadable);
+}
+
+QString DWTDataManager::NDM_DataToSoftwareVersion(int code) {
+    if (!resultSettingRequest_BOOL) return unreadable;
+    return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::softwareVersion)
+        .value_or(unreadable);
+}
+
+std::optional<CategoryDictionary> DWTDataManager::NDM_DataToArray(int code) {
+    if (!resultSettingRequest_BOOL) return {};
+    return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::addresses);
+}
+
+std::optional<CategoryDictionary> DWTDataManager::NDM_DataToIntegerAndArray(int code) {
+    if (!resultSettingRequest_BOOL) return {};
+    return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::integerAndAddresses);
+}
+
+std::optional<QList<SSIDEntry>> DWTDataManager::NDM_SSIDInfo(int code) {
+    return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::networks);
+}
+
+CategoryDictionary DWTDataManager::NDM_NetworkDataFromPrinter() {
+    const QString printer = NDM_DataToString(0x1006);
+    const QString bonjour = NDM_DataToString(0x1004);
+    const QString service = NDM_DataToString(0x1005);
+    networkData_Dictionary = category({{DWT_SaveData_Network_Printer, printer},
+                                       {DWT_SaveData_Network_Bonjour, bonjour},
+                                       {DWT_SaveData_Network_BonjourService, service}});
+    return networkData_Dictionary;
+}
+
+CategoryDictionary DWTDataManager::NDM_WirelessDataFromPrinter() {
+    const int mode = NDM_DataToInteger(0x3000);
+    const QString infrastructure = NDM_DataToMacAddress(0x3100);
+    const QString simpleAP = NDM_DataToMacAddress(0x3200);
+    wirelessData_Dictionary =
+        category({{DWT_SaveData_Wireless_CommunicateMode, mode},
+                  {DWT_SaveData_Wireless_InfrastructureMACAddress, infrastructure},
+                  {DWT_SaveData_Wireless_SampleAPMACAddress, simpleAP}});
+    return wirelessData_Dictionary;
+}
+
+CategoryDictionary DWTDataManager::NDM_InfrastructureDataFromPrinter() {
+    infrastructureAddressInfo_Dictionary =
+        NDM_DataToIntegerAndArray(0x3108).value_or(CategoryDictionary());
+    infrastructureConnectAddressInfo_Dictionary =
+        NDM_DataToArray(0x3119).value_or(CategoryDictionary());
+    const int mode = NDM_DataToInteger(0x3101);
+    const int authentic = NDM_DataToInteger(0x3102);
+    const int encryption = NDM_DataToInteger(0x3103);
+    const QString ssid = NDM_DataToStringAndLength(0x3104);
+    const CategoryDictionary &configured = infrastructureAddressInfo_Dictionary;
+    const CategoryDictionary &inUse = infrastructureConnectAddressInfo_Dictionary;
+    infrastructureData_Dictionary =
+        category({from(configured, DWT_SaveData_Infrastructure_IPAddressSetting),
+                  from(configured, DWT_SaveData_Infrastructure_IPAddress),
+                  from(configured, DWT_SaveData_Infrastructure_Subnetmask),
+                  from(configured, DWT_SaveData_Infrastructure_Gateway),
+                  from(inUse, DWT_SaveData_Connect_IPAddress),
+                  from(inUse, DWT_SaveData_Connect_Subnetmask),
+                  from(inUse, DWT_SaveData_Connect_Gateway),
+                  {DWT_SaveData_Infrastructure_WirelessMode, mode},
+                  {DWT_SaveData_Infrastructure_Authentic, authentic},
+                  {DWT_SaveData_Infrastructure_Encryption, encryption},
+                  {DWT_SaveData_Infrastructure_SSID, ssid},
+                  // The printer never tells its keys, nor how its network was chosen.
+                  {DWT_SaveData_Infrastructure_SSIDList_SSID, QString()},
+                  {DWT_SaveData_Infrastructure_WEPKey, QString()},
+                  {DWT_SaveData_Infrastructure_WEPKeyIndex, 1},
+                  {DWT_SaveData_Infrastructure_PSK, QString()}});
+    return infrastructureData_Dictionary;
+}
+
+CategoryDictionary DWTDataManager::NDM_SimpleAPDataFromPrinter() {
+    simpleAPAddressData_Dictionary = NDM_DataToArray(0x3204).value_or(CategoryDictionary());
+    simpleAPStartAddressData_Dictionary = NDM_DataToArray(0x3205).value_or(CategoryDictionary());
+    const int mode = NDM_DataToInteger(0x3210);
+    const int authentic = NDM_DataToInteger(0x3211);
+    const int encryption = NDM_DataToInteger(0x3212);
+    const QString ssid = NDM_DataToStringAndLength(0x3201);
+    const QString psk = NDM_DataToStringAndLength(0x3202);
+    simpleAPData_Dictionary =
+        category({{DWT_SaveData_SimpleAP_WirelessMode, mode},
+                  from(simpleAPStartAddressData_Dictionary, DWT_SaveData_SimpleAP_StartIPAddress),
+                  from(simpleAPAddressData_Dictionary, DWT_SaveData_SimpleAP_IPAddress),
+                  from(simpleAPAddressData_Dictionary, DWT_SaveData_SimpleAP_Subnetmask),
+                  {DWT_SaveData_SimpleAP_Authentic, authentic},
+                  {DWT_SaveData_SimpleAP_Encryption, encryption},
+                  {DWT_SaveData_SimpleAP_SSID, ssid},
+                  {DWT_SaveData_SimpleAP_PSK, psk}});
+    return simpleAPData_Dictionary;
+}
+
+CategoryDictionary DWTDataManager::NDM_EthernetDataFromPrinter() {
+    ethernetAddressInfo_Dictionary =
+        NDM_DataToIntegerAndArray(0x2001).value_or(CategoryDictionary());
+    ethernetConnectAddressInfo_Dictionary = NDM_DataToArray(0x2002).value_or(CategoryDictionary());
+    const QString mac = NDM_DataToMacAddress(0x2000);
+    const CategoryDictionary &configured = ethernetAddressInfo_Dictionary;
+    const CategoryDictionary &inUse = ethernetConnectAddressInfo_Dictionary;
+    ethernetData_Dictionary = category({{DWT_SaveData_Ethernet_MACAddress, mac},
+                                        from(configured, DWT_SaveData_Ethernet_IPAddressSetting),
+                                        from(configured, DWT_SaveData_Ethernet_IPAddress),
+                                        from(configured, DWT_SaveData_Ethernet_Subnetmask),
+                                        from(configured, DWT_SaveData_Ethernet_Gateway),
+                                        from(inUse, DWT_SaveData_Connect_IPAddress),
+                                        from(inUse, DWT_SaveData_Connect_Subnetmask),
+                                        from(inUse, DWT_SaveData_Connect_Gateway)});
+    return ethernetData_Dictionary;
+}
+
+CategoryDictionary DWTDataManager::NDM_PasswordDataFromPrinter() {
+    passwordData_Dictionary =
+        category({{DWT_SaveData_Password_Change, 0}, {DWT_SaveData_Password_Password, QString()}});
+    return passwordData_Dictionary;
+}
+
+CategoryDictionary DWTDataManager::NDM_FirmwareDataFromPrinter() {
+    const QString version = NDM_DataToSoftwareVersion(0x1008);
+    const int timeout = NDM_DataToInteger(0x1007);
+    firmwareData_Dictionary =
+        category({{DWT_SaveData_Firmware, version}, {DWT_SaveData_Firmware_Timeout, timeout}});
+    return firmwareData_Dictionary;
+}
+
+// Nothing when no poll had a well-formed answer.
+std::optional<QList<SSIDEntry>> DWTDataManager::NDM_DataToSSIDArray() {
+    NDM_IntegerToData(0x3120, 1);  // starts the search; whether it says so does not matter
+    std::optional<QList<SSIDEntry>> networks;
+    std::optional<ItemCodec::ScanStatus> status;
+    for (int poll = 0; poll < scanPolls; ++poll) {
+        status = ItemCodec::scanStatus(NDM_SendCommandSettingRequest(0x3120));
+        if (status) networks = QList<SSIDEntry>();
+        if (status && status->state == scanFinished) break;
+        waitFor(scanInterval);
+    }
+    if (!status || status->state != scanFinished) return networks;
+    for (const auto &[first, code] : scanBlocks)
+        if (status->count >= first) *networks += NDM_SSIDInfo(code).value_or(QList<SSIDEntry>());
+    return networks;
+}

@@ -1,0 +1,44 @@
+#include "settings/SettingRecord.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+template <typename T>
+T valueOf(const CategoryDictionary &category, const QString &key) {
+    const auto found = category.constFind(key);
+    if (found == category.constEnd()) return {};
+    const T *value = std::get_if<T>(&*found);
+    return value ? *value : T{};
+}
+
+}  // namespace
+
+QString textValue(const CategoryDictionary &category, const QString &key) {
+    return valueOf<QString>(category, key);
+}
+
+int integerValue(const CategoryDictionary &category, const QString &key) {
+    return valueOf<int>(category, key);
+}
+
+QStringList addressValue(const CategoryDictionary &category, const QString &key) {
+    return valueOf<QStringList>(category, key);
+}
+
+QByteArray bytesValue(const CategoryDictionary &category, const QString &key) {
+    return valueOf<QByteArray>(category, key);
+}
+
+int integerOf(const QString &text) {
+    constexpr qint64 lowest = std::numeric_limits<int>::min();
+    constexpr qint64 highest = std::numeric_limits<int>::max();
+    auto at = std::find_if(text.begin(), text.end(), [](QChar c) { return c != u' '; });
+    const bool negative = at != text.end() && *at == u'-';
+    if (negative || (at != text.end() && *at == u'+')) ++at;
+    qint64 value = 0;
+    for (; at != text.end() && *at >= u'0' && *at <= u'9'; ++at)
+        value = std::min(highest + 1, value * 10 + (at->unicode() - u'0'));
+    return static_cast<int>(std::clamp(negative ? -value : value, lowest, highest));
+}

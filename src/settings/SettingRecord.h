@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <variant>
+
+// The setting record of a printer.
+
+// Text; integer; address (four texts, one decimal octet each); raw bytes. Two values are equal when
+// kind and value are.
+using SettingValue = std::variant<QString, int, QStringList, QByteArray>;
+// Save-data key -> value.
+using CategoryDictionary = QMap<QString, SettingValue>;
+// View key -> category.
+using SettingRecord = QMap<QString, CategoryDictionary>;
+
+// The value of `key` when it is there and of that kind, otherwise a default: an empty text, 0, an
+// address without octets, no bytes.
+QString textValue(const CategoryDictionary &category, const QString &key);
+int integerValue(const CategoryDictionary &category, const QString &key);
+QStringList addressValue(const CategoryDictionary &category, const QString &key);
+QByteArray bytesValue(const CategoryDictionary &category, const QString &key);
+
+// The integer that a typed text stands for: optional leading spaces and sign, then the leading
+// decimal digits; 0 when there are none, and the nearest int when it would not fit.
+int integerOf(const QString &text);
