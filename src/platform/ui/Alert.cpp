@@ -1,15 +1,16 @@
 #include "platform/ui/Alert.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
 void Alert::runModal(QWidget *parent) const {
     QMessageBox box(parent ? parent : QApplication::activeWindow());
     box.setIcon(m_style == Style::Critical ? QMessageBox::Critical : QMessageBox::Warning);
-    box.setTextFormat(Qt::PlainText);
     box.setText(m_messageText);
     box.setInformativeText(m_informativeText);
+    for (QLabel *label : box.findChildren<QLabel *>()) label->setTextFormat(Qt::PlainText);
     QPushButton *const button = box.addButton(m_buttonTitle, QMessageBox::AcceptRole);
     box.setDefaultButton(button);
     box.setEscapeButton(button);

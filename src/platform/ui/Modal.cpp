@@ -32,6 +32,7 @@ int Modal::run(QWidget *window) {
     Run current;
     runs().push_back(&current);
     const QPointer<QWidget> shown(window);
+    QObject::connect(window, &QObject::destroyed, &current.loop, &QEventLoop::quit);
     window->hide();  // modality changes only while a window is hidden
     window->setWindowModality(Qt::ApplicationModal);
     window->show();

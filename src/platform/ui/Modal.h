@@ -11,7 +11,7 @@ inline constexpr int stoppedOutcome = -1000;
 // Shows `window` application-modally and runs until stop() ends this run. The outcome is delivered
 // when the action that stopped it has finished; a run started inside that action, also of the same
 // window, ends first. Who stops a run also hides its window; a run that ends with the application
-// hides it itself.
+// hides it itself, and one whose window is destroyed ends.
 int run(QWidget *window);
 
 // Ends the innermost run that has not been stopped; does nothing when there is none.

@@ -2,8 +2,10 @@
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QToolTip>
 
 // The data source as Qt's model sees it.
 class TableModel : public QAbstractTableModel {
@@ -21,8 +23,7 @@ class TableModel : public QAbstractTableModel {
         return parent.isValid() ? 0 : static_cast<int>(identifiers.size());
     }
     QVariant data(const QModelIndex &index, int role) const override {
-        const bool shows = role == Qt::DisplayRole || role == Qt::ToolTipRole;
-        if (!shows || !source || !index.isValid()) return {};
+        if (role != Qt::DisplayRole || !source || !index.isValid()) return {};
         return source->objectValueForTableColumn(m_table, identifiers[index.column()], index.row());
     }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
@@ -124,6 +125,18 @@ void TableView::keyPressEvent(QKeyEvent *event) {
     if (!enter || selectedRow() < 0) return QTableView::keyPressEvent(event);
     event->accept();
     Q_EMIT doubleAction(selectedRow());
+}
+
+// A text that its column cuts is shown whole, as plain text.
+bool TableView::viewportEvent(QEvent *event) {
+    if (event->type() != QEvent::ToolTip) return QTableView::viewportEvent(event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const QModelIndex index = indexAt(help->pos());
+    const bool cut =
+        index.isValid() && sizeHintForIndex(index).width() > columnWidth(index.column());
+    QToolTip::showText(help->globalPos(), cut ? index.data().toString().toHtmlEscaped() : QString(),
+                       viewport());
+    return true;
 }
 
 QItemSelectionModel::SelectionFlags TableView::selectionCommand(const QModelIndex &index,

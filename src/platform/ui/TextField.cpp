@@ -45,9 +45,15 @@ void TextField::focusOutEvent(QFocusEvent *event) {
 }
 
 void TextField::keyPressEvent(QKeyEvent *event) {
-    const QPointer<TextField> alive(this);
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) endEditing();
-    if (alive) QLineEdit::keyPressEvent(event);  // leaves Return to the default button
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && !endEditing()) return;
+    QLineEdit::keyPressEvent(event);  // leaves Return to the default button
+}
+
+// A window that is hidden keeps its focus; the next showing begins anew all the same.
+void TextField::hideEvent(QHideEvent *event) {
+    QLineEdit::hideEvent(event);
+    if (!event->spontaneous()) m_editing = false;
 }
 
 void TextField::userChangedText() {
@@ -75,9 +81,11 @@ bool TextField::beginEditing() {
     return true;
 }
 
-void TextField::endEditing() {
+// False when the end is refused, or the field went away.
+bool TextField::endEditing() {
     const QPointer<TextField> alive(this);
     m_editing = false;
-    if (m_delegate && !m_delegate->textShouldEndEditing(this) && alive)
-        setFocus(Qt::OtherFocusReason);
+    const bool ends = !m_delegate || m_delegate->textShouldEndEditing(this);
+    if (alive && !ends) setFocus(Qt::OtherFocusReason);
+    return alive && ends;
 }

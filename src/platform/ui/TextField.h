@@ -4,7 +4,7 @@
 
 class TextField;
 
-// Asked and told about the editing of text fields.
+// Asked and told about the editing of text fields. None of its calls may delete the field.
 class TextFieldDelegate {
   public:
     virtual ~TextFieldDelegate() = default;
@@ -43,11 +43,12 @@ class TextField : public QLineEdit {
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
   private:
     void userChangedText();
     bool beginEditing();
-    void endEditing();
+    bool endEditing();
 
     TextFieldDelegate *m_delegate = nullptr;
     QString m_previous;  // the text before the change that is being made

@@ -39,8 +39,9 @@ WaitSheet::~WaitSheet() {
         m_indicator->setRange(0, 1);
         m_indicator->reset();
     }
+    const bool active = m_sheet && m_sheet->isActiveWindow();
     if (m_sheet) m_sheet->hide();
-    if (!m_focus) return;
+    if (!m_focus || !active) return;  // another window was opened meanwhile
     m_focus->activateWindow();
     m_focus->setFocus(Qt::OtherFocusReason);
 }

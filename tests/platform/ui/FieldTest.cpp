@@ -94,6 +94,13 @@ TEST_F(Fields, EditingBeginsOnceAndEndsWithTheFocusOrReturn) {
     EXPECT_EQ(take(), QStringLiteral("begin:oldab change:oldabc"));
     other->setFocus(Qt::PopupFocusReason);
     EXPECT_EQ(take(), QString()) << "a menu ended editing";
+    window.hide();
+    window.show();
+    field->setFocus();
+    take();
+    QTest::keyClicks(field, QStringLiteral("d"));
+    EXPECT_EQ(take(), QStringLiteral("begin:oldabc change:oldabcd"))
+        << "hiding did not end editing";
 }
 
 TEST_F(Fields, TextFromCodeReportsNothingAndChangesArePosted) {
