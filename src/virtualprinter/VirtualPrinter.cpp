@@ -19,6 +19,7 @@ constexpr quint16 scan = 0x3120;
 constexpr quint16 firstBlock = 0x3121;
 constexpr quint16 lastBlock = 0x3124;
 
+constexpr qsizetype longestLog = 10000;
 constexpr qsizetype longestPassword = 8;
 constexpr qsizetype networksPerBlock = 5;
 constexpr qsizetype ssidField = 32;
@@ -103,7 +104,7 @@ Faults VirtualPrinter::faults() const {
 
 void VirtualPrinter::handle(Channel &channel, const FrameParser::Frame &frame,
                             QList<Reply> &replies) {
-    m_log.append({LoggedFrame::Received, frame.bytes});
+    note(LoggedFrame::Received, frame.bytes);
     ++channel.m_frames;
     if (frame.command != 0) {
         handleCommand(channel, frame, replies);
@@ -206,8 +207,13 @@ void VirtualPrinter::reply(char kind, quint16 code, const QByteArray &payload,
     const ItemFault fault = m_profile.faults.items.value(code);
     if (fault.noReply) return;
     const QByteArray bytes = spoil(replyFrame(kind, code, payload), fault);
-    m_log.append({LoggedFrame::Sent, bytes});
+    note(LoggedFrame::Sent, bytes);
     if (!bytes.isEmpty()) replies.append({bytes, m_profile.faults.delay + fault.delay});
+}
+
+void VirtualPrinter::note(LoggedFrame::Direction direction, const QByteArray &bytes) {
+    if (m_log.size() == longestLog) m_log.removeFirst();
+    m_log.append({direction, bytes});
 }
 
 // The addresses in use of an interface: the configured ones, or those it gets by itself.

@@ -71,7 +71,7 @@ class VirtualPrinter {
     QByteArray item(quint16 code) const;
     QByteArray password() const;
 
-    // Every frame received and sent since the last clearLog(), in order.
+    // The frames received and sent since the last clearLog(), in order: the last 10,000 of them.
     QList<LoggedFrame> log() const;
     void clearLog();
 
@@ -89,6 +89,7 @@ class VirtualPrinter {
     int writePassword(Channel &channel, quint16 code, const QByteArray &payload);
     void apply(Channel &channel);
     void reply(char kind, quint16 code, const QByteArray &payload, QList<Reply> &replies);
+    void note(LoggedFrame::Direction direction, const QByteArray &bytes);
     void followAddress(quint16 configured, quint16 inUse, const QByteArray &automatic);
 
     mutable std::mutex m_mutex;

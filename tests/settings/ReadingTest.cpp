@@ -53,8 +53,7 @@ TEST_P(Reading, FillsBothRecordsInTheOrderOfTheWire) {
     ServedManager m(profile, GetParam());
     EXPECT_EQ(m.manager->setupDataToMainView(DWT_View_Key_Network), std::nullopt);
     ASSERT_EQ(m.manager->setupDataFromPrinter(0), 0);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return m.printer().log().last().bytes.endsWith("U}"); }));
-    EXPECT_EQ(m.received(), fullRead);
+    EXPECT_EQ(m.served.receivedUntilEnd(), fullRead);
 
     const SettingRecord expected{
         {DWT_View_Key_Network,
@@ -122,7 +121,7 @@ TEST_P(Reading, AMissingReplyEndsTheTrafficAndGivesSix) {
     ServedManager m(profile, GetParam());
     m.setFaults(R"({"items": {"0x3000": {"noReply": true}}})");
     EXPECT_EQ(m.manager->setupDataFromPrinter(0), 6);
-    EXPECT_EQ(m.received(), QStringLiteral("start ?1006 ?1004 ?1005 ?3000"));
+    EXPECT_EQ(m.served.received(), QStringLiteral("start ?1006 ?1004 ?1005 ?3000"));
     EXPECT_EQ(textValue(*m.manager->setupDataToMainView(DWT_View_Key_Network),
                         DWT_SaveData_Network_Printer),
               text("Desk"));
@@ -207,8 +206,8 @@ TEST_P(Reading, AScanReadsAsManyBlocksAsNetworksWereFound) {
         EXPECT_EQ(list->size(), c.listed);
         for (qsizetype i = 0; i < list->size(); ++i)
             EXPECT_EQ(bytesValue(list->at(i), DWT_SSIDList_SSID), "N" + QByteArray::number(i));
-        EXPECT_TRUE(
-            m.received().startsWith(QLatin1String("start =3120 ?3120") + QLatin1String(c.blocks)));
+        EXPECT_TRUE(m.served.received().startsWith(QLatin1String("start =3120 ?3120") +
+                                                   QLatin1String(c.blocks)));
     }
 }
 
@@ -225,9 +224,9 @@ TEST(Scan, PollsEverySecondAndGivesUpAfterTen) {
     clock.start();
     EXPECT_EQ(endless.manager->SSIDList(), QList<SSIDEntry>());
     EXPECT_GE(clock.elapsed(), 9990);
-    EXPECT_EQ(endless.received(), QStringLiteral("start =3120") +
-                                      QStringLiteral(" ?3120").repeated(10) +
-                                      QStringLiteral(" update end"));
+    EXPECT_EQ(endless.served.received(), QStringLiteral("start =3120") +
+                                             QStringLiteral(" ?3120").repeated(10) +
+                                             QStringLiteral(" update end"));
 }
 
 }  // namespace

@@ -21,8 +21,7 @@ class Send : public testing::TestWithParam<Transport> {
         m.reset();  // before the next one is installed in its place
         m = std::make_unique<ServedManager>(profile, GetParam());
         ASSERT_EQ(m->manager->setupDataFromPrinter(0), 0);
-        waitForFrames();
-        m->received();
+        m->served.receivedUntilEnd();
         for (const QString &name :
              {DWT_DataSend_Start_Message, DWT_DataSend_Progress_Message, DWT_DataSend_Stop_Message})
             observers.push_back(NotificationCenter::shared().observe(
@@ -50,15 +49,7 @@ class Send : public testing::TestWithParam<Transport> {
     // Sends; what the printer received.
     QString send() {
         sendUntilStop();
-        waitForFrames();
-        return m->received();
-    }
-    // Over a socket the last frames may still be on their way.
-    void waitForFrames() {
-        EXPECT_TRUE(QTest::qWaitFor([this] {
-            const auto log = m->printer().log();
-            return !log.isEmpty() && log.last().bytes == hex("1b7b045500557d");
-        }));
+        return m->served.receivedUntilEnd();
     }
     SettingValue saved(const QString &viewKey, const QString &key) {
         return m->manager->setupDataToMainView(viewKey)->value(key);
@@ -179,8 +170,7 @@ TEST_P(Send, LogsInOnceWithTheRememberedPassword) {
     EXPECT_EQ(m->manager->checkLoginPassword(text("")), 1) << "an empty password goes nowhere";
     EXPECT_EQ(m->manager->checkLoginPassword(text("abc")), 4);
     m->manager->disconnectPrinter();
-    waitForFrames();
-    m->received();
+    m->served.receivedUntilEnd();
     EXPECT_TRUE(send().startsWith(text("start =1001 =1004")));
     change(DWT_View_Key_Firmware, {{DWT_SaveData_Firmware_Timeout, 45}});
     EXPECT_TRUE(send().startsWith(text("start =1004"))) << "the password was used twice";
@@ -192,8 +182,7 @@ TEST_P(Send, ARefusedLoginWritesNothing) {
     m->manager->connectPrinter();
     ASSERT_EQ(m->manager->checkLoginPassword(text("abc")), 4);
     m->manager->disconnectPrinter();
-    waitForFrames();
-    m->received();
+    m->served.receivedUntilEnd();
     m->setFaults(R"({"items": {"0x1001": {"result": 2}}})");
     change(DWT_View_Key_Firmware, {{DWT_SaveData_Firmware_Timeout, 45}});
     EXPECT_EQ(send(), text("start =1001 update end"));
@@ -218,8 +207,8 @@ TEST_P(Send, OutlivesItsOwnerAndFinishesWhenTheApplicationEnds) {
     m->manager.reset();
     MainThread::finishBackgroundWork();
     EXPECT_TRUE(manager.expired());
-    waitForFrames();
-    EXPECT_TRUE(m->received().endsWith(text("=1007 update end"))) << "the end was lost";
+    EXPECT_TRUE(m->served.receivedUntilEnd().endsWith(text("=1007 update end")))
+        << "the end was lost";
     EXPECT_EQ(m->printer().item(0x1007), hex("2d00"));
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QByteArray>
+#include <QTest>
+#include <algorithm>
 #include <memory>
 
 #include "support/PrinterServerThread.h"
@@ -36,9 +38,42 @@ class OnePrinterLibrary {
     std::shared_ptr<CatalogueLibrary> library() const { return m_library; }
     VirtualPrinter &printer() const { return *m_printer; }
     const QString &uri() const { return m_uri; }
+
+    // What the printer received since the last call, as text: "start", "update", "end", "?1006" for
+    // a request, "=1006" for a setting frame.
+    QString received() {
+        QStringList names;
+        for (const auto &frame : m_printer->log()) {
+            if (frame.direction != VirtualPrinter::LoggedFrame::Received) continue;
+            const QByteArray &b = frame.bytes;
+            if (b[0] == 'C')
+                names << u'=' + code(b.mid(6, 2));
+            else if (b[3] == 'f')
+                names << u'?' + code(b.mid(4, 2));
+            else if (b[3] == 'w')
+                names << QStringLiteral("update");
+            else
+                names << (b[4] == 1 ? QStringLiteral("start") : QStringLiteral("end"));
+        }
+        m_printer->clearLog();
+        return names.join(u' ');
+    }
+    // The same, once the transaction has ended: over a socket its last frames may be on their way.
+    QString receivedUntilEnd() {
+        EXPECT_TRUE(QTest::qWaitFor([this] {
+            const auto log = m_printer->log();
+            return !log.isEmpty() && log.last().bytes == hex("1b7b045500557d");
+        }));
+        return received();
+    }
     const PrinterEntry &entry() const { return m_entry; }
 
   private:
+    static QString code(QByteArray bytes) {
+        std::reverse(bytes.begin(), bytes.end());
+        return QString::fromLatin1(bytes.toHex());
+    }
+
     std::shared_ptr<VirtualPrinter> m_printer;
     std::unique_ptr<PrinterServerThread> m_server;
     QString m_uri;

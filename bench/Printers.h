@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QJsonDocument>
+#include <memory>
+
+#include "link/Binding.h"
+#include "support/PrinterServerThread.h"
+#include "virtualprinter/VirtualPrinter.h"
+#include "zmlib/CatalogueLibrary.h"
+
+// A virtual printer with every default, installed as the library's only one: inside the process, or
+// served over loopback on a thread of its own.
+class BenchPrinter {
+  public:
+    explicit BenchPrinter(bool tcp)
+        : printer(std::make_shared<VirtualPrinter>(*profileFromJson({}).profile)) {
+        Catalogue catalogue;
+        QString uri = QStringLiteral("virtual://bench");
+        if (tcp) {
+            m_server = std::make_unique<PrinterServerThread>(printer);
+            uri = m_server->uri();
+        } else {
+            catalogue.virtualPrinters.insert(uri, printer);
+        }
+        entry = {{QStringLiteral("DeviceURI"), uri},
+                 {QStringLiteral("ConnectionType"), QStringLiteral("USB")},
+                 {QStringLiteral("ProductName"), QStringLiteral("Larkfield L200")}};
+        catalogue.entries = {entry};
+        installLibrary(std::make_shared<CatalogueLibrary>(std::move(catalogue)));
+    }
+    ~BenchPrinter() { installLibrary(nullptr); }
+
+    const std::shared_ptr<VirtualPrinter> printer;
+    PrinterEntry entry;
+
+  private:
+    std::unique_ptr<PrinterServerThread> m_server;
+};
+
+// Resident memory of the process in KiB.
+double residentKiB();
