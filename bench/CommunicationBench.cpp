@@ -1,4 +1,7 @@
 #include <benchmark/benchmark.h>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
@@ -7,7 +10,9 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QThread>
+#include <array>
 #include <future>
+#include <thread>
 
 #include "Printers.h"
 #include "link/DWTCommunicationControl.h"
@@ -43,6 +48,37 @@ void request(benchmark::State &state, bool tcp) {
 }
 BENCHMARK_CAPTURE(request, in_process, false)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(request, loopback_tcp, true)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+// What the machine itself takes for 8 bytes there and 24 back between two threads with blocking
+// sockets: nothing over loopback can be faster.
+void loopbackFloor(benchmark::State &state) {
+    const int listener = ::socket(AF_INET, SOCK_STREAM, 0);
+    sockaddr_in name{};
+    name.sin_family = AF_INET;
+    name.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    auto *const address = reinterpret_cast<sockaddr *>(&name);
+    socklen_t size = sizeof name;
+    const bool listening = ::bind(listener, address, size) == 0 && ::listen(listener, 1) == 0 &&
+                           ::getsockname(listener, address, &size) == 0;
+    const int near = ::socket(AF_INET, SOCK_STREAM, 0);
+    if (!listening || ::connect(near, address, size) != 0) qFatal("no loopback");
+    std::array<char, 24> bytes{};
+    std::thread peer([far = ::accept(listener, nullptr, nullptr)] {
+        std::array<char, 24> echo{};
+        while (::recv(far, echo.data(), 8, MSG_WAITALL) == 8) ::send(far, echo.data(), 24, 0);
+        ::close(far);
+    });
+    const int on = 1;
+    ::setsockopt(near, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+    for (auto _ : state) {
+        ::send(near, bytes.data(), 8, 0);
+        ::recv(near, bytes.data(), 24, MSG_WAITALL);
+    }
+    ::close(near);
+    peer.join();
+    ::close(listener);
+}
+BENCHMARK(loopbackFloor)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
 // A peer that answers every request with a reply of 512 bytes.
 class LongReplyPeer {

@@ -20,6 +20,10 @@
 
 namespace {
 
+// How long an answer is looked for before the thread sleeps: a printer on the same machine answers
+// sooner than a sleeping thread is woken.
+constexpr std::chrono::microseconds nearAnswer{100};
+
 // Sockets are used directly, since a wait has to be interrupted every few milliseconds on whatever
 // thread it runs, and a QTcpSocket gives up a connection whose wait is interrupted.
 class Socket {
@@ -43,7 +47,6 @@ class Socket {
             pollfd entry{m_fd, events, 0};
             ready = ::poll(&entry, 1, static_cast<int>(slice.count())) > 0;
         };
-        poll(std::chrono::milliseconds(0));
         return waitUntil([&] { return ready; }, deadline, poll);
     }
 
@@ -76,21 +79,35 @@ class TcpTransport : public Transport {
     }
 
     Outcome read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) override {
-        std::array<char, 512> buffer;
-        const auto size = std::min(static_cast<size_t>(limit), buffer.size());
-        for (;;) {
-            if (!m_socket.waitFor(POLLIN, deadline)) return Outcome::TimedOut;
-            const ssize_t n = ::recv(m_socket.fd(), buffer.data(), size, 0);
-            if (n > 0) {
-                bytes.append(buffer.data(), n);
-                return Outcome::Done;
-            }
-            if (n == 0) return Outcome::Closed;
-            if (errno != EAGAIN && errno != EWOULDBLOCK && errno != EINTR) return Outcome::Closed;
+        if (m_received.isEmpty()) {
+            if (const Outcome outcome = receive(deadline); outcome != Outcome::Done) return outcome;
         }
+        const qsizetype taken = std::min(limit, m_received.size());
+        bytes.append(m_received.constData(), taken);
+        m_received.remove(0, taken);
+        return Outcome::Done;
     }
 
   private:
+    // Waits for bytes and takes what has come, so that one call serves a whole reply.
+    Outcome receive(const QDeadlineTimer &deadline) {
+        std::array<char, 512> buffer;
+        const QDeadlineTimer awake(nearAnswer, Qt::PreciseTimer);
+        for (;;) {
+            const ssize_t n = ::recv(m_socket.fd(), buffer.data(), buffer.size(), 0);
+            if (n > 0) {
+                m_received.append(buffer.data(), n);
+                return Outcome::Done;
+            }
+            if (n == 0) return Outcome::Closed;
+            if (errno == EINTR) continue;
+            if (errno != EAGAIN && errno != EWOULDBLOCK) return Outcome::Closed;
+            if (!awake.hasExpired()) continue;
+            if (!m_socket.waitFor(POLLIN, deadline)) return Outcome::TimedOut;
+        }
+    }
+
+    QByteArray m_received;
     Socket m_socket;
 };
 

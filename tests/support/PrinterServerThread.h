@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QEventLoop>
-#include <QThread>
 #include <future>
 #include <memory>
+#include <thread>
 
 #include "virtualprinter/VirtualPrinterServer.h"
 
@@ -11,25 +11,26 @@
 class PrinterServerThread {
   public:
     explicit PrinterServerThread(const std::shared_ptr<VirtualPrinter> &printer) {
-        std::promise<quint16> listening;
-        auto port = listening.get_future();
-        m_thread.reset(QThread::create([printer, &listening] {
+        std::promise<void> listening;
+        m_thread = std::thread([this, printer, &listening] {
             VirtualPrinterServer server(printer);
             QEventLoop loop;
-            const bool ok = server.listen(QHostAddress::LocalHost, 0);
-            listening.set_value(ok ? server.port() : quint16{0});
+            if (server.listen(QHostAddress::LocalHost, 0)) m_port = server.port();
+            m_loop = &loop;
+            listening.set_value();
             loop.exec();
-        }));
-        m_thread->start();
-        m_port = port.get();
+        });
+        listening.get_future().wait();
     }
     ~PrinterServerThread() {
-        while (!m_thread->wait(10)) m_thread->quit();
+        QMetaObject::invokeMethod(m_loop, &QEventLoop::quit, Qt::QueuedConnection);
+        m_thread.join();
     }
 
     QString uri() const { return QStringLiteral("tcp://127.0.0.1:%1").arg(m_port); }
 
   private:
-    std::unique_ptr<QThread> m_thread;
+    std::thread m_thread;
+    QEventLoop *m_loop = nullptr;
     quint16 m_port = 0;
 };

@@ -1,6 +1,7 @@
 #include "platform/core/Waiting.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QObject>
 #include <algorithm>
@@ -54,10 +55,20 @@ class InputFilter : public QObject {
     }
 };
 
+// When the main thread idled last; used by it alone.
+QElapsedTimer lastIdle;
+
+// Many short waits after each other must not freeze the windows either.
+bool idleIsDue() {
+    return MainThread::isCurrent() &&
+           (!lastIdle.isValid() || lastIdle.elapsed() >= waitSlice.count());
+}
+
 }  // namespace
 
 void idle() {
     if (!MainThread::isCurrent()) return;
+    lastIdle.start();
     const InputFilter filter;
     QCoreApplication::processEvents();
 }
@@ -74,7 +85,7 @@ bool waitUntil(const std::function<bool()> &done, const QDeadlineTimer &deadline
             pause(slice);
         else
             std::this_thread::sleep_for(slice);
-        idle();
+        if (!done() || idleIsDue()) idle();
     }
 }
 
