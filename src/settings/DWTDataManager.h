@@ -140,6 +140,8 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     void sendPassword();
     CategoryDictionary sendNetwork();
     CategoryDictionary sendEthernet();
+    void sendInterface(int code, const CategoryDictionary &change, CategoryDictionary &copy,
+                       const QStringList &keys);
     CategoryDictionary sendWireless();
     CategoryDictionary sendInfrastructure();
     void sendInfrastructureKey(const CategoryDictionary &change);

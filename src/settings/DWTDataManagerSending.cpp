@@ -128,18 +128,20 @@ CategoryDictionary DWTDataManager::sendNetwork() {
 }
 
 CategoryDictionary DWTDataManager::sendEthernet() {
-    const CategoryDictionary change = changeOf(DWT_View_Key_Ethernet);
     CategoryDictionary copy = savedOf(DWT_View_Key_Ethernet);
-    const int result = NDM_IntegerAndArrayToData(
-        0x2001, integerValue(change, DWT_SaveData_Ethernet_IPAddressSetting),
-        addressValue(change, DWT_SaveData_Ethernet_IPAddress),
-        addressValue(change, DWT_SaveData_Ethernet_Subnetmask),
-        addressValue(change, DWT_SaveData_Ethernet_Gateway));
-    if (result == 0)
-        take(copy, change,
-             {DWT_SaveData_Ethernet_IPAddressSetting, DWT_SaveData_Ethernet_IPAddress,
-              DWT_SaveData_Ethernet_Subnetmask, DWT_SaveData_Ethernet_Gateway});
+    sendInterface(0x2001, changeOf(DWT_View_Key_Ethernet), copy,
+                  {DWT_SaveData_Ethernet_IPAddressSetting, DWT_SaveData_Ethernet_IPAddress,
+                   DWT_SaveData_Ethernet_Subnetmask, DWT_SaveData_Ethernet_Gateway});
     return copy;
+}
+
+// The address setup of an interface; `keys` are those of its setting, address, mask and gateway.
+void DWTDataManager::sendInterface(int code, const CategoryDictionary &change,
+                                   CategoryDictionary &copy, const QStringList &keys) {
+    const int result = NDM_IntegerAndArrayToData(
+        code, integerValue(change, keys[0]), addressValue(change, keys[1]),
+        addressValue(change, keys[2]), addressValue(change, keys[3]));
+    if (result == 0) take(copy, change, keys);
 }
 
 CategoryDictionary DWTDataManager::sendWireless() {
@@ -171,15 +173,10 @@ CategoryDictionary DWTDataManager::sendInfrastructure() {
 
     sendInfrastructureKey(change);
 
-    const int addressed = NDM_IntegerAndArrayToData(
-        0x3108, integerValue(change, DWT_SaveData_Infrastructure_IPAddressSetting),
-        addressValue(change, DWT_SaveData_Infrastructure_IPAddress),
-        addressValue(change, DWT_SaveData_Infrastructure_Subnetmask),
-        addressValue(change, DWT_SaveData_Infrastructure_Gateway));
-    if (addressed == 0)
-        take(copy, change,
-             {DWT_SaveData_Infrastructure_IPAddressSetting, DWT_SaveData_Infrastructure_IPAddress,
-              DWT_SaveData_Infrastructure_Subnetmask, DWT_SaveData_Infrastructure_Gateway});
+    sendInterface(
+        0x3108, change, copy,
+        {DWT_SaveData_Infrastructure_IPAddressSetting, DWT_SaveData_Infrastructure_IPAddress,
+         DWT_SaveData_Infrastructure_Subnetmask, DWT_SaveData_Infrastructure_Gateway});
     return copy;
 }
 

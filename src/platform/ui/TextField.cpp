@@ -10,7 +10,7 @@
 TextField::TextField(QWidget *parent) : QLineEdit(parent) {
     // textEdited comes first, so that m_previous is still the old text when it is handled.
     connect(this, &QLineEdit::textEdited, this, [this] { userChangedText(); });
-    connect(this, &QLineEdit::textChanged, this, [this] { m_previous = text(); });
+    connect(this, &QLineEdit::textChanged, this, [this] { textIsNew(); });
 }
 
 void TextField::replaceText(const QString &newText, int caret) {
@@ -58,8 +58,16 @@ void TextField::hideEvent(QHideEvent *event) {
 
 void TextField::userChangedText() {
     const QPointer<TextField> alive(this);
+    m_userChange = true;
     if (!m_editing && !beginEditing()) return;
     if (alive) textDidChange();
+}
+
+// After a change of the user's, or of the program's: what the user types then begins anew.
+void TextField::textIsNew() {
+    m_previous = text();
+    if (!m_userChange) m_editing = false;
+    m_userChange = false;
 }
 
 // Shows the old text once more while the begin is reported; false when the change is refused, or

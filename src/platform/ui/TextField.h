@@ -19,8 +19,8 @@ class TextFieldDelegate {
 };
 
 // A line edit that reports editing as begin, change and end, however the user changes the text.
-// Text set by the program reports nothing. A focus that goes to a menu, or to another window, does
-// not end editing.
+// Text set by the program reports nothing, and the user's next change begins editing anew. A focus
+// that goes to a menu, or to another window, does not end editing.
 class TextField : public QLineEdit {
     Q_OBJECT
   public:
@@ -47,10 +47,12 @@ class TextField : public QLineEdit {
 
   private:
     void userChangedText();
+    void textIsNew();
     bool beginEditing();
     bool endEditing();
 
     TextFieldDelegate *m_delegate = nullptr;
     QString m_previous;  // the text before the change that is being made
     bool m_editing = false;
+    bool m_userChange = false;  // between the two signals of a change that the user made
 };
