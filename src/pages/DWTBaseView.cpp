@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "pages/TextFilter.h"
-#include "platform/core/NotificationCenter.h"
+#include "platform/core/Texts.h"
 
 namespace {
 
@@ -70,9 +70,39 @@ void DWTBaseView::checkIPtextField(TextField *field) const {
 }
 
 void DWTBaseView::sendNotificationSendOK() {
-    const bool unchanged = ndm_Object && ndm_Object->isEqualToSaveData();
+    postSendState(ndm_Object && ndm_Object->isEqualToSaveData());
+}
+
+CategoryDictionary DWTBaseView::savedCategory() const {
+    if (!ndm_Object) return {};
+    return ndm_Object->setupDataToMainView(string_ViewKey).value_or(CategoryDictionary());
+}
+
+void DWTBaseView::handOver(const CategoryDictionary &category) {
+    if (ndm_Object) ndm_Object->setupDataFromMainView(category, string_ViewKey);
+}
+
+void DWTBaseView::postSendState(bool unchanged) {
     NotificationCenter::shared().post(
         unchanged ? DWT_MainDialog_SendNG_Message : DWT_MainDialog_SendOK_Message, this);
+}
+
+// The page is its fields' delegate as well, which tells it of the same change first.
+NotificationCenter::Observer DWTBaseView::observeTextChanges() {
+    return NotificationCenter::shared().observe(
+        QStringLiteral("NSControlTextDidChangeNotification"), [this](const Notification &change) {
+            auto *sender = const_cast<QObject *>(change.sender);
+            if (auto *field = qobject_cast<TextField *>(sender)) controlTextDidChange(field);
+        });
+}
+
+void DWTBaseView::showInputError(Alert &alert, const QString &fieldName,
+                                 const QString &rule) const {
+    const QString problem = localized(QStringLiteral("DWT_Localize_Alert_MessageText_Error"));
+    alert.setButtonTitle(localized(QStringLiteral("DWT_Localize_Alert_Button_OK")));
+    alert.setMessageText(QStringLiteral("%1 %2").arg(fieldName, problem));
+    alert.setInformativeText(rule);
+    alert.runModal(view_Base);
 }
 
 bool DWTBaseView::TBV_Init() {

@@ -7,6 +7,8 @@
 #include <memory>
 
 #include "app/base/DWTBaseClass.h"
+#include "platform/core/NotificationCenter.h"
+#include "platform/ui/Alert.h"
 #include "platform/ui/TextField.h"
 #include "settings/DWTDataManager.h"
 
@@ -64,6 +66,16 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     void checkIPtextField(TextField *field) const;
     // Posts whether the whole record differs from the saved data.
     void sendNotificationSendOK();
+
+    // What every page does with its category: the saved one (empty when there is none), handing one
+    // over as change data, and posting whether the page differs from the saved one.
+    CategoryDictionary savedCategory() const;
+    void handOver(const CategoryDictionary &category);
+    void postSendState(bool unchanged);
+    // Calls controlTextDidChange() for the text changes of every field while the token lives.
+    [[nodiscard]] NotificationCenter::Observer observeTextChanges();
+    // Shows that a field's text cannot be used, and why.
+    void showInputError(Alert &alert, const QString &fieldName, const QString &rule) const;
 
     QPointer<QWidget> view_Base;
     std::shared_ptr<DWTDataManager> ndm_Object;

@@ -152,25 +152,6 @@ TEST(VirtualPrinter, TheAddressInUseFollowsAnAppliedChange) {
     EXPECT_NE(printer->item(0x2002).left(4), hex("00000000"));
 }
 
-TEST(VirtualPrinter, SearchesNetworksAndTellsThemInBlocksOfFive) {
-    QByteArray networks;
-    for (int i = 0; i < 6; ++i)
-        networks += QByteArray(i ? "," : "") + R"({"ssid": "N)" + QByteArray::number(i) +
-                    R"(", "mode": 2, "authentic": 3, "encryption": 1, "signal": -60})";
-    const auto printer = printerOf(R"({"scanPolls": 2, "networks": [)" + networks + "]}");
-    const auto channel = printer->openChannel();
-    const QByteArray poll = hex("1b7b05662031b77d");
-    ask(*channel, start + hex("43463b08003b20313b01003b03"));
-    const auto state = [&] { return ask(*channel, poll).mid(9, 4).toHex(); };
-    EXPECT_EQ(state(), "01000000");
-    EXPECT_EQ(state(), "01000000");
-    EXPECT_EQ(state(), "02000600");
-    const QByteArray first = ask(*channel, hex("1b7b05662131b87d"));
-    EXPECT_EQ(first.mid(9, 2).toHex(), "0500");
-    EXPECT_EQ(first.mid(11, 44).toHex(), "02004e30" + QByteArray(60, '0') + "020003000100c4ff0000");
-    EXPECT_EQ(ask(*channel, hex("1b7b05662231b97d")).mid(9, 6).toHex(), "010002004e35");
-}
-
 TEST(VirtualPrinter, FaultsDoWhatTheirNamesSay) {
     const struct {
         const char *fault;
@@ -199,18 +180,6 @@ TEST(VirtualPrinter, FaultsDoWhatTheirNamesSay) {
     unplugged.refuseConnection = true;
     printer->setFaults(unplugged);
     EXPECT_FALSE(printer->openChannel());
-}
-
-TEST(VirtualPrinter, LogsEveryFrameInOrder) {
-    const auto printer = printerOf(R"({"items": {"0x1006": "AB"}})");
-    const auto channel = printer->openChannel();
-    ask(*channel, start + "noise" + readName + end);
-    using Frame = VirtualPrinter::LoggedFrame;
-    const QList<Frame> expected{{Frame::Received, start},
-                                {Frame::Received, readName},
-                                {Frame::Sent, nameAB},
-                                {Frame::Received, end}};
-    EXPECT_EQ(printer->log(), expected);
 }
 
 }  // namespace

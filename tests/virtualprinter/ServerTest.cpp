@@ -22,15 +22,6 @@ QByteArray ask(QTcpSocket &socket, const QByteArray &bytes, qsizetype size) {
 const QByteArray startAndRead = hex("1b7b045501567d1b7b056606107c7d");
 const QByteArray nameAB = hex("43463b08003b06103b41423b4a");
 
-TEST(Server, ServesSeveralHostsEachInATransactionOfItsOwn) {
-    const PrinterServerThread server(printerOf(R"({"items": {"0x1006": "AB"}})"));
-    QTcpSocket first, second;
-    connectTo(first, server);
-    connectTo(second, server);
-    EXPECT_EQ(ask(first, startAndRead, nameAB.size()), nameAB);
-    EXPECT_EQ(ask(second, startAndRead, nameAB.size()), nameAB);
-}
-
 TEST(Server, DelaysRepliesAndThenCloses) {
     const PrinterServerThread server(printerOf(
         R"({"items": {"0x1006": "AB"}, "faults": {"delay": 60, "closeAfterFrames": 2}})"));

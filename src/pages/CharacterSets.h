@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+// Characters that the printer accepts in its texts.
+
+// Digits, small and capital letters: 62 characters.
+inline const QString alphanumericCharacters =
+    QStringLiteral("1234567890abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ");
+
+// What a host name may hold: those and the hyphen.
+inline const QString hostNameCharacters = alphanumericCharacters + u'-';
+
+// The 95 printable ASCII characters, space to tilde.
+inline const QString printableCharacters =
+    alphanumericCharacters + QStringLiteral("!\"#$%&'()*+,-./:;<=>?@[\\]^_`{|}~ ");
