@@ -51,5 +51,38 @@
     <message id="DWT_ToolChip_Network_Text_NetworkHostName">
         <translation>The printer's own name: 1 to 31 letters, digits and hyphens.</translation>
     </message>
+    <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
+        <translation>Wireless LAN</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_CommunicateMode_Label">
+        <translation>Communication mode:</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_Infrastructure_Label">
+        <translation>Infrastructure: join an existing wireless network</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
+        <translation>Access point: computers join the printer's own network</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
+        <translation>Off: no wireless LAN</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label">
+        <translation>MAC address (infrastructure):</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_SimpleAPMACAddress_Label">
+        <translation>MAC address (access point):</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Box_SoftwareInfomation">
+        <translation>Software</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Text_Firmware_Label">
+        <translation>Firmware version:</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Box_PrintTimeOut">
+        <translation>Print time-out</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Text_Second_Label">
+        <translation>seconds (30 to 300)</translation>
+    </message>
 </context>
 </TS>
