@@ -84,5 +84,41 @@
     <message id="DWT_Localize_Firmware_Text_Second_Label">
         <translation>seconds (30 to 300)</translation>
     </message>
+    <message id="DWT_Localize_Password_Text_PasswordChange_Label">
+        <translation>Set a new administrator password</translation>
+    </message>
+    <message id="DWT_Localize_Password_Box_AdministratorPassword">
+        <translation>Administrator password</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Password_Label">
+        <translation>New password:</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Reinput_Label">
+        <translation>Repeat it:</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_PasswordInfomation">
+        <translation>With an administrator password, settings can be changed only after a login.</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Cautions_Label">
+        <translation>Leave both fields empty to remove the password. Keep a note of a new one: it cannot be read from the printer.</translation>
+    </message>
+    <message id="DWT_ToolChip_Password_Text_Password">
+        <translation>Up to 8 letters, digits and punctuation characters; no spaces.</translation>
+    </message>
+    <message id="DWT_ToolChip_Password_Text_Reinput">
+        <translation>The same password again.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Password_Password">
+        <translation>New password</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Password_Reinput">
+        <translation>Repeated password</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
+        <translation>Enter at most 8 characters: letters A to Z and a to z, digits and ! &quot; # $ % &amp; ' ( ) * + , - . / { | } ~ , without spaces.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
+        <translation>The two passwords differ. Type the same password in both fields.</translation>
+    </message>
 </context>
 </TS>

@@ -11,6 +11,10 @@ inline const QString alphanumericCharacters =
 // What a host name may hold: those and the hyphen.
 inline const QString hostNameCharacters = alphanumericCharacters + u'-';
 
+// What an administrator password may hold: 81 characters.
+inline const QString passwordCharacters =
+    alphanumericCharacters + QStringLiteral("!\"#$%&'()*+,-./{|}~");
+
 // The 95 printable ASCII characters, space to tilde.
 inline const QString printableCharacters =
     alphanumericCharacters + QStringLiteral("!\"#$%&'()*+,-./:;<=>?@[\\]^_`{|}~ ");

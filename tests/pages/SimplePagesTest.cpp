@@ -1,7 +1,9 @@
+#include <QCheckBox>
 #include <QRadioButton>
 
 #include "PageInWindow.h"
 #include "pages/DWTFirmwareView.h"
+#include "pages/DWTPasswordView.h"
 #include "pages/DWTWirelessView.h"
 
 namespace {
@@ -51,8 +53,8 @@ TEST_F(FirmwarePage, TheTimeOutIsForcedIntoItsRangeWhenEditingEnds) {
         const char *shown;
         const char *forced;
     } cases[] = {
-        {"29", "29", "30"},    {"30", "30", "30"},   {"300", "300", "300"},
-        {"301", "301", "300"}, {"", "", "30"},       {"12a34", "1234", "300"},
+        {"29", "29", "30"},    {"30", "30", "30"},  {"300", "300", "300"},
+        {"301", "301", "300"}, {"", "", "30"},      {"12a34", "1234", "300"},
         {"x", "", "30"},       {"\n4５", "", "30"}, {"99999999999999", "99999999999999", "300"}};
     for (const auto &c : cases) {
         type(timeOut(), text(c.typed));
@@ -72,6 +74,63 @@ TEST_F(FirmwarePage, TheSendStateComparesNumbersWhileTyping) {
     page->itemSetToDataManager();
     EXPECT_EQ(integerValue(changed(), DWT_SaveData_Firmware_Timeout), 30)
         << "sent without leaving the field";
+}
+
+class PasswordPage : public PageInWindow<DWTPasswordView> {
+  protected:
+    PasswordPage() : PageInWindow("{}") {}
+    QCheckBox *box() { return control<QCheckBox>("checkbox_PasswordChange"); }
+    TextField *password() { return control("secureTextField_Password"); }
+    TextField *repeated() { return control("secureTextField_PasswordReinput"); }
+    void typeBoth(const char *first, const char *second) {
+        type(password(), text(first));
+        type(repeated(), text(second));
+    }
+};
+
+TEST_F(PasswordPage, TheBoxOpensTheFieldsAndClosingItForgetsThem) {
+    EXPECT_FALSE(password()->isEnabled() || repeated()->isEnabled());
+    box()->click();
+    EXPECT_TRUE(password()->isEnabled() && repeated()->isEnabled());
+    EXPECT_EQ(integerValue(changed(), DWT_SaveData_Password_Change), 1);
+    EXPECT_EQ(state, DWT_MainDialog_SendOK_Message);
+    EXPECT_TRUE(alertsOf(true).isEmpty()) << "no password is a password, too";
+    typeBoth("abc", "abc");
+    box()->setFocus();
+    EXPECT_EQ(textValue(changed(), DWT_SaveData_Password_Password), text("abc"));
+    typeBoth("abcd", "abc");
+    box()->setFocus();
+    EXPECT_EQ(textValue(changed(), DWT_SaveData_Password_Password), text("abc")) << "they differ";
+    EXPECT_FALSE(page->itemCheckDifferentToDataManager());
+    box()->click();
+    EXPECT_TRUE(password()->text().isEmpty() && repeated()->text().isEmpty());
+    EXPECT_EQ(state, DWT_MainDialog_SendNG_Message);
+    EXPECT_TRUE(m.manager->isEqualToSaveData() && page->itemCheckDifferentToDataManager());
+    box()->click();
+    typeBoth("abc", "abc");
+    page->clearPassword(true);
+    EXPECT_TRUE(box()->isEnabled() && !box()->isChecked() && !password()->isEnabled());
+    EXPECT_TRUE(password()->text().isEmpty() && repeated()->text().isEmpty());
+}
+
+TEST_F(PasswordPage, ChecksBothFieldsAndThatTheyAgree) {
+    box()->click();
+    const QString first = text("New password cannot be used");
+    const QString second = text("Repeated password cannot be used");
+    const struct {
+        const char *first;
+        const char *second;
+        QStringList alerts;
+    } cases[] = {
+        {"aB3!/{~", "aB3!/{~", {}}, {"12345678", "12345678", {}}, {"a b", "a b", {first, second}},
+        {"a_b", "ab", {first}},     {"ab", "a@b", {second}},      {"abc", "abd", {first}},
+        {"é", "", {first}}};
+    for (const auto &c : cases) {
+        typeBoth(c.first, c.second);
+        EXPECT_EQ(alertsOf(c.alerts.isEmpty()), c.alerts) << c.first;
+    }
+    page->enableAllItems(false);
+    EXPECT_TRUE(alertsOf(true).isEmpty()) << "a disabled page is not checked";
 }
 
 }  // namespace
