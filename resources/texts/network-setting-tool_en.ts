@@ -120,5 +120,74 @@
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>The two passwords differ. Type the same password in both fields.</translation>
     </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
+        <translation>Not tested yet</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Online">
+        <translation>The printer answers</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Offline">
+        <translation>The printer does not answer</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Button_Connect">
+        <translation>Test connection</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_WiredConnection">
+        <translation>Connection</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Label">
+        <translation>State:</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_WiredLANMACAddress">
+        <translation>Wired interface</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_WiredMACAddress_Label">
+        <translation>MAC address:</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_IPAddressSetup">
+        <translation>IP address</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_ButtonCell_Auto">
+        <translation>Automatic</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_ButtonCell_Manual">
+        <translation>Manual</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
+        <translation>IP address:</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_SubnetMask_Label">
+        <translation>Subnet mask:</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Gateway_Label">
+        <translation>Default gateway:</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_IPAddress">
+        <translation>Four numbers from 0 to 255 with dots between them, such as 192.168.0.10.</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_SubnetMask">
+        <translation>Four numbers from 0 to 255 with dots between them, such as 255.255.255.0.</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_Gateway">
+        <translation>The router's address: four numbers from 0 to 255 with dots between them.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
+        <translation>IP address</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_SubnetMask">
+        <translation>Subnet mask</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_Gateway">
+        <translation>Default gateway</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_IpAddress_InputErr">
+        <translation>Enter the IP address as four numbers from 0 to 255 with dots between them. 0.0.0.0, 127.0.0.1 and 255.255.255.255 are not possible.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Subnetmask_InputErr">
+        <translation>Enter the subnet mask as four numbers from 0 to 255 with dots between them. 0.0.0.0 and 255.255.255.255 are not possible.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Router_InputErr">
+        <translation>Enter the default gateway as four numbers from 0 to 255 with dots between them. 0.0.0.0 and 255.255.255.255 are not possible.</translation>
+    </message>
 </context>
 </TS>

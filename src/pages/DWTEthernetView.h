@@ -1,0 +1,67 @@
+#pragma once
+
+#include <vector>
+
+#include "pages/DWTBaseView.h"
+#include "ui_EthernetPage.h"
+
+// The wired interface: state of the connection test, MAC address, and address setup.
+class DWTEthernetView : public DWTBaseView, private Ui::EthernetPage {
+  public:
+    ~DWTEthernetView() override;
+    bool init() override;
+
+    void initializeUI() override;
+    void showDataManager() override;
+    void enableAllItems(bool enabled) override;
+    bool itemInputCheck() override;
+    bool itemConnectChangeCheck() override;
+    void itemSetToDataManager() override;
+    bool itemCheckDifferentToDataManager() override;
+
+    // Shows whether a printer answered at the address that the window tested.
+    void showConnectResult(bool online);
+    void settingConnectButtonEnable(bool enabled);
+    // The typed address, split at its dots.
+    QStringList getipAddressArray() const;
+
+    bool textShouldBeginEditing(TextField *control) override;
+    bool textShouldEndEditing(TextField *control) override;
+    // Filters an address field and posts whether the page differs.
+    void controlTextDidChange(TextField *control) override;
+
+  private:
+    // An address field with its input flag, its keys in the record (configured, in use) and what is
+    // said of a wrong one.
+    struct AddressField {
+        TextField *field;
+        bool *input;
+        QString key;
+        QString keyInUse;
+        bool localhostCheck;
+        QString messageKey;
+        QString informationKey;
+    };
+
+    bool ETV_Init();
+    void ETV_Dealloc();
+    // The action of the address setup's choice.
+    void select_EthernetAddressSetup();
+    // Address fields are usable in manual setup only.
+    void selectAddressSettingInput();
+    QString addressNumberToString(const QStringList &address) const;
+    // Each stores its field in the change data, whatever it holds. Always true.
+    bool itemInputCheckEthernetIpAddress();
+    bool itemInputCheckEthernetSubnetMask();
+    bool itemInputCheckEthernetGateway();
+    bool store(const QString &key, const TextField *field);
+    // The fields in the order in which they are checked.
+    std::vector<AddressField> addressFields();
+    CategoryDictionary shownCategory();
+
+    QPointer<QWidget> view_Ethernet;
+    bool bool_EthernetIPAddressInput = false;
+    bool bool_EthernetSubnetMaskInput = false;
+    bool bool_EthernetGatewayInput = false;
+    CategoryDictionary mutableDictionary_ViewSettings;
+};
