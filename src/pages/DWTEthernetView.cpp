@@ -22,27 +22,23 @@ bool DWTEthernetView::init() {
 }
 
 void DWTEthernetView::initializeUI() {
-    const auto text = [](const char *key) {
-        return localized(QLatin1String("DWT_Localize_Ethernet_") + QLatin1String(key));
-    };
-    const auto tip = [](const char *key) {
-        return localized(QLatin1String("DWT_ToolChip_Ethernet_") + QLatin1String(key));
-    };
-    textField_EthernetConnection->setText(text("Text_Connection_Nolook"));
-    button_EthernetConnect->setText(text("Button_Connect"));
-    box_WiredConnectionState->setTitle(text("Box_WiredConnection"));
-    textField_Label_ConnectionState->setText(text("Text_Connection_Label"));
-    box_WiredLANMACAddress->setTitle(text("Box_WiredLANMACAddress"));
-    textField_Label_WiredMACAddress->setText(text("Text_WiredMACAddress_Label"));
-    box_IPAddressSetup->setTitle(text("Box_IPAddressSetup"));
-    buttonCell_Auto->setText(text("ButtonCell_Auto"));
-    buttonCell_Manual->setText(text("ButtonCell_Manual"));
-    textField_Label_IPAddress->setText(text("Text_IPAddress_Label"));
-    textField_Label_SubnetMask->setText(text("Text_SubnetMask_Label"));
-    textField_Label_DefaultGateway->setText(text("Text_Gateway_Label"));
-    textField_EthernetIpAddress->setToolTip(tip("Text_IPAddress"));
-    textField_EthernetSubnetMask->setToolTip(tip("Text_SubnetMask"));
-    textField_EthernetDefaultGateway->setToolTip(tip("Text_Gateway"));
+    const auto text = [](const char *key) { return localized(QLatin1String(key)); };
+    textField_EthernetConnection->setText(text("DWT_Localize_Ethernet_Text_Connection_Nolook"));
+    button_EthernetConnect->setText(text("DWT_Localize_Ethernet_Button_Connect"));
+    box_WiredConnectionState->setTitle(text("DWT_Localize_Ethernet_Box_WiredConnection"));
+    textField_Label_ConnectionState->setText(text("DWT_Localize_Ethernet_Text_Connection_Label"));
+    box_WiredLANMACAddress->setTitle(text("DWT_Localize_Ethernet_Box_WiredLANMACAddress"));
+    textField_Label_WiredMACAddress->setText(
+        text("DWT_Localize_Ethernet_Text_WiredMACAddress_Label"));
+    box_IPAddressSetup->setTitle(text("DWT_Localize_Ethernet_Box_IPAddressSetup"));
+    buttonCell_Auto->setText(text("DWT_Localize_Ethernet_ButtonCell_Auto"));
+    buttonCell_Manual->setText(text("DWT_Localize_Ethernet_ButtonCell_Manual"));
+    textField_Label_IPAddress->setText(text("DWT_Localize_Ethernet_Text_IPAddress_Label"));
+    textField_Label_SubnetMask->setText(text("DWT_Localize_Ethernet_Text_SubnetMask_Label"));
+    textField_Label_DefaultGateway->setText(text("DWT_Localize_Ethernet_Text_Gateway_Label"));
+    textField_EthernetIpAddress->setToolTip(text("DWT_ToolChip_Ethernet_Text_IPAddress"));
+    textField_EthernetSubnetMask->setToolTip(text("DWT_ToolChip_Ethernet_Text_SubnetMask"));
+    textField_EthernetDefaultGateway->setToolTip(text("DWT_ToolChip_Ethernet_Text_Gateway"));
     fitWidth(textField_EthernetMACAddress, QStringLiteral("DDDDDDDDDDDD"));
     for (const AddressField &address : addressFields()) {
         *address.input = false;
@@ -226,12 +222,12 @@ std::vector<DWTEthernetView::AddressField> DWTEthernetView::addressFields() {
              QStringLiteral("DWT_Localize_Alert_InfoText_Router_InputErr")}};
 }
 
-// The saved category with the setup that is chosen now; in automatic setup the configured addresses
-// stay.
+// The saved category with the setup that is chosen now (a setting that no choice stands for stays);
+// in automatic setup the configured addresses stay.
 CategoryDictionary DWTEthernetView::shownCategory() {
     CategoryDictionary category = savedCategory();
     const int setting = radioButton_EthernetIPAddressSetting->selectedTag();
-    category.insert(DWT_SaveData_Ethernet_IPAddressSetting, setting);
+    if (setting >= 0) category.insert(DWT_SaveData_Ethernet_IPAddressSetting, setting);
     if (setting == automatic) return category;
     for (const AddressField &address : addressFields())
         category.insert(address.key, address.field->text().split(u'.'));
