@@ -1,6 +1,5 @@
 #include "platform/core/NotificationCenter.h"
 
-#include <algorithm>
 #include <mutex>
 #include <vector>
 
