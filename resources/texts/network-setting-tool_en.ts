@@ -189,5 +189,257 @@
     <message id="DWT_Localize_Alert_InfoText_Router_InputErr">
         <translation>Enter the default gateway as four numbers from 0 to 255 with dots between them. 0.0.0.0 and 255.255.255.255 are not possible.</translation>
     </message>
+    <message id="DWT_Localize_Infrastructure_Box_WirelessConnection">
+        <translation>Wireless connection</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Label">
+        <translation>Connection:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Nolook">
+        <translation>Not tested yet</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Online">
+        <translation>The printer answers</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Offline">
+        <translation>The printer does not answer</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_Connect">
+        <translation>Test connection</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_Label">
+        <translation>Wireless standard:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_B">
+        <translation>IEEE 802.11b</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_BG">
+        <translation>IEEE 802.11b/g</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_BGN">
+        <translation>IEEE 802.11b/g/n</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_FieldIntensity_Label">
+        <translation>Signal strength:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_IPAddressSetup">
+        <translation>IP address</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_ButtonCell_Auto">
+        <translation>Automatic (DHCP)</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_ButtonCell_Manual">
+        <translation>Fixed address</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_IPAddress_Label">
+        <translation>IP address:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SubnetMask_Label">
+        <translation>Subnet mask:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Gateway_Label">
+        <translation>Default gateway:</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_IPAddress">
+        <translation>Four numbers from 0 to 255 with dots between them, such as 192.168.0.10.</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_SubnetMask">
+        <translation>Four numbers from 0 to 255 with dots between them, such as 255.255.255.0.</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
+        <translation>The router's address: four numbers from 0 to 255 with dots between them.</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_Security">
+        <translation>Network and security</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Authentic_Label">
+        <translation>Authentication:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Encryption_Label">
+        <translation>Encryption:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_Open">
+        <translation>Open system</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_Shared">
+        <translation>Shared key</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA">
+        <translation>WPA personal</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA2">
+        <translation>WPA2 personal</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_Nothing">
+        <translation>None</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_WEP">
+        <translation>WEP</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_TKIP">
+        <translation>TKIP</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_AES">
+        <translation>AES</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_1">
+        <translation>Key 1</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_2">
+        <translation>Key 2</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_3">
+        <translation>Key 3</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_4">
+        <translation>Key 4</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
+        <translation>About WPS…</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
+        <translation>Network name (SSID):</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_SSID">
+        <translation>The name of the wireless network: 1 to 32 letters, digits, spaces and punctuation characters.</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
+        <translation>Choose…</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_PSK_Label">
+        <translation>WPA key:</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_PSK">
+        <translation>The network's pre-shared key (password): 8 to 63 letters, digits, spaces and punctuation characters.</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
+        <translation>WEP key:</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_WEPKey">
+        <translation>5 or 13 characters, or 10 or 26 hexadecimal digits (0 to 9, A to F).</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SelectWEPKey_Label">
+        <translation>WEP key number:</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_IpAddress">
+        <translation>IP address</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SubnetMask">
+        <translation>Subnet mask</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_Gateway">
+        <translation>Default gateway</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SSID">
+        <translation>Network name (SSID)</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
+        <translation>Enter 1 to 32 characters: letters A to Z and a to z, digits, spaces and the punctuation of a US keyboard. A network with other characters in its name can be taken from the list of networks.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
+        <translation>WPA key</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
+        <translation>Enter 8 to 63 characters: letters A to Z and a to z, digits, spaces and the punctuation of a US keyboard.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
+        <translation>WEP key</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_WEPKey_InputErr">
+        <translation>Enter 5 or 13 characters (letters, digits, spaces and the punctuation of a US keyboard), or 10 or 26 hexadecimal digits (0 to 9 and A to F).</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_WirelessLANMode">
+        <translation>Access point</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessLANMode_Label">
+        <translation>Wireless standard:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_B">
+        <translation>IEEE 802.11b</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_BG">
+        <translation>IEEE 802.11b/g</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_BGN">
+        <translation>IEEE 802.11b/g/n</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_DHCPSetup">
+        <translation>Addresses of the computers</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DHCPServer_Label">
+        <translation>DHCP server:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DHCP">
+        <translation>On: the printer hands out addresses</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_IPAddressSetup">
+        <translation>IP address</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_StartIpAddress_Label">
+        <translation>First address handed out:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_IpAddress_Label">
+        <translation>Printer's address:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_SubnetMask_Label">
+        <translation>Subnet mask:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_Security">
+        <translation>Network and security</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Label">
+        <translation>Authentication:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Open">
+        <translation>Open system</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Shared">
+        <translation>Shared key</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA">
+        <translation>WPA personal</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA2">
+        <translation>WPA2 personal</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_Label">
+        <translation>Encryption:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_Nothing">
+        <translation>None</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_WEP">
+        <translation>WEP</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_TKIP">
+        <translation>TKIP</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_AES">
+        <translation>AES</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_SSID_Label">
+        <translation>Network name (SSID):</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DIRECT_Label">
+        <translation>DIRECT-</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_PSK_Label">
+        <translation>WPA key:</translation>
+    </message>
+    <message id="DWT_ToolChip_SimpleAP_Text_SSID">
+        <translation>What follows DIRECT- in the network's name: 1 to 25 letters, digits, spaces and punctuation characters.</translation>
+    </message>
+    <message id="DWT_ToolChip_SimpleAP_Text_PSK">
+        <translation>The key (password) with which computers join: 8 to 63 letters, digits, spaces and punctuation characters.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
+        <translation>Network name (SSID) of the access point</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
+        <translation>Enter 1 to 25 characters: letters A to Z and a to z, digits, spaces and the punctuation of a US keyboard.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
+        <translation>WPA key of the access point</translation>
+    </message>
 </context>
 </TS>

@@ -15,6 +15,9 @@ inline const QString hostNameCharacters = alphanumericCharacters + u'-';
 inline const QString passwordCharacters =
     alphanumericCharacters + QStringLiteral("!\"#$%&'()*+,-./{|}~");
 
+// Digits of hexadecimal numbers.
+inline const QString hexadecimalCharacters = QStringLiteral("1234567890abcdefABCDEF");
+
 // The 95 printable ASCII characters, space to tilde.
 inline const QString printableCharacters =
     alphanumericCharacters + QStringLiteral("!\"#$%&'()*+,-./:;<=>?@[\\]^_`{|}~ ");

@@ -105,6 +105,15 @@ void DWTBaseView::showInputError(Alert &alert, const QString &fieldName,
     alert.runModal(view_Base);
 }
 
+bool DWTBaseView::checkField(const CheckedField &checked, Alert &alert) const {
+    if (!checked.field->isEnabled()) return true;
+    if (itemInputCheckString(checked.field, checked.characters, checked.min, checked.max,
+                             *checked.input))
+        return true;
+    showInputError(alert, localized(checked.messageKey), localized(checked.informationKey));
+    return false;
+}
+
 bool DWTBaseView::TBV_Init() {
     nsObjectRelease(ndm_Object);
     string_ViewKey.clear();

@@ -52,7 +52,8 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // True when the controls' values equal the saved data.
     virtual bool itemCheckDifferentToDataManager() { return true; }
 
-  protected:
+    // --- Checks, also used by what a page is made of ---
+
     // Whether the text has `min` to `max` characters (UTF-16 units), all among `characterSet`. The
     // minimum counts only when `input` is true: the field was filled or touched.
     bool itemInputCheckString(const QLineEdit *field, const QString &characterSet, int min, int max,
@@ -62,6 +63,25 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     bool itemInputCheckAddress(const QLineEdit *field, bool localhostCheck) const;
     // Whether the four parts of two addresses are the same numbers; both need four parts.
     bool isEqualAddress(const QStringList &address, const QStringList &printerAddress) const;
+    // Shows that a field's text cannot be used, and why.
+    void showInputError(Alert &alert, const QString &fieldName, const QString &rule) const;
+
+  protected:
+    // A text field with its input flag, its key in the record, the rule of its text and what is
+    // said of a wrong one.
+    struct CheckedField {
+        TextField *field;
+        bool *input;
+        QString key;
+        QString characters;
+        int min;
+        int max;
+        QString messageKey;
+        QString informationKey;
+    };
+    // Whether the field is disabled or keeps its rule; shows the alert when not.
+    bool checkField(const CheckedField &checked, Alert &alert) const;
+
     // Takes characters other than digits and dots out of the field.
     void checkIPtextField(TextField *field) const;
     // Posts whether the whole record differs from the saved data.
@@ -74,8 +94,6 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     void postSendState(bool unchanged);
     // Calls controlTextDidChange() for the text changes of every field while the token lives.
     [[nodiscard]] NotificationCenter::Observer observeTextChanges();
-    // Shows that a field's text cannot be used, and why.
-    void showInputError(Alert &alert, const QString &fieldName, const QString &rule) const;
 
     QPointer<QWidget> view_Base;
     std::shared_ptr<DWTDataManager> ndm_Object;

@@ -1,17 +1,7 @@
 #include "pages/DWTEthernetView.h"
 
-#include <algorithm>
-
 #include "platform/core/Texts.h"
-#include "platform/ui/FieldWidth.h"
-
-namespace {
-
-// Tags of the address setup, and its values in the record.
-constexpr int automatic = 0;
-constexpr int manual = 1;
-
-}  // namespace
+#include "platform/ui/FieldLooks.h"
 
 DWTEthernetView::~DWTEthernetView() {
     ETV_Dealloc();
@@ -39,11 +29,11 @@ void DWTEthernetView::initializeUI() {
     textField_EthernetIpAddress->setToolTip(text("DWT_ToolChip_Ethernet_Text_IPAddress"));
     textField_EthernetSubnetMask->setToolTip(text("DWT_ToolChip_Ethernet_Text_SubnetMask"));
     textField_EthernetDefaultGateway->setToolTip(text("DWT_ToolChip_Ethernet_Text_Gateway"));
-    fitWidth(textField_EthernetMACAddress, QStringLiteral("DDDDDDDDDDDD"));
-    for (const AddressField &address : addressFields()) {
-        *address.input = false;
-        fitWidth(address.field, QStringLiteral("255.255.255.255"));
-    }
+    showAsDigits(textField_EthernetMACAddress);
+    m_address.fitWidths();
+    bool_EthernetIPAddressInput = false;
+    bool_EthernetSubnetMaskInput = false;
+    bool_EthernetGatewayInput = false;
 }
 
 void DWTEthernetView::showDataManager() {
@@ -51,47 +41,23 @@ void DWTEthernetView::showDataManager() {
     const CategoryDictionary &saved = mutableDictionary_ViewSettings;
     if (saved.contains(DWT_SaveData_Ethernet_MACAddress))
         textField_EthernetMACAddress->setText(textValue(saved, DWT_SaveData_Ethernet_MACAddress));
-    const int setting = integerValue(saved, DWT_SaveData_Ethernet_IPAddressSetting);
-    radioButton_EthernetIPAddressSetting->selectTag(setting);
-    for (const AddressField &address : addressFields()) {
-        *address.input = true;
-        const QString &key = setting == automatic ? address.keyInUse : address.key;
-        address.field->setText(addressNumberToString(addressValue(saved, key)));
-    }
-    selectAddressSettingInput();
+    m_address.show(saved);
+    bool_EthernetIPAddressInput = true;
+    bool_EthernetSubnetMaskInput = true;
+    bool_EthernetGatewayInput = true;
 }
 
 void DWTEthernetView::enableAllItems(bool enabled) {
-    radioButton_EthernetIPAddressSetting->setEnabled(enabled);
-    for (const AddressField &address : addressFields()) address.field->setEnabled(enabled);
-    if (enabled) selectAddressSettingInput();
+    m_address.enable(enabled);
 }
 
 bool DWTEthernetView::itemInputCheck() {
-    if (!textField_EthernetIpAddress->isEnabled()) return true;
-    QStringList names, rules;
-    for (const AddressField &address : addressFields()) {
-        if (itemInputCheckAddress(address.field, address.localhostCheck)) continue;
-        if (names.isEmpty()) {
-            address.field->setFocus();
-            address.field->selectAll();
-        }
-        names << localized(address.messageKey);
-        rules << localized(address.informationKey);
-    }
-    if (names.isEmpty()) return true;
     Alert alert(Alert::Style::Critical);
-    showInputError(alert, names.join(u'\n'), rules.join(u'\n'));
-    return false;
+    return m_address.check(*this, alert);
 }
 
 bool DWTEthernetView::itemConnectChangeCheck() {
-    if (!textField_EthernetIpAddress->isEnabled()) return true;
-    const CategoryDictionary saved = savedCategory();
-    const auto addresses = addressFields();
-    return std::all_of(addresses.begin(), addresses.end(), [&](const AddressField &address) {
-        return isEqualAddress(address.field->text().split(u'.'), addressValue(saved, address.key));
-    });
+    return m_address.isUnchanged(*this, savedCategory());
 }
 
 void DWTEthernetView::itemSetToDataManager() {
@@ -113,19 +79,17 @@ void DWTEthernetView::settingConnectButtonEnable(bool enabled) {
 }
 
 QStringList DWTEthernetView::getipAddressArray() const {
-    return textField_EthernetIpAddress->text().split(u'.');
+    return AddressSetup::partsOf(textField_EthernetIpAddress);
 }
 
 bool DWTEthernetView::textShouldBeginEditing(TextField *control) {
-    for (const AddressField &address : addressFields())
-        if (address.field == control) *address.input = true;
+    markInput(control);
     settingConnectButtonEnable(false);
     return true;
 }
 
 bool DWTEthernetView::textShouldEndEditing(TextField *control) {
-    for (const AddressField &address : addressFields())
-        if (address.field == control) *address.input = true;
+    markInput(control);
     if (control == textField_EthernetIpAddress) itemInputCheckEthernetIpAddress();
     if (control == textField_EthernetSubnetMask) itemInputCheckEthernetSubnetMask();
     if (control == textField_EthernetDefaultGateway) itemInputCheckEthernetGateway();
@@ -144,7 +108,23 @@ bool DWTEthernetView::ETV_Init() {
     view_Ethernet = new QWidget;
     view_Base = view_Ethernet;
     setupUi(view_Ethernet);
-    for (const AddressField &address : addressFields()) address.field->setDelegate(this);
+    m_address =
+        AddressSetup(radioButton_EthernetIPAddressSetting, DWT_SaveData_Ethernet_IPAddressSetting,
+                     {{textField_EthernetIpAddress, DWT_SaveData_Ethernet_IPAddress,
+                       DWT_SaveData_Connect_IPAddress, true,
+                       QStringLiteral("DWT_Localize_Alert_MessageText_Ethernet_IpAddress"),
+                       QStringLiteral("DWT_Localize_Alert_InfoText_IpAddress_InputErr")},
+                      {textField_EthernetSubnetMask, DWT_SaveData_Ethernet_Subnetmask,
+                       DWT_SaveData_Connect_Subnetmask, false,
+                       QStringLiteral("DWT_Localize_Alert_MessageText_Ethernet_SubnetMask"),
+                       QStringLiteral("DWT_Localize_Alert_InfoText_Subnetmask_InputErr")},
+                      {textField_EthernetDefaultGateway, DWT_SaveData_Ethernet_Gateway,
+                       DWT_SaveData_Connect_Gateway, false,
+                       QStringLiteral("DWT_Localize_Alert_MessageText_Ethernet_Gateway"),
+                       QStringLiteral("DWT_Localize_Alert_InfoText_Router_InputErr")}});
+    setFieldsDelegate(this);
+    connect(button_EthernetConnect, &QPushButton::clicked, this,
+            &DWTEthernetView::connectRequested);
     connect(radioButton_EthernetIPAddressSetting, &RadioGroup::selected, this,
             &DWTEthernetView::select_EthernetAddressSetup);
     return true;
@@ -152,8 +132,7 @@ bool DWTEthernetView::ETV_Init() {
 
 void DWTEthernetView::ETV_Dealloc() {
     mutableDictionary_ViewSettings.clear();
-    if (!view_Ethernet) return;
-    for (const AddressField &address : addressFields()) address.field->setDelegate(nullptr);
+    if (view_Ethernet) setFieldsDelegate(nullptr);
 }
 
 // In automatic setup the change data returns to the configured addresses; the fields keep what was
@@ -161,75 +140,47 @@ void DWTEthernetView::ETV_Dealloc() {
 void DWTEthernetView::select_EthernetAddressSetup() {
     // First, since a field that is disabled while it has the focus stores what was typed.
     selectAddressSettingInput();
-    const CategoryDictionary saved = savedCategory();
-    const int setting = radioButton_EthernetIPAddressSetting->selectedTag();
-    CategoryDictionary &settings = mutableDictionary_ViewSettings;
-    settings.insert(DWT_SaveData_Ethernet_IPAddressSetting, setting);
-    for (const AddressField &address : addressFields()) {
-        if (setting == manual)
-            settings.insert(address.key, address.field->text().split(u'.'));
-        else if (saved.contains(address.key))
-            settings.insert(address.key, saved.value(address.key));
-        else
-            settings.remove(address.key);
-    }
-    handOver(settings);
+    m_address.putPicked(mutableDictionary_ViewSettings, savedCategory());
+    handOver(mutableDictionary_ViewSettings);
     sendNotificationSendOK();
 }
 
 void DWTEthernetView::selectAddressSettingInput() {
-    const bool usable = radioButton_EthernetIPAddressSetting->selectedTag() != automatic;
-    for (const AddressField &address : addressFields()) address.field->setEnabled(usable);
-}
-
-QString DWTEthernetView::addressNumberToString(const QStringList &address) const {
-    if (address.size() != 4) return QStringLiteral("0.0.0.0");
-    QStringList numbers;
-    for (const QString &part : address) numbers << QString::number(integerOf(part));
-    return numbers.join(u'.');
+    m_address.enableFieldsByChoice();
 }
 
 bool DWTEthernetView::itemInputCheckEthernetIpAddress() {
-    return store(DWT_SaveData_Ethernet_IPAddress, textField_EthernetIpAddress);
+    return store(textField_EthernetIpAddress);
 }
 
 bool DWTEthernetView::itemInputCheckEthernetSubnetMask() {
-    return store(DWT_SaveData_Ethernet_Subnetmask, textField_EthernetSubnetMask);
+    return store(textField_EthernetSubnetMask);
 }
 
 bool DWTEthernetView::itemInputCheckEthernetGateway() {
-    return store(DWT_SaveData_Ethernet_Gateway, textField_EthernetDefaultGateway);
+    return store(textField_EthernetDefaultGateway);
 }
 
-bool DWTEthernetView::store(const QString &key, const TextField *field) {
-    mutableDictionary_ViewSettings.insert(key, field->text().split(u'.'));
+bool DWTEthernetView::store(const TextField *field) {
+    mutableDictionary_ViewSettings.insert(m_address.keyOf(field), AddressSetup::partsOf(field));
     handOver(mutableDictionary_ViewSettings);
     return true;
 }
 
-std::vector<DWTEthernetView::AddressField> DWTEthernetView::addressFields() {
-    return {{textField_EthernetIpAddress, &bool_EthernetIPAddressInput,
-             DWT_SaveData_Ethernet_IPAddress, DWT_SaveData_Connect_IPAddress, true,
-             QStringLiteral("DWT_Localize_Alert_MessageText_Ethernet_IpAddress"),
-             QStringLiteral("DWT_Localize_Alert_InfoText_IpAddress_InputErr")},
-            {textField_EthernetSubnetMask, &bool_EthernetSubnetMaskInput,
-             DWT_SaveData_Ethernet_Subnetmask, DWT_SaveData_Connect_Subnetmask, false,
-             QStringLiteral("DWT_Localize_Alert_MessageText_Ethernet_SubnetMask"),
-             QStringLiteral("DWT_Localize_Alert_InfoText_Subnetmask_InputErr")},
-            {textField_EthernetDefaultGateway, &bool_EthernetGatewayInput,
-             DWT_SaveData_Ethernet_Gateway, DWT_SaveData_Connect_Gateway, false,
-             QStringLiteral("DWT_Localize_Alert_MessageText_Ethernet_Gateway"),
-             QStringLiteral("DWT_Localize_Alert_InfoText_Router_InputErr")}};
+void DWTEthernetView::markInput(const TextField *field) {
+    if (field == textField_EthernetIpAddress) bool_EthernetIPAddressInput = true;
+    if (field == textField_EthernetSubnetMask) bool_EthernetSubnetMaskInput = true;
+    if (field == textField_EthernetDefaultGateway) bool_EthernetGatewayInput = true;
 }
 
-// The saved category with the setup that is chosen now (a setting that no choice stands for stays);
-// in automatic setup the configured addresses stay.
+void DWTEthernetView::setFieldsDelegate(TextFieldDelegate *delegate) {
+    for (TextField *field : {textField_EthernetIpAddress, textField_EthernetSubnetMask,
+                             textField_EthernetDefaultGateway})
+        field->setDelegate(delegate);
+}
+
 CategoryDictionary DWTEthernetView::shownCategory() {
     CategoryDictionary category = savedCategory();
-    const int setting = radioButton_EthernetIPAddressSetting->selectedTag();
-    if (setting >= 0) category.insert(DWT_SaveData_Ethernet_IPAddressSetting, setting);
-    if (setting == automatic) return category;
-    for (const AddressField &address : addressFields())
-        category.insert(address.key, address.field->text().split(u'.'));
+    m_address.putShown(category);
     return category;
 }

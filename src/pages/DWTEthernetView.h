@@ -1,12 +1,12 @@
 #pragma once
 
-#include <vector>
-
+#include "pages/AddressSetup.h"
 #include "pages/DWTBaseView.h"
 #include "ui_EthernetPage.h"
 
 // The wired interface: state of the connection test, MAC address, and address setup.
 class DWTEthernetView : public DWTBaseView, private Ui::EthernetPage {
+    Q_OBJECT
   public:
     ~DWTEthernetView() override;
     bool init() override;
@@ -30,33 +30,24 @@ class DWTEthernetView : public DWTBaseView, private Ui::EthernetPage {
     // Filters an address field and posts whether the page differs.
     void controlTextDidChange(TextField *control) override;
 
-  private:
-    // An address field with its input flag, its keys in the record (configured, in use) and what is
-    // said of a wrong one.
-    struct AddressField {
-        TextField *field;
-        bool *input;
-        QString key;
-        QString keyInUse;
-        bool localhostCheck;
-        QString messageKey;
-        QString informationKey;
-    };
+  Q_SIGNALS:
+    // The user asks for a test of the printer's address.
+    void connectRequested();
 
+  private:
     bool ETV_Init();
     void ETV_Dealloc();
     // The action of the address setup's choice.
     void select_EthernetAddressSetup();
     // Address fields are usable in manual setup only.
     void selectAddressSettingInput();
-    QString addressNumberToString(const QStringList &address) const;
     // Each stores its field in the change data, whatever it holds. Always true.
     bool itemInputCheckEthernetIpAddress();
     bool itemInputCheckEthernetSubnetMask();
     bool itemInputCheckEthernetGateway();
-    bool store(const QString &key, const TextField *field);
-    // The fields in the order in which they are checked.
-    std::vector<AddressField> addressFields();
+    bool store(const TextField *field);
+    void markInput(const TextField *field);
+    void setFieldsDelegate(TextFieldDelegate *delegate);
     CategoryDictionary shownCategory();
 
     QPointer<QWidget> view_Ethernet;
@@ -64,4 +55,5 @@ class DWTEthernetView : public DWTBaseView, private Ui::EthernetPage {
     bool bool_EthernetSubnetMaskInput = false;
     bool bool_EthernetGatewayInput = false;
     CategoryDictionary mutableDictionary_ViewSettings;
+    AddressSetup m_address;
 };

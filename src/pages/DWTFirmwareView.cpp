@@ -4,7 +4,7 @@
 
 #include "pages/TextFilter.h"
 #include "platform/core/Texts.h"
-#include "platform/ui/FieldWidth.h"
+#include "platform/ui/FieldLooks.h"
 
 namespace {
 
@@ -32,7 +32,7 @@ void DWTFirmwareView::initializeUI() {
         localized(QStringLiteral("DWT_Localize_Firmware_Text_Second_Label")));
     // The time-out has no label before it.
     textField_PrintTimeOut->setAccessibleName(box_PrintTimeOut->title());
-    fitWidth(textField_Firmware, QStringLiteral("0.0000"));
+    showAsValue(textField_Firmware);
     fitWidth(textField_PrintTimeOut, QStringLiteral("00000"));
     notificationManager();
 }

@@ -5,7 +5,7 @@
 #include "pages/CharacterSets.h"
 #include "platform/core/Texts.h"
 #include "platform/ui/Alert.h"
-#include "platform/ui/FieldWidth.h"
+#include "platform/ui/FieldLooks.h"
 
 namespace {
 
@@ -41,7 +41,7 @@ void DWTNetworkView::initializeUI() {
         localized(QStringLiteral("DWT_ToolChip_Network_Text_NetworkHostName")));
     // The printer name has no label beside its box.
     textField_NetworkPrinterName->setAccessibleName(box_PrinterName->title());
-    for (const NameField &name : nameFields()) {
+    for (const CheckedField &name : nameFields()) {
         *name.input = false;
         fitWidth(name.field, QString(longestPrinterName, u'n'));
     }
@@ -50,7 +50,7 @@ void DWTNetworkView::initializeUI() {
 
 void DWTNetworkView::showDataManager() {
     mutableDictionary_ViewSettings = savedCategory();
-    for (const NameField &name : nameFields()) {
+    for (const CheckedField &name : nameFields()) {
         if (!mutableDictionary_ViewSettings.contains(name.key)) continue;
         name.field->setText(textValue(mutableDictionary_ViewSettings, name.key));
         *name.input = true;
@@ -58,26 +58,20 @@ void DWTNetworkView::showDataManager() {
 }
 
 void DWTNetworkView::enableAllItems(bool enabled) {
-    for (const NameField &name : nameFields()) name.field->setEnabled(enabled);
+    for (const CheckedField &name : nameFields()) name.field->setEnabled(enabled);
 }
 
 bool DWTNetworkView::itemInputCheck() {
     Alert alert(Alert::Style::Warning);
     bool passed = true;
-    for (const NameField &name : nameFields()) {
-        if (!name.field->isEnabled()) continue;
-        if (itemInputCheckString(name.field, name.characters, 1, name.longest, *name.input))
-            continue;
-        showInputError(alert, localized(name.messageKey), localized(name.informationKey));
-        passed = false;
-    }
+    for (const CheckedField &name : nameFields()) passed &= checkField(name, alert);
     return passed;
 }
 
 bool DWTNetworkView::itemConnectChangeCheck() {
     const CategoryDictionary saved = savedCategory();
     const auto names = nameFields();
-    return std::all_of(names.begin(), names.end(), [&](const NameField &name) {
+    return std::all_of(names.begin(), names.end(), [&](const CheckedField &name) {
         return saved.contains(name.key) && textValue(saved, name.key) == name.field->text();
     });
 }
@@ -91,7 +85,7 @@ bool DWTNetworkView::itemCheckDifferentToDataManager() {
 }
 
 bool DWTNetworkView::textShouldBeginEditing(TextField *control) {
-    for (const NameField &name : nameFields())
+    for (const CheckedField &name : nameFields())
         if (name.field == control) *name.input = true;
     return true;
 }
@@ -106,7 +100,7 @@ bool DWTNetworkView::textShouldEndEditing(TextField *control) {
 }
 
 void DWTNetworkView::controlTextDidChange(TextField *control) {
-    for (const NameField &name : nameFields())
+    for (const CheckedField &name : nameFields())
         if (name.field == control) postSendState(itemCheckDifferentToDataManager());
 }
 
@@ -116,14 +110,14 @@ bool DWTNetworkView::NNW_Init() {
     view_Network = new QWidget;
     view_Base = view_Network;
     setupUi(view_Network);
-    for (const NameField &name : nameFields()) name.field->setDelegate(this);
+    for (const CheckedField &name : nameFields()) name.field->setDelegate(this);
     return true;
 }
 
 void DWTNetworkView::NNW_Dealloc() {
     mutableDictionary_ViewSettings.clear();
     if (!view_Network) return;
-    for (const NameField &name : nameFields()) name.field->setDelegate(nullptr);
+    for (const CheckedField &name : nameFields()) name.field->setDelegate(nullptr);
 }
 
 void DWTNetworkView::notificationManager() {
@@ -148,17 +142,17 @@ bool DWTNetworkView::store(const QString &key, const TextField *field) {
     return true;
 }
 
-std::vector<DWTNetworkView::NameField> DWTNetworkView::nameFields() {
+std::vector<DWTNetworkView::CheckedField> DWTNetworkView::nameFields() {
     return {{textField_NetworkPrinterName, &bool_NetworkPrinterNameInput,
-             DWT_SaveData_Network_Printer, hostNameCharacters, longestPrinterName,
+             DWT_SaveData_Network_Printer, hostNameCharacters, 1, longestPrinterName,
              QStringLiteral("DWT_Localize_Alert_MessageText_Network_PrinterName"),
              QStringLiteral("DWT_Localize_Alert_InfoText_PrinterName_InputErr")},
             {textField_NetworkBonjour, &bool_NetworkBonjourInput, DWT_SaveData_Network_Bonjour,
-             hostNameCharacters, longestBonjourName,
+             hostNameCharacters, 1, longestBonjourName,
              QStringLiteral("DWT_Localize_Alert_MessageText_Network_BonjourName"),
              QStringLiteral("DWT_Localize_Alert_InfoText_BonjourName_InputErr")},
             {textField_NetworkBonjourService, &bool_NetworkBonjourServiceInput,
-             DWT_SaveData_Network_BonjourService, printableCharacters, longestServiceName,
+             DWT_SaveData_Network_BonjourService, printableCharacters, 1, longestServiceName,
              QStringLiteral("DWT_Localize_Alert_MessageText_Network_BonjourServiceName"),
              QStringLiteral("DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr")}};
 }
@@ -166,6 +160,6 @@ std::vector<DWTNetworkView::NameField> DWTNetworkView::nameFields() {
 // The saved category with what the fields hold now.
 CategoryDictionary DWTNetworkView::shownCategory() {
     CategoryDictionary category = savedCategory();
-    for (const NameField &name : nameFields()) category.insert(name.key, name.field->text());
+    for (const CheckedField &name : nameFields()) category.insert(name.key, name.field->text());
     return category;
 }

@@ -26,17 +26,6 @@ class DWTNetworkView : public DWTBaseView, private Ui::NetworkPage {
     void controlTextDidChange(TextField *control) override;
 
   private:
-    // A name field with its input flag, its key in the record and the rule of its text.
-    struct NameField {
-        TextField *field;
-        bool *input;
-        QString key;
-        QString characters;
-        int longest;
-        QString messageKey;
-        QString informationKey;
-    };
-
     bool NNW_Init();
     void NNW_Dealloc();
     // Listens to the text changes of every field.
@@ -47,7 +36,7 @@ class DWTNetworkView : public DWTBaseView, private Ui::NetworkPage {
     bool itemInputCheckBonjourService();
     bool store(const QString &key, const TextField *field);
     // The fields in the order in which they are checked.
-    std::vector<NameField> nameFields();
+    std::vector<CheckedField> nameFields();
     CategoryDictionary shownCategory();
 
     QPointer<QWidget> view_Network;

@@ -2,7 +2,7 @@
 
 #include "pages/CharacterSets.h"
 #include "platform/core/Texts.h"
-#include "platform/ui/FieldWidth.h"
+#include "platform/ui/FieldLooks.h"
 
 namespace {
 

@@ -1,14 +1,7 @@
 #include "pages/DWTWirelessView.h"
 
 #include "platform/core/Texts.h"
-#include "platform/ui/FieldWidth.h"
-
-namespace {
-
-// 12 digits of the widest kind.
-const QString macSample = QStringLiteral("DDDDDDDDDDDD");
-
-}  // namespace
+#include "platform/ui/FieldLooks.h"
 
 DWTWirelessView::~DWTWirelessView() {
     NWL_Dealloc();
@@ -33,8 +26,8 @@ void DWTWirelessView::initializeUI() {
         localized(QStringLiteral("DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label")));
     textField_Label_WirelessSimpleAPMACAddress->setText(
         localized(QStringLiteral("DWT_Localize_Wireless_Text_SimpleAPMACAddress_Label")));
-    fitWidth(textField_WirelessInfrastructureMACAddress, macSample);
-    fitWidth(textField_WirelessSimpleAPMACAddress, macSample);
+    showAsDigits(textField_WirelessInfrastructureMACAddress);
+    showAsDigits(textField_WirelessSimpleAPMACAddress);
 }
 
 void DWTWirelessView::showDataManager() {

@@ -48,7 +48,7 @@ QList<Item> makeItems() {
         {0x3106, Kind::WepKey, false, true, 26, littleEndian(1) + counted({})},
         {0x3108, Kind::Interface, true, true, 3, automatic},
         {0x3200, Kind::Mac, true, false, 6, QByteArray::fromHex("02004c000003")},
-        {0x3201, Kind::CountedText, true, true, 32, counted("DIRECT-label-printer")},
+        {0x3201, Kind::CountedText, true, true, 32, counted("label-printer")},
         {0x3202, Kind::CountedText, true, true, 63, counted("00000000")},
         {0x3204, Kind::Addresses, true, false, 2, octets({192, 168, 118, 1, 255, 255, 255, 0})},
         {0x3205, Kind::Addresses, true, false, 1, octets({192, 168, 118, 2})},

@@ -4,6 +4,7 @@
 #include "PageInWindow.h"
 #include "pages/DWTFirmwareView.h"
 #include "pages/DWTPasswordView.h"
+#include "pages/DWTSimpleAPView.h"
 #include "pages/DWTWirelessView.h"
 
 namespace {
@@ -131,6 +132,58 @@ TEST_F(PasswordPage, ChecksBothFieldsAndThatTheyAgree) {
     }
     page->enableAllItems(false);
     EXPECT_TRUE(alertsOf(true).isEmpty()) << "a disabled page is not checked";
+}
+
+class SimpleAPPage : public PageInWindow<DWTSimpleAPView> {
+  protected:
+    explicit SimpleAPPage(const QByteArray &items = R"("0x3201": "Desk", "0x3202": " ")")
+        : PageInWindow("{\"items\": {" + items + "}}") {}
+    TextField *ssid() { return control("textField_SimpleAPSSID"); }
+    TextField *psk() { return control("textField_SimpleAPPSK"); }
+    QString shown(const char *name) { return control<QLineEdit>(name)->text(); }
+};
+
+class SimpleAPPageUnknownCodes : public SimpleAPPage {
+  protected:
+    SimpleAPPageUnknownCodes() : SimpleAPPage(R"("0x3210": 9, "0x3211": 4, "0x3212": 65535)") {}
+};
+
+TEST_F(SimpleAPPage, NameAndKeyAreStoredAndCheckedByTheirLengths) {
+    EXPECT_EQ(ssid()->text(), text("Desk"));
+    EXPECT_EQ(psk()->text(), QString());
+    EXPECT_EQ(shown("textField_SimpleAPEncryption"), text("AES"));
+    EXPECT_NE(shown("textField_SimpleAPIpAddress"), text("0.0.0.0"));
+    EXPECT_TRUE(alertsOf(true).isEmpty()) << "the key was not filled and not touched";
+    const QString ssidAlert = text("Network name (SSID) of the access point cannot be used");
+    const QString pskAlert = text("WPA key of the access point cannot be used");
+    const struct {
+        TextField *field;
+        QString typed;
+        QStringList alerts;
+    } cases[] = {{psk(), QString(7, u'k'), {pskAlert}},    {psk(), {}, {pskAlert}},
+                 {psk(), QString(64, u'k'), {pskAlert}},   {psk(), QString(63, u' '), {}},
+                 {ssid(), QString(26, u's'), {ssidAlert}}, {ssid(), QString(25, u's'), {}},
+                 {ssid(), text("Büro"), {ssidAlert}},      {ssid(), {}, {ssidAlert}},
+                 {psk(), text("x"), {ssidAlert, pskAlert}}};
+    for (const auto &c : cases) {
+        type(c.field, c.typed);
+        EXPECT_EQ(alertsOf(c.alerts.isEmpty()), c.alerts) << qPrintable(c.typed);
+    }
+    EXPECT_EQ(state, DWT_MainDialog_SendOK_Message);
+    QTest::keyClick(psk(), Qt::Key_Return);
+    EXPECT_EQ(textValue(changed(), DWT_SaveData_SimpleAP_PSK), text("x"));
+    page->enableAllItems(false);
+    EXPECT_TRUE(alertsOf(true).isEmpty()) << "a disabled page is not checked";
+}
+
+TEST_F(SimpleAPPageUnknownCodes, AreShownAsEmptyTexts) {
+    EXPECT_EQ(shown("textField_SimpleAPWirelessLanMode"), QString());
+    EXPECT_EQ(shown("textField_SimpleAPAuthentic"), QString());
+    EXPECT_EQ(shown("textField_SimpleAPEncryption"), QString());
+    EXPECT_TRUE(page->itemCheckDifferentToDataManager());
+    page->dataManagerObject(make<DWTDataManager>());
+    page->showDataManager();
+    EXPECT_EQ(shown("textField_SimpleAPStartIpAddress"), text("0.0.0.0"));
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 #include <QTest>
 
 #include "platform/core/NotificationCenter.h"
-#include "platform/ui/FieldWidth.h"
+#include "platform/ui/FieldLooks.h"
 #include "platform/ui/RadioGroup.h"
 #include "platform/ui/TextField.h"
 

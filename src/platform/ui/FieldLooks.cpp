@@ -1,5 +1,6 @@
-#include "platform/ui/FieldWidth.h"
+#include "platform/ui/FieldLooks.h"
 
+#include <QFontDatabase>
 #include <QFontMetrics>
 #include <QLineEdit>
 #include <QStyle>
@@ -15,4 +16,17 @@ void fitWidth(QLineEdit *field, const QString &sample) {
     const QSize text(metrics.horizontalAdvance(sample) + 6, metrics.height());
     const QSize size = field->style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, field);
     field->setFixedWidth(size.width());
+}
+
+void showAsValue(QLineEdit *field) {
+    field->setReadOnly(true);
+    field->setFrame(false);
+    QPalette palette = field->palette();
+    palette.setBrush(QPalette::Base, Qt::transparent);
+    field->setPalette(palette);
+}
+
+void showAsDigits(QLineEdit *field) {
+    showAsValue(field);
+    field->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
 }
