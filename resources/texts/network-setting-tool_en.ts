@@ -136,7 +136,7 @@
         <translation>Connection</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Label">
-        <translation>State:</translation>
+        <translation>Connection:</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredLANMACAddress">
         <translation>Wired interface</translation>
@@ -148,10 +148,10 @@
         <translation>IP address</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Auto">
-        <translation>Automatic</translation>
+        <translation>Automatic (DHCP)</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Manual">
-        <translation>Manual</translation>
+        <translation>Fixed address</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
         <translation>IP address:</translation>
@@ -440,6 +440,213 @@
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
         <translation>WPA key of the access point</translation>
+    </message>
+    <message id="DWT_Localize_App_Name">
+        <translation>Network Setting Tool</translation>
+    </message>
+    <message id="DWT_Localize_Wait_TextField">
+        <translation>Please wait…</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Send">
+        <translation>Send to printer…</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Cancel">
+        <translation>Close</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_NewSetting">
+        <translation>Read again</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Help">
+        <translation>Help</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_SelectPrinter_Label">
+        <translation>Printer:</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_Network">
+        <translation>This printer is reached over the network. Its settings are shown; to change them, connect the printer over USB.</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
+        <translation>Not every setting could be read, so nothing can be changed. Check that the printer is switched on and connected, then choose Read again.</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Name">
+        <translation>Categories</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Printer">
+        <translation>Printer settings</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Firmware">
+        <translation>Device</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Network">
+        <translation>Names</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Ethernet">
+        <translation>Wired network</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Wireless">
+        <translation>Wireless network</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Infrastructure">
+        <translation>Infrastructure</translation>
+    </message>
+    <message id="DWT_Localize_Outline_SimpleAP">
+        <translation>Access point</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Password">
+        <translation>Password</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Dowline">
+        <translation>The connection to the printer</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Warning">
+        <translation>needs your attention</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Printer_ConnectErr">
+        <translation>The printer could not be read. Check that it is switched on, that its cable is plugged in, and that no other program is using it, then try again.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_ChangeSetting_Warning">
+        <translation>You have changed a name or an address by which the printer is reached. When the settings have been sent, computers that use the old one no longer find the printer.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SelectSSID">
+        <translation>The list of networks</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_SSIDList_CommunicateModeErr">
+        <translation>The printer can look for networks only in infrastructure mode. Choose Infrastructure on the Wireless network page first.</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_TextField_Cancel">
+        <translation>There are changes that have not been sent to the printer. Send them before closing?</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
+        <translation>Send</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_NoReflect">
+        <translation>Close without sending</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
+        <translation>Cancel</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
+        <translation>There are changes that have not been sent to the printer. Reading the printer again discards them.</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
+        <translation>Discard and read</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
+        <translation>Cancel</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_TextField">
+        <translation>Send the settings to the printer now? Do not switch the printer off or unplug it meanwhile.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Button_Send">
+        <translation>Send</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Button_Cancel">
+        <translation>Cancel</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_TextField">
+        <translation>Sending the settings to the printer…</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_TextField">
+        <translation>The settings have been sent. To see what the printer holds now, choose Read again.</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Button_OK">
+        <translation>OK</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_TextField">
+        <translation>This printer is protected. Enter its administrator password.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Password_Label">
+        <translation>Password:</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Button_OK">
+        <translation>Log in</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Button_Cancel">
+        <translation>Cancel</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_TextField">
+        <translation>The printer did not accept this password. Capital and small letters count.</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_Button_OK">
+        <translation>Try again</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_TextField">
+        <translation>The printer cannot be reached, and nothing was sent. Check that it is switched on and that its cable is plugged in, then send again. Your changes are kept.</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Button_OK">
+        <translation>OK</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TextField">
+        <translation>Wireless networks that the printer sees. An empty list means that it found none, or could not be reached.</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
+        <translation>Network name (SSID)</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_Security">
+        <translation>Protected</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_Intensity">
+        <translation>Signal</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Security_YES">
+        <translation>Yes</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Security_NO">
+        <translation>No</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Strong">
+        <translation>Strong</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Middle">
+        <translation>Medium</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Low">
+        <translation>Weak</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Button_OK_Key">
+        <translation>Use this network</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Button_Cancel_Key">
+        <translation>Cancel</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField">
+        <translation>With WPS, the printer joins a wireless network without a typed key. Prepare both devices:</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_a1">
+        <translation>1.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_a">
+        <translation>Switch the printer on, and place it near the wireless router (access point).</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_b2">
+        <translation>2.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_b">
+        <translation>Find the WPS button of the router. It is often marked WPS or with two curved arrows; the router's manual shows it.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_c">
+        <translation>A router without WPS cannot be used in this way; enter the network's name and key instead.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Next_Key">
+        <translation>Next</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Back_Key">
+        <translation>Back</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Exit_Key">
+        <translation>Exit</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_TextField">
+        <translation>Start WPS in the printer's own menu, then press the WPS button of the router within two minutes. When the printer's wireless light stays on, it is connected.</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Next_Key">
+        <translation>Finish</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Back_Key">
+        <translation>Back</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Exit_Key">
+        <translation>Exit</translation>
     </message>
 </context>
 </TS>

@@ -8,10 +8,7 @@
 #include "pages/DWTBaseView.h"
 #include "platform/core/Texts.h"
 #include "support/DataManagers.h"
-
-inline QString text(const char *utf8) {
-    return QString::fromUtf8(utf8);
-}
+#include "support/DialogScript.h"
 
 // A page in a window, filled from a virtual printer that was read.
 template <typename Page>

@@ -17,7 +17,7 @@ class OnePrinterLibrary {
     static constexpr int longestWait = 200;
 
     OnePrinterLibrary(std::shared_ptr<VirtualPrinter> printer, Transport transport,
-                      const PrinterEntry &more = {})
+                      const PrinterEntry &more = {}, int wait = longestWait)
         : m_printer(std::move(printer)) {
         Catalogue catalogue;
         m_uri = QStringLiteral("virtual://printer");
@@ -32,7 +32,7 @@ class OnePrinterLibrary {
                    {QStringLiteral("ProductName"), QStringLiteral("Larkfield L200")}};
         m_entry.insert(more);
         catalogue.entries = {m_entry};
-        m_library = std::make_shared<CatalogueLibrary>(std::move(catalogue), longestWait);
+        m_library = std::make_shared<CatalogueLibrary>(std::move(catalogue), wait);
     }
 
     std::shared_ptr<CatalogueLibrary> library() const { return m_library; }

@@ -2,6 +2,7 @@
 
 #include <QAbstractItemModel>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <memory>
 #include <vector>
 
@@ -173,6 +174,11 @@ void OutlineView::selectRow(int row) {
     selection->asks = false;
     setCurrentIndex(indexAtRow(row));
     selection->asks = true;
+}
+
+void OutlineView::fitWidthToContents() {
+    const int scrollBar = verticalScrollBar()->sizeHint().width();
+    setFixedWidth(sizeHintForColumn(0) + 2 * frameWidth() + scrollBar);
 }
 
 // A view without a current item takes its first one when it gets the focus; here that would be a

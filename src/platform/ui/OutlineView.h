@@ -52,6 +52,9 @@ class OutlineView : public QTreeView {
     // Selects from code, without asking the delegate.
     void selectRow(int row);
 
+    // Makes the outline as wide as its widest item, as it is expanded now, and keeps it there.
+    void fitWidthToContents();
+
   protected:
     void focusInEvent(QFocusEvent *event) override;
 

@@ -34,13 +34,18 @@ void ViewStack::select(const QString &key) {
 void ViewStack::focusFirstControl() const {
     for (const View &view : m_views) {
         if (!view.widget || view.widget->isHidden()) continue;
+        QWidget *first = nullptr;
         for (QWidget *next = view.widget->nextInFocusChain(); next != view.widget;
              next = next->nextInFocusChain()) {
-            const bool inView = view.widget->isAncestorOf(next);
-            if (!inView || !next->isEnabled() || !(next->focusPolicy() & Qt::TabFocus)) continue;
-            next->setFocus(Qt::OtherFocusReason);
-            return;
+            const bool takesFocus = next->isEnabledTo(view.widget) && !next->isHidden() &&
+                                    (next->focusPolicy() & Qt::TabFocus);
+            if (!view.widget->isAncestorOf(next) || !takesFocus) continue;
+            if (next->property("defaultButton").toBool()) first = next;
+            if (qobject_cast<QPushButton *>(next)) continue;
+            first = next;
+            break;
         }
+        if (first) first->setFocus(Qt::OtherFocusReason);
     }
 }
 

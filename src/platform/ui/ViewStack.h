@@ -20,7 +20,8 @@ class ViewStack {
     // button of the view whose property "defaultButton" is true becomes the default one.
     void select(const QString &key);
 
-    // Gives the focus to the first control of the shown view that takes it.
+    // Gives the focus to the first control of the shown view that takes it, push buttons aside; in
+    // a view of push buttons alone, to the default one.
     void focusFirstControl() const;
 
     // The key of the shown view; a null text when all are hidden.

@@ -1,0 +1,98 @@
+// Closing, cancelling and reading again.
+
+#include <algorithm>
+
+#include "mainwindow/DWTMainSettingWindow.h"
+#include "mainwindow/ViewKeys.h"
+#include "platform/ui/Modal.h"
+
+namespace {
+
+// Outcome of the send dialog when the user chose to stay.
+constexpr int stay = 0;
+
+// What every closing says but that of a window whose printer could not be read.
+const QVariantMap selectorStaysHidden{{DWT_IsShowPrinterSelectDialog_Flag, false}};
+
+}  // namespace
+
+void DWTMainSettingWindow::push_MainCancel() {
+    MSW_AppClose();
+}
+
+bool DWTMainSettingWindow::windowShouldClose() {
+    if (!MSW_AppClose()) return false;
+    if (m_open) closeMainWindow(selectorStaysHidden);  // after the changes were sent, or not
+    return true;
+}
+
+bool DWTMainSettingWindow::terminateNetworkTool() {
+    return MSW_AppTerminate();
+}
+
+bool DWTMainSettingWindow::MSW_AppTerminate() {
+    return MSW_AppClose();
+}
+
+bool DWTMainSettingWindow::MSW_AppClose() {
+    const bool editable = bool_usbPrinter && bool_GetDataSuccess;
+    const auto differs = [](const std::shared_ptr<DWTBaseView> &page) {
+        return !page->itemCheckDifferentToDataManager();
+    };
+    if (editable &&
+        std::any_of(dictionary_ViewManagement.cbegin(), dictionary_ViewManagement.cend(), differs))
+        return openSendDialog(DWT_View_Key_Send_ChangeCheck) != stay;
+    closeMainWindow(selectorStaysHidden);
+    return true;
+}
+
+void DWTMainSettingWindow::closeMainWindow(const QVariantMap &userInfo) {
+    m_open = false;
+    window_Main->hide();
+    NotificationCenter::shared().post(DWT_MainDialog_Close_Message, this, userInfo);
+}
+
+void DWTMainSettingWindow::push_SendChangeCheckReflect() {
+    closeSendDialog();
+    if (checkAndStorePages()) openSendDialog(sendViewAskingPassword());
+}
+
+void DWTMainSettingWindow::push_SendChangeCheckNoReflect() {
+    closeSendDialog();
+    closeMainWindow(selectorStaysHidden);
+}
+
+void DWTMainSettingWindow::push_SendChangeCheckCancel() {
+    Modal::stop(stay);
+    window_SendData->hide();
+}
+
+void DWTMainSettingWindow::push_MainNewSetting() {
+    if (bool_usbPrinter && bool_GetDataSuccess) {
+        if (const auto shown = MSW_SelectedUIString())
+            dictionary_ViewManagement[*shown]->itemSetToDataManager();
+        Modal::stop();
+        if (!dataManager_Object->isEqualToSaveData()) {
+            openSendDialog(DWT_View_Key_Send_UpdateCheck);
+            return;
+        }
+    }
+    readAgain();
+}
+
+void DWTMainSettingWindow::push_UpdateChangeCheckOK() {
+    closeSendDialog();
+    readAgain();
+}
+
+void DWTMainSettingWindow::push_UpdateChangeCheckCancel() {
+    closeSendDialog();
+}
+
+void DWTMainSettingWindow::readAgain() {
+    Modal::stop();
+    const WaitSheet waiting = wait(window_Main);
+    initializeData(std::nullopt);
+    MSW_ClearTextField();
+    MSW_SendButtonDisable();
+}
