@@ -2,7 +2,7 @@
 set -euo pipefail
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev qt6-tools-dev qt6-tools-dev-tools
-  qt6-l10n-tools libplist-dev fonts-dejavu-core"
+  qt6-l10n-tools libplist-dev libqt6svg6 fonts-dejavu-core"
 TEST_PACKAGES="libgtest-dev"
 
 # The root of the project is the current folder from here on.

@@ -1,58 +1,58 @@
-// Pictures of every view, filled from the demo printers, as users see them. Makes
-// FOLDER/light and FOLDER/dark; docs/screenshots.md names the command.
+// Pictures of every view, filled from demo printers, as users see them: screenshots FOLDER [dark].
+// docs/screenshots.md names the command.
 
 #include <QApplication>
 #include <QDir>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QStyle>
-#include <QTest>
-#include <QTimer>
-#include <cstdio>
+#include <QStyleFactory>
 
 #include "link/Binding.h"
 #include "mainwindow/DWTMainSettingWindow.h"
 #include "platform/core/Texts.h"
+#include "tests/support/DialogScript.h"
+#include "virtualprinter/VirtualPrinter.h"
+#include "zmlib/CatalogueLibrary.h"
 
 namespace {
 
 QString folder;
 
-void shoot(QWidget *window, const QString &name) {
-    QTest::qWait(50);  // focus frames and default buttons are drawn
-    if (!window->grab().save(folder + u'/' + name + QStringLiteral(".png")))
-        qFatal("cannot write to %s", qPrintable(folder));
-}
-
-template <typename Widget = QWidget>
-Widget *in(QWidget *window, const char *name) {
-    auto *found = window->findChild<Widget *>(QLatin1String(name));
-    if (!found) qFatal("no control %s", name);
-    return found;
-}
-
-// Calls `look` with the modal window that `action` opens, and closes that one.
-void look(const std::function<void()> &action, const std::function<void(QWidget *)> &look) {
-    QTimer watch;
-    bool seen = false;
-    QObject::connect(&watch, &QTimer::timeout, [&] {
-        QWidget *modal = QApplication::activeModalWidget();
-        if (!modal || seen || modal->windowModality() != Qt::ApplicationModal) return;
-        seen = true;
-        look(modal);
-    });
-    watch.start(20);
-    action();
-    if (!seen) qFatal("no dialog came up");
+void shoot(QWidget *window, const char *name) {
+    QTest::qWait(50);  // the focus frame and the default button are drawn
+    const QString file = folder + u'/' + QLatin1String(name) + QStringLiteral(".png");
+    if (!window->window()->grab().save(file)) qFatal("cannot write %s", qPrintable(file));
 }
 
 void press(QWidget *window, const char *name) {
-    QTest::mouseClick(in(window, name), Qt::LeftButton);
+    QTest::mouseClick(controlOf(window, name), Qt::LeftButton);
+}
+
+// In a dialog's script: takes the picture, then presses the button.
+DialogScript::Answer shootAndPress(const char *name, const char *button) {
+    return [=](QWidget *window) {
+        shoot(window, name);
+        press(window, button);
+    };
+}
+
+DialogScript::Answer shootAndDismiss(const char *name) {
+    return [=](QWidget *window) {
+        shoot(window, name);
+        QTest::keyClick(window, Qt::Key_Return);
+    };
+}
+
+// The demo printers; what goes wrong with them can be set.
+const Catalogue &demo() {
+    static const Catalogue catalogue = catalogueFromEnvironment();
+    return catalogue;
+}
+
+void setFaults(const char *uri, const Faults &faults) {
+    demo().virtualPrinters[QLatin1String(uri)]->setFaults(faults);
 }
 
 PrinterEntry printer(const char *uri) {
-    const auto printers = installedLibrary()->ZMCreatePrinterURI().value_or(QList<PrinterEntry>());
-    for (const PrinterEntry &entry : printers)
+    for (const PrinterEntry &entry : demo().entries)
         if (entry.value(QStringLiteral("DeviceURI")) == QLatin1String(uri)) return entry;
     qFatal("no demo printer %s", uri);
 }
@@ -66,56 +66,123 @@ std::shared_ptr<DWTMainSettingWindow> open(const char *uri) {
 
 void shootPages() {
     const auto main = open("virtual://packing-desk");
-    auto *outline = in<OutlineView>(main->window(), "outlineView_Main");
-    const char *const names[] = {"",         "firmware",       "network",  "ethernet",
-                                 "wireless", "infrastructure", "simpleap", "password"};
-    for (int row = 1; row < outline->numberOfRows(); ++row) {
-        const QModelIndex item = outline->model()->index(0, 0);
-        outline->setCurrentIndex(row == 1 ? outline->model()->index(0, 0, item)
-                                          : outline->indexBelow(outline->currentIndex()));
-        shoot(main->window(), QStringLiteral("page-") + QLatin1String(names[row]));
+    auto *outline = controlOf<OutlineView>(main->window(), "outlineView_Main");
+    outline->setFocus();
+    const char *const names[] = {"page-network",        "page-ethernet", "page-wireless",
+                                 "page-infrastructure", "page-simpleap", "page-password"};
+    for (const char *name : names) {
+        shoot(main->window(), name);
+        QTest::keyClick(outline, Qt::Key_Down);
     }
+    for (int i = 0; i < 6; ++i) QTest::keyClick(outline, Qt::Key_Up);
+    shoot(main->window(), "page-firmware");
     const auto readOnly = open("virtual://goods-in");
-    shoot(readOnly->window(), QStringLiteral("page-read-only"));
+    shoot(readOnly->window(), "page-read-only");
 }
 
-void shootDialogs() {
+void shootSendDialog() {
     const auto main = open("virtual://dispatch");
     QWidget *const window = main->window();
-    auto *name = in<TextField>(window, "textField_NetworkBonjour");
-    QTest::keyClicks(name, QStringLiteral("-2"));
-    look([&] { main->terminateNetworkTool(); },
-         [](QWidget *dialog) {
-             shoot(dialog, QStringLiteral("dialog-change-check"));
-             press(dialog, "button_SendChangeCheckCancel");
-         });
-    look([&] { press(window, "button_MainNewSetting"); },
-         [](QWidget *dialog) {
-             shoot(dialog, QStringLiteral("dialog-update-check"));
-             press(dialog, "button_UpdateChangeCheckCancel");
-         });
-    QTimer alerts;
-    QObject::connect(&alerts, &QTimer::timeout, [] {
-        auto *alert = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!alert) return;
-        shoot(alert, QStringLiteral("dialog-warning"));
-        alert->accept();
+    QTest::keyClicks(controlOf<QLineEdit>(window, "textField_NetworkBonjour"),
+                     QStringLiteral("-2"));
+    DialogScript dialogs;
+    dialogs.on("view_SendChangeCheck",
+               shootAndPress("send-change-check", "button_SendChangeCheckCancel"));
+    main->terminateNetworkTool();
+    dialogs.on("view_UpdateChangeCheck",
+               shootAndPress("send-update-check", "button_UpdateChangeCheckCancel"));
+    press(window, "button_MainNewSetting");
+    dialogs.on("", shootAndDismiss("alert-changed-name"))
+        .type("view_SendLogin", "textField_Password", "wrong", "button_SendLoginOK")
+        .on("view_SendLoginError", shootAndPress("send-login-error", "button_SendLoginErrorOK"))
+        .on("view_SendLogin",
+            [](QWidget *dialog) {
+                auto *password = controlOf<QLineEdit>(dialog, "textField_Password");
+                password->selectAll();
+                QTest::keyClicks(password, QStringLiteral("open123"));
+                shootAndPress("send-login", "button_SendLoginOK")(dialog);
+            })
+        .on("view_SendConfirm",
+            [](QWidget *dialog) {
+                shootAndPress("send-confirm", "button_SendConfirmTransmission")(dialog);
+                auto *progress = controlOf<QProgressBar>(dialog, "progress_SendProgress");
+                if (!QTest::qWaitFor([&] { return progress->value() >= 50; })) qFatal("no send");
+                dialog->grab().save(folder + QStringLiteral("/send-progress.png"));
+            })
+        .on("view_SendEnd", shootAndPress("send-end", "button_SendEndOK"));
+    press(window, "button_MainSend");
+    Faults unplugged;
+    unplugged.refuseConnection = true;
+    setFaults("virtual://dispatch", unplugged);
+    QTest::keyClicks(controlOf<QLineEdit>(window, "textField_NetworkBonjourService"),
+                     QStringLiteral("!"));
+    dialogs.on("", [](QWidget *alert) { QTest::keyClick(alert, Qt::Key_Return); })
+        .on("view_SendConnectError",
+            shootAndPress("send-connect-error", "button_SendConnectErrorOK"));
+    press(window, "button_MainSend");
+    setFaults("virtual://dispatch", {});
+}
+
+void shootOthers() {
+    const auto main = open("virtual://packing-desk");
+    QWidget *const window = main->window();
+    DialogScript dialogs;
+    dialogs.on("tableView_SelectSSIDWindow", [](QWidget *dialog) {
+        controlOf<TableView>(dialog, "tableView_SelectSSIDWindow")->selectRow(1);
+        shootAndPress("networks", "button_SelectSSIDWindowCancel")(dialog);
     });
-    alerts.start(30);
-    look([&] { press(window, "button_MainSend"); },
-         [](QWidget *dialog) {
-             if (qobject_cast<QMessageBox *>(dialog)) return;
-         });
+    controlOf<QPushButton>(window, "button_InfrastructureSelectSSID")->click();
+    dialogs.on("view_WPS1", shootAndPress("wps-1", "button_WPS1Next"))
+        .on("view_WPS2", shootAndPress("wps-2", "button_WPS2Next"));
+    controlOf<QPushButton>(window, "button_InfrastructureWPSFunction")->click();
+    auto *name = controlOf<QLineEdit>(window, "textField_NetworkBonjour");
+    name->selectAll();
+    QTest::keyClicks(name, QStringLiteral("no spaces, please"));
+    dialogs.on("", shootAndDismiss("alert-input"));
+    press(window, "button_MainSend");
+    Faults slow;
+    slow.delay = 100;
+    setFaults("virtual://packing-desk", slow);
+    QTimer::singleShot(1000, window, [&] { shoot(controlOf(window, "progress_Wait"), "wait"); });
+    dialogs.on("view_UpdateChangeCheck", "button_UpdateChangeCheckOK");
+    press(window, "button_MainNewSetting");
+    setFaults("virtual://packing-desk", {});
+    dialogs.on("", shootAndDismiss("alert-not-reached"));
+    open("virtual://store-room");
+}
+
+void useDarkColours() {
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor(45, 48, 52));
+    dark.setColor(QPalette::Base, QColor(32, 34, 37));
+    dark.setColor(QPalette::AlternateBase, QColor(45, 48, 52));
+    dark.setColor(QPalette::Button, QColor(58, 62, 67));
+    dark.setColor(QPalette::ToolTipBase, QColor(58, 62, 67));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                            QPalette::ToolTipText, QPalette::BrightText}) {
+        dark.setColor(role, QColor(235, 235, 235));
+        dark.setColor(QPalette::Disabled, role, QColor(140, 143, 147));
+    }
+    dark.setColor(QPalette::PlaceholderText, QColor(160, 160, 160));
+    dark.setColor(QPalette::Highlight, QColor(48, 120, 190));
+    dark.setColor(QPalette::HighlightedText, Qt::white);
+    QApplication::setPalette(dark);
 }
 
 }  // namespace
 
 int main(int argc, char **argv) {
     QApplication app(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() < 2) qFatal("screenshots FOLDER [dark]");
+    if (arguments.contains(QStringLiteral("dark"))) useDarkColours();
     installTexts();
-    folder = QString::fromLocal8Bit(argc > 1 ? argv[1] : "docs/screenshots");
+    installLibrary(std::make_shared<CatalogueLibrary>(demo()));
+    folder = arguments[1];
     QDir().mkpath(folder);
     shootPages();
-    shootDialogs();
-    return 0;
+    shootSendDialog();
+    shootOthers();
+    return testing::UnitTest::GetInstance()->Failed() ? 1 : 0;
 }

@@ -36,8 +36,8 @@ void DWTPasswordView::initializeUI() {
     secureTextField_PasswordReinput->setToolTip(
         localized(QStringLiteral("DWT_ToolChip_Password_Text_Reinput")));
     // Eight mask characters, and room to see that there is no more.
-    fitWidth(secureTextField_Password, QString(longestPassword + 4, u'M'));
-    fitWidth(secureTextField_PasswordReinput, QString(longestPassword + 4, u'M'));
+    fitWidth(secureTextField_Password, QString(longestPassword, u'M'));
+    fitWidth(secureTextField_PasswordReinput, QString(longestPassword, u'M'));
     enableFields(false);
 }
 

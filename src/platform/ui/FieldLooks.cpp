@@ -12,8 +12,11 @@ void fitWidth(QLineEdit *field, const QString &sample) {
     option.initFrom(field);
     option.lineWidth = field->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, field);
     const QFontMetrics metrics(field->font());
+    const int bullet = field->style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter);
+    const QString shown =
+        field->echoMode() == QLineEdit::Normal ? sample : QString(sample.size(), QChar(bullet));
     // A line edit keeps 2 px beside its text on either side, and room for the caret.
-    const QSize text(metrics.horizontalAdvance(sample) + 6, metrics.height());
+    const QSize text(metrics.horizontalAdvance(shown) + 6, metrics.height());
     const QSize size = field->style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, field);
     field->setFixedWidth(size.width());
 }

@@ -62,7 +62,6 @@ TableView::TableView(QWidget *parent) : QTableView(parent), m_model(new TableMod
     setTabKeyNavigation(false);
     setWordWrap(false);
     verticalHeader()->hide();
-    horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     connect(horizontalHeader(), &QHeaderView::sectionDoubleClicked, this,
@@ -79,6 +78,9 @@ void TableView::setTableDataSource(TableDataSource *source) {
 
 void TableView::addColumn(const QString &identifier) {
     m_model->addColumn(identifier);
+    const int last = m_model->columnCount() - 1;
+    horizontalHeader()->setSectionResizeMode(
+        last, last == 0 ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
 }
 
 void TableView::setHeaderTitle(const QString &identifier, const QString &title) {

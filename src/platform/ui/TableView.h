@@ -34,7 +34,8 @@ class TableView : public QTableView {
     void setTableDataSource(TableDataSource *source);
     void setTableDelegate(TableDelegate *delegate) { m_delegate = delegate; }
 
-    // Appends a column; its header is the identifier until it gets a title.
+    // Appends a column; its header is the identifier until it gets a title. The first column takes
+    // the room that the others, as wide as their contents, leave.
     void addColumn(const QString &identifier);
     void setHeaderTitle(const QString &identifier, const QString &title);
     QStringList columnIdentifiers() const;
