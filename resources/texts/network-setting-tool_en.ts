@@ -648,5 +648,98 @@
     <message id="DWT_Localize_WPS2_Button_Exit_Key">
         <translation>Exit</translation>
     </message>
+    <message id="DWT_Localize_ToolPerform_TextField">
+        <translation>This tool reads and changes the network settings of a label printer: its names, its wired and wireless network, and its administrator password. The next steps help you to connect the printer.</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_Button_OK_Key">
+        <translation>Continue</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_Button_Exit_Key">
+        <translation>Exit</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_TextField">
+        <translation>How do you want to connect the printer?</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Matrix_USB_Key">
+        <translation>Over USB, to enter its settings in this tool</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
+        <translation>To a wireless network, with WPS</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
+        <translation>Next</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Button_Exit_Key">
+        <translation>Exit</translation>
+    </message>
+    <message id="DWT_Localize_USBConnect_TextField">
+        <translation>Connect the printer to this computer with a USB cable and switch it on. Then choose Next to find it.</translation>
+    </message>
+    <message id="DWT_Localize_USBConnect_Button_Next_Key">
+        <translation>Next</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TextField">
+        <translation>Choose the printer whose settings you want to see. Only a printer that is connected over USB can be changed.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_OK_Key">
+        <translation>Open</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Reload_Key">
+        <translation>Look again</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Exit_Key">
+        <translation>Exit</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TableView_Name_Column">
+        <translation>Printer</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TableView_Service_Column">
+        <translation>Connection</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_BonjourService_Network">
+        <translation>Network</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_BonjourService_USB">
+        <translation>USB</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Application">
+        <translation>&amp;Application</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Quit">
+        <translation>&amp;Quit</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Edit">
+        <translation>&amp;Edit</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Cut">
+        <translation>Cu&amp;t</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Copy">
+        <translation>&amp;Copy</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Paste">
+        <translation>&amp;Paste</translation>
+    </message>
+    <message id="DWT_Localize_Menu_SelectAll">
+        <translation>Select &amp;all</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Window">
+        <translation>&amp;Window</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Minimize">
+        <translation>&amp;Minimise</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Close">
+        <translation>&amp;Close</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Help">
+        <translation>&amp;Help</translation>
+    </message>
+    <message id="DWT_Localize_Menu_About">
+        <translation>&amp;About Network Setting Tool</translation>
+    </message>
+    <message id="DWT_Localize_About_Text">
+        <translation>Reads and changes the network settings of label printers.</translation>
+    </message>
 </context>
 </TS>

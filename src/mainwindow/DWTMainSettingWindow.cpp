@@ -83,7 +83,6 @@ void DWTMainSettingWindow::MSW_UIInitialize() {
     connectButtons();
     button_MainSend->setEnabled(false);
     window_Main->setShouldClose([this] { return windowShouldClose(); });
-    window_Main->fitToScreen();
     bool_usbPrinter = true;
 }
 
@@ -296,6 +295,7 @@ bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &ent
         MSW_UISelector(DWT_View_Key_Network);
         MSW_SendButtonDisable();
         m_open = true;
+        window_Main->fitToScreen();
         window_Main->bringToFront();
     }
     return true;

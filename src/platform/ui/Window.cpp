@@ -1,5 +1,7 @@
 #include "platform/ui/Window.h"
 
+#include <QKeyEvent>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
 
@@ -18,6 +20,16 @@ void Window::bringToFront() {
 
 void Window::closeEvent(QCloseEvent *event) {
     event->setAccepted(!m_shouldClose || m_shouldClose());
+}
+
+void Window::keyPressEvent(QKeyEvent *event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        return QWidget::keyPressEvent(event);
+    auto *pressed = qobject_cast<QPushButton *>(focusWidget());
+    for (QPushButton *button : findChildren<QPushButton *>())
+        if (!pressed && button->isVisible() && button->property("defaultButton").toBool())
+            pressed = button;
+    if (pressed) pressed->click();  // does nothing while the button is disabled
 }
 
 PanelScroller::PanelScroller(QWidget *panel) {

@@ -5,7 +5,8 @@
 #include <QWidget>
 #include <functional>
 
-// A window that asks before the user closes it. Hiding it from code asks nobody.
+// A window that asks before the user closes it. Hiding it from code asks nobody. Return presses the
+// push button that has the focus; otherwise the visible one whose property "defaultButton" is true.
 class Window : public QWidget {
     Q_OBJECT
   public:
@@ -24,6 +25,7 @@ class Window : public QWidget {
 
   protected:
     void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
   private:
     std::function<bool()> m_shouldClose;

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QMenuBar>
+#include <QPointer>
+
+#include "app/base/DWTBaseClass.h"
+#include "mainwindow/DWTMainSettingWindow.h"
+#include "platform/ui/Application.h"
+#include "platform/ui/TableView.h"
+#include "platform/ui/ViewStack.h"
+#include "platform/ui/Window.h"
+#include "ui_PrinterSelector.h"
+
+// The application's delegate and its selection window: a small wizard that guides the user in
+// connecting a printer, and the list from which one is picked. It opens the main setting window of
+// the picked printer, hides meanwhile, and lives as long as the application. Main thread only.
+class DWTPrinterSelector : public DWTBaseClass,
+                           public ApplicationDelegate,
+                           public TableDataSource,
+                           public TableDelegate,
+                           private Ui::PrinterSelector,
+                           private Ui::WPSViews,
+                           private Ui::WaitWindow {
+  public:
+    ~DWTPrinterSelector() override;
+    bool init() override;
+
+    // Loads the selection window; it is not shown yet.
+    void awakeFromNib() override;
+    // Shows the first view: the guide in installer mode, otherwise the printer list.
+    void applicationDidFinishLaunching() override;
+    // Brings the window forward that the user is likely to miss. Always true.
+    bool applicationShouldHandleReopen(bool hasVisibleWindows) override;
+    // 1 terminate now, 0 cancel: the open main setting window decides, when there is one.
+    int applicationShouldTerminate() override;
+
+    int numberOfRowsInTableView(TableView *table) override;
+    QVariant objectValueForTableColumn(TableView *table, const QString &column, int row) override;
+    bool selectionShouldChangeInTableView(TableView *table) override;
+    void tableViewSelectionDidChange(TableView *table) override;
+
+    // The selection window; null until awakeFromNib().
+    Window *window() const { return window_PrinterSelector; }
+    // The main setting window that was opened last; null when there was none.
+    std::shared_ptr<DWTMainSettingWindow> mainSettingWindow() const { return msw_Object; }
+
+  private:
+    bool DWT_Init();
+    void DWT_Dealloc();
+    void DWT_UIInitialize();
+    void setTexts();
+    void connectButtons();
+    // Shows the view and hides the others; the printer list is fetched anew.
+    void DWT_UISelector(const QString &viewKey);
+    void DWT_UpdatePrinterList();
+    void DWT_DoubleAction(int clickedRow);
+    void DWT_CloseMainDialog(const Notification &notification);
+    void DWT_ShowMainSettingWindow();
+    // The user closes the selection window: it hides.
+    void windowWillClose();
+
+    void push_ToolPerformOK();
+    void push_ToolPerformExit();
+    void push_ChooseConnectNext();
+    void push_ChooseConnectExit();
+    void push_USBConnectNext();
+    void push_WPSSetting1Next();
+    void push_WPSSetting1Back();
+    void push_WPSSetting1Exit();
+    void push_WPSSetting2Next();
+    void push_WPSSetting2Back();
+    void push_WPSSetting2Exit();
+    void push_PrinterListOK();
+    void push_PrinterListReload();
+    void push_PrinterListExit();
+
+    QPointer<Window> window_PrinterSelector;
+    QPointer<QWidget> window_Wait;
+    QMenuBar *m_menu = nullptr;
+    std::unique_ptr<ViewStack> m_views;
+    QMap<QString, QWidget *> dictionary_ViewManagement;
+    std::shared_ptr<DWTDataManager> ndm_Object;
+    QList<PrinterEntry> array_PrinterList;
+    std::shared_ptr<DWTMainSettingWindow> msw_Object;
+    bool show_mainDialog = false;
+    NotificationCenter::Observer m_closings;
+};

@@ -1,0 +1,65 @@
+#include "platform/ui/Application.h"
+
+#include <QSessionManager>
+#include <QTimer>
+#include <QWidget>
+#include <algorithm>
+
+#include "platform/core/Texts.h"
+#include "platform/ui/SingleInstance.h"
+
+Application::Application(int &argc, char **argv) : QApplication(argc, argv) {
+    setApplicationName(QStringLiteral("network-setting-tool"));
+    setQuitOnLastWindowClosed(false);
+    const auto askAtSessionEnd = [this](QSessionManager &session) {
+        if (session.allowsInteraction() && !mayTerminate()) session.cancel();
+    };
+    connect(this, &QGuiApplication::commitDataRequest, this, askAtSessionEnd, Qt::DirectConnection);
+}
+
+int Application::main(int argc, char **argv, const MakeDelegate &makeDelegate) {
+    Application application(argc, argv);
+    SingleInstance instance;
+    if (!instance.isFirst()) return 0;
+    installTexts();
+    const auto delegate = makeDelegate();
+    if (!delegate) return 1;
+    application.setDelegate(delegate.get());
+    connect(&instance, &SingleInstance::startedAgain, &application, &Application::reopen);
+    delegate->awakeFromNib();
+    QTimer::singleShot(0, &application, [&] { delegate->applicationDidFinishLaunching(); });
+    const int status = exec();
+    application.setDelegate(nullptr);
+    return status;
+}
+
+bool Application::terminate() {
+    auto *const application = qobject_cast<Application *>(QCoreApplication::instance());
+    if (application && !application->mayTerminate()) return false;
+    exit(0);
+    return true;
+}
+
+void Application::reopen() {
+    if (!m_delegate || activeModalWidget()) return;  // the modal window is in front already
+    const QWidgetList windows = topLevelWidgets();
+    const bool visible =
+        std::any_of(windows.begin(), windows.end(), [](QWidget *w) { return w->isVisible(); });
+    m_delegate->applicationShouldHandleReopen(visible);
+}
+
+bool Application::event(QEvent *event) {
+    if (event->type() != QEvent::Quit) return QApplication::event(event);
+    event->setAccepted(terminate());
+    return true;
+}
+
+bool Application::mayTerminate() {
+    if (QWidget *const modal = activeModalWidget()) {
+        modal->raise();
+        modal->activateWindow();
+        return false;
+    }
+    return !m_delegate ||
+           m_delegate->applicationShouldTerminate() == ApplicationDelegate::terminateNow;
+}

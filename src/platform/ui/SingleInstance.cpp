@@ -1,0 +1,44 @@
+#include "platform/ui/SingleInstance.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QLocalSocket>
+#include <QStandardPaths>
+
+namespace {
+
+// How long the process that was first may take to answer, in milliseconds.
+constexpr int longestAnswer = 5000;
+// Between two tries, in milliseconds.
+constexpr int retryPause = 50;
+
+QString pathOf(const QString &suffix) {
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + u'/' +
+           QCoreApplication::applicationName() + suffix;
+}
+
+}  // namespace
+
+SingleInstance::SingleInstance() : m_lock(pathOf(QStringLiteral(".lock"))) {
+    m_lock.setStaleLockTime(0);  // stale only when its process is gone
+    const QString socket = pathOf(QStringLiteral(".socket"));
+    // The first process may be on its way in (no socket yet) or out (no lock any more).
+    const QDeadlineTimer deadline(longestAnswer);
+    while (!m_lock.tryLock(retryPause)) {
+        const bool locked = m_lock.error() == QLockFile::LockFailedError;
+        if (!locked || tellFirst(socket) || deadline.hasExpired()) return;
+    }
+    QLocalServer::removeServer(socket);  // left by a process that died
+    connect(&m_server, &QLocalServer::newConnection, this, [this] {
+        delete m_server.nextPendingConnection();
+        Q_EMIT startedAgain();
+    });
+    m_server.setSocketOptions(QLocalServer::UserAccessOption);
+    m_server.listen(socket);
+}
+
+bool SingleInstance::tellFirst(const QString &socket) {
+    QLocalSocket first;
+    first.connectToServer(socket);
+    return first.waitForConnected(retryPause);
+}
