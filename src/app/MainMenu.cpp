@@ -42,7 +42,7 @@ void showAbout() {
 QMenuBar *makeMainMenu(QWidget *parent) {
     auto *const bar = new QMenuBar(parent);
     QMenu *const application = bar->addMenu(QStringLiteral("DWT_Localize_Menu_Application"));
-    add(application, "DWT_Localize_Menu_Quit", QKeySequence::Quit,
+    add(application, "DWT_Localize_Menu_Quit", Qt::CTRL | Qt::Key_Q,
         [] { Application::terminate(); });
     QMenu *const edit = bar->addMenu(QStringLiteral("DWT_Localize_Menu_Edit"));
     add(edit, "DWT_Localize_Menu_Cut", QKeySequence::Cut, onField("cut"));
@@ -53,7 +53,7 @@ QMenuBar *makeMainMenu(QWidget *parent) {
     QMenu *const window = bar->addMenu(QStringLiteral("DWT_Localize_Menu_Window"));
     add(window, "DWT_Localize_Menu_Minimize", Qt::CTRL | Qt::Key_M,
         onWindow([](QWidget *w) { w->showMinimized(); }));
-    add(window, "DWT_Localize_Menu_Close", QKeySequence::Close,
+    add(window, "DWT_Localize_Menu_Close", Qt::CTRL | Qt::Key_W,
         onWindow([](QWidget *w) { w->close(); }));
     QMenu *const help = bar->addMenu(QStringLiteral("DWT_Localize_Menu_Help"));
     add(help, "DWT_Localize_Menu_About", {}, showAbout);

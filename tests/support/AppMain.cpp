@@ -1,0 +1,17 @@
+#include <gtest/gtest.h>
+
+#include "platform/core/Texts.h"
+#include "platform/ui/Application.h"
+#include "support/Arguments.h"
+
+char **programArguments = nullptr;
+
+// Tests of the application run inside its own application object, with its texts.
+int main(int argc, char **argv) {
+    programArguments = argv;
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    Application app(argc, argv);
+    if (!installTexts()) return 1;
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
