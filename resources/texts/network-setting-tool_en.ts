@@ -741,5 +741,20 @@
     <message id="DWT_Localize_About_Text">
         <translation>Reads and changes the network settings of label printers.</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Empty">
+        <translation>No printer was found. Check that the printer is switched on and connected to this computer with a USB cable, or that it is on the same network. Then choose Look again.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Searching">
+        <translation>Looking for printers…</translation>
+    </message>
+    <message id="DWT_Localize_CommandLine_Help">
+        <translation>Reads and changes the network settings of label printers.
+
+Usage: %1 [-Installer] [--help] [--version]
+
+  -Installer  begin with a guide to connecting a printer; list USB printers only
+  --help      show this text and end
+  --version   show the version and end</translation>
+    </message>
 </context>
 </TS>

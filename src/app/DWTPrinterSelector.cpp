@@ -94,6 +94,8 @@ void DWTPrinterSelector::DWT_UIInitialize() {
     table.setHeaderTitle(
         _SERVICE_NAME_,
         localized(QStringLiteral("DWT_Localize_PrinterList_TableView_Service_Column")));
+    table.setAccessibleName(
+        localized(QStringLiteral("DWT_Localize_PrinterList_TableView_Name_Column")));
     table.setTableDataSource(this);
     table.setTableDelegate(this);
     connectButtons();
@@ -178,8 +180,12 @@ void DWTPrinterSelector::DWT_UISelector(const QString &viewKey) {
 void DWTPrinterSelector::DWT_UpdatePrinterList() {
     if (!ndm_Object) ndm_Object = make<DWTDataManager>();
     array_PrinterList.clear();
+    tableView_Printerlist->setEmptyText(
+        localized(QStringLiteral("DWT_Localize_PrinterList_Searching")));
     tableView_Printerlist->reloadData();
     array_PrinterList = ndm_Object->printerList().value_or(QList<PrinterEntry>());
+    tableView_Printerlist->setEmptyText(
+        localized(QStringLiteral("DWT_Localize_PrinterList_Empty")));
     tableView_Printerlist->reloadData();
 }
 
@@ -234,6 +240,13 @@ QVariant DWTPrinterSelector::objectValueForTableColumn(TableView *, const QStrin
         return localized(network ? QStringLiteral("DWT_Localize_PrinterList_BonjourService_Network")
                                  : QStringLiteral("DWT_Localize_PrinterList_BonjourService_USB"));
     return {};
+}
+
+QIcon DWTPrinterSelector::iconForTableColumn(TableView *, const QString &column, int row) {
+    if (column != _SERVICE_NAME_) return {};
+    const bool network = array_PrinterList.value(row).contains(bonjourServiceName);
+    return QIcon(network ? QStringLiteral(":/pictures/network.svg")
+                         : QStringLiteral(":/pictures/usb.svg"));
 }
 
 bool DWTPrinterSelector::selectionShouldChangeInTableView(TableView *) {

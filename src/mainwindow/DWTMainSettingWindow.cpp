@@ -180,6 +180,7 @@ void DWTMainSettingWindow::setTexts() {
 
     textField_SelectSSIDWindow->setText(text("DWT_Localize_SSIDList_TextField"));
     TableView &networks = *tableView_SelectSSIDWindow;
+    networks.setAccessibleName(text("DWT_Localize_SSIDList_TableView_Column_SSID"));
     networks.setHeaderTitle(QStringLiteral("SSID"),
                             text("DWT_Localize_SSIDList_TableView_Column_SSID"));
     networks.setHeaderTitle(QStringLiteral("Security"),

@@ -75,6 +75,7 @@ class DWTMainSettingWindow : public QObject,
 
     int numberOfRowsInTableView(TableView *table) override;
     QVariant objectValueForTableColumn(TableView *table, const QString &column, int row) override;
+    QIcon iconForTableColumn(TableView *table, const QString &column, int row) override;
     bool selectionShouldChangeInTableView(TableView *table) override;
     void tableViewSelectionDidChange(TableView *table) override;
 

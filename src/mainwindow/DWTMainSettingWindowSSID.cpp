@@ -16,10 +16,19 @@ constexpr int infrastructureMode = 1;
 constexpr int strongSignal = -66;
 constexpr int middleSignal = -74;
 
-const char *intensityKey(int strength) {
-    if (strength >= strongSignal) return "DWT_Localize_SSIDList_Intensity_Strong";
-    if (strength >= middleSignal) return "DWT_Localize_SSIDList_Intensity_Middle";
-    return "DWT_Localize_SSIDList_Intensity_Low";
+// How strong a signal is said to be: its text and its picture.
+struct Intensity {
+    const char *key;
+    const char *picture;
+};
+
+Intensity intensityOf(const SSIDEntry &network) {
+    const int strength = integerValue(network, DWT_SSIDList_SignalStrength);
+    if (strength >= strongSignal)
+        return {"DWT_Localize_SSIDList_Intensity_Strong", ":/pictures/signal-strong.svg"};
+    if (strength >= middleSignal)
+        return {"DWT_Localize_SSIDList_Intensity_Middle", ":/pictures/signal-middle.svg"};
+    return {"DWT_Localize_SSIDList_Intensity_Low", ":/pictures/signal-low.svg"};
 }
 
 }  // namespace
@@ -64,9 +73,13 @@ QVariant DWTMainSettingWindow::objectValueForTableColumn(TableView *, const QStr
                              ? QStringLiteral("DWT_Localize_SSIDList_Security_YES")
                              : QStringLiteral("DWT_Localize_SSIDList_Security_NO"));
     if (column == QStringLiteral("Intensity"))
-        return localized(
-            QLatin1String(intensityKey(integerValue(network, DWT_SSIDList_SignalStrength))));
+        return localized(QLatin1String(intensityOf(network).key));
     return {};
+}
+
+QIcon DWTMainSettingWindow::iconForTableColumn(TableView *, const QString &column, int row) {
+    if (column != QStringLiteral("Intensity")) return {};
+    return QIcon(QLatin1String(intensityOf(array_SSIDList.value(row)).picture));
 }
 
 bool DWTMainSettingWindow::selectionShouldChangeInTableView(TableView *) {

@@ -22,12 +22,17 @@ QString pathOf(const QString &suffix) {
 SingleInstance::SingleInstance() : m_lock(pathOf(QStringLiteral(".lock"))) {
     m_lock.setStaleLockTime(0);  // stale only when its process is gone
     const QString socket = pathOf(QStringLiteral(".socket"));
-    // The first process may be on its way in (no socket yet) or out (no lock any more).
+    // The first process may be on its way in (no socket yet) or out (no lock any more). A folder in
+    // which nothing can be locked, or a first process that does not answer, keeps nobody out.
     const QDeadlineTimer deadline(longestAnswer);
-    while (!m_lock.tryLock(retryPause)) {
-        const bool locked = m_lock.error() == QLockFile::LockFailedError;
-        if (!locked || tellFirst(socket) || deadline.hasExpired()) return;
+    while (!m_lock.tryLock(retryPause) && m_lock.error() == QLockFile::LockFailedError) {
+        if (tellFirst(socket)) {
+            m_first = false;
+            return;
+        }
+        if (deadline.hasExpired()) return;
     }
+    if (!m_lock.isLocked()) return;
     QLocalServer::removeServer(socket);  // left by a process that died
     connect(&m_server, &QLocalServer::newConnection, this, [this] {
         delete m_server.nextPendingConnection();

@@ -11,8 +11,8 @@ class SingleInstance : public QObject {
   public:
     SingleInstance();
 
-    // False when another process was there first; it has been told by then, when it could be.
-    bool isFirst() const { return m_lock.isLocked(); }
+    // False when another process was there first, and has been told.
+    bool isFirst() const { return m_first; }
 
   Q_SIGNALS:
     // In the first process: the application was started once more.
@@ -21,6 +21,7 @@ class SingleInstance : public QObject {
   private:
     bool tellFirst(const QString &socket);
 
+    bool m_first = true;
     QLockFile m_lock;
     QLocalServer m_server;
 };

@@ -5,6 +5,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QToolTip>
 
 // The data source as Qt's model sees it.
@@ -23,7 +24,10 @@ class TableModel : public QAbstractTableModel {
         return parent.isValid() ? 0 : static_cast<int>(identifiers.size());
     }
     QVariant data(const QModelIndex &index, int role) const override {
-        if (role != Qt::DisplayRole || !source || !index.isValid()) return {};
+        if (!source || !index.isValid()) return {};
+        if (role == Qt::DecorationRole)
+            return source->iconForTableColumn(m_table, identifiers[index.column()], index.row());
+        if (role != Qt::DisplayRole) return {};
         return source->objectValueForTableColumn(m_table, identifiers[index.column()], index.row());
     }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
@@ -102,6 +106,12 @@ void TableView::reloadData() {
     }
 }
 
+void TableView::setEmptyText(const QString &text) {
+    m_emptyText = text;
+    setAccessibleDescription(text);
+    viewport()->update();
+}
+
 int TableView::selectedRow() const {
     const QModelIndexList rows = selectionModel()->selectedRows();
     return rows.isEmpty() ? -1 : rows.first().row();
@@ -127,6 +137,16 @@ void TableView::keyPressEvent(QKeyEvent *event) {
     if (!enter || selectedRow() < 0) return QTableView::keyPressEvent(event);
     event->accept();
     Q_EMIT doubleAction(selectedRow());
+}
+
+void TableView::paintEvent(QPaintEvent *event) {
+    QTableView::paintEvent(event);
+    if (m_model->rowCount() > 0 || m_emptyText.isEmpty()) return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::Text));
+    constexpr int margin = 12;
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
 }
 
 // A text that its column cuts is shown whole, as plain text.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QTableView>
 
 class TableView;
@@ -13,6 +14,8 @@ class TableDataSource {
     // What the cell shows; nothing for a column that the source does not know.
     virtual QVariant objectValueForTableColumn(TableView *table, const QString &column,
                                                int row) = 0;
+    // The picture before the cell's text; none by default.
+    virtual QIcon iconForTableColumn(TableView *, const QString &, int) { return {}; }
 };
 
 // Asked before the selection moves, and told afterwards.
@@ -43,6 +46,9 @@ class TableView : public QTableView {
     // Fetches everything anew. The selection stays while its row remains.
     void reloadData();
 
+    // What stands in the place of the rows while there are none.
+    void setEmptyText(const QString &text);
+
     // -1 when no row is selected.
     int selectedRow() const;
     // Selects a row from code, without asking the delegate whether it may; it is told.
@@ -57,10 +63,12 @@ class TableView : public QTableView {
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     bool viewportEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
                                                          const QEvent *event) const override;
 
   private:
     TableModel *const m_model;
     TableDelegate *m_delegate = nullptr;
+    QString m_emptyText;
 };
