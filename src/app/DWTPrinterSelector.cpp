@@ -66,6 +66,7 @@ void DWTPrinterSelector::awakeFromNib() {
 }
 
 void DWTPrinterSelector::DWT_UIInitialize() {
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/network-setting-tool.svg")));
     window_PrinterSelector = new Window;
     Ui::PrinterSelector::setupUi(window_PrinterSelector);
     Ui::WPSViews::setupUi(view_PrinterSelector);

@@ -1,6 +1,7 @@
 #include "platform/core/Texts.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -9,6 +10,11 @@ QString localized(const QString &key) {
 }
 
 bool installTexts() {
+    // Qt's own texts, such as the context menus of fields; English without them.
+    auto *const standard = new QTranslator(QCoreApplication::instance());
+    if (standard->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(standard);
     auto *const texts = new QTranslator(QCoreApplication::instance());
     const QString name = QStringLiteral("network-setting-tool");
     const QString folder = QStringLiteral(":/texts");

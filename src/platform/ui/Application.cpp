@@ -10,6 +10,7 @@
 
 Application::Application(int &argc, char **argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("network-setting-tool"));
+    setDesktopFileName(applicationName());
     setQuitOnLastWindowClosed(false);
     const auto askAtSessionEnd = [this](QSessionManager &session) {
         if (session.allowsInteraction() && !mayTerminate()) session.cancel();

@@ -1,0 +1,28 @@
+# What `cmake --install` puts where, and the Debian package that CPack makes of it.
+include(GNUInstallDirs)
+set(NST_NAME network-setting-tool)
+install(TARGETS ${NST_NAME} DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(FILES packaging/${NST_NAME}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES packaging/${NST_NAME}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES packaging/${NST_NAME}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
+set(NST_ICONS ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
+install(FILES resources/icons/${NST_NAME}.svg DESTINATION ${NST_ICONS}/scalable/apps)
+foreach(size 16 24 32 48 64 128 256 512)
+  install(FILES resources/icons/${NST_NAME}-${size}.png
+    DESTINATION ${NST_ICONS}/${size}x${size}/apps RENAME ${NST_NAME}.png)
+endforeach()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME ${NST_NAME})
+set(CPACK_PACKAGE_CONTACT "Network Setting Tool developers <developers@networksettingtool.invalid>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "read and change the network settings of label printers")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# Plugins, which no library dependency shows: pictures.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS libqt6svg6)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-translations-l10n)
+include(CPack)

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+// What the program prints instead of starting: its help for "--help", its name and version for
+// "--version". Nothing when it starts. Needs no application object, and no display.
+std::optional<QString> commandLineAnswer(int argc, char **argv);
