@@ -1,22 +1,28 @@
-// Pictures of every view, filled from demo printers, as users see them: screenshots FOLDER [dark].
+// Pictures of every view, filled from demo printers, as users see them: screenshots FOLDER [dark]
+// [NAME ...]; with names only those pictures are saved.
 // docs/screenshots.md names the command.
 
 #include <QApplication>
 #include <QDir>
 #include <QStyleFactory>
 
+#include "app/DWTPrinterSelector.h"
 #include "link/Binding.h"
-#include "mainwindow/DWTMainSettingWindow.h"
 #include "platform/core/Texts.h"
+#include "tests/support/Arguments.h"
 #include "tests/support/DialogScript.h"
 #include "virtualprinter/VirtualPrinter.h"
 #include "zmlib/CatalogueLibrary.h"
 
+char **programArguments = nullptr;
+
 namespace {
 
 QString folder;
+QStringList wanted;  // empty: all
 
 void shoot(QWidget *window, const char *name) {
+    if (!wanted.isEmpty() && !wanted.contains(QLatin1String(name))) return;
     QTest::qWait(50);  // the focus frame and the default button are drawn
     const QString file = folder + u'/' + QLatin1String(name) + QStringLiteral(".png");
     if (!window->window()->grab().save(file)) qFatal("cannot write %s", qPrintable(file));
@@ -64,6 +70,30 @@ std::shared_ptr<DWTMainSettingWindow> open(const char *uri) {
     return window;
 }
 
+void shootSelector() {
+    const auto selector = make<DWTPrinterSelector>();
+    selector->awakeFromNib();
+    QWidget *const window = selector->window();
+    {
+        const ArgumentOverride installer("-Installer");
+        selector->applicationDidFinishLaunching();
+        shoot(window, "guide-start");
+        press(window, "button_ToolPerformOK");
+        shoot(window, "guide-connection");
+        press(window, "button_ChooseConnectNext");
+        shoot(window, "guide-usb");
+    }
+    selector->applicationDidFinishLaunching();
+    controlOf<TableView>(window, "tableView_Printerlist")->selectRow(1);
+    shoot(window, "printers");
+    installLibrary(std::make_shared<CatalogueLibrary>(Catalogue()));
+    const auto nothing = make<DWTPrinterSelector>();
+    nothing->awakeFromNib();
+    nothing->applicationDidFinishLaunching();
+    shoot(nothing->window(), "printers-none");
+    installLibrary(std::make_shared<CatalogueLibrary>(demo()));
+}
+
 void shootPages() {
     const auto main = open("virtual://packing-desk");
     auto *outline = controlOf<OutlineView>(main->window(), "outlineView_Main");
@@ -107,7 +137,7 @@ void shootSendDialog() {
                 shootAndPress("send-confirm", "button_SendConfirmTransmission")(dialog);
                 auto *progress = controlOf<QProgressBar>(dialog, "progress_SendProgress");
                 if (!QTest::qWaitFor([&] { return progress->value() >= 50; })) qFatal("no send");
-                dialog->grab().save(folder + QStringLiteral("/send-progress.png"));
+                shoot(dialog, "send-progress");
             })
         .on("view_SendEnd", shootAndPress("send-end", "button_SendEndOK"));
     press(window, "button_MainSend");
@@ -172,15 +202,20 @@ void useDarkColours() {
 }  // namespace
 
 int main(int argc, char **argv) {
-    QApplication app(argc, argv);
+    programArguments = argv;
+    Application app(argc, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 2) qFatal("screenshots FOLDER [dark]");
     if (arguments.contains(QStringLiteral("dark"))) useDarkColours();
+    wanted = arguments.mid(2);
+    wanted.removeAll(QStringLiteral("dark"));
+    wanted.removeAll(QStringLiteral("light"));
     installTexts();
     installLibrary(std::make_shared<CatalogueLibrary>(demo()));
     folder = arguments[1];
     QDir().mkpath(folder);
+    shootSelector();
     shootPages();
     shootSendDialog();
     shootOthers();

@@ -87,6 +87,7 @@ void DWTPrinterSelector::DWT_UIInitialize() {
     m_menu = makeMainMenu(window_PrinterSelector);
     window_PrinterSelector->layout()->setMenuBar(m_menu);
     localizeMenu(m_menu);
+    window_PrinterSelector->setMinimumWidth(m_menu->sizeHint().width());
     TableView &table = *tableView_Printerlist;
     table.addColumn(_MODEL_NAME_);
     table.addColumn(_SERVICE_NAME_);

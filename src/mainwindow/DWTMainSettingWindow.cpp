@@ -144,8 +144,6 @@ void DWTMainSettingWindow::makeDialogs() {
     Ui::SelectSSID::setupUi(window_SelectSSID);
     for (const char *column : {"SSID", "Security", "Intensity"})
         tableView_SelectSSIDWindow->addColumn(QLatin1String(column));
-    tableView_SelectSSIDWindow->setMinimumWidth(
-        48 * tableView_SelectSSIDWindow->fontMetrics().averageCharWidth() + 64);
     tableView_SelectSSIDWindow->setTableDataSource(this);
     tableView_SelectSSIDWindow->setTableDelegate(this);
 

@@ -14,7 +14,7 @@
 
 namespace {
 
-const char *const languages[] = {"en"};
+const char *const languages[] = {"de", "en", "es", "fr", "ja", "zh_CN"};
 
 QByteArray contents(const QString &path) {
     QFile file(path);
@@ -149,6 +149,8 @@ QString cutText(const QWidget *widget) {
     }
     if (const auto *area = qobject_cast<const QAbstractScrollArea *>(widget))
         return area->horizontalScrollBar()->maximum() > 0 ? text("scrolls sideways") : QString();
+    if (const auto *menu = qobject_cast<const QMenuBar *>(widget))
+        return menu->sizeHint().width() > menu->width() ? text("menu") : QString();
     if (const auto *header = qobject_cast<const QHeaderView *>(widget))
         for (int i = 0; i < header->count() && header->orientation() == Qt::Horizontal; ++i)
             if (header->sectionSizeHint(i) > header->sectionSize(i))

@@ -26,7 +26,8 @@ class TableModel : public QAbstractTableModel {
     QVariant data(const QModelIndex &index, int role) const override {
         if (!source || !index.isValid()) return {};
         if (role == Qt::DecorationRole)
-            return source->iconForTableColumn(m_table, identifiers[index.column()], index.row());
+            return readable(
+                source->iconForTableColumn(m_table, identifiers[index.column()], index.row()));
         if (role != Qt::DisplayRole) return {};
         return source->objectValueForTableColumn(m_table, identifiers[index.column()], index.row());
     }
@@ -53,6 +54,19 @@ class TableModel : public QAbstractTableModel {
     }
 
   private:
+    // The icon with a further look for selected rows: in the colour of their text.
+    QVariant readable(QIcon icon) const {
+        if (icon.isNull()) return {};
+        const int size = m_table->style()->pixelMetric(QStyle::PM_SmallIconSize);
+        QPixmap selected = icon.pixmap(QSize(size, size), m_table->devicePixelRatioF());
+        QPainter painter(&selected);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(selected.rect(), m_table->palette().color(QPalette::HighlightedText));
+        painter.end();
+        icon.addPixmap(selected, QIcon::Selected);
+        return icon;
+    }
+
     TableView *const m_table;
     int m_rows = 0;
 };
@@ -110,6 +124,11 @@ void TableView::setEmptyText(const QString &text) {
     m_emptyText = text;
     setAccessibleDescription(text);
     viewport()->update();
+}
+
+QSize TableView::sizeHint() const {
+    const QFontMetrics metrics(font());
+    return {60 * metrics.averageCharWidth(), 14 * metrics.height()};
 }
 
 int TableView::selectedRow() const {

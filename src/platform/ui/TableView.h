@@ -49,6 +49,9 @@ class TableView : public QTableView {
     // What stands in the place of the rows while there are none.
     void setEmptyText(const QString &text);
 
+    // Room for about 60 characters and half a dozen rows.
+    QSize sizeHint() const override;
+
     // -1 when no row is selected.
     int selectedRow() const;
     // Selects a row from code, without asking the delegate whether it may; it is told.

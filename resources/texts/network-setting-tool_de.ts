@@ -1,0 +1,760 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name></name>
+    <message id="DWT_Localize_Alert_Button_OK">
+        <translation>OK</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Error">
+        <translation>– Eingabe nicht möglich</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Network_PrinterName">
+        <translation>Druckername</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_PrinterName_InputErr">
+        <translation>Geben Sie 1 bis 31 Zeichen ein. Ein Druckername besteht aus den Buchstaben A bis Z und a bis z, Ziffern und Bindestrichen, ohne Leerzeichen.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Network_BonjourName">
+        <translation>Bonjour-Name</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_BonjourName_InputErr">
+        <translation>Geben Sie 1 bis 25 Zeichen ein. Ein Bonjour-Name besteht aus den Buchstaben A bis Z und a bis z, Ziffern und Bindestrichen, ohne Leerzeichen.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Network_BonjourServiceName">
+        <translation>Bonjour-Dienstname</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
+        <translation>Geben Sie 1 bis 31 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Satzzeichen einer US-Tastatur. Umlaute und Akzente sind nicht möglich.</translation>
+    </message>
+    <message id="DWT_Localize_Network_Box_PrinterName">
+        <translation>Druckername</translation>
+    </message>
+    <message id="DWT_Localize_Network_Box_BonjourName">
+        <translation>Bonjour</translation>
+    </message>
+    <message id="DWT_Localize_Network_Text_NetworkBonjour_Label">
+        <translation>Bonjour-Name:</translation>
+    </message>
+    <message id="DWT_Localize_Network_Text_NetworkBonjourService_Label">
+        <translation>Dienstname:</translation>
+    </message>
+    <message id="DWT_Localize_Network_Text_BonjourLocal">
+        <translation>.local</translation>
+    </message>
+    <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
+        <translation>Der Name, unter dem Computer im Netzwerk den Drucker erreichen: 1 bis 25 Buchstaben, Ziffern und Bindestriche.</translation>
+    </message>
+    <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
+        <translation>Der Name, den Druckerlisten anzeigen: 1 bis 31 Buchstaben, Ziffern, Leerzeichen und Satzzeichen.</translation>
+    </message>
+    <message id="DWT_ToolChip_Network_Text_NetworkHostName">
+        <translation>Der eigene Name des Druckers: 1 bis 31 Buchstaben, Ziffern und Bindestriche.</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
+        <translation>WLAN</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_CommunicateMode_Label">
+        <translation>Betriebsart:</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_Infrastructure_Label">
+        <translation>Infrastruktur: einem vorhandenen WLAN beitreten</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
+        <translation>Zugangspunkt: Computer treten dem Netz des Druckers bei</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
+        <translation>Aus: kein WLAN</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label">
+        <translation>MAC-Adresse (Infrastruktur):</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_SimpleAPMACAddress_Label">
+        <translation>MAC-Adresse (Zugangspunkt):</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Box_SoftwareInfomation">
+        <translation>Software</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Text_Firmware_Label">
+        <translation>Firmware-Version:</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Box_PrintTimeOut">
+        <translation>Druck-Zeitlimit</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Text_Second_Label">
+        <translation>Sekunden (30 bis 300)</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_PasswordChange_Label">
+        <translation>Neues Administratorkennwort festlegen</translation>
+    </message>
+    <message id="DWT_Localize_Password_Box_AdministratorPassword">
+        <translation>Administratorkennwort</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Password_Label">
+        <translation>Neues Kennwort:</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Reinput_Label">
+        <translation>Wiederholen:</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_PasswordInfomation">
+        <translation>Mit einem Administratorkennwort lassen sich Einstellungen nur nach einer Anmeldung ändern.</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Cautions_Label">
+        <translation>Lassen Sie beide Felder leer, um das Kennwort zu entfernen. Notieren Sie ein neues Kennwort: Es kann nicht aus dem Drucker gelesen werden.</translation>
+    </message>
+    <message id="DWT_ToolChip_Password_Text_Password">
+        <translation>Bis zu 8 Buchstaben, Ziffern und Satzzeichen; keine Leerzeichen.</translation>
+    </message>
+    <message id="DWT_ToolChip_Password_Text_Reinput">
+        <translation>Noch einmal dasselbe Kennwort.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Password_Password">
+        <translation>Neues Kennwort</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Password_Reinput">
+        <translation>Wiederholtes Kennwort</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
+        <translation>Geben Sie höchstens 8 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern und ! " # $ % &amp; ' ( ) * + , - . / { | } ~ , ohne Leerzeichen.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
+        <translation>Die beiden Kennwörter sind verschieden. Geben Sie in beiden Feldern dasselbe Kennwort ein.</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
+        <translation>Noch nicht geprüft</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Online">
+        <translation>Der Drucker antwortet</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Offline">
+        <translation>Der Drucker antwortet nicht</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Button_Connect">
+        <translation>Verbindung prüfen</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_WiredConnection">
+        <translation>Verbindung</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Label">
+        <translation>Verbindung:</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_WiredLANMACAddress">
+        <translation>Kabelanschluss</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_WiredMACAddress_Label">
+        <translation>MAC-Adresse:</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_IPAddressSetup">
+        <translation>IP-Adresse</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_ButtonCell_Auto">
+        <translation>Automatisch (DHCP)</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_ButtonCell_Manual">
+        <translation>Feste Adresse</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
+        <translation>IP-Adresse:</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_SubnetMask_Label">
+        <translation>Subnetzmaske:</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Gateway_Label">
+        <translation>Standardgateway:</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_IPAddress">
+        <translation>Vier Zahlen von 0 bis 255 mit Punkten dazwischen, etwa 192.168.0.10.</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_SubnetMask">
+        <translation>Vier Zahlen von 0 bis 255 mit Punkten dazwischen, etwa 255.255.255.0.</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_Gateway">
+        <translation>Die Adresse des Routers: vier Zahlen von 0 bis 255 mit Punkten dazwischen.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
+        <translation>IP-Adresse</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_SubnetMask">
+        <translation>Subnetzmaske</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_Gateway">
+        <translation>Standardgateway</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_IpAddress_InputErr">
+        <translation>Geben Sie die IP-Adresse als vier Zahlen von 0 bis 255 mit Punkten dazwischen ein. 0.0.0.0, 127.0.0.1 und 255.255.255.255 sind nicht möglich.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Subnetmask_InputErr">
+        <translation>Geben Sie die Subnetzmaske als vier Zahlen von 0 bis 255 mit Punkten dazwischen ein. 0.0.0.0 und 255.255.255.255 sind nicht möglich.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Router_InputErr">
+        <translation>Geben Sie das Standardgateway als vier Zahlen von 0 bis 255 mit Punkten dazwischen ein. 0.0.0.0 und 255.255.255.255 sind nicht möglich.</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_WirelessConnection">
+        <translation>WLAN-Verbindung</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Label">
+        <translation>Verbindung:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Nolook">
+        <translation>Noch nicht geprüft</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Online">
+        <translation>Der Drucker antwortet</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Offline">
+        <translation>Der Drucker antwortet nicht</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_Connect">
+        <translation>Verbindung prüfen</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_Label">
+        <translation>WLAN-Standard:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_B">
+        <translation>IEEE 802.11b</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_BG">
+        <translation>IEEE 802.11b/g</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_BGN">
+        <translation>IEEE 802.11b/g/n</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_FieldIntensity_Label">
+        <translation>Signalstärke:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_IPAddressSetup">
+        <translation>IP-Adresse</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_ButtonCell_Auto">
+        <translation>Automatisch (DHCP)</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_ButtonCell_Manual">
+        <translation>Feste Adresse</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_IPAddress_Label">
+        <translation>IP-Adresse:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SubnetMask_Label">
+        <translation>Subnetzmaske:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Gateway_Label">
+        <translation>Standardgateway:</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_IPAddress">
+        <translation>Vier Zahlen von 0 bis 255 mit Punkten dazwischen, etwa 192.168.0.10.</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_SubnetMask">
+        <translation>Vier Zahlen von 0 bis 255 mit Punkten dazwischen, etwa 255.255.255.0.</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
+        <translation>Die Adresse des Routers: vier Zahlen von 0 bis 255 mit Punkten dazwischen.</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_Security">
+        <translation>Netzwerk und Sicherheit</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Authentic_Label">
+        <translation>Authentifizierung:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Encryption_Label">
+        <translation>Verschlüsselung:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_Open">
+        <translation>Offenes System</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_Shared">
+        <translation>Gemeinsamer Schlüssel</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA">
+        <translation>WPA-Personal</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA2">
+        <translation>WPA2-Personal</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_Nothing">
+        <translation>Keine</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_WEP">
+        <translation>WEP</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_TKIP">
+        <translation>TKIP</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_AES">
+        <translation>AES</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_1">
+        <translation>Schlüssel 1</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_2">
+        <translation>Schlüssel 2</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_3">
+        <translation>Schlüssel 3</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_4">
+        <translation>Schlüssel 4</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
+        <translation>Über WPS…</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
+        <translation>Netzwerkname (SSID):</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_SSID">
+        <translation>Der Name des WLANs: 1 bis 32 Buchstaben, Ziffern, Leerzeichen und Satzzeichen.</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
+        <translation>Auswählen…</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_PSK_Label">
+        <translation>WPA-Schlüssel:</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_PSK">
+        <translation>Der Netzwerkschlüssel (Kennwort): 8 bis 63 Buchstaben, Ziffern, Leerzeichen und Satzzeichen.</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
+        <translation>WEP-Schlüssel:</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_WEPKey">
+        <translation>5 oder 13 Zeichen, oder 10 oder 26 Hexadezimalziffern (0 bis 9, A bis F).</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SelectWEPKey_Label">
+        <translation>WEP-Schlüsselnummer:</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_IpAddress">
+        <translation>IP-Adresse</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SubnetMask">
+        <translation>Subnetzmaske</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_Gateway">
+        <translation>Standardgateway</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SSID">
+        <translation>Netzwerkname (SSID)</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
+        <translation>Geben Sie 1 bis 32 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Satzzeichen einer US-Tastatur. Ein Netzwerk mit anderen Zeichen im Namen lässt sich aus der Liste der Netzwerke übernehmen.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
+        <translation>WPA-Schlüssel</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
+        <translation>Geben Sie 8 bis 63 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Satzzeichen einer US-Tastatur.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
+        <translation>WEP-Schlüssel</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_WEPKey_InputErr">
+        <translation>Geben Sie 5 oder 13 Zeichen (Buchstaben, Ziffern, Leerzeichen und die Satzzeichen einer US-Tastatur) oder 10 oder 26 Hexadezimalziffern (0 bis 9 und A bis F) ein.</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_WirelessLANMode">
+        <translation>Zugangspunkt</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessLANMode_Label">
+        <translation>WLAN-Standard:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_B">
+        <translation>IEEE 802.11b</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_BG">
+        <translation>IEEE 802.11b/g</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_BGN">
+        <translation>IEEE 802.11b/g/n</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_DHCPSetup">
+        <translation>Adressen der Computer</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DHCPServer_Label">
+        <translation>DHCP-Server:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DHCP">
+        <translation>Ein: Der Drucker vergibt Adressen</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_IPAddressSetup">
+        <translation>IP-Adresse</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_StartIpAddress_Label">
+        <translation>Erste vergebene Adresse:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_IpAddress_Label">
+        <translation>Adresse des Druckers:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_SubnetMask_Label">
+        <translation>Subnetzmaske:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_Security">
+        <translation>Netzwerk und Sicherheit</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Label">
+        <translation>Authentifizierung:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Open">
+        <translation>Offenes System</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Shared">
+        <translation>Gemeinsamer Schlüssel</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA">
+        <translation>WPA-Personal</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA2">
+        <translation>WPA2-Personal</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_Label">
+        <translation>Verschlüsselung:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_Nothing">
+        <translation>Keine</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_WEP">
+        <translation>WEP</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_TKIP">
+        <translation>TKIP</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_AES">
+        <translation>AES</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_SSID_Label">
+        <translation>Netzwerkname (SSID):</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DIRECT_Label">
+        <translation>DIRECT-</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_PSK_Label">
+        <translation>WPA-Schlüssel:</translation>
+    </message>
+    <message id="DWT_ToolChip_SimpleAP_Text_SSID">
+        <translation>Was im Namen des Netzwerks auf DIRECT- folgt: 1 bis 25 Buchstaben, Ziffern, Leerzeichen und Satzzeichen.</translation>
+    </message>
+    <message id="DWT_ToolChip_SimpleAP_Text_PSK">
+        <translation>Der Schlüssel (Kennwort), mit dem Computer beitreten: 8 bis 63 Buchstaben, Ziffern, Leerzeichen und Satzzeichen.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
+        <translation>Netzwerkname (SSID) des Zugangspunkts</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
+        <translation>Geben Sie 1 bis 25 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Satzzeichen einer US-Tastatur.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
+        <translation>WPA-Schlüssel des Zugangspunkts</translation>
+    </message>
+    <message id="DWT_Localize_App_Name">
+        <translation>Network Setting Tool</translation>
+    </message>
+    <message id="DWT_Localize_Wait_TextField">
+        <translation>Bitte warten…</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Send">
+        <translation>An Drucker senden…</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Cancel">
+        <translation>Schließen</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_NewSetting">
+        <translation>Neu lesen</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Help">
+        <translation>Hilfe</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_SelectPrinter_Label">
+        <translation>Drucker:</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_Network">
+        <translation>Dieser Drucker wird über das Netzwerk erreicht. Seine Einstellungen werden angezeigt; um sie zu ändern, schließen Sie ihn über USB an.</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
+        <translation>Nicht alle Einstellungen konnten gelesen werden, daher lässt sich nichts ändern. Prüfen Sie, ob der Drucker eingeschaltet und angeschlossen ist, und wählen Sie dann „Neu lesen“.</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Name">
+        <translation>Kategorien</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Printer">
+        <translation>Druckereinstellungen</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Firmware">
+        <translation>Gerät</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Network">
+        <translation>Namen</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Ethernet">
+        <translation>Kabelnetzwerk</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Wireless">
+        <translation>WLAN</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Infrastructure">
+        <translation>Infrastruktur</translation>
+    </message>
+    <message id="DWT_Localize_Outline_SimpleAP">
+        <translation>Zugangspunkt</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Password">
+        <translation>Kennwort</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Dowline">
+        <translation>Verbindung zum Drucker</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Warning">
+        <translation>– bitte beachten</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Printer_ConnectErr">
+        <translation>Der Drucker konnte nicht gelesen werden. Prüfen Sie, ob er eingeschaltet ist, ob sein Kabel steckt und ob kein anderes Programm ihn verwendet, und versuchen Sie es dann erneut.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_ChangeSetting_Warning">
+        <translation>Sie haben einen Namen oder eine Adresse geändert, über die der Drucker erreicht wird. Nach dem Senden finden Computer, die die alte verwenden, den Drucker nicht mehr.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SelectSSID">
+        <translation>Liste der Netzwerke</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_SSIDList_CommunicateModeErr">
+        <translation>Der Drucker kann nur in der Betriebsart Infrastruktur nach Netzwerken suchen. Wählen Sie zuerst auf der Seite „WLAN“ die Betriebsart „Infrastruktur“.</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_TextField_Cancel">
+        <translation>Einige Änderungen wurden noch nicht an den Drucker gesendet. Vor dem Schließen senden?</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
+        <translation>Senden</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_NoReflect">
+        <translation>Ohne Senden schließen</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
+        <translation>Einige Änderungen wurden noch nicht an den Drucker gesendet. Beim erneuten Lesen gehen sie verloren.</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
+        <translation>Verwerfen und lesen</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_TextField">
+        <translation>Einstellungen jetzt an den Drucker senden? Schalten Sie den Drucker währenddessen nicht aus und trennen Sie ihn nicht.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Button_Send">
+        <translation>Senden</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Button_Cancel">
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_TextField">
+        <translation>Die Einstellungen werden an den Drucker gesendet…</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_TextField">
+        <translation>Die Einstellungen wurden gesendet. Was der Drucker jetzt enthält, zeigt „Neu lesen“.</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Button_OK">
+        <translation>OK</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_TextField">
+        <translation>Dieser Drucker ist geschützt. Geben Sie sein Administratorkennwort ein.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Password_Label">
+        <translation>Kennwort:</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Button_OK">
+        <translation>Anmelden</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Button_Cancel">
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_TextField">
+        <translation>Der Drucker hat dieses Kennwort nicht angenommen. Groß- und Kleinschreibung zählt.</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_Button_OK">
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_TextField">
+        <translation>Der Drucker ist nicht erreichbar, und es wurde nichts gesendet. Prüfen Sie, ob er eingeschaltet ist und sein Kabel steckt, und senden Sie dann erneut. Ihre Änderungen bleiben erhalten.</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Button_OK">
+        <translation>OK</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TextField">
+        <translation>Drahtlose Netzwerke, die der Drucker sieht. Eine leere Liste bedeutet, dass er keines gefunden hat oder nicht erreichbar war.</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
+        <translation>Netzwerkname (SSID)</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_Security">
+        <translation>Geschützt</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_Intensity">
+        <translation>Signal</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Security_YES">
+        <translation>Ja</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Security_NO">
+        <translation>Nein</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Strong">
+        <translation>Stark</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Middle">
+        <translation>Mittel</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Low">
+        <translation>Schwach</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Button_OK_Key">
+        <translation>Netzwerk übernehmen</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Button_Cancel_Key">
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField">
+        <translation>Mit WPS tritt der Drucker einem WLAN bei, ohne dass Sie einen Schlüssel eingeben. Bereiten Sie beide Geräte vor:</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_a1">
+        <translation>1.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_a">
+        <translation>Schalten Sie den Drucker ein und stellen Sie ihn in die Nähe des WLAN-Routers (Zugangspunkts).</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_b2">
+        <translation>2.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_b">
+        <translation>Suchen Sie die WPS-Taste des Routers. Sie ist oft mit WPS oder zwei gebogenen Pfeilen gekennzeichnet; die Anleitung des Routers zeigt sie.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_c">
+        <translation>Ein Router ohne WPS lässt sich so nicht verwenden; geben Sie stattdessen Name und Schlüssel des Netzwerks ein.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Next_Key">
+        <translation>Weiter</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Back_Key">
+        <translation>Zurück</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Exit_Key">
+        <translation>Beenden</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_TextField">
+        <translation>Starten Sie WPS im Menü des Druckers und drücken Sie dann innerhalb von zwei Minuten die WPS-Taste des Routers. Leuchtet die WLAN-Anzeige des Druckers dauerhaft, ist er verbunden.</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Next_Key">
+        <translation>Fertig</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Back_Key">
+        <translation>Zurück</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Exit_Key">
+        <translation>Beenden</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_TextField">
+        <translation>Dieses Programm zeigt und ändert die Netzwerkeinstellungen eines Etikettendruckers: seine Namen, sein Kabelnetzwerk und WLAN und sein Administratorkennwort. Die nächsten Schritte helfen Ihnen, den Drucker anzuschließen.</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_Button_OK_Key">
+        <translation>Weiter</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_Button_Exit_Key">
+        <translation>Beenden</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_TextField">
+        <translation>Wie möchten Sie den Drucker anschließen?</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Matrix_USB_Key">
+        <translation>Über USB, um die Einstellungen hier einzugeben</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
+        <translation>An ein WLAN, mit WPS</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
+        <translation>Weiter</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Button_Exit_Key">
+        <translation>Beenden</translation>
+    </message>
+    <message id="DWT_Localize_USBConnect_TextField">
+        <translation>Verbinden Sie den Drucker über ein USB-Kabel mit diesem Computer und schalten Sie ihn ein. Wählen Sie dann „Weiter“, um ihn zu finden.</translation>
+    </message>
+    <message id="DWT_Localize_USBConnect_Button_Next_Key">
+        <translation>Weiter</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TextField">
+        <translation>Wählen Sie den Drucker, dessen Einstellungen Sie sehen möchten. Nur ein über USB angeschlossener Drucker kann geändert werden.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_OK_Key">
+        <translation>Öffnen</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Reload_Key">
+        <translation>Erneut suchen</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Exit_Key">
+        <translation>Beenden</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TableView_Name_Column">
+        <translation>Drucker</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TableView_Service_Column">
+        <translation>Verbindung</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_BonjourService_Network">
+        <translation>Netzwerk</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_BonjourService_USB">
+        <translation>USB</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Application">
+        <translation>&amp;Anwendung</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Quit">
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Edit">
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Cut">
+        <translation>A&amp;usschneiden</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Copy">
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Paste">
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message id="DWT_Localize_Menu_SelectAll">
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Window">
+        <translation>&amp;Fenster</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Minimize">
+        <translation>&amp;Minimieren</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Close">
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Help">
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message id="DWT_Localize_Menu_About">
+        <translation>&amp;Über Network Setting Tool</translation>
+    </message>
+    <message id="DWT_Localize_About_Text">
+        <translation>Zeigt und ändert die Netzwerkeinstellungen von Etikettendruckern.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty">
+        <translation>Es wurde kein Drucker gefunden. Prüfen Sie, ob der Drucker eingeschaltet und über ein USB-Kabel mit diesem Computer verbunden ist oder sich im selben Netzwerk befindet. Wählen Sie dann „Erneut suchen“.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Searching">
+        <translation>Drucker werden gesucht…</translation>
+    </message>
+    <message id="DWT_Localize_CommandLine_Help">
+        <translation>Zeigt und ändert die Netzwerkeinstellungen von Etikettendruckern.
+
+Aufruf: %1 [-Installer] [--help] [--version]
+
+  -Installer  mit einer Anleitung zum Anschließen beginnen; nur USB-Drucker auflisten
+  --help      diesen Text anzeigen und enden
+  --version   die Version anzeigen und enden</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,760 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es">
+<context>
+    <name></name>
+    <message id="DWT_Localize_Alert_Button_OK">
+        <translation>Aceptar</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Error">
+        <translation>– entrada no válida</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Network_PrinterName">
+        <translation>Nombre de la impresora</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_PrinterName_InputErr">
+        <translation>Escriba de 1 a 31 caracteres. Un nombre de impresora consta de las letras A a Z y a a z, cifras y guiones, sin espacios.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Network_BonjourName">
+        <translation>Nombre Bonjour</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_BonjourName_InputErr">
+        <translation>Escriba de 1 a 25 caracteres. Un nombre Bonjour consta de las letras A a Z y a a z, cifras y guiones, sin espacios.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Network_BonjourServiceName">
+        <translation>Nombre del servicio Bonjour</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
+        <translation>Escriba de 1 a 31 caracteres: letras A a Z y a a z, cifras, espacios y los signos de un teclado de EE. UU. No se admiten letras acentuadas.</translation>
+    </message>
+    <message id="DWT_Localize_Network_Box_PrinterName">
+        <translation>Nombre de la impresora</translation>
+    </message>
+    <message id="DWT_Localize_Network_Box_BonjourName">
+        <translation>Bonjour</translation>
+    </message>
+    <message id="DWT_Localize_Network_Text_NetworkBonjour_Label">
+        <translation>Nombre Bonjour:</translation>
+    </message>
+    <message id="DWT_Localize_Network_Text_NetworkBonjourService_Label">
+        <translation>Nombre del servicio:</translation>
+    </message>
+    <message id="DWT_Localize_Network_Text_BonjourLocal">
+        <translation>.local</translation>
+    </message>
+    <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
+        <translation>Nombre con el que los equipos de la red encuentran la impresora: de 1 a 25 letras, cifras y guiones.</translation>
+    </message>
+    <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
+        <translation>Nombre que muestran las listas de impresoras: de 1 a 31 letras, cifras, espacios y signos de puntuación.</translation>
+    </message>
+    <message id="DWT_ToolChip_Network_Text_NetworkHostName">
+        <translation>Nombre propio de la impresora: de 1 a 31 letras, cifras y guiones.</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
+        <translation>Wi-Fi</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_CommunicateMode_Label">
+        <translation>Modo de comunicación:</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_Infrastructure_Label">
+        <translation>Infraestructura: unirse a una red Wi-Fi existente</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
+        <translation>Punto de acceso: los equipos se unen a la red de la impresora</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
+        <translation>Desactivado: sin Wi-Fi</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label">
+        <translation>Dirección MAC (infraestructura):</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_SimpleAPMACAddress_Label">
+        <translation>Dirección MAC (punto de acceso):</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Box_SoftwareInfomation">
+        <translation>Software</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Text_Firmware_Label">
+        <translation>Versión del firmware:</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Box_PrintTimeOut">
+        <translation>Tiempo de espera de impresión</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Text_Second_Label">
+        <translation>segundos (de 30 a 300)</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_PasswordChange_Label">
+        <translation>Establecer una nueva contraseña de administrador</translation>
+    </message>
+    <message id="DWT_Localize_Password_Box_AdministratorPassword">
+        <translation>Contraseña de administrador</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Password_Label">
+        <translation>Nueva contraseña:</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Reinput_Label">
+        <translation>Repítala:</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_PasswordInfomation">
+        <translation>Con una contraseña de administrador, los ajustes solo se pueden cambiar tras iniciar sesión.</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Cautions_Label">
+        <translation>Deje ambos campos vacíos para quitar la contraseña. Anote la nueva: no se puede leer de la impresora.</translation>
+    </message>
+    <message id="DWT_ToolChip_Password_Text_Password">
+        <translation>Hasta 8 letras, cifras y signos de puntuación; sin espacios.</translation>
+    </message>
+    <message id="DWT_ToolChip_Password_Text_Reinput">
+        <translation>La misma contraseña otra vez.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Password_Password">
+        <translation>Nueva contraseña</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Password_Reinput">
+        <translation>Contraseña repetida</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
+        <translation>Escriba 8 caracteres como máximo: letras A a Z y a a z, cifras y ! " # $ % &amp; ' ( ) * + , - . / { | } ~ , sin espacios.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
+        <translation>Las dos contraseñas son distintas. Escriba la misma contraseña en ambos campos.</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
+        <translation>Sin comprobar</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Online">
+        <translation>La impresora responde</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Offline">
+        <translation>La impresora no responde</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Button_Connect">
+        <translation>Probar conexión</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_WiredConnection">
+        <translation>Conexión</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Label">
+        <translation>Conexión:</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_WiredLANMACAddress">
+        <translation>Interfaz por cable</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_WiredMACAddress_Label">
+        <translation>Dirección MAC:</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_IPAddressSetup">
+        <translation>Dirección IP</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_ButtonCell_Auto">
+        <translation>Automática (DHCP)</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_ButtonCell_Manual">
+        <translation>Dirección fija</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
+        <translation>Dirección IP:</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_SubnetMask_Label">
+        <translation>Máscara de subred:</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Gateway_Label">
+        <translation>Puerta de enlace:</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_IPAddress">
+        <translation>Cuatro números de 0 a 255 separados por puntos, por ejemplo 192.168.0.10.</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_SubnetMask">
+        <translation>Cuatro números de 0 a 255 separados por puntos, por ejemplo 255.255.255.0.</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_Gateway">
+        <translation>La dirección del enrutador: cuatro números de 0 a 255 separados por puntos.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
+        <translation>Dirección IP</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_SubnetMask">
+        <translation>Máscara de subred</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_Gateway">
+        <translation>Puerta de enlace</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_IpAddress_InputErr">
+        <translation>Escriba la dirección IP como cuatro números de 0 a 255 separados por puntos. No se admiten 0.0.0.0, 127.0.0.1 ni 255.255.255.255.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Subnetmask_InputErr">
+        <translation>Escriba la máscara de subred como cuatro números de 0 a 255 separados por puntos. No se admiten 0.0.0.0 ni 255.255.255.255.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Router_InputErr">
+        <translation>Escriba la puerta de enlace como cuatro números de 0 a 255 separados por puntos. No se admiten 0.0.0.0 ni 255.255.255.255.</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_WirelessConnection">
+        <translation>Conexión Wi-Fi</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Label">
+        <translation>Conexión:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Nolook">
+        <translation>Sin comprobar</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Online">
+        <translation>La impresora responde</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Offline">
+        <translation>La impresora no responde</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_Connect">
+        <translation>Probar conexión</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_Label">
+        <translation>Estándar Wi-Fi:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_B">
+        <translation>IEEE 802.11b</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_BG">
+        <translation>IEEE 802.11b/g</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_BGN">
+        <translation>IEEE 802.11b/g/n</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_FieldIntensity_Label">
+        <translation>Intensidad de la señal:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_IPAddressSetup">
+        <translation>Dirección IP</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_ButtonCell_Auto">
+        <translation>Automática (DHCP)</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_ButtonCell_Manual">
+        <translation>Dirección fija</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_IPAddress_Label">
+        <translation>Dirección IP:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SubnetMask_Label">
+        <translation>Máscara de subred:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Gateway_Label">
+        <translation>Puerta de enlace:</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_IPAddress">
+        <translation>Cuatro números de 0 a 255 separados por puntos, por ejemplo 192.168.0.10.</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_SubnetMask">
+        <translation>Cuatro números de 0 a 255 separados por puntos, por ejemplo 255.255.255.0.</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
+        <translation>La dirección del enrutador: cuatro números de 0 a 255 separados por puntos.</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_Security">
+        <translation>Red y seguridad</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Authentic_Label">
+        <translation>Autenticación:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Encryption_Label">
+        <translation>Cifrado:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_Open">
+        <translation>Sistema abierto</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_Shared">
+        <translation>Clave compartida</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA">
+        <translation>WPA personal</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA2">
+        <translation>WPA2 personal</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_Nothing">
+        <translation>Ninguno</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_WEP">
+        <translation>WEP</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_TKIP">
+        <translation>TKIP</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_AES">
+        <translation>AES</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_1">
+        <translation>Clave 1</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_2">
+        <translation>Clave 2</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_3">
+        <translation>Clave 3</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_4">
+        <translation>Clave 4</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
+        <translation>Acerca de WPS…</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
+        <translation>Nombre de red (SSID):</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_SSID">
+        <translation>Nombre de la red Wi-Fi: de 1 a 32 letras, cifras, espacios y signos de puntuación.</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
+        <translation>Elegir…</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_PSK_Label">
+        <translation>Clave WPA:</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_PSK">
+        <translation>Clave precompartida de la red (contraseña): de 8 a 63 letras, cifras, espacios y signos de puntuación.</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
+        <translation>Clave WEP:</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_WEPKey">
+        <translation>5 o 13 caracteres, o bien 10 o 26 cifras hexadecimales (0 a 9, A a F).</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SelectWEPKey_Label">
+        <translation>Número de clave WEP:</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_IpAddress">
+        <translation>Dirección IP</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SubnetMask">
+        <translation>Máscara de subred</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_Gateway">
+        <translation>Puerta de enlace</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SSID">
+        <translation>Nombre de red (SSID)</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
+        <translation>Escriba de 1 a 32 caracteres: letras A a Z y a a z, cifras, espacios y los signos de un teclado de EE. UU. Una red con otros caracteres en su nombre se puede tomar de la lista de redes.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
+        <translation>Clave WPA</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
+        <translation>Escriba de 8 a 63 caracteres: letras A a Z y a a z, cifras, espacios y los signos de un teclado de EE. UU.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
+        <translation>Clave WEP</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_WEPKey_InputErr">
+        <translation>Escriba 5 o 13 caracteres (letras, cifras, espacios y los signos de un teclado de EE. UU.), o bien 10 o 26 cifras hexadecimales (0 a 9 y A a F).</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_WirelessLANMode">
+        <translation>Punto de acceso</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessLANMode_Label">
+        <translation>Estándar Wi-Fi:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_B">
+        <translation>IEEE 802.11b</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_BG">
+        <translation>IEEE 802.11b/g</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_BGN">
+        <translation>IEEE 802.11b/g/n</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_DHCPSetup">
+        <translation>Direcciones de los equipos</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DHCPServer_Label">
+        <translation>Servidor DHCP:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DHCP">
+        <translation>Activado: la impresora asigna las direcciones</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_IPAddressSetup">
+        <translation>Dirección IP</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_StartIpAddress_Label">
+        <translation>Primera dirección asignada:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_IpAddress_Label">
+        <translation>Dirección de la impresora:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_SubnetMask_Label">
+        <translation>Máscara de subred:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_Security">
+        <translation>Red y seguridad</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Label">
+        <translation>Autenticación:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Open">
+        <translation>Sistema abierto</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Shared">
+        <translation>Clave compartida</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA">
+        <translation>WPA personal</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA2">
+        <translation>WPA2 personal</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_Label">
+        <translation>Cifrado:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_Nothing">
+        <translation>Ninguno</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_WEP">
+        <translation>WEP</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_TKIP">
+        <translation>TKIP</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_AES">
+        <translation>AES</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_SSID_Label">
+        <translation>Nombre de red (SSID):</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DIRECT_Label">
+        <translation>DIRECT-</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_PSK_Label">
+        <translation>Clave WPA:</translation>
+    </message>
+    <message id="DWT_ToolChip_SimpleAP_Text_SSID">
+        <translation>Lo que sigue a DIRECT- en el nombre de la red: de 1 a 25 letras, cifras, espacios y signos de puntuación.</translation>
+    </message>
+    <message id="DWT_ToolChip_SimpleAP_Text_PSK">
+        <translation>Clave (contraseña) con la que se unen los equipos: de 8 a 63 letras, cifras, espacios y signos de puntuación.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
+        <translation>Nombre de red (SSID) del punto de acceso</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
+        <translation>Escriba de 1 a 25 caracteres: letras A a Z y a a z, cifras, espacios y los signos de un teclado de EE. UU.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
+        <translation>Clave WPA del punto de acceso</translation>
+    </message>
+    <message id="DWT_Localize_App_Name">
+        <translation>Network Setting Tool</translation>
+    </message>
+    <message id="DWT_Localize_Wait_TextField">
+        <translation>Espere…</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Send">
+        <translation>Enviar a la impresora…</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Cancel">
+        <translation>Cerrar</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_NewSetting">
+        <translation>Volver a leer</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Help">
+        <translation>Ayuda</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_SelectPrinter_Label">
+        <translation>Impresora:</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_Network">
+        <translation>Esta impresora está conectada a través de la red. Sus ajustes se muestran; para cambiarlos, conéctela por USB.</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
+        <translation>No se pudieron leer todos los ajustes, por lo que no se puede cambiar nada. Compruebe que la impresora está encendida y conectada y elija «Volver a leer».</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Name">
+        <translation>Categorías</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Printer">
+        <translation>Ajustes de la impresora</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Firmware">
+        <translation>Dispositivo</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Network">
+        <translation>Nombres</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Ethernet">
+        <translation>Red por cable</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Wireless">
+        <translation>Red Wi-Fi</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Infrastructure">
+        <translation>Infraestructura</translation>
+    </message>
+    <message id="DWT_Localize_Outline_SimpleAP">
+        <translation>Punto de acceso</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Password">
+        <translation>Contraseña</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Dowline">
+        <translation>Conexión con la impresora</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Warning">
+        <translation>– atención</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Printer_ConnectErr">
+        <translation>No se pudo leer la impresora. Compruebe que está encendida, que su cable está conectado y que ningún otro programa la usa, e inténtelo de nuevo.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_ChangeSetting_Warning">
+        <translation>Ha cambiado un nombre o una dirección con los que se accede a la impresora. Cuando se envíen los ajustes, los equipos que usen los anteriores dejarán de encontrarla.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SelectSSID">
+        <translation>Lista de redes</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_SSIDList_CommunicateModeErr">
+        <translation>La impresora solo puede buscar redes en modo infraestructura. Elija primero «Infraestructura» en la página «Red Wi-Fi».</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_TextField_Cancel">
+        <translation>Hay cambios que no se han enviado a la impresora. ¿Enviarlos antes de cerrar?</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
+        <translation>Enviar</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_NoReflect">
+        <translation>Cerrar sin enviar</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
+        <translation>Cancelar</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
+        <translation>Hay cambios que no se han enviado a la impresora. Si vuelve a leerla, se perderán.</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
+        <translation>Descartar y leer</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
+        <translation>Cancelar</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_TextField">
+        <translation>¿Enviar ahora los ajustes a la impresora? No la apague ni la desconecte mientras tanto.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Button_Send">
+        <translation>Enviar</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Button_Cancel">
+        <translation>Cancelar</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_TextField">
+        <translation>Enviando los ajustes a la impresora…</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_TextField">
+        <translation>Los ajustes se han enviado. Para ver lo que la impresora contiene ahora, elija «Volver a leer».</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Button_OK">
+        <translation>Aceptar</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_TextField">
+        <translation>Esta impresora está protegida. Escriba su contraseña de administrador.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Password_Label">
+        <translation>Contraseña:</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Button_OK">
+        <translation>Iniciar sesión</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Button_Cancel">
+        <translation>Cancelar</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_TextField">
+        <translation>La impresora no ha aceptado esta contraseña. Se distinguen mayúsculas y minúsculas.</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_Button_OK">
+        <translation>Reintentar</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_TextField">
+        <translation>No se puede acceder a la impresora y no se ha enviado nada. Compruebe que está encendida y que su cable está conectado, y vuelva a enviar. Sus cambios se conservan.</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Button_OK">
+        <translation>Aceptar</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TextField">
+        <translation>Redes Wi-Fi que ve la impresora. Una lista vacía significa que no encontró ninguna o que no se pudo acceder a ella.</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
+        <translation>Nombre de red (SSID)</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_Security">
+        <translation>Protegida</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_Intensity">
+        <translation>Señal</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Security_YES">
+        <translation>Sí</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Security_NO">
+        <translation>No</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Strong">
+        <translation>Fuerte</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Middle">
+        <translation>Media</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Low">
+        <translation>Débil</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Button_OK_Key">
+        <translation>Usar esta red</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Button_Cancel_Key">
+        <translation>Cancelar</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField">
+        <translation>Con WPS, la impresora se une a una red Wi-Fi sin escribir ninguna clave. Prepare ambos dispositivos:</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_a1">
+        <translation>1.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_a">
+        <translation>Encienda la impresora y colóquela cerca del enrutador Wi-Fi (punto de acceso).</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_b2">
+        <translation>2.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_b">
+        <translation>Localice el botón WPS del enrutador. Suele llevar la marca WPS o dos flechas curvas; el manual del enrutador lo muestra.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_c">
+        <translation>Un enrutador sin WPS no sirve para esto; escriba en su lugar el nombre y la clave de la red.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Next_Key">
+        <translation>Siguiente</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Back_Key">
+        <translation>Atrás</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Exit_Key">
+        <translation>Salir</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_TextField">
+        <translation>Inicie WPS en el menú de la impresora y pulse el botón WPS del enrutador antes de dos minutos. Cuando la luz Wi-Fi de la impresora quede fija, estará conectada.</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Next_Key">
+        <translation>Finalizar</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Back_Key">
+        <translation>Atrás</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Exit_Key">
+        <translation>Salir</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_TextField">
+        <translation>Esta herramienta muestra y cambia los ajustes de red de una impresora de etiquetas: sus nombres, su red por cable y Wi-Fi y su contraseña de administrador. Los pasos siguientes le ayudan a conectar la impresora.</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_Button_OK_Key">
+        <translation>Continuar</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_Button_Exit_Key">
+        <translation>Salir</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_TextField">
+        <translation>¿Cómo quiere conectar la impresora?</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Matrix_USB_Key">
+        <translation>Por USB, para introducir sus ajustes aquí</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
+        <translation>A una red Wi-Fi, con WPS</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
+        <translation>Siguiente</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Button_Exit_Key">
+        <translation>Salir</translation>
+    </message>
+    <message id="DWT_Localize_USBConnect_TextField">
+        <translation>Conecte la impresora a este equipo con un cable USB y enciéndala. Elija después «Siguiente» para encontrarla.</translation>
+    </message>
+    <message id="DWT_Localize_USBConnect_Button_Next_Key">
+        <translation>Siguiente</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TextField">
+        <translation>Elija la impresora cuyos ajustes quiere ver. Solo se puede cambiar una impresora conectada por USB.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_OK_Key">
+        <translation>Abrir</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Reload_Key">
+        <translation>Buscar de nuevo</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Exit_Key">
+        <translation>Salir</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TableView_Name_Column">
+        <translation>Impresora</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TableView_Service_Column">
+        <translation>Conexión</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_BonjourService_Network">
+        <translation>Red</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_BonjourService_USB">
+        <translation>USB</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Application">
+        <translation>&amp;Aplicación</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Quit">
+        <translation>&amp;Salir</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Edit">
+        <translation>&amp;Edición</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Cut">
+        <translation>Cor&amp;tar</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Copy">
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Paste">
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message id="DWT_Localize_Menu_SelectAll">
+        <translation>Seleccionar t&amp;odo</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Window">
+        <translation>&amp;Ventana</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Minimize">
+        <translation>&amp;Minimizar</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Close">
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Help">
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message id="DWT_Localize_Menu_About">
+        <translation>&amp;Acerca de Network Setting Tool</translation>
+    </message>
+    <message id="DWT_Localize_About_Text">
+        <translation>Muestra y cambia los ajustes de red de impresoras de etiquetas.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty">
+        <translation>No se encontró ninguna impresora. Compruebe que la impresora está encendida y conectada a este equipo con un cable USB, o que está en la misma red. Elija después «Buscar de nuevo».</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Searching">
+        <translation>Buscando impresoras…</translation>
+    </message>
+    <message id="DWT_Localize_CommandLine_Help">
+        <translation>Muestra y cambia los ajustes de red de impresoras de etiquetas.
+
+Uso: %1 [-Installer] [--help] [--version]
+
+  -Installer  empezar con una guía de conexión; mostrar solo impresoras USB
+  --help      mostrar este texto y terminar
+  --version   mostrar la versión y terminar</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,760 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name></name>
+    <message id="DWT_Localize_Alert_Button_OK">
+        <translation>OK</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Error">
+        <translation>– saisie impossible</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Network_PrinterName">
+        <translation>Nom de l’imprimante</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_PrinterName_InputErr">
+        <translation>Saisissez de 1 à 31 caractères. Un nom d’imprimante se compose des lettres A à Z et a à z, de chiffres et de traits d’union, sans espaces.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Network_BonjourName">
+        <translation>Nom Bonjour</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_BonjourName_InputErr">
+        <translation>Saisissez de 1 à 25 caractères. Un nom Bonjour se compose des lettres A à Z et a à z, de chiffres et de traits d’union, sans espaces.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Network_BonjourServiceName">
+        <translation>Nom du service Bonjour</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
+        <translation>Saisissez de 1 à 31 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain. Les lettres accentuées ne sont pas possibles.</translation>
+    </message>
+    <message id="DWT_Localize_Network_Box_PrinterName">
+        <translation>Nom de l’imprimante</translation>
+    </message>
+    <message id="DWT_Localize_Network_Box_BonjourName">
+        <translation>Bonjour</translation>
+    </message>
+    <message id="DWT_Localize_Network_Text_NetworkBonjour_Label">
+        <translation>Nom Bonjour :</translation>
+    </message>
+    <message id="DWT_Localize_Network_Text_NetworkBonjourService_Label">
+        <translation>Nom du service :</translation>
+    </message>
+    <message id="DWT_Localize_Network_Text_BonjourLocal">
+        <translation>.local</translation>
+    </message>
+    <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
+        <translation>Nom sous lequel les ordinateurs du réseau trouvent l’imprimante : de 1 à 25 lettres, chiffres et traits d’union.</translation>
+    </message>
+    <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
+        <translation>Nom affiché par les listes d’imprimantes : de 1 à 31 lettres, chiffres, espaces et signes de ponctuation.</translation>
+    </message>
+    <message id="DWT_ToolChip_Network_Text_NetworkHostName">
+        <translation>Nom de l’imprimante elle-même : de 1 à 31 lettres, chiffres et traits d’union.</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
+        <translation>Wi-Fi</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_CommunicateMode_Label">
+        <translation>Mode de communication :</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_Infrastructure_Label">
+        <translation>Infrastructure : rejoindre un réseau Wi-Fi existant</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
+        <translation>Point d’accès : les ordinateurs rejoignent le réseau de l’imprimante</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
+        <translation>Désactivé : pas de Wi-Fi</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label">
+        <translation>Adresse MAC (infrastructure) :</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_SimpleAPMACAddress_Label">
+        <translation>Adresse MAC (point d’accès) :</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Box_SoftwareInfomation">
+        <translation>Logiciel</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Text_Firmware_Label">
+        <translation>Version du micrologiciel :</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Box_PrintTimeOut">
+        <translation>Délai d’impression</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Text_Second_Label">
+        <translation>secondes (de 30 à 300)</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_PasswordChange_Label">
+        <translation>Définir un nouveau mot de passe administrateur</translation>
+    </message>
+    <message id="DWT_Localize_Password_Box_AdministratorPassword">
+        <translation>Mot de passe administrateur</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Password_Label">
+        <translation>Nouveau mot de passe :</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Reinput_Label">
+        <translation>Répétez-le :</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_PasswordInfomation">
+        <translation>Avec un mot de passe administrateur, les réglages ne peuvent être modifiés qu’après une connexion.</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Cautions_Label">
+        <translation>Laissez les deux champs vides pour supprimer le mot de passe. Notez le nouveau : il ne peut pas être lu dans l’imprimante.</translation>
+    </message>
+    <message id="DWT_ToolChip_Password_Text_Password">
+        <translation>Jusqu’à 8 lettres, chiffres et signes de ponctuation ; pas d’espaces.</translation>
+    </message>
+    <message id="DWT_ToolChip_Password_Text_Reinput">
+        <translation>Le même mot de passe, une seconde fois.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Password_Password">
+        <translation>Nouveau mot de passe</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Password_Reinput">
+        <translation>Mot de passe répété</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
+        <translation>Saisissez 8 caractères au plus : lettres A à Z et a à z, chiffres et ! " # $ % &amp; ' ( ) * + , - . / { | } ~ , sans espaces.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
+        <translation>Les deux mots de passe sont différents. Saisissez le même mot de passe dans les deux champs.</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
+        <translation>Pas encore testée</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Online">
+        <translation>L’imprimante répond</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Offline">
+        <translation>L’imprimante ne répond pas</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Button_Connect">
+        <translation>Tester la connexion</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_WiredConnection">
+        <translation>Connexion</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Label">
+        <translation>Connexion :</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_WiredLANMACAddress">
+        <translation>Interface filaire</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_WiredMACAddress_Label">
+        <translation>Adresse MAC :</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_IPAddressSetup">
+        <translation>Adresse IP</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_ButtonCell_Auto">
+        <translation>Automatique (DHCP)</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_ButtonCell_Manual">
+        <translation>Adresse fixe</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
+        <translation>Adresse IP :</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_SubnetMask_Label">
+        <translation>Masque de sous-réseau :</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Gateway_Label">
+        <translation>Passerelle par défaut :</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_IPAddress">
+        <translation>Quatre nombres de 0 à 255 séparés par des points, par exemple 192.168.0.10.</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_SubnetMask">
+        <translation>Quatre nombres de 0 à 255 séparés par des points, par exemple 255.255.255.0.</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_Gateway">
+        <translation>L’adresse du routeur : quatre nombres de 0 à 255 séparés par des points.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
+        <translation>Adresse IP</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_SubnetMask">
+        <translation>Masque de sous-réseau</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_Gateway">
+        <translation>Passerelle par défaut</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_IpAddress_InputErr">
+        <translation>Saisissez l’adresse IP sous la forme de quatre nombres de 0 à 255 séparés par des points. 0.0.0.0, 127.0.0.1 et 255.255.255.255 ne sont pas possibles.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Subnetmask_InputErr">
+        <translation>Saisissez le masque de sous-réseau sous la forme de quatre nombres de 0 à 255 séparés par des points. 0.0.0.0 et 255.255.255.255 ne sont pas possibles.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Router_InputErr">
+        <translation>Saisissez la passerelle par défaut sous la forme de quatre nombres de 0 à 255 séparés par des points. 0.0.0.0 et 255.255.255.255 ne sont pas possibles.</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_WirelessConnection">
+        <translation>Connexion Wi-Fi</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Label">
+        <translation>Connexion :</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Nolook">
+        <translation>Pas encore testée</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Online">
+        <translation>L’imprimante répond</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Offline">
+        <translation>L’imprimante ne répond pas</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_Connect">
+        <translation>Tester la connexion</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_Label">
+        <translation>Norme Wi-Fi :</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_B">
+        <translation>IEEE 802.11b</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_BG">
+        <translation>IEEE 802.11b/g</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_BGN">
+        <translation>IEEE 802.11b/g/n</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_FieldIntensity_Label">
+        <translation>Intensité du signal :</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_IPAddressSetup">
+        <translation>Adresse IP</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_ButtonCell_Auto">
+        <translation>Automatique (DHCP)</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_ButtonCell_Manual">
+        <translation>Adresse fixe</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_IPAddress_Label">
+        <translation>Adresse IP :</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SubnetMask_Label">
+        <translation>Masque de sous-réseau :</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Gateway_Label">
+        <translation>Passerelle par défaut :</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_IPAddress">
+        <translation>Quatre nombres de 0 à 255 séparés par des points, par exemple 192.168.0.10.</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_SubnetMask">
+        <translation>Quatre nombres de 0 à 255 séparés par des points, par exemple 255.255.255.0.</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
+        <translation>L’adresse du routeur : quatre nombres de 0 à 255 séparés par des points.</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_Security">
+        <translation>Réseau et sécurité</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Authentic_Label">
+        <translation>Authentification :</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Encryption_Label">
+        <translation>Chiffrement :</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_Open">
+        <translation>Système ouvert</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_Shared">
+        <translation>Clé partagée</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA">
+        <translation>WPA personnel</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA2">
+        <translation>WPA2 personnel</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_Nothing">
+        <translation>Aucun</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_WEP">
+        <translation>WEP</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_TKIP">
+        <translation>TKIP</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_AES">
+        <translation>AES</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_1">
+        <translation>Clé 1</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_2">
+        <translation>Clé 2</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_3">
+        <translation>Clé 3</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_4">
+        <translation>Clé 4</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
+        <translation>À propos de WPS…</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
+        <translation>Nom du réseau (SSID) :</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_SSID">
+        <translation>Nom du réseau Wi-Fi : de 1 à 32 lettres, chiffres, espaces et signes de ponctuation.</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
+        <translation>Choisir…</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_PSK_Label">
+        <translation>Clé WPA :</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_PSK">
+        <translation>Clé prépartagée du réseau (mot de passe) : de 8 à 63 lettres, chiffres, espaces et signes de ponctuation.</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
+        <translation>Clé WEP :</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_WEPKey">
+        <translation>5 ou 13 caractères, ou bien 10 ou 26 chiffres hexadécimaux (0 à 9, A à F).</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SelectWEPKey_Label">
+        <translation>Numéro de clé WEP :</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_IpAddress">
+        <translation>Adresse IP</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SubnetMask">
+        <translation>Masque de sous-réseau</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_Gateway">
+        <translation>Passerelle par défaut</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SSID">
+        <translation>Nom du réseau (SSID)</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
+        <translation>Saisissez de 1 à 32 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain. Un réseau dont le nom contient d’autres caractères peut être choisi dans la liste des réseaux.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
+        <translation>Clé WPA</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
+        <translation>Saisissez de 8 à 63 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
+        <translation>Clé WEP</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_WEPKey_InputErr">
+        <translation>Saisissez 5 ou 13 caractères (lettres, chiffres, espaces et signes de ponctuation d’un clavier américain), ou bien 10 ou 26 chiffres hexadécimaux (0 à 9 et A à F).</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_WirelessLANMode">
+        <translation>Point d’accès</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessLANMode_Label">
+        <translation>Norme Wi-Fi :</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_B">
+        <translation>IEEE 802.11b</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_BG">
+        <translation>IEEE 802.11b/g</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_BGN">
+        <translation>IEEE 802.11b/g/n</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_DHCPSetup">
+        <translation>Adresses des ordinateurs</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DHCPServer_Label">
+        <translation>Serveur DHCP :</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DHCP">
+        <translation>Activé : l’imprimante attribue les adresses</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_IPAddressSetup">
+        <translation>Adresse IP</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_StartIpAddress_Label">
+        <translation>Première adresse attribuée :</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_IpAddress_Label">
+        <translation>Adresse de l’imprimante :</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_SubnetMask_Label">
+        <translation>Masque de sous-réseau :</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_Security">
+        <translation>Réseau et sécurité</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Label">
+        <translation>Authentification :</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Open">
+        <translation>Système ouvert</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Shared">
+        <translation>Clé partagée</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA">
+        <translation>WPA personnel</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA2">
+        <translation>WPA2 personnel</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_Label">
+        <translation>Chiffrement :</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_Nothing">
+        <translation>Aucun</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_WEP">
+        <translation>WEP</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_TKIP">
+        <translation>TKIP</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_AES">
+        <translation>AES</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_SSID_Label">
+        <translation>Nom du réseau (SSID) :</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DIRECT_Label">
+        <translation>DIRECT-</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_PSK_Label">
+        <translation>Clé WPA :</translation>
+    </message>
+    <message id="DWT_ToolChip_SimpleAP_Text_SSID">
+        <translation>Ce qui suit DIRECT- dans le nom du réseau : de 1 à 25 lettres, chiffres, espaces et signes de ponctuation.</translation>
+    </message>
+    <message id="DWT_ToolChip_SimpleAP_Text_PSK">
+        <translation>Clé (mot de passe) avec laquelle les ordinateurs se connectent : de 8 à 63 lettres, chiffres, espaces et signes de ponctuation.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
+        <translation>Nom de réseau (SSID) du point d’accès</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
+        <translation>Saisissez de 1 à 25 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
+        <translation>Clé WPA du point d’accès</translation>
+    </message>
+    <message id="DWT_Localize_App_Name">
+        <translation>Network Setting Tool</translation>
+    </message>
+    <message id="DWT_Localize_Wait_TextField">
+        <translation>Veuillez patienter…</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Send">
+        <translation>Envoyer à l’imprimante…</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Cancel">
+        <translation>Fermer</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_NewSetting">
+        <translation>Relire</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Help">
+        <translation>Aide</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_SelectPrinter_Label">
+        <translation>Imprimante :</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_Network">
+        <translation>Cette imprimante est jointe par le réseau. Ses réglages sont affichés ; pour les modifier, connectez-la par USB.</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
+        <translation>Certains réglages n’ont pas pu être lus ; rien ne peut donc être modifié. Vérifiez que l’imprimante est allumée et connectée, puis choisissez « Relire ».</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Name">
+        <translation>Catégories</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Printer">
+        <translation>Réglages de l’imprimante</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Firmware">
+        <translation>Appareil</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Network">
+        <translation>Noms</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Ethernet">
+        <translation>Réseau filaire</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Wireless">
+        <translation>Réseau Wi-Fi</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Infrastructure">
+        <translation>Infrastructure</translation>
+    </message>
+    <message id="DWT_Localize_Outline_SimpleAP">
+        <translation>Point d’accès</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Password">
+        <translation>Mot de passe</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Dowline">
+        <translation>Connexion à l’imprimante</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Warning">
+        <translation>– attention</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Printer_ConnectErr">
+        <translation>L’imprimante n’a pas pu être lue. Vérifiez qu’elle est allumée, que son câble est branché et qu’aucun autre programme ne l’utilise, puis réessayez.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_ChangeSetting_Warning">
+        <translation>Vous avez modifié un nom ou une adresse par lesquels l’imprimante est jointe. Une fois les réglages envoyés, les ordinateurs qui utilisent l’ancien ne trouveront plus l’imprimante.</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SelectSSID">
+        <translation>Liste des réseaux</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_SSIDList_CommunicateModeErr">
+        <translation>L’imprimante ne peut rechercher des réseaux qu’en mode infrastructure. Choisissez d’abord « Infrastructure » sur la page « Réseau Wi-Fi ».</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_TextField_Cancel">
+        <translation>Certaines modifications n’ont pas été envoyées à l’imprimante. Les envoyer avant de fermer ?</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
+        <translation>Envoyer</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_NoReflect">
+        <translation>Fermer sans envoyer</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
+        <translation>Annuler</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
+        <translation>Certaines modifications n’ont pas été envoyées à l’imprimante. Une nouvelle lecture les abandonne.</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
+        <translation>Abandonner et relire</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
+        <translation>Annuler</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_TextField">
+        <translation>Envoyer maintenant les réglages à l’imprimante ? Ne l’éteignez pas et ne la débranchez pas pendant l’envoi.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Button_Send">
+        <translation>Envoyer</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Button_Cancel">
+        <translation>Annuler</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_TextField">
+        <translation>Envoi des réglages à l’imprimante…</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_TextField">
+        <translation>Les réglages ont été envoyés. Pour voir ce que l’imprimante contient à présent, choisissez « Relire ».</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Button_OK">
+        <translation>OK</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_TextField">
+        <translation>Cette imprimante est protégée. Saisissez son mot de passe administrateur.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Password_Label">
+        <translation>Mot de passe :</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Button_OK">
+        <translation>Se connecter</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Button_Cancel">
+        <translation>Annuler</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_TextField">
+        <translation>L’imprimante n’a pas accepté ce mot de passe. Les majuscules et les minuscules comptent.</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_Button_OK">
+        <translation>Réessayer</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_TextField">
+        <translation>L’imprimante est injoignable, et rien n’a été envoyé. Vérifiez qu’elle est allumée et que son câble est branché, puis renvoyez. Vos modifications sont conservées.</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Button_OK">
+        <translation>OK</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TextField">
+        <translation>Réseaux Wi-Fi que l’imprimante voit. Une liste vide signifie qu’elle n’en a trouvé aucun ou qu’elle était injoignable.</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
+        <translation>Nom du réseau (SSID)</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_Security">
+        <translation>Protégé</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_Intensity">
+        <translation>Signal</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Security_YES">
+        <translation>Oui</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Security_NO">
+        <translation>Non</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Strong">
+        <translation>Fort</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Middle">
+        <translation>Moyen</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Low">
+        <translation>Faible</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Button_OK_Key">
+        <translation>Utiliser ce réseau</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Button_Cancel_Key">
+        <translation>Annuler</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField">
+        <translation>Avec WPS, l’imprimante rejoint un réseau Wi-Fi sans que vous saisissiez de clé. Préparez les deux appareils :</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_a1">
+        <translation>1.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_a">
+        <translation>Allumez l’imprimante et placez-la près du routeur Wi-Fi (point d’accès).</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_b2">
+        <translation>2.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_b">
+        <translation>Repérez le bouton WPS du routeur. Il porte souvent l’inscription WPS ou deux flèches courbes ; le manuel du routeur l’indique.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_c">
+        <translation>Un routeur sans WPS ne convient pas ; saisissez alors le nom et la clé du réseau.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Next_Key">
+        <translation>Suivant</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Back_Key">
+        <translation>Retour</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Exit_Key">
+        <translation>Quitter</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_TextField">
+        <translation>Lancez WPS dans le menu de l’imprimante, puis appuyez sur le bouton WPS du routeur dans les deux minutes. Lorsque le voyant Wi-Fi de l’imprimante reste allumé, elle est connectée.</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Next_Key">
+        <translation>Terminer</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Back_Key">
+        <translation>Retour</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Exit_Key">
+        <translation>Quitter</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_TextField">
+        <translation>Cet outil affiche et modifie les réglages réseau d’une imprimante d’étiquettes : ses noms, son réseau filaire et Wi-Fi et son mot de passe administrateur. Les étapes suivantes vous aident à connecter l’imprimante.</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_Button_OK_Key">
+        <translation>Continuer</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_Button_Exit_Key">
+        <translation>Quitter</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_TextField">
+        <translation>Comment voulez-vous connecter l’imprimante ?</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Matrix_USB_Key">
+        <translation>Par USB, pour saisir ses réglages ici</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
+        <translation>À un réseau Wi-Fi, avec WPS</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
+        <translation>Suivant</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Button_Exit_Key">
+        <translation>Quitter</translation>
+    </message>
+    <message id="DWT_Localize_USBConnect_TextField">
+        <translation>Reliez l’imprimante à cet ordinateur par un câble USB et allumez-la. Choisissez ensuite « Suivant » pour la trouver.</translation>
+    </message>
+    <message id="DWT_Localize_USBConnect_Button_Next_Key">
+        <translation>Suivant</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TextField">
+        <translation>Choisissez l’imprimante dont vous voulez voir les réglages. Seule une imprimante connectée par USB peut être modifiée.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_OK_Key">
+        <translation>Ouvrir</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Reload_Key">
+        <translation>Rechercher</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Exit_Key">
+        <translation>Quitter</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TableView_Name_Column">
+        <translation>Imprimante</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TableView_Service_Column">
+        <translation>Connexion</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_BonjourService_Network">
+        <translation>Réseau</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_BonjourService_USB">
+        <translation>USB</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Application">
+        <translation>&amp;Application</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Quit">
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Edit">
+        <translation>&amp;Édition</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Cut">
+        <translation>C&amp;ouper</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Copy">
+        <translation>&amp;Copier</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Paste">
+        <translation>Co&amp;ller</translation>
+    </message>
+    <message id="DWT_Localize_Menu_SelectAll">
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Window">
+        <translation>&amp;Fenêtre</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Minimize">
+        <translation>&amp;Réduire</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Close">
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Help">
+        <translation>A&amp;ide</translation>
+    </message>
+    <message id="DWT_Localize_Menu_About">
+        <translation>À &amp;propos de Network Setting Tool</translation>
+    </message>
+    <message id="DWT_Localize_About_Text">
+        <translation>Affiche et modifie les réglages réseau des imprimantes d’étiquettes.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty">
+        <translation>Aucune imprimante trouvée. Vérifiez que l’imprimante est allumée et reliée à cet ordinateur par un câble USB, ou qu’elle est sur le même réseau. Choisissez ensuite « Rechercher ».</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Searching">
+        <translation>Recherche d’imprimantes…</translation>
+    </message>
+    <message id="DWT_Localize_CommandLine_Help">
+        <translation>Affiche et modifie les réglages réseau des imprimantes d’étiquettes.
+
+Usage : %1 [-Installer] [--help] [--version]
+
+  -Installer  commencer par un guide de connexion ; ne lister que les imprimantes USB
+  --help      afficher ce texte et terminer
+  --version   afficher la version et terminer</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,760 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja">
+<context>
+    <name></name>
+    <message id="DWT_Localize_Alert_Button_OK">
+        <translation>OK</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Error">
+        <translation>は使用できません</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Network_PrinterName">
+        <translation>プリンター名</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_PrinterName_InputErr">
+        <translation>1～31 文字で入力してください。プリンター名には半角の英字（A～Z、a～z）、数字、ハイフンを使用できます。スペースは使用できません。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Network_BonjourName">
+        <translation>Bonjour 名</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_BonjourName_InputErr">
+        <translation>1～25 文字で入力してください。Bonjour 名には半角の英字（A～Z、a～z）、数字、ハイフンを使用できます。スペースは使用できません。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Network_BonjourServiceName">
+        <translation>Bonjour サービス名</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
+        <translation>1～31 文字で入力してください。半角の英字（A～Z、a～z）、数字、スペース、英語キーボードの記号を使用できます。アクセント付きの文字は使用できません。</translation>
+    </message>
+    <message id="DWT_Localize_Network_Box_PrinterName">
+        <translation>プリンター名</translation>
+    </message>
+    <message id="DWT_Localize_Network_Box_BonjourName">
+        <translation>Bonjour</translation>
+    </message>
+    <message id="DWT_Localize_Network_Text_NetworkBonjour_Label">
+        <translation>Bonjour 名:</translation>
+    </message>
+    <message id="DWT_Localize_Network_Text_NetworkBonjourService_Label">
+        <translation>サービス名:</translation>
+    </message>
+    <message id="DWT_Localize_Network_Text_BonjourLocal">
+        <translation>.local</translation>
+    </message>
+    <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
+        <translation>ネットワーク上のコンピューターがプリンターに接続するときの名前です。半角の英字、数字、ハイフンで 1～25 文字。</translation>
+    </message>
+    <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
+        <translation>プリンターの一覧に表示される名前です。半角の英字、数字、スペース、記号で 1～31 文字。</translation>
+    </message>
+    <message id="DWT_ToolChip_Network_Text_NetworkHostName">
+        <translation>プリンター自体の名前です。半角の英字、数字、ハイフンで 1～31 文字。</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
+        <translation>無線 LAN</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_CommunicateMode_Label">
+        <translation>通信モード:</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_Infrastructure_Label">
+        <translation>インフラストラクチャ: 既存の無線ネットワークに参加する</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
+        <translation>アクセスポイント: コンピューターがプリンターのネットワークに参加する</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
+        <translation>オフ: 無線 LAN を使用しない</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label">
+        <translation>MAC アドレス (インフラストラクチャ):</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_SimpleAPMACAddress_Label">
+        <translation>MAC アドレス (アクセスポイント):</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Box_SoftwareInfomation">
+        <translation>ソフトウェア</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Text_Firmware_Label">
+        <translation>ファームウェアのバージョン:</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Box_PrintTimeOut">
+        <translation>印刷タイムアウト</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Text_Second_Label">
+        <translation>秒 (30～300)</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_PasswordChange_Label">
+        <translation>新しい管理者パスワードを設定する</translation>
+    </message>
+    <message id="DWT_Localize_Password_Box_AdministratorPassword">
+        <translation>管理者パスワード</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Password_Label">
+        <translation>新しいパスワード:</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Reinput_Label">
+        <translation>もう一度入力:</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_PasswordInfomation">
+        <translation>管理者パスワードを設定すると、ログインしないと設定を変更できません。</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Cautions_Label">
+        <translation>パスワードを削除するには、両方の欄を空にします。新しいパスワードは控えておいてください。プリンターから読み出すことはできません。</translation>
+    </message>
+    <message id="DWT_ToolChip_Password_Text_Password">
+        <translation>半角の英字、数字、記号で 8 文字まで。スペースは使用できません。</translation>
+    </message>
+    <message id="DWT_ToolChip_Password_Text_Reinput">
+        <translation>同じパスワードをもう一度入力します。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Password_Password">
+        <translation>新しいパスワード</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Password_Reinput">
+        <translation>再入力したパスワード</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
+        <translation>8 文字以内で入力してください。半角の英字（A～Z、a～z）、数字、および ! " # $ % &amp; ' ( ) * + , - . / { | } ~ を使用できます。スペースは使用できません。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
+        <translation>2 つのパスワードが一致しません。両方の欄に同じパスワードを入力してください。</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
+        <translation>未確認</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Online">
+        <translation>プリンターは応答しています</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Offline">
+        <translation>プリンターが応答しません</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Button_Connect">
+        <translation>接続を確認</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_WiredConnection">
+        <translation>接続</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Label">
+        <translation>接続:</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_WiredLANMACAddress">
+        <translation>有線インターフェイス</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_WiredMACAddress_Label">
+        <translation>MAC アドレス:</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_IPAddressSetup">
+        <translation>IP アドレス</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_ButtonCell_Auto">
+        <translation>自動 (DHCP)</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_ButtonCell_Manual">
+        <translation>固定アドレス</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
+        <translation>IP アドレス:</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_SubnetMask_Label">
+        <translation>サブネットマスク:</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Gateway_Label">
+        <translation>デフォルトゲートウェイ:</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_IPAddress">
+        <translation>0～255 の数字 4 個をピリオドで区切ります。例: 192.168.0.10</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_SubnetMask">
+        <translation>0～255 の数字 4 個をピリオドで区切ります。例: 255.255.255.0</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_Gateway">
+        <translation>ルーターのアドレスです。0～255 の数字 4 個をピリオドで区切ります。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
+        <translation>IP アドレス</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_SubnetMask">
+        <translation>サブネットマスク</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_Gateway">
+        <translation>デフォルトゲートウェイ</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_IpAddress_InputErr">
+        <translation>IP アドレスは、0～255 の数字 4 個をピリオドで区切って入力してください。0.0.0.0、127.0.0.1、255.255.255.255 は使用できません。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Subnetmask_InputErr">
+        <translation>サブネットマスクは、0～255 の数字 4 個をピリオドで区切って入力してください。0.0.0.0 と 255.255.255.255 は使用できません。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Router_InputErr">
+        <translation>デフォルトゲートウェイは、0～255 の数字 4 個をピリオドで区切って入力してください。0.0.0.0 と 255.255.255.255 は使用できません。</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_WirelessConnection">
+        <translation>無線接続</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Label">
+        <translation>接続:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Nolook">
+        <translation>未確認</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Online">
+        <translation>プリンターは応答しています</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Offline">
+        <translation>プリンターが応答しません</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_Connect">
+        <translation>接続を確認</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_Label">
+        <translation>無線規格:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_B">
+        <translation>IEEE 802.11b</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_BG">
+        <translation>IEEE 802.11b/g</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_BGN">
+        <translation>IEEE 802.11b/g/n</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_FieldIntensity_Label">
+        <translation>電波強度:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_IPAddressSetup">
+        <translation>IP アドレス</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_ButtonCell_Auto">
+        <translation>自動 (DHCP)</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_ButtonCell_Manual">
+        <translation>固定アドレス</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_IPAddress_Label">
+        <translation>IP アドレス:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SubnetMask_Label">
+        <translation>サブネットマスク:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Gateway_Label">
+        <translation>デフォルトゲートウェイ:</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_IPAddress">
+        <translation>0～255 の数字 4 個をピリオドで区切ります。例: 192.168.0.10</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_SubnetMask">
+        <translation>0～255 の数字 4 個をピリオドで区切ります。例: 255.255.255.0</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
+        <translation>ルーターのアドレスです。0～255 の数字 4 個をピリオドで区切ります。</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_Security">
+        <translation>ネットワークとセキュリティ</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Authentic_Label">
+        <translation>認証方式:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Encryption_Label">
+        <translation>暗号化方式:</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_Open">
+        <translation>オープンシステム</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_Shared">
+        <translation>共有キー</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA">
+        <translation>WPA パーソナル</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA2">
+        <translation>WPA2 パーソナル</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_Nothing">
+        <translation>なし</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_WEP">
+        <translation>WEP</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_TKIP">
+        <translation>TKIP</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_AES">
+        <translation>AES</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_1">
+        <translation>キー 1</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_2">
+        <translation>キー 2</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_3">
+        <translation>キー 3</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_4">
+        <translation>キー 4</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
+        <translation>WPS について…</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
+        <translation>ネットワーク名 (SSID):</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_SSID">
+        <translation>無線ネットワークの名前です。半角の英字、数字、スペース、記号で 1～32 文字。</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
+        <translation>選択…</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_PSK_Label">
+        <translation>WPA キー:</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_PSK">
+        <translation>ネットワークの事前共有キー (パスワード) です。半角の英字、数字、スペース、記号で 8～63 文字。</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
+        <translation>WEP キー:</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_WEPKey">
+        <translation>5 文字または 13 文字、あるいは 16 進数 (0～9、A～F) で 10 桁または 26 桁。</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SelectWEPKey_Label">
+        <translation>WEP キー番号:</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_IpAddress">
+        <translation>IP アドレス</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SubnetMask">
+        <translation>サブネットマスク</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_Gateway">
+        <translation>デフォルトゲートウェイ</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SSID">
+        <translation>ネットワーク名 (SSID)</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
+        <translation>1～32 文字で入力してください。半角の英字（A～Z、a～z）、数字、スペース、英語キーボードの記号を使用できます。その他の文字を含む名前のネットワークは、ネットワークの一覧から選択できます。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
+        <translation>WPA キー</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
+        <translation>8～63 文字で入力してください。半角の英字（A～Z、a～z）、数字、スペース、英語キーボードの記号を使用できます。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
+        <translation>WEP キー</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_WEPKey_InputErr">
+        <translation>5 文字または 13 文字（半角の英字、数字、スペース、英語キーボードの記号）、あるいは 16 進数（0～9、A～F）で 10 桁または 26 桁を入力してください。</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_WirelessLANMode">
+        <translation>アクセスポイント</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessLANMode_Label">
+        <translation>無線規格:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_B">
+        <translation>IEEE 802.11b</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_BG">
+        <translation>IEEE 802.11b/g</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_BGN">
+        <translation>IEEE 802.11b/g/n</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_DHCPSetup">
+        <translation>コンピューターのアドレス</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DHCPServer_Label">
+        <translation>DHCP サーバー:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DHCP">
+        <translation>オン: プリンターがアドレスを割り当てます</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_IPAddressSetup">
+        <translation>IP アドレス</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_StartIpAddress_Label">
+        <translation>割り当てを開始するアドレス:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_IpAddress_Label">
+        <translation>プリンターのアドレス:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_SubnetMask_Label">
+        <translation>サブネットマスク:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_Security">
+        <translation>ネットワークとセキュリティ</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Label">
+        <translation>認証方式:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Open">
+        <translation>オープンシステム</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Shared">
+        <translation>共有キー</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA">
+        <translation>WPA パーソナル</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA2">
+        <translation>WPA2 パーソナル</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_Label">
+        <translation>暗号化方式:</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_Nothing">
+        <translation>なし</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_WEP">
+        <translation>WEP</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_TKIP">
+        <translation>TKIP</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_AES">
+        <translation>AES</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_SSID_Label">
+        <translation>ネットワーク名 (SSID):</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DIRECT_Label">
+        <translation>DIRECT-</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_PSK_Label">
+        <translation>WPA キー:</translation>
+    </message>
+    <message id="DWT_ToolChip_SimpleAP_Text_SSID">
+        <translation>ネットワーク名の DIRECT- に続く部分です。半角の英字、数字、スペース、記号で 1～25 文字。</translation>
+    </message>
+    <message id="DWT_ToolChip_SimpleAP_Text_PSK">
+        <translation>コンピューターが参加するときのキー (パスワード) です。半角の英字、数字、スペース、記号で 8～63 文字。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
+        <translation>アクセスポイントのネットワーク名 (SSID)</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
+        <translation>1～25 文字で入力してください。半角の英字（A～Z、a～z）、数字、スペース、英語キーボードの記号を使用できます。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
+        <translation>アクセスポイントの WPA キー</translation>
+    </message>
+    <message id="DWT_Localize_App_Name">
+        <translation>Network Setting Tool</translation>
+    </message>
+    <message id="DWT_Localize_Wait_TextField">
+        <translation>お待ちください…</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Send">
+        <translation>プリンターに送信…</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Cancel">
+        <translation>閉じる</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_NewSetting">
+        <translation>再読み込み</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Help">
+        <translation>ヘルプ</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_SelectPrinter_Label">
+        <translation>プリンター:</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_Network">
+        <translation>このプリンターはネットワーク経由で接続されています。設定は表示のみです。変更するには、プリンターを USB で接続してください。</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
+        <translation>読み込めなかった設定があるため、変更できません。プリンターの電源と接続を確認してから、［再読み込み］を選択してください。</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Name">
+        <translation>カテゴリ</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Printer">
+        <translation>プリンターの設定</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Firmware">
+        <translation>デバイス</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Network">
+        <translation>名前</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Ethernet">
+        <translation>有線ネットワーク</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Wireless">
+        <translation>無線ネットワーク</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Infrastructure">
+        <translation>インフラストラクチャ</translation>
+    </message>
+    <message id="DWT_Localize_Outline_SimpleAP">
+        <translation>アクセスポイント</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Password">
+        <translation>パスワード</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Dowline">
+        <translation>プリンターへの接続</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Warning">
+        <translation>にご注意ください</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Printer_ConnectErr">
+        <translation>プリンターを読み込めませんでした。電源が入っていること、ケーブルが接続されていること、ほかのプログラムが使用していないことを確認して、もう一度お試しください。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_ChangeSetting_Warning">
+        <translation>プリンターへの接続に使われる名前またはアドレスが変更されています。設定を送信すると、以前の名前やアドレスを使用しているコンピューターからは接続できなくなります。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SelectSSID">
+        <translation>ネットワークの一覧</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_SSIDList_CommunicateModeErr">
+        <translation>プリンターがネットワークを検索できるのは、インフラストラクチャモードのときだけです。先に「無線ネットワーク」ページで「インフラストラクチャ」を選択してください。</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_TextField_Cancel">
+        <translation>プリンターに送信していない変更があります。閉じる前に送信しますか?</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
+        <translation>送信</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_NoReflect">
+        <translation>送信せずに閉じる</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
+        <translation>キャンセル</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
+        <translation>プリンターに送信していない変更があります。再読み込みすると、変更は破棄されます。</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
+        <translation>破棄して読み込む</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
+        <translation>キャンセル</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_TextField">
+        <translation>設定をプリンターに送信しますか? 送信中はプリンターの電源を切ったり、ケーブルを抜いたりしないでください。</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Button_Send">
+        <translation>送信</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Button_Cancel">
+        <translation>キャンセル</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_TextField">
+        <translation>設定をプリンターに送信しています…</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_TextField">
+        <translation>設定を送信しました。プリンターの現在の設定を確認するには、［再読み込み］を選択してください。</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Button_OK">
+        <translation>OK</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_TextField">
+        <translation>このプリンターは保護されています。管理者パスワードを入力してください。</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Password_Label">
+        <translation>パスワード:</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Button_OK">
+        <translation>ログイン</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Button_Cancel">
+        <translation>キャンセル</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_TextField">
+        <translation>パスワードが正しくありません。大文字と小文字は区別されます。</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_Button_OK">
+        <translation>やり直す</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_TextField">
+        <translation>プリンターに接続できないため、何も送信されていません。電源が入っていること、ケーブルが接続されていることを確認して、もう一度送信してください。変更内容は残っています。</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Button_OK">
+        <translation>OK</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TextField">
+        <translation>プリンターが検出した無線ネットワークです。一覧が空の場合は、見つからなかったか、プリンターに接続できませんでした。</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
+        <translation>ネットワーク名 (SSID)</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_Security">
+        <translation>保護</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_Intensity">
+        <translation>電波</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Security_YES">
+        <translation>あり</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Security_NO">
+        <translation>なし</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Strong">
+        <translation>強</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Middle">
+        <translation>中</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Low">
+        <translation>弱</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Button_OK_Key">
+        <translation>このネットワークを使用</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Button_Cancel_Key">
+        <translation>キャンセル</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField">
+        <translation>WPS を使うと、キーを入力せずにプリンターを無線ネットワークに参加させることができます。両方の機器を準備してください。</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_a1">
+        <translation>1.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_a">
+        <translation>プリンターの電源を入れ、無線ルーター (アクセスポイント) の近くに置きます。</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_b2">
+        <translation>2.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_b">
+        <translation>ルーターの WPS ボタンを確認します。多くの場合、WPS または 2 本の曲がった矢印の印が付いています。ルーターの説明書をご覧ください。</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_c">
+        <translation>WPS のないルーターではこの方法を使用できません。代わりにネットワーク名とキーを入力してください。</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Next_Key">
+        <translation>次へ</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Back_Key">
+        <translation>戻る</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Exit_Key">
+        <translation>終了</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_TextField">
+        <translation>プリンターのメニューで WPS を開始し、2 分以内にルーターの WPS ボタンを押します。プリンターの無線ランプが点灯したままになると、接続は完了です。</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Next_Key">
+        <translation>完了</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Back_Key">
+        <translation>戻る</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Exit_Key">
+        <translation>終了</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_TextField">
+        <translation>このツールは、ラベルプリンターのネットワーク設定 (名前、有線・無線ネットワーク、管理者パスワード) を表示・変更します。次の手順でプリンターを接続します。</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_Button_OK_Key">
+        <translation>続ける</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_Button_Exit_Key">
+        <translation>終了</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_TextField">
+        <translation>プリンターをどの方法で接続しますか?</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Matrix_USB_Key">
+        <translation>USB で接続し、このツールで設定を入力する</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
+        <translation>WPS で無線ネットワークに接続する</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
+        <translation>次へ</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Button_Exit_Key">
+        <translation>終了</translation>
+    </message>
+    <message id="DWT_Localize_USBConnect_TextField">
+        <translation>プリンターを USB ケーブルでこのコンピューターに接続し、電源を入れてください。［次へ］を選択するとプリンターを検索します。</translation>
+    </message>
+    <message id="DWT_Localize_USBConnect_Button_Next_Key">
+        <translation>次へ</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TextField">
+        <translation>設定を表示するプリンターを選択してください。変更できるのは USB で接続されたプリンターだけです。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_OK_Key">
+        <translation>開く</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Reload_Key">
+        <translation>再検索</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Exit_Key">
+        <translation>終了</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TableView_Name_Column">
+        <translation>プリンター</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TableView_Service_Column">
+        <translation>接続</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_BonjourService_Network">
+        <translation>ネットワーク</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_BonjourService_USB">
+        <translation>USB</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Application">
+        <translation>アプリケーション(&amp;A)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Quit">
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Edit">
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Cut">
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Copy">
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Paste">
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_SelectAll">
+        <translation>すべて選択(&amp;A)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Window">
+        <translation>ウィンドウ(&amp;W)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Minimize">
+        <translation>最小化(&amp;M)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Close">
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Help">
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_About">
+        <translation>Network Setting Tool について(&amp;A)</translation>
+    </message>
+    <message id="DWT_Localize_About_Text">
+        <translation>ラベルプリンターのネットワーク設定を表示・変更します。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty">
+        <translation>プリンターが見つかりません。プリンターの電源が入っていること、USB ケーブルでこのコンピューターに接続されているか、同じネットワークにあることを確認してから、［再検索］を選択してください。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Searching">
+        <translation>プリンターを検索しています…</translation>
+    </message>
+    <message id="DWT_Localize_CommandLine_Help">
+        <translation>ラベルプリンターのネットワーク設定を表示・変更します。
+
+使い方: %1 [-Installer] [--help] [--version]
+
+  -Installer  接続ガイドから始め、USB プリンターだけを一覧に表示する
+  --help      この説明を表示して終了する
+  --version   バージョンを表示して終了する</translation>
+    </message>
+</context>
+</TS>

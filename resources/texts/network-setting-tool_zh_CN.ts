@@ -1,0 +1,760 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name></name>
+    <message id="DWT_Localize_Alert_Button_OK">
+        <translation>确定</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Error">
+        <translation>无法使用</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Network_PrinterName">
+        <translation>打印机名称</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_PrinterName_InputErr">
+        <translation>请输入 1 到 31 个字符。打印机名称由字母 A 至 Z 和 a 至 z、数字和连字符组成，不含空格。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Network_BonjourName">
+        <translation>Bonjour 名称</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_BonjourName_InputErr">
+        <translation>请输入 1 到 25 个字符。Bonjour 名称由字母 A 至 Z 和 a 至 z、数字和连字符组成，不含空格。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Network_BonjourServiceName">
+        <translation>Bonjour 服务名称</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
+        <translation>请输入 1 到 31 个字符：字母 A 至 Z 和 a 至 z、数字、空格以及美式键盘上的标点符号。不能使用带重音的字母。</translation>
+    </message>
+    <message id="DWT_Localize_Network_Box_PrinterName">
+        <translation>打印机名称</translation>
+    </message>
+    <message id="DWT_Localize_Network_Box_BonjourName">
+        <translation>Bonjour</translation>
+    </message>
+    <message id="DWT_Localize_Network_Text_NetworkBonjour_Label">
+        <translation>Bonjour 名称：</translation>
+    </message>
+    <message id="DWT_Localize_Network_Text_NetworkBonjourService_Label">
+        <translation>服务名称：</translation>
+    </message>
+    <message id="DWT_Localize_Network_Text_BonjourLocal">
+        <translation>.local</translation>
+    </message>
+    <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
+        <translation>网络上的计算机访问打印机所用的名称：1 到 25 个字母、数字和连字符。</translation>
+    </message>
+    <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
+        <translation>打印机列表中显示的名称：1 到 31 个字母、数字、空格和标点符号。</translation>
+    </message>
+    <message id="DWT_ToolChip_Network_Text_NetworkHostName">
+        <translation>打印机自身的名称：1 到 31 个字母、数字和连字符。</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
+        <translation>无线局域网</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_CommunicateMode_Label">
+        <translation>通信模式：</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_Infrastructure_Label">
+        <translation>基础结构：加入现有的无线网络</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
+        <translation>接入点：计算机加入打印机自己的网络</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
+        <translation>关闭：不使用无线局域网</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label">
+        <translation>MAC 地址（基础结构）：</translation>
+    </message>
+    <message id="DWT_Localize_Wireless_Text_SimpleAPMACAddress_Label">
+        <translation>MAC 地址（接入点）：</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Box_SoftwareInfomation">
+        <translation>软件</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Text_Firmware_Label">
+        <translation>固件版本：</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Box_PrintTimeOut">
+        <translation>打印超时</translation>
+    </message>
+    <message id="DWT_Localize_Firmware_Text_Second_Label">
+        <translation>秒（30 到 300）</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_PasswordChange_Label">
+        <translation>设置新的管理员密码</translation>
+    </message>
+    <message id="DWT_Localize_Password_Box_AdministratorPassword">
+        <translation>管理员密码</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Password_Label">
+        <translation>新密码：</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Reinput_Label">
+        <translation>再次输入：</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_PasswordInfomation">
+        <translation>设置管理员密码后，必须登录才能更改设置。</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Cautions_Label">
+        <translation>将两个输入框都留空可删除密码。请记下新密码：无法从打印机读取密码。</translation>
+    </message>
+    <message id="DWT_ToolChip_Password_Text_Password">
+        <translation>最多 8 个字母、数字和标点符号；不能使用空格。</translation>
+    </message>
+    <message id="DWT_ToolChip_Password_Text_Reinput">
+        <translation>再次输入相同的密码。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Password_Password">
+        <translation>新密码</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Password_Reinput">
+        <translation>再次输入的密码</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
+        <translation>最多输入 8 个字符：字母 A 至 Z 和 a 至 z、数字以及 ! " # $ % &amp; ' ( ) * + , - . / { | } ~ ，不含空格。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
+        <translation>两次输入的密码不同。请在两个输入框中输入相同的密码。</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
+        <translation>尚未测试</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Online">
+        <translation>打印机有响应</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Offline">
+        <translation>打印机无响应</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Button_Connect">
+        <translation>测试连接</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_WiredConnection">
+        <translation>连接</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Connection_Label">
+        <translation>连接：</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_WiredLANMACAddress">
+        <translation>有线接口</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_WiredMACAddress_Label">
+        <translation>MAC 地址：</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Box_IPAddressSetup">
+        <translation>IP 地址</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_ButtonCell_Auto">
+        <translation>自动 (DHCP)</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_ButtonCell_Manual">
+        <translation>固定地址</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
+        <translation>IP 地址：</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_SubnetMask_Label">
+        <translation>子网掩码：</translation>
+    </message>
+    <message id="DWT_Localize_Ethernet_Text_Gateway_Label">
+        <translation>默认网关：</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_IPAddress">
+        <translation>用点分隔的四个 0 到 255 的数字，例如 192.168.0.10。</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_SubnetMask">
+        <translation>用点分隔的四个 0 到 255 的数字，例如 255.255.255.0。</translation>
+    </message>
+    <message id="DWT_ToolChip_Ethernet_Text_Gateway">
+        <translation>路由器的地址：用点分隔的四个 0 到 255 的数字。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
+        <translation>IP 地址</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_SubnetMask">
+        <translation>子网掩码</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Ethernet_Gateway">
+        <translation>默认网关</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_IpAddress_InputErr">
+        <translation>请以用点分隔的四个 0 到 255 的数字输入 IP 地址。不能使用 0.0.0.0、127.0.0.1 和 255.255.255.255。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Subnetmask_InputErr">
+        <translation>请以用点分隔的四个 0 到 255 的数字输入子网掩码。不能使用 0.0.0.0 和 255.255.255.255。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Router_InputErr">
+        <translation>请以用点分隔的四个 0 到 255 的数字输入默认网关。不能使用 0.0.0.0 和 255.255.255.255。</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_WirelessConnection">
+        <translation>无线连接</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Label">
+        <translation>连接：</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Nolook">
+        <translation>尚未测试</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Online">
+        <translation>打印机有响应</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Connection_Offline">
+        <translation>打印机无响应</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_Connect">
+        <translation>测试连接</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_Label">
+        <translation>无线标准：</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_B">
+        <translation>IEEE 802.11b</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_BG">
+        <translation>IEEE 802.11b/g</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WirelessMode_BGN">
+        <translation>IEEE 802.11b/g/n</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_FieldIntensity_Label">
+        <translation>信号强度：</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_IPAddressSetup">
+        <translation>IP 地址</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_ButtonCell_Auto">
+        <translation>自动 (DHCP)</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_ButtonCell_Manual">
+        <translation>固定地址</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_IPAddress_Label">
+        <translation>IP 地址：</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SubnetMask_Label">
+        <translation>子网掩码：</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Gateway_Label">
+        <translation>默认网关：</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_IPAddress">
+        <translation>用点分隔的四个 0 到 255 的数字，例如 192.168.0.10。</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_SubnetMask">
+        <translation>用点分隔的四个 0 到 255 的数字，例如 255.255.255.0。</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
+        <translation>路由器的地址：用点分隔的四个 0 到 255 的数字。</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Box_Security">
+        <translation>网络和安全</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Authentic_Label">
+        <translation>身份验证：</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_Encryption_Label">
+        <translation>加密：</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_Open">
+        <translation>开放系统</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_Shared">
+        <translation>共享密钥</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA">
+        <translation>WPA 个人</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA2">
+        <translation>WPA2 个人</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_Nothing">
+        <translation>无</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_WEP">
+        <translation>WEP</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_TKIP">
+        <translation>TKIP</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_Encryption_AES">
+        <translation>AES</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_1">
+        <translation>密钥 1</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_2">
+        <translation>密钥 2</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_3">
+        <translation>密钥 3</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Popup_WEPKey_4">
+        <translation>密钥 4</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
+        <translation>关于 WPS…</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
+        <translation>网络名称 (SSID)：</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_SSID">
+        <translation>无线网络的名称：1 到 32 个字母、数字、空格和标点符号。</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
+        <translation>选择…</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_PSK_Label">
+        <translation>WPA 密钥：</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_PSK">
+        <translation>网络的预共享密钥（密码）：8 到 63 个字母、数字、空格和标点符号。</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
+        <translation>WEP 密钥：</translation>
+    </message>
+    <message id="DWT_ToolChip_Infrastructure_Text_WEPKey">
+        <translation>5 个或 13 个字符，或者 10 位或 26 位十六进制数字（0 到 9、A 到 F）。</translation>
+    </message>
+    <message id="DWT_Localize_Infrastructure_Text_SelectWEPKey_Label">
+        <translation>WEP 密钥编号：</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_IpAddress">
+        <translation>IP 地址</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SubnetMask">
+        <translation>子网掩码</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_Gateway">
+        <translation>默认网关</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SSID">
+        <translation>网络名称 (SSID)</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
+        <translation>请输入 1 到 32 个字符：字母 A 至 Z 和 a 至 z、数字、空格以及美式键盘上的标点符号。名称含有其他字符的网络可从网络列表中选取。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
+        <translation>WPA 密钥</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
+        <translation>请输入 8 到 63 个字符：字母 A 至 Z 和 a 至 z、数字、空格以及美式键盘上的标点符号。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
+        <translation>WEP 密钥</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_WEPKey_InputErr">
+        <translation>请输入 5 个或 13 个字符（字母、数字、空格以及美式键盘上的标点符号），或者 10 位或 26 位十六进制数字（0 到 9 和 A 到 F）。</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_WirelessLANMode">
+        <translation>接入点</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessLANMode_Label">
+        <translation>无线标准：</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_B">
+        <translation>IEEE 802.11b</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_BG">
+        <translation>IEEE 802.11b/g</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_WirelessMode_BGN">
+        <translation>IEEE 802.11b/g/n</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_DHCPSetup">
+        <translation>计算机的地址</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DHCPServer_Label">
+        <translation>DHCP 服务器：</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DHCP">
+        <translation>开启：由打印机分配地址</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_IPAddressSetup">
+        <translation>IP 地址</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_StartIpAddress_Label">
+        <translation>分配的起始地址：</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_IpAddress_Label">
+        <translation>打印机的地址：</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_SubnetMask_Label">
+        <translation>子网掩码：</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Box_Security">
+        <translation>网络和安全</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Label">
+        <translation>身份验证：</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Open">
+        <translation>开放系统</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_Shared">
+        <translation>共享密钥</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA">
+        <translation>WPA 个人</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA2">
+        <translation>WPA2 个人</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_Label">
+        <translation>加密：</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_Nothing">
+        <translation>无</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_WEP">
+        <translation>WEP</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_TKIP">
+        <translation>TKIP</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_Encryption_AES">
+        <translation>AES</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_SSID_Label">
+        <translation>网络名称 (SSID)：</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_DIRECT_Label">
+        <translation>DIRECT-</translation>
+    </message>
+    <message id="DWT_Localize_SimpleAP_Text_PSK_Label">
+        <translation>WPA 密钥：</translation>
+    </message>
+    <message id="DWT_ToolChip_SimpleAP_Text_SSID">
+        <translation>网络名称中 DIRECT- 之后的部分：1 到 25 个字母、数字、空格和标点符号。</translation>
+    </message>
+    <message id="DWT_ToolChip_SimpleAP_Text_PSK">
+        <translation>计算机加入时使用的密钥（密码）：8 到 63 个字母、数字、空格和标点符号。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
+        <translation>接入点的网络名称 (SSID)</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
+        <translation>请输入 1 到 25 个字符：字母 A 至 Z 和 a 至 z、数字、空格以及美式键盘上的标点符号。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
+        <translation>接入点的 WPA 密钥</translation>
+    </message>
+    <message id="DWT_Localize_App_Name">
+        <translation>Network Setting Tool</translation>
+    </message>
+    <message id="DWT_Localize_Wait_TextField">
+        <translation>请稍候…</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Send">
+        <translation>发送到打印机…</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Cancel">
+        <translation>关闭</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_NewSetting">
+        <translation>重新读取</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Button_Help">
+        <translation>帮助</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_SelectPrinter_Label">
+        <translation>打印机：</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_Network">
+        <translation>此打印机通过网络连接，其设置仅供查看；要更改设置，请用 USB 连接打印机。</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
+        <translation>有些设置无法读取，因此不能更改。请检查打印机是否已开机并连接，然后选择“重新读取”。</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Name">
+        <translation>类别</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Printer">
+        <translation>打印机设置</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Firmware">
+        <translation>设备</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Network">
+        <translation>名称</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Ethernet">
+        <translation>有线网络</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Wireless">
+        <translation>无线网络</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Infrastructure">
+        <translation>基础结构</translation>
+    </message>
+    <message id="DWT_Localize_Outline_SimpleAP">
+        <translation>接入点</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Password">
+        <translation>密码</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Dowline">
+        <translation>与打印机的连接</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Warning">
+        <translation>请注意</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_Printer_ConnectErr">
+        <translation>无法读取打印机。请检查打印机是否已开机、电缆是否已插好、是否有其他程序正在使用它，然后重试。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_ChangeSetting_Warning">
+        <translation>您更改了访问打印机所用的名称或地址。发送设置后，仍使用旧名称或旧地址的计算机将找不到打印机。</translation>
+    </message>
+    <message id="DWT_Localize_Alert_MessageText_Infrastructure_SelectSSID">
+        <translation>网络列表</translation>
+    </message>
+    <message id="DWT_Localize_Alert_InfoText_SSIDList_CommunicateModeErr">
+        <translation>打印机只有在基础结构模式下才能搜索网络。请先在“无线网络”页面上选择“基础结构”。</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_TextField_Cancel">
+        <translation>有更改尚未发送到打印机。关闭前是否发送？</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
+        <translation>发送</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_NoReflect">
+        <translation>不发送并关闭</translation>
+    </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
+        <translation>取消</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
+        <translation>有更改尚未发送到打印机。重新读取打印机会放弃这些更改。</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
+        <translation>放弃并读取</translation>
+    </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
+        <translation>取消</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_TextField">
+        <translation>现在将设置发送到打印机吗？发送期间请勿关闭打印机或拔下电缆。</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Button_Send">
+        <translation>发送</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Button_Cancel">
+        <translation>取消</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_TextField">
+        <translation>正在将设置发送到打印机…</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_TextField">
+        <translation>设置已发送。要查看打印机当前的设置，请选择“重新读取”。</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Button_OK">
+        <translation>确定</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_TextField">
+        <translation>此打印机受保护。请输入其管理员密码。</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Password_Label">
+        <translation>密码：</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Button_OK">
+        <translation>登录</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Button_Cancel">
+        <translation>取消</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_TextField">
+        <translation>打印机不接受此密码。密码区分大小写。</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_Button_OK">
+        <translation>重试</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_TextField">
+        <translation>无法连接打印机，未发送任何内容。请检查打印机是否已开机、电缆是否已插好，然后重新发送。您的更改已保留。</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Button_OK">
+        <translation>确定</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TextField">
+        <translation>打印机搜索到的无线网络。列表为空表示未找到网络，或无法连接打印机。</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
+        <translation>网络名称 (SSID)</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_Security">
+        <translation>受保护</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_TableView_Column_Intensity">
+        <translation>信号</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Security_YES">
+        <translation>是</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Security_NO">
+        <translation>否</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Strong">
+        <translation>强</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Middle">
+        <translation>中</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Intensity_Low">
+        <translation>弱</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Button_OK_Key">
+        <translation>使用此网络</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Button_Cancel_Key">
+        <translation>取消</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField">
+        <translation>使用 WPS，打印机无需输入密钥即可加入无线网络。请准备好两台设备：</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_a1">
+        <translation>1.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_a">
+        <translation>打开打印机，并将其放在无线路由器（接入点）附近。</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_b2">
+        <translation>2.</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_b">
+        <translation>找到路由器的 WPS 按钮。它通常标有 WPS 或两个弯曲的箭头；请参阅路由器的说明书。</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_TextField_c">
+        <translation>没有 WPS 的路由器不能使用此方法；请改为输入网络名称和密钥。</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Next_Key">
+        <translation>下一步</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Back_Key">
+        <translation>上一步</translation>
+    </message>
+    <message id="DWT_Localize_WPS1_Button_Exit_Key">
+        <translation>退出</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_TextField">
+        <translation>在打印机的菜单中启动 WPS，然后在两分钟内按下路由器的 WPS 按钮。打印机的无线指示灯常亮时，表示已连接。</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Next_Key">
+        <translation>完成</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Back_Key">
+        <translation>上一步</translation>
+    </message>
+    <message id="DWT_Localize_WPS2_Button_Exit_Key">
+        <translation>退出</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_TextField">
+        <translation>此工具用于查看和更改标签打印机的网络设置：名称、有线和无线网络以及管理员密码。接下来的步骤将帮助您连接打印机。</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_Button_OK_Key">
+        <translation>继续</translation>
+    </message>
+    <message id="DWT_Localize_ToolPerform_Button_Exit_Key">
+        <translation>退出</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_TextField">
+        <translation>您想如何连接打印机？</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Matrix_USB_Key">
+        <translation>通过 USB，在此工具中输入设置</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
+        <translation>通过 WPS 连接到无线网络</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
+        <translation>下一步</translation>
+    </message>
+    <message id="DWT_Localize_ChooseConnect_Button_Exit_Key">
+        <translation>退出</translation>
+    </message>
+    <message id="DWT_Localize_USBConnect_TextField">
+        <translation>请用 USB 电缆将打印机连接到此计算机并开机，然后选择“下一步”查找打印机。</translation>
+    </message>
+    <message id="DWT_Localize_USBConnect_Button_Next_Key">
+        <translation>下一步</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TextField">
+        <translation>请选择要查看其设置的打印机。只有通过 USB 连接的打印机才能更改。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_OK_Key">
+        <translation>打开</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Reload_Key">
+        <translation>重新搜索</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Exit_Key">
+        <translation>退出</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TableView_Name_Column">
+        <translation>打印机</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_TableView_Service_Column">
+        <translation>连接</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_BonjourService_Network">
+        <translation>网络</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_BonjourService_USB">
+        <translation>USB</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Application">
+        <translation>应用程序(&amp;A)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Quit">
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Edit">
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Cut">
+        <translation>剪切(&amp;T)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Copy">
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Paste">
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_SelectAll">
+        <translation>全选(&amp;A)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Window">
+        <translation>窗口(&amp;W)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Minimize">
+        <translation>最小化(&amp;M)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Close">
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Help">
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_About">
+        <translation>关于 Network Setting Tool(&amp;A)</translation>
+    </message>
+    <message id="DWT_Localize_About_Text">
+        <translation>查看和更改标签打印机的网络设置。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty">
+        <translation>未找到打印机。请检查打印机是否已开机，并已用 USB 电缆连接到此计算机，或与此计算机处于同一网络。然后选择“重新搜索”。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Searching">
+        <translation>正在查找打印机…</translation>
+    </message>
+    <message id="DWT_Localize_CommandLine_Help">
+        <translation>查看和更改标签打印机的网络设置。
+
+用法：%1 [-Installer] [--help] [--version]
+
+  -Installer  从连接指南开始；仅列出 USB 打印机
+  --help      显示此说明并退出
+  --version   显示版本并退出</translation>
+    </message>
+</context>
+</TS>
