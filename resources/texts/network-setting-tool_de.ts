@@ -7,7 +7,7 @@
         <translation>OK</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
-        <translation>– Eingabe nicht möglich</translation>
+        <translation>nicht verwendbar</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_PrinterName">
         <translation>Druckername</translation>
@@ -25,7 +25,7 @@
         <translation>Bonjour-Dienstname</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
-        <translation>Geben Sie 1 bis 31 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Satzzeichen einer US-Tastatur. Umlaute und Akzente sind nicht möglich.</translation>
+        <translation>Geben Sie 1 bis 31 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Sonderzeichen einer US-Tastatur. Umlaute und Akzente sind nicht möglich.</translation>
     </message>
     <message id="DWT_Localize_Network_Box_PrinterName">
         <translation>Druckername</translation>
@@ -46,7 +46,7 @@
         <translation>Der Name, unter dem Computer im Netzwerk den Drucker erreichen: 1 bis 25 Buchstaben, Ziffern und Bindestriche.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
-        <translation>Der Name, den Druckerlisten anzeigen: 1 bis 31 Buchstaben, Ziffern, Leerzeichen und Satzzeichen.</translation>
+        <translation>Der Name, den Druckerlisten anzeigen: 1 bis 31 Buchstaben, Ziffern, Leerzeichen und Sonderzeichen.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkHostName">
         <translation>Der eigene Name des Druckers: 1 bis 31 Buchstaben, Ziffern und Bindestriche.</translation>
@@ -103,7 +103,7 @@
         <translation>Lassen Sie beide Felder leer, um das Kennwort zu entfernen. Notieren Sie ein neues Kennwort: Es kann nicht aus dem Drucker gelesen werden.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
-        <translation>Bis zu 8 Buchstaben, Ziffern und Satzzeichen; keine Leerzeichen.</translation>
+        <translation>Bis zu 8 Buchstaben, Ziffern und Sonderzeichen; keine Leerzeichen.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Reinput">
         <translation>Noch einmal dasselbe Kennwort.</translation>
@@ -115,7 +115,7 @@
         <translation>Wiederholtes Kennwort</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
-        <translation>Geben Sie höchstens 8 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern und ! " # $ % &amp; ' ( ) * + , - . / { | } ~ , ohne Leerzeichen.</translation>
+        <translation>Geben Sie höchstens 8 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern und ! &quot; # $ % &amp; ' ( ) * + , - . / { | } ~ , ohne Leerzeichen.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>Die beiden Kennwörter sind verschieden. Geben Sie in beiden Feldern dasselbe Kennwort ein.</translation>
@@ -301,7 +301,7 @@
         <translation>Netzwerkname (SSID):</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SSID">
-        <translation>Der Name des WLANs: 1 bis 32 Buchstaben, Ziffern, Leerzeichen und Satzzeichen.</translation>
+        <translation>Der Name des WLANs: 1 bis 32 Buchstaben, Ziffern, Leerzeichen und Sonderzeichen.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
         <translation>Auswählen…</translation>
@@ -310,7 +310,7 @@
         <translation>WPA-Schlüssel:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_PSK">
-        <translation>Der Netzwerkschlüssel (Kennwort): 8 bis 63 Buchstaben, Ziffern, Leerzeichen und Satzzeichen.</translation>
+        <translation>Der Netzwerkschlüssel (Kennwort): 8 bis 63 Buchstaben, Ziffern, Leerzeichen und Sonderzeichen.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
         <translation>WEP-Schlüssel:</translation>
@@ -334,19 +334,19 @@
         <translation>Netzwerkname (SSID)</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
-        <translation>Geben Sie 1 bis 32 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Satzzeichen einer US-Tastatur. Ein Netzwerk mit anderen Zeichen im Namen lässt sich aus der Liste der Netzwerke übernehmen.</translation>
+        <translation>Geben Sie 1 bis 32 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Sonderzeichen einer US-Tastatur. Ein Netzwerk mit anderen Zeichen im Namen lässt sich aus der Liste der Netzwerke übernehmen.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
         <translation>WPA-Schlüssel</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
-        <translation>Geben Sie 8 bis 63 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Satzzeichen einer US-Tastatur.</translation>
+        <translation>Geben Sie 8 bis 63 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Sonderzeichen einer US-Tastatur.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
         <translation>WEP-Schlüssel</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_WEPKey_InputErr">
-        <translation>Geben Sie 5 oder 13 Zeichen (Buchstaben, Ziffern, Leerzeichen und die Satzzeichen einer US-Tastatur) oder 10 oder 26 Hexadezimalziffern (0 bis 9 und A bis F) ein.</translation>
+        <translation>Geben Sie 5 oder 13 Zeichen (Buchstaben, Ziffern, Leerzeichen und die Sonderzeichen einer US-Tastatur) oder 10 oder 26 Hexadezimalziffern (0 bis 9 und A bis F) ein.</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_WirelessLANMode">
         <translation>Zugangspunkt</translation>
@@ -427,16 +427,16 @@
         <translation>WPA-Schlüssel:</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_SSID">
-        <translation>Was im Namen des Netzwerks auf DIRECT- folgt: 1 bis 25 Buchstaben, Ziffern, Leerzeichen und Satzzeichen.</translation>
+        <translation>Was im Namen des Netzwerks auf DIRECT- folgt: 1 bis 25 Buchstaben, Ziffern, Leerzeichen und Sonderzeichen.</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_PSK">
-        <translation>Der Schlüssel (Kennwort), mit dem Computer beitreten: 8 bis 63 Buchstaben, Ziffern, Leerzeichen und Satzzeichen.</translation>
+        <translation>Der Schlüssel (Kennwort), mit dem Computer beitreten: 8 bis 63 Buchstaben, Ziffern, Leerzeichen und Sonderzeichen.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
         <translation>Netzwerkname (SSID) des Zugangspunkts</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
-        <translation>Geben Sie 1 bis 25 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Satzzeichen einer US-Tastatur.</translation>
+        <translation>Geben Sie 1 bis 25 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Sonderzeichen einer US-Tastatur.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
         <translation>WPA-Schlüssel des Zugangspunkts</translation>
@@ -505,7 +505,7 @@
         <translation>Der Drucker konnte nicht gelesen werden. Prüfen Sie, ob er eingeschaltet ist, ob sein Kabel steckt und ob kein anderes Programm ihn verwendet, und versuchen Sie es dann erneut.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_ChangeSetting_Warning">
-        <translation>Sie haben einen Namen oder eine Adresse geändert, über die der Drucker erreicht wird. Nach dem Senden finden Computer, die die alte verwenden, den Drucker nicht mehr.</translation>
+        <translation>Sie haben einen Namen oder eine Adresse geändert, unter der der Drucker erreichbar ist. Nach dem Senden der Einstellungen finden Computer, die noch die alten Angaben verwenden, den Drucker nicht mehr.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_SelectSSID">
         <translation>Liste der Netzwerke</translation>
@@ -649,7 +649,7 @@
         <translation>Beenden</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_TextField">
-        <translation>Dieses Programm zeigt und ändert die Netzwerkeinstellungen eines Etikettendruckers: seine Namen, sein Kabelnetzwerk und WLAN und sein Administratorkennwort. Die nächsten Schritte helfen Ihnen, den Drucker anzuschließen.</translation>
+        <translation>Dieses Programm zeigt und ändert die Netzwerkeinstellungen eines Etikettendruckers: seine Namen, sein Kabelnetzwerk, sein WLAN und sein Administratorkennwort. Die nächsten Schritte helfen Ihnen, den Drucker anzuschließen.</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_OK_Key">
         <translation>Weiter</translation>
@@ -753,8 +753,8 @@
 Aufruf: %1 [-Installer] [--help] [--version]
 
   -Installer  mit einer Anleitung zum Anschließen beginnen; nur USB-Drucker auflisten
-  --help      diesen Text anzeigen und enden
-  --version   die Version anzeigen und enden</translation>
+  --help      diesen Text anzeigen und beenden
+  --version   die Version anzeigen und beenden</translation>
     </message>
 </context>
 </TS>

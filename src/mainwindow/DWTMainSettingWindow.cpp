@@ -330,7 +330,7 @@ std::optional<QString> DWTMainSettingWindow::MSW_SelectedUIString() const {
     return key.isNull() ? std::nullopt : std::optional(key);
 }
 
-int DWTMainSettingWindow::numberOfChildren(OutlineView *, const QVariantMap &item) {
+int DWTMainSettingWindow::numberOfChildrenOfItem(OutlineView *, const QVariantMap &item) {
     const QVariantMap &node = item.isEmpty() ? dictionary_OutlineView : item;
     return int(node.value(QStringLiteral("child")).toList().size());
 }

@@ -63,7 +63,7 @@ class DWTMainSettingWindow : public QObject,
     // False when the printer cannot be reached at the first opening; the window is then closed.
     bool initializeData(const std::optional<PrinterEntry> &entry);
 
-    int numberOfChildren(OutlineView *outline, const QVariantMap &item) override;
+    int numberOfChildrenOfItem(OutlineView *outline, const QVariantMap &item) override;
     QVariantMap child(OutlineView *outline, int index, const QVariantMap &item) override;
     bool isItemExpandable(OutlineView *outline, const QVariantMap &item) override;
     QVariant objectValueForTableColumn(OutlineView *outline, const QString &column,

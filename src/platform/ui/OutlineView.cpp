@@ -50,7 +50,7 @@ class OutlineModel : public QAbstractItemModel {
     void fetch(Node &above) {
         const bool isRoot = above.parent == nullptr;
         if (!isRoot && !source->isItemExpandable(m_outline, above.item)) return;
-        const int count = source->numberOfChildren(m_outline, above.item);
+        const int count = source->numberOfChildrenOfItem(m_outline, above.item);
         for (int i = 0; i < count; ++i) {
             auto below = std::make_unique<Node>();
             below->item = source->child(m_outline, i, above.item);

@@ -10,7 +10,7 @@ class OutlineModel;
 class OutlineDataSource {
   public:
     virtual ~OutlineDataSource() = default;
-    virtual int numberOfChildren(OutlineView *outline, const QVariantMap &item) = 0;
+    virtual int numberOfChildrenOfItem(OutlineView *outline, const QVariantMap &item) = 0;
     virtual QVariantMap child(OutlineView *outline, int index, const QVariantMap &item) = 0;
     virtual bool isItemExpandable(OutlineView *outline, const QVariantMap &item) = 0;
     // What the cell shows; nothing for a column that the source does not know.

@@ -1,6 +1,9 @@
 #include "platform/ui/ViewStack.h"
 
+#include <QAccessible>
+#include <QDialog>
 #include <QGridLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QWidget>
 
@@ -29,6 +32,11 @@ void ViewStack::select(const QString &key) {
     for (QPushButton *button : shown->findChildren<QPushButton *>())
         if (button->property("defaultButton").toBool()) button->setDefault(true);
     shown->show();
+    const auto *said = shown->findChild<QLabel *>();
+    if (!said || !qobject_cast<QDialog *>(m_container->window())) return;
+    shown->setAccessibleName(said->text());
+    QAccessibleEvent announced(shown, QAccessible::Alert);
+    QAccessible::updateAccessibility(&announced);
 }
 
 void ViewStack::focusFirstControl() const {

@@ -17,7 +17,8 @@ class ViewStack {
     void add(const QString &key, QWidget *view);
 
     // Shows the view of `key` and hides every other; an unknown key hides all. In a dialog the
-    // button of the view whose property "defaultButton" is true becomes the default one.
+    // button of the view whose property "defaultButton" is true becomes the default one, and what
+    // the view says is announced to screen readers.
     void select(const QString &key);
 
     // Gives the focus to the first control of the shown view that takes it, push buttons aside; in

@@ -82,7 +82,7 @@ class Outline : public testing::Test, public OutlineDataSource, public OutlineDe
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&outline));
         for (int row = outline.numberOfRows() - 1; row >= 0; --row) outline.expandRow(row);
     }
-    int numberOfChildren(OutlineView *, const QVariantMap &item) override {
+    int numberOfChildrenOfItem(OutlineView *, const QVariantMap &item) override {
         return static_cast<int>(childrenOf(item).size());
     }
     QVariantMap child(OutlineView *, int index, const QVariantMap &item) override {
