@@ -8,6 +8,19 @@
 #include "platform/core/Texts.h"
 #include "platform/ui/SingleInstance.h"
 
+namespace {
+
+// Brings the modal window to the front that waits for an answer; false when there is none.
+bool showModalWindow() {
+    QWidget *const modal = QApplication::activeModalWidget();
+    if (!modal) return false;
+    modal->raise();
+    modal->activateWindow();
+    return true;
+}
+
+}  // namespace
+
 Application::Application(int &argc, char **argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("network-setting-tool"));
     setDesktopFileName(applicationName());
@@ -42,7 +55,7 @@ bool Application::terminate() {
 }
 
 void Application::reopen() {
-    if (!m_delegate || activeModalWidget()) return;  // the modal window is in front already
+    if (!m_delegate || showModalWindow()) return;
     const QWidgetList windows = topLevelWidgets();
     const bool visible =
         std::any_of(windows.begin(), windows.end(), [](QWidget *w) { return w->isVisible(); });
@@ -56,11 +69,7 @@ bool Application::event(QEvent *event) {
 }
 
 bool Application::mayTerminate() {
-    if (QWidget *const modal = activeModalWidget()) {
-        modal->raise();
-        modal->activateWindow();
-        return false;
-    }
+    if (showModalWindow()) return false;
     return !m_delegate ||
            m_delegate->applicationShouldTerminate() == ApplicationDelegate::terminateNow;
 }
