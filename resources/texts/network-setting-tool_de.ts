@@ -688,7 +688,7 @@
         <translation>Erneut suchen</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
-        <translation>Beenden</translation>
+        <translation>Schließen</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>Drucker</translation>

@@ -688,7 +688,7 @@
         <translation>Look again</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
-        <translation>Exit</translation>
+        <translation>Close</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>Printer</translation>

@@ -688,7 +688,7 @@
         <translation>Buscar de nuevo</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
-        <translation>Salir</translation>
+        <translation>Cerrar</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>Impresora</translation>

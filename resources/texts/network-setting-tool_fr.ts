@@ -688,7 +688,7 @@
         <translation>Rechercher</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
-        <translation>Quitter</translation>
+        <translation>Fermer</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>Imprimante</translation>

@@ -688,7 +688,7 @@
         <translation>再検索</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
-        <translation>終了</translation>
+        <translation>閉じる</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>プリンター</translation>

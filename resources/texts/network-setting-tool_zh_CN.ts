@@ -688,7 +688,7 @@
         <translation>重新搜索</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
-        <translation>退出</translation>
+        <translation>关闭</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>打印机</translation>
