@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QStyleFactory>
 
 #include "app/DWTPrinterSelector.h"
 #include "link/Binding.h"
@@ -204,7 +203,6 @@ void useDarkColours() {
 int main(int argc, char **argv) {
     programArguments = argv;
     Application app(argc, argv);
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 2) qFatal("screenshots FOLDER [dark]");
     if (arguments.contains(QStringLiteral("dark"))) useDarkColours();

@@ -1,11 +1,13 @@
 #include "platform/ui/Application.h"
 
 #include <QSessionManager>
+#include <QStyle>
 #include <QTimer>
 #include <QWidget>
 #include <algorithm>
 
 #include "platform/core/Texts.h"
+#include "platform/ui/OutlinedStyle.h"
 #include "platform/ui/SingleInstance.h"
 
 namespace {
@@ -25,6 +27,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("network-setting-tool"));
     setDesktopFileName(applicationName());
     setQuitOnLastWindowClosed(false);
+    if (style()->name() == QStringLiteral("fusion")) setStyle(new OutlinedStyle);
     const auto askAtSessionEnd = [this](QSessionManager &session) {
         if (session.allowsInteraction() && !mayTerminate()) session.cancel();
     };
