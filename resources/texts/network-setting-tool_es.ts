@@ -7,7 +7,7 @@
         <translation>Aceptar</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
-        <translation>– entrada no válida</translation>
+        <translation>– no se puede usar</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_PrinterName">
         <translation>Nombre de la impresora</translation>

@@ -7,7 +7,7 @@
         <translation>OK</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
-        <translation>– saisie impossible</translation>
+        <translation>– utilisation impossible</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_PrinterName">
         <translation>Nom de l’imprimante</translation>
@@ -25,7 +25,7 @@
         <translation>Nom du service Bonjour</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
-        <translation>Saisissez de 1 à 31 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain. Les lettres accentuées ne sont pas possibles.</translation>
+        <translation>Saisissez de 1 à 31 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain. Les lettres accentuées ne sont pas possibles.</translation>
     </message>
     <message id="DWT_Localize_Network_Box_PrinterName">
         <translation>Nom de l’imprimante</translation>
@@ -34,49 +34,49 @@
         <translation>Bonjour</translation>
     </message>
     <message id="DWT_Localize_Network_Text_NetworkBonjour_Label">
-        <translation>Nom Bonjour :</translation>
+        <translation>Nom Bonjour :</translation>
     </message>
     <message id="DWT_Localize_Network_Text_NetworkBonjourService_Label">
-        <translation>Nom du service :</translation>
+        <translation>Nom du service :</translation>
     </message>
     <message id="DWT_Localize_Network_Text_BonjourLocal">
         <translation>.local</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
-        <translation>Nom sous lequel les ordinateurs du réseau trouvent l’imprimante : de 1 à 25 lettres, chiffres et traits d’union.</translation>
+        <translation>Nom sous lequel les ordinateurs du réseau trouvent l’imprimante : de 1 à 25 lettres, chiffres et traits d’union.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
-        <translation>Nom affiché par les listes d’imprimantes : de 1 à 31 lettres, chiffres, espaces et signes de ponctuation.</translation>
+        <translation>Nom affiché par les listes d’imprimantes : de 1 à 31 lettres, chiffres, espaces et signes de ponctuation.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkHostName">
-        <translation>Nom de l’imprimante elle-même : de 1 à 31 lettres, chiffres et traits d’union.</translation>
+        <translation>Nom de l’imprimante elle-même : de 1 à 31 lettres, chiffres et traits d’union.</translation>
     </message>
     <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
         <translation>Wi-Fi</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_CommunicateMode_Label">
-        <translation>Mode de communication :</translation>
+        <translation>Mode de communication :</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_Infrastructure_Label">
-        <translation>Infrastructure : rejoindre un réseau Wi-Fi existant</translation>
+        <translation>Infrastructure : rejoindre un réseau Wi-Fi existant</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
-        <translation>Point d’accès : les ordinateurs rejoignent le réseau de l’imprimante</translation>
+        <translation>Point d’accès : les ordinateurs rejoignent le réseau de l’imprimante</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
-        <translation>Désactivé : pas de Wi-Fi</translation>
+        <translation>Désactivé : pas de Wi-Fi</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label">
-        <translation>Adresse MAC (infrastructure) :</translation>
+        <translation>Adresse MAC (infrastructure) :</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_SimpleAPMACAddress_Label">
-        <translation>Adresse MAC (point d’accès) :</translation>
+        <translation>Adresse MAC (point d’accès) :</translation>
     </message>
     <message id="DWT_Localize_Firmware_Box_SoftwareInfomation">
         <translation>Logiciel</translation>
     </message>
     <message id="DWT_Localize_Firmware_Text_Firmware_Label">
-        <translation>Version du micrologiciel :</translation>
+        <translation>Version du micrologiciel :</translation>
     </message>
     <message id="DWT_Localize_Firmware_Box_PrintTimeOut">
         <translation>Délai d’impression</translation>
@@ -91,19 +91,19 @@
         <translation>Mot de passe administrateur</translation>
     </message>
     <message id="DWT_Localize_Password_Text_Password_Label">
-        <translation>Nouveau mot de passe :</translation>
+        <translation>Nouveau mot de passe :</translation>
     </message>
     <message id="DWT_Localize_Password_Text_Reinput_Label">
-        <translation>Répétez-le :</translation>
+        <translation>Répétez-le :</translation>
     </message>
     <message id="DWT_Localize_Password_Text_PasswordInfomation">
         <translation>Avec un mot de passe administrateur, les réglages ne peuvent être modifiés qu’après une connexion.</translation>
     </message>
     <message id="DWT_Localize_Password_Text_Cautions_Label">
-        <translation>Laissez les deux champs vides pour supprimer le mot de passe. Notez le nouveau : il ne peut pas être lu dans l’imprimante.</translation>
+        <translation>Laissez les deux champs vides pour supprimer le mot de passe. Notez le nouveau : il ne peut pas être lu dans l’imprimante.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
-        <translation>Jusqu’à 8 lettres, chiffres et signes de ponctuation ; pas d’espaces.</translation>
+        <translation>Jusqu’à 8 lettres, chiffres et signes de ponctuation ; pas d’espaces.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Reinput">
         <translation>Le même mot de passe, une seconde fois.</translation>
@@ -115,7 +115,7 @@
         <translation>Mot de passe répété</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
-        <translation>Saisissez 8 caractères au plus : lettres A à Z et a à z, chiffres et ! " # $ % &amp; ' ( ) * + , - . / { | } ~ , sans espaces.</translation>
+        <translation>Saisissez 8 caractères au plus : lettres A à Z et a à z, chiffres et ! " # $ % &amp; ' ( ) * + , - . / { | } ~ , sans espaces.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>Les deux mots de passe sont différents. Saisissez le même mot de passe dans les deux champs.</translation>
@@ -136,13 +136,13 @@
         <translation>Connexion</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Label">
-        <translation>Connexion :</translation>
+        <translation>Connexion :</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredLANMACAddress">
         <translation>Interface filaire</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_WiredMACAddress_Label">
-        <translation>Adresse MAC :</translation>
+        <translation>Adresse MAC :</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_IPAddressSetup">
         <translation>Adresse IP</translation>
@@ -154,13 +154,13 @@
         <translation>Adresse fixe</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
-        <translation>Adresse IP :</translation>
+        <translation>Adresse IP :</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_SubnetMask_Label">
-        <translation>Masque de sous-réseau :</translation>
+        <translation>Masque de sous-réseau :</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Gateway_Label">
-        <translation>Passerelle par défaut :</translation>
+        <translation>Passerelle par défaut :</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_IPAddress">
         <translation>Quatre nombres de 0 à 255 séparés par des points, par exemple 192.168.0.10.</translation>
@@ -169,7 +169,7 @@
         <translation>Quatre nombres de 0 à 255 séparés par des points, par exemple 255.255.255.0.</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_Gateway">
-        <translation>L’adresse du routeur : quatre nombres de 0 à 255 séparés par des points.</translation>
+        <translation>L’adresse du routeur : quatre nombres de 0 à 255 séparés par des points.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
         <translation>Adresse IP</translation>
@@ -193,7 +193,7 @@
         <translation>Connexion Wi-Fi</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Label">
-        <translation>Connexion :</translation>
+        <translation>Connexion :</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Nolook">
         <translation>Pas encore testée</translation>
@@ -208,7 +208,7 @@
         <translation>Tester la connexion</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WirelessMode_Label">
-        <translation>Norme Wi-Fi :</translation>
+        <translation>Norme Wi-Fi :</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WirelessMode_B">
         <translation>IEEE 802.11b</translation>
@@ -220,7 +220,7 @@
         <translation>IEEE 802.11b/g/n</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_FieldIntensity_Label">
-        <translation>Intensité du signal :</translation>
+        <translation>Intensité du signal :</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_IPAddressSetup">
         <translation>Adresse IP</translation>
@@ -232,13 +232,13 @@
         <translation>Adresse fixe</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_IPAddress_Label">
-        <translation>Adresse IP :</translation>
+        <translation>Adresse IP :</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SubnetMask_Label">
-        <translation>Masque de sous-réseau :</translation>
+        <translation>Masque de sous-réseau :</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Gateway_Label">
-        <translation>Passerelle par défaut :</translation>
+        <translation>Passerelle par défaut :</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_IPAddress">
         <translation>Quatre nombres de 0 à 255 séparés par des points, par exemple 192.168.0.10.</translation>
@@ -247,16 +247,16 @@
         <translation>Quatre nombres de 0 à 255 séparés par des points, par exemple 255.255.255.0.</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
-        <translation>L’adresse du routeur : quatre nombres de 0 à 255 séparés par des points.</translation>
+        <translation>L’adresse du routeur : quatre nombres de 0 à 255 séparés par des points.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_Security">
         <translation>Réseau et sécurité</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Authentic_Label">
-        <translation>Authentification :</translation>
+        <translation>Authentification :</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Encryption_Label">
-        <translation>Chiffrement :</translation>
+        <translation>Chiffrement :</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Popup_Authentic_Open">
         <translation>Système ouvert</translation>
@@ -298,28 +298,28 @@
         <translation>À propos de WPS…</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
-        <translation>Nom du réseau (SSID) :</translation>
+        <translation>Nom du réseau (SSID) :</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SSID">
-        <translation>Nom du réseau Wi-Fi : de 1 à 32 lettres, chiffres, espaces et signes de ponctuation.</translation>
+        <translation>Nom du réseau Wi-Fi : de 1 à 32 lettres, chiffres, espaces et signes de ponctuation.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
         <translation>Choisir…</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_PSK_Label">
-        <translation>Clé WPA :</translation>
+        <translation>Clé WPA :</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_PSK">
-        <translation>Clé prépartagée du réseau (mot de passe) : de 8 à 63 lettres, chiffres, espaces et signes de ponctuation.</translation>
+        <translation>Clé prépartagée du réseau (mot de passe) : de 8 à 63 lettres, chiffres, espaces et signes de ponctuation.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
-        <translation>Clé WEP :</translation>
+        <translation>Clé WEP :</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_WEPKey">
         <translation>5 ou 13 caractères, ou bien 10 ou 26 chiffres hexadécimaux (0 à 9, A à F).</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SelectWEPKey_Label">
-        <translation>Numéro de clé WEP :</translation>
+        <translation>Numéro de clé WEP :</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_IpAddress">
         <translation>Adresse IP</translation>
@@ -334,13 +334,13 @@
         <translation>Nom du réseau (SSID)</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
-        <translation>Saisissez de 1 à 32 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain. Un réseau dont le nom contient d’autres caractères peut être choisi dans la liste des réseaux.</translation>
+        <translation>Saisissez de 1 à 32 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain. Un réseau dont le nom contient d’autres caractères peut être choisi dans la liste des réseaux.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
         <translation>Clé WPA</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
-        <translation>Saisissez de 8 à 63 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain.</translation>
+        <translation>Saisissez de 8 à 63 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
         <translation>Clé WEP</translation>
@@ -352,7 +352,7 @@
         <translation>Point d’accès</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_WirelessLANMode_Label">
-        <translation>Norme Wi-Fi :</translation>
+        <translation>Norme Wi-Fi :</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_WirelessMode_B">
         <translation>IEEE 802.11b</translation>
@@ -367,28 +367,28 @@
         <translation>Adresses des ordinateurs</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_DHCPServer_Label">
-        <translation>Serveur DHCP :</translation>
+        <translation>Serveur DHCP :</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_DHCP">
-        <translation>Activé : l’imprimante attribue les adresses</translation>
+        <translation>Activé : l’imprimante attribue les adresses</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_IPAddressSetup">
         <translation>Adresse IP</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_StartIpAddress_Label">
-        <translation>Première adresse attribuée :</translation>
+        <translation>Première adresse attribuée :</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_IpAddress_Label">
-        <translation>Adresse de l’imprimante :</translation>
+        <translation>Adresse de l’imprimante :</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_SubnetMask_Label">
-        <translation>Masque de sous-réseau :</translation>
+        <translation>Masque de sous-réseau :</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_Security">
         <translation>Réseau et sécurité</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Authentic_Label">
-        <translation>Authentification :</translation>
+        <translation>Authentification :</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Authentic_Open">
         <translation>Système ouvert</translation>
@@ -403,7 +403,7 @@
         <translation>WPA2 personnel</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Encryption_Label">
-        <translation>Chiffrement :</translation>
+        <translation>Chiffrement :</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Encryption_Nothing">
         <translation>Aucun</translation>
@@ -418,25 +418,25 @@
         <translation>AES</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_SSID_Label">
-        <translation>Nom du réseau (SSID) :</translation>
+        <translation>Nom du réseau (SSID) :</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_DIRECT_Label">
         <translation>DIRECT-</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_PSK_Label">
-        <translation>Clé WPA :</translation>
+        <translation>Clé WPA :</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_SSID">
-        <translation>Ce qui suit DIRECT- dans le nom du réseau : de 1 à 25 lettres, chiffres, espaces et signes de ponctuation.</translation>
+        <translation>Ce qui suit DIRECT- dans le nom du réseau : de 1 à 25 lettres, chiffres, espaces et signes de ponctuation.</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_PSK">
-        <translation>Clé (mot de passe) avec laquelle les ordinateurs se connectent : de 8 à 63 lettres, chiffres, espaces et signes de ponctuation.</translation>
+        <translation>Clé (mot de passe) avec laquelle les ordinateurs se connectent : de 8 à 63 lettres, chiffres, espaces et signes de ponctuation.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
         <translation>Nom de réseau (SSID) du point d’accès</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
-        <translation>Saisissez de 1 à 25 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain.</translation>
+        <translation>Saisissez de 1 à 25 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
         <translation>Clé WPA du point d’accès</translation>
@@ -460,13 +460,13 @@
         <translation>Aide</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_SelectPrinter_Label">
-        <translation>Imprimante :</translation>
+        <translation>Imprimante :</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_Network">
-        <translation>Cette imprimante est jointe par le réseau. Ses réglages sont affichés ; pour les modifier, connectez-la par USB.</translation>
+        <translation>Cette imprimante est jointe par le réseau. Ses réglages sont affichés ; pour les modifier, connectez-la par USB.</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
-        <translation>Certains réglages n’ont pas pu être lus ; rien ne peut donc être modifié. Vérifiez que l’imprimante est allumée et connectée, puis choisissez « Relire ».</translation>
+        <translation>Certains réglages n’ont pas pu être lus ; rien ne peut donc être modifié. Vérifiez que l’imprimante est allumée et connectée, puis choisissez « Relire ».</translation>
     </message>
     <message id="DWT_Localize_Outline_Name">
         <translation>Catégories</translation>
@@ -511,10 +511,10 @@
         <translation>Liste des réseaux</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_SSIDList_CommunicateModeErr">
-        <translation>L’imprimante ne peut rechercher des réseaux qu’en mode infrastructure. Choisissez d’abord « Infrastructure » sur la page « Réseau Wi-Fi ».</translation>
+        <translation>L’imprimante ne peut rechercher des réseaux qu’en mode infrastructure. Choisissez d’abord « Infrastructure » sur la page « Réseau Wi-Fi ».</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_TextField_Cancel">
-        <translation>Certaines modifications n’ont pas été envoyées à l’imprimante. Les envoyer avant de fermer ?</translation>
+        <translation>Certaines modifications n’ont pas été envoyées à l’imprimante. Les envoyer avant de fermer ?</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
         <translation>Envoyer</translation>
@@ -535,7 +535,7 @@
         <translation>Annuler</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
-        <translation>Envoyer maintenant les réglages à l’imprimante ? Ne l’éteignez pas et ne la débranchez pas pendant l’envoi.</translation>
+        <translation>Envoyer maintenant les réglages à l’imprimante ? Ne l’éteignez pas et ne la débranchez pas pendant l’envoi.</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
         <translation>Envoyer</translation>
@@ -547,7 +547,7 @@
         <translation>Envoi des réglages à l’imprimante…</translation>
     </message>
     <message id="DWT_Localize_Send_End_TextField">
-        <translation>Les réglages ont été envoyés. Pour voir ce que l’imprimante contient à présent, choisissez « Relire ».</translation>
+        <translation>Les réglages ont été envoyés. Pour voir ce que l’imprimante contient à présent, choisissez « Relire ».</translation>
     </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>OK</translation>
@@ -556,7 +556,7 @@
         <translation>Cette imprimante est protégée. Saisissez son mot de passe administrateur.</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Password_Label">
-        <translation>Mot de passe :</translation>
+        <translation>Mot de passe :</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Button_OK">
         <translation>Se connecter</translation>
@@ -610,7 +610,7 @@
         <translation>Annuler</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField">
-        <translation>Avec WPS, l’imprimante rejoint un réseau Wi-Fi sans que vous saisissiez de clé. Préparez les deux appareils :</translation>
+        <translation>Avec WPS, l’imprimante rejoint un réseau Wi-Fi sans que vous saisissiez de clé. Préparez les deux appareils :</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_a1">
         <translation>1.</translation>
@@ -622,10 +622,10 @@
         <translation>2.</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_b">
-        <translation>Repérez le bouton WPS du routeur. Il porte souvent l’inscription WPS ou deux flèches courbes ; le manuel du routeur l’indique.</translation>
+        <translation>Repérez le bouton WPS du routeur. Il porte souvent l’inscription WPS ou deux flèches courbes ; le manuel du routeur l’indique.</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_c">
-        <translation>Un routeur sans WPS ne convient pas ; saisissez alors le nom et la clé du réseau.</translation>
+        <translation>Un routeur sans WPS ne convient pas ; saisissez alors le nom et la clé du réseau.</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Next_Key">
         <translation>Suivant</translation>
@@ -649,7 +649,7 @@
         <translation>Quitter</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_TextField">
-        <translation>Cet outil affiche et modifie les réglages réseau d’une imprimante d’étiquettes : ses noms, son réseau filaire et Wi-Fi et son mot de passe administrateur. Les étapes suivantes vous aident à connecter l’imprimante.</translation>
+        <translation>Cet outil affiche et modifie les réglages réseau d’une imprimante d’étiquettes : ses noms, son réseau filaire et Wi-Fi et son mot de passe administrateur. Les étapes suivantes vous aident à connecter l’imprimante.</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_OK_Key">
         <translation>Continuer</translation>
@@ -658,7 +658,7 @@
         <translation>Quitter</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_TextField">
-        <translation>Comment voulez-vous connecter l’imprimante ?</translation>
+        <translation>Comment voulez-vous connecter l’imprimante ?</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_USB_Key">
         <translation>Par USB, pour saisir ses réglages ici</translation>
@@ -673,7 +673,7 @@
         <translation>Quitter</translation>
     </message>
     <message id="DWT_Localize_USBConnect_TextField">
-        <translation>Reliez l’imprimante à cet ordinateur par un câble USB et allumez-la. Choisissez ensuite « Suivant » pour la trouver.</translation>
+        <translation>Reliez l’imprimante à cet ordinateur par un câble USB et allumez-la. Choisissez ensuite « Suivant » pour la trouver.</translation>
     </message>
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
         <translation>Suivant</translation>
@@ -742,7 +742,7 @@
         <translation>Affiche et modifie les réglages réseau des imprimantes d’étiquettes.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Empty">
-        <translation>Aucune imprimante trouvée. Vérifiez que l’imprimante est allumée et reliée à cet ordinateur par un câble USB, ou qu’elle est sur le même réseau. Choisissez ensuite « Rechercher ».</translation>
+        <translation>Aucune imprimante trouvée. Vérifiez que l’imprimante est allumée et reliée à cet ordinateur par un câble USB, ou qu’elle est sur le même réseau. Choisissez ensuite « Rechercher ».</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Searching">
         <translation>Recherche d’imprimantes…</translation>
@@ -750,9 +750,9 @@
     <message id="DWT_Localize_CommandLine_Help">
         <translation>Affiche et modifie les réglages réseau des imprimantes d’étiquettes.
 
-Usage : %1 [-Installer] [--help] [--version]
+Usage : %1 [-Installer] [--help] [--version]
 
-  -Installer  commencer par un guide de connexion ; ne lister que les imprimantes USB
+  -Installer  commencer par un guide de connexion ; ne lister que les imprimantes USB
   --help      afficher ce texte et terminer
   --version   afficher la version et terminer</translation>
     </message>

@@ -13,19 +13,19 @@
         <translation>プリンター名</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PrinterName_InputErr">
-        <translation>1～31 文字で入力してください。プリンター名には半角の英字（A～Z、a～z）、数字、ハイフンを使用できます。スペースは使用できません。</translation>
+        <translation>1～31 文字で入力してください。プリンター名には半角の英字 (A～Z、a～z)、数字、ハイフンを使用できます。スペースは使用できません。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourName">
         <translation>Bonjour 名</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourName_InputErr">
-        <translation>1～25 文字で入力してください。Bonjour 名には半角の英字（A～Z、a～z）、数字、ハイフンを使用できます。スペースは使用できません。</translation>
+        <translation>1～25 文字で入力してください。Bonjour 名には半角の英字 (A～Z、a～z)、数字、ハイフンを使用できます。スペースは使用できません。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourServiceName">
         <translation>Bonjour サービス名</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
-        <translation>1～31 文字で入力してください。半角の英字（A～Z、a～z）、数字、スペース、英語キーボードの記号を使用できます。アクセント付きの文字は使用できません。</translation>
+        <translation>1～31 文字で入力してください。半角の英字 (A～Z、a～z)、数字、スペース、US キーボードの記号を使用できます。アクセント付きの文字は使用できません。</translation>
     </message>
     <message id="DWT_Localize_Network_Box_PrinterName">
         <translation>プリンター名</translation>
@@ -115,7 +115,7 @@
         <translation>再入力したパスワード</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
-        <translation>8 文字以内で入力してください。半角の英字（A～Z、a～z）、数字、および ! " # $ % &amp; ' ( ) * + , - . / { | } ~ を使用できます。スペースは使用できません。</translation>
+        <translation>8 文字以内で入力してください。半角の英字 (A～Z、a～z)、数字、および ! " # $ % &amp; ' ( ) * + , - . / { | } ~ を使用できます。スペースは使用できません。</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>2 つのパスワードが一致しません。両方の欄に同じパスワードを入力してください。</translation>
@@ -163,13 +163,13 @@
         <translation>デフォルトゲートウェイ:</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_IPAddress">
-        <translation>0～255 の数字 4 個をピリオドで区切ります。例: 192.168.0.10</translation>
+        <translation>0～255 の数値 4 個をピリオドで区切ります。例: 192.168.0.10</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_SubnetMask">
-        <translation>0～255 の数字 4 個をピリオドで区切ります。例: 255.255.255.0</translation>
+        <translation>0～255 の数値 4 個をピリオドで区切ります。例: 255.255.255.0</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_Gateway">
-        <translation>ルーターのアドレスです。0～255 の数字 4 個をピリオドで区切ります。</translation>
+        <translation>ルーターのアドレスです。0～255 の数値 4 個をピリオドで区切ります。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
         <translation>IP アドレス</translation>
@@ -181,13 +181,13 @@
         <translation>デフォルトゲートウェイ</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_IpAddress_InputErr">
-        <translation>IP アドレスは、0～255 の数字 4 個をピリオドで区切って入力してください。0.0.0.0、127.0.0.1、255.255.255.255 は使用できません。</translation>
+        <translation>IP アドレスは、0～255 の数値 4 個をピリオドで区切って入力してください。0.0.0.0、127.0.0.1、255.255.255.255 は使用できません。</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Subnetmask_InputErr">
-        <translation>サブネットマスクは、0～255 の数字 4 個をピリオドで区切って入力してください。0.0.0.0 と 255.255.255.255 は使用できません。</translation>
+        <translation>サブネットマスクは、0～255 の数値 4 個をピリオドで区切って入力してください。0.0.0.0 と 255.255.255.255 は使用できません。</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Router_InputErr">
-        <translation>デフォルトゲートウェイは、0～255 の数字 4 個をピリオドで区切って入力してください。0.0.0.0 と 255.255.255.255 は使用できません。</translation>
+        <translation>デフォルトゲートウェイは、0～255 の数値 4 個をピリオドで区切って入力してください。0.0.0.0 と 255.255.255.255 は使用できません。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_WirelessConnection">
         <translation>無線接続</translation>
@@ -241,13 +241,13 @@
         <translation>デフォルトゲートウェイ:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_IPAddress">
-        <translation>0～255 の数字 4 個をピリオドで区切ります。例: 192.168.0.10</translation>
+        <translation>0～255 の数値 4 個をピリオドで区切ります。例: 192.168.0.10</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SubnetMask">
-        <translation>0～255 の数字 4 個をピリオドで区切ります。例: 255.255.255.0</translation>
+        <translation>0～255 の数値 4 個をピリオドで区切ります。例: 255.255.255.0</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
-        <translation>ルーターのアドレスです。0～255 の数字 4 個をピリオドで区切ります。</translation>
+        <translation>ルーターのアドレスです。0～255 の数値 4 個をピリオドで区切ります。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_Security">
         <translation>ネットワークとセキュリティ</translation>
@@ -334,19 +334,19 @@
         <translation>ネットワーク名 (SSID)</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
-        <translation>1～32 文字で入力してください。半角の英字（A～Z、a～z）、数字、スペース、英語キーボードの記号を使用できます。その他の文字を含む名前のネットワークは、ネットワークの一覧から選択できます。</translation>
+        <translation>1～32 文字で入力してください。半角の英字 (A～Z、a～z)、数字、スペース、US キーボードの記号を使用できます。その他の文字を含む名前のネットワークは、ネットワークの一覧から選択できます。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
         <translation>WPA キー</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
-        <translation>8～63 文字で入力してください。半角の英字（A～Z、a～z）、数字、スペース、英語キーボードの記号を使用できます。</translation>
+        <translation>8～63 文字で入力してください。半角の英字 (A～Z、a～z)、数字、スペース、US キーボードの記号を使用できます。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
         <translation>WEP キー</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_WEPKey_InputErr">
-        <translation>5 文字または 13 文字（半角の英字、数字、スペース、英語キーボードの記号）、あるいは 16 進数（0～9、A～F）で 10 桁または 26 桁を入力してください。</translation>
+        <translation>5 文字または 13 文字 (半角の英字、数字、スペース、US キーボードの記号)、あるいは 16 進数 (0～9、A～F) で 10 桁または 26 桁を入力してください。</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_WirelessLANMode">
         <translation>アクセスポイント</translation>
@@ -370,7 +370,7 @@
         <translation>DHCP サーバー:</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_DHCP">
-        <translation>オン: プリンターがアドレスを割り当てます</translation>
+        <translation>オン: プリンターがアドレスを割り当てる</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_IPAddressSetup">
         <translation>IP アドレス</translation>
@@ -436,7 +436,7 @@
         <translation>アクセスポイントのネットワーク名 (SSID)</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
-        <translation>1～25 文字で入力してください。半角の英字（A～Z、a～z）、数字、スペース、英語キーボードの記号を使用できます。</translation>
+        <translation>1～25 文字で入力してください。半角の英字 (A～Z、a～z)、数字、スペース、US キーボードの記号を使用できます。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
         <translation>アクセスポイントの WPA キー</translation>
@@ -499,7 +499,7 @@
         <translation>プリンターへの接続</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Warning">
-        <translation>にご注意ください</translation>
+        <translation>を確認してください</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Printer_ConnectErr">
         <translation>プリンターを読み込めませんでした。電源が入っていること、ケーブルが接続されていること、ほかのプログラムが使用していないことを確認して、もう一度お試しください。</translation>
@@ -568,7 +568,7 @@
         <translation>パスワードが正しくありません。大文字と小文字は区別されます。</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_Button_OK">
-        <translation>やり直す</translation>
+        <translation>再試行</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>プリンターに接続できないため、何も送信されていません。電源が入っていること、ケーブルが接続されていることを確認して、もう一度送信してください。変更内容は残っています。</translation>
@@ -742,7 +742,7 @@
         <translation>ラベルプリンターのネットワーク設定を表示・変更します。</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Empty">
-        <translation>プリンターが見つかりません。プリンターの電源が入っていること、USB ケーブルでこのコンピューターに接続されているか、同じネットワークにあることを確認してから、［再検索］を選択してください。</translation>
+        <translation>プリンターが見つかりません。プリンターの電源が入っていて、USB ケーブルでこのコンピューターに接続されているか、同じネットワーク上にあることを確認してから、［再検索］を選択してください。</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Searching">
         <translation>プリンターを検索しています…</translation>
