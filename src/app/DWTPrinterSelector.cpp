@@ -66,7 +66,7 @@ void DWTPrinterSelector::awakeFromNib() {
 }
 
 void DWTPrinterSelector::DWT_UIInitialize() {
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/network-setting-tool.svg")));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/network-setting-tool-64.png")));
     window_PrinterSelector = new Window;
     Ui::PrinterSelector::setupUi(window_PrinterSelector);
     Ui::WPSViews::setupUi(view_PrinterSelector);
@@ -172,6 +172,7 @@ int DWTPrinterSelector::applicationShouldTerminate() {
 }
 
 void DWTPrinterSelector::DWT_UISelector(const QString &viewKey) {
+    if (viewKey == DWT_View_Key_WPS2) setWPSPicture(*this);
     m_views->select(viewKey);
     m_views->focusFirstControl();
     if (viewKey != DWT_View_Key_Printerlist) return;

@@ -4,6 +4,7 @@
 
 #include "mainwindow/DWTMainSettingWindow.h"
 #include "mainwindow/ViewKeys.h"
+#include "mainwindow/WPSTexts.h"
 #include "platform/core/Texts.h"
 #include "platform/ui/Modal.h"
 
@@ -120,6 +121,7 @@ void DWTMainSettingWindow::push_InfrastructureWPSGuide() {
 }
 
 void DWTMainSettingWindow::MSW_WPSUISelector(const QString &viewKey) {
+    if (viewKey == DWT_View_Key_Main_WPS2) setWPSPicture(*this);
     m_wpsViews->select(viewKey);
     m_wpsViews->focusFirstControl();
 }

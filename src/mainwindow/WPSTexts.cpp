@@ -4,6 +4,12 @@
 
 #include "platform/core/Texts.h"
 
+namespace {
+
+constexpr QSize pictureSize(320, 160);
+
+}  // namespace
+
 void setWPSTexts(const Ui::WPSViews &views) {
     const auto text = [](const char *key) { return localized(QLatin1String(key)); };
     views.textField_WPS1->setText(text("DWT_Localize_WPS1_TextField"));
@@ -19,6 +25,10 @@ void setWPSTexts(const Ui::WPSViews &views) {
     views.button_WPS2Next->setText(text("DWT_Localize_WPS2_Button_Next_Key"));
     views.button_WPS2Back->setText(text("DWT_Localize_WPS2_Button_Back_Key"));
     views.button_WPS2EXIT->setText(text("DWT_Localize_WPS2_Button_Exit_Key"));
+    views.imageView_WPS2->setMinimumSize(pictureSize);
+}
+
+void setWPSPicture(const Ui::WPSViews &views) {
     const QIcon picture(QStringLiteral(":/pictures/wps.svg"));
-    views.imageView_WPS2->setPixmap(picture.pixmap(QSize(320, 160)));
+    views.imageView_WPS2->setPixmap(picture.pixmap(pictureSize));
 }
