@@ -233,7 +233,7 @@ void DWTInfrastructureView::clearEncryptionKey(bool) {
 }
 
 bool DWTInfrastructureView::textShouldBeginEditing(TextField *control) {
-    if (control == textField_InfrastructureSSID && control->text() != selectedListSSID()) {
+    if (control == textField_InfrastructureSSID && !isListSSID(control->text())) {
         bool_InfrastructureSSIDInput = true;
         bool_SSIDfromSelectSSID = false;
     }
@@ -244,7 +244,7 @@ bool DWTInfrastructureView::textShouldBeginEditing(TextField *control) {
 }
 
 bool DWTInfrastructureView::textShouldEndEditing(TextField *control) {
-    if (control == textField_InfrastructureSSID && control->text() != selectedListSSID()) {
+    if (control == textField_InfrastructureSSID && !isListSSID(control->text())) {
         bool_InfrastructureSSIDInput = true;
         bool_SSIDfromSelectSSID = false;
         itemInputCheckInfrastructureSSID();
@@ -453,6 +453,10 @@ bool DWTInfrastructureView::store(const QString &key, const SettingValue &value)
 // The name of the network taken over from the list; empty without one.
 QString DWTInfrastructureView::selectedListSSID() const {
     return textValue(mutableDictionary_selectSSID, DWT_SSIDList_SSID_String);
+}
+
+bool DWTInfrastructureView::isListSSID(const QString &text) const {
+    return !mutableDictionary_selectSSID.isEmpty() && text == selectedListSSID();
 }
 
 DWTBaseView::CheckedField DWTInfrastructureView::ssidField() {

@@ -83,6 +83,8 @@ class DWTInfrastructureView : public DWTBaseView, private Ui::InfrastructurePage
     bool store(const QString &key, const SettingValue &value);
 
     QString selectedListSSID() const;
+    // Whether a network was taken over from the list, and this is its name.
+    bool isListSSID(const QString &text) const;
     void showSSID();
     CheckedField ssidField();
     CheckedField pskField();

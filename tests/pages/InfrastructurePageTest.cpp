@@ -203,6 +203,10 @@ TEST_F(InfrastructurePage, TypingFiltersStoresAndTakesTheTestAway) {
     EXPECT_EQ(addressValue(changed(), DWT_SaveData_Infrastructure_IPAddress).value(3), text("50"));
     type(address(), text("10.0.0.5"));
     EXPECT_EQ(state, DWT_MainDialog_SendNG_Message);
+    type(ssid(), {});
+    QTest::keyClick(ssid(), Qt::Key_Return);
+    EXPECT_EQ(textValue(changed(), DWT_SaveData_Infrastructure_SSID), QString());
+    EXPECT_EQ(state, DWT_MainDialog_SendOK_Message) << "an emptied name is a change";
     type(psk(), text("k\n\te y😀"));
     EXPECT_FALSE(page->itemCheckDifferentToDataManager());
     QTest::keyClick(psk(), Qt::Key_Return);
