@@ -1,14 +1,27 @@
 #include "pages/DWTBaseView.h"
 
+#include <QCheckBox>
 #include <algorithm>
 
 #include "pages/TextFilter.h"
 #include "platform/core/Texts.h"
+#include "platform/ui/FieldLooks.h"
+#include "platform/ui/RadioGroup.h"
 
 namespace {
 
-constexpr qsizetype longestAddress = 15;  // "255.255.255.255"
-constexpr qsizetype parts = 4;
+QString text(const char *key) {
+    return localized(QLatin1String(key));
+}
+
+// A label without what marks it as one: the mnemonic and the colon at its end.
+QString nameOf(const char *key) {
+    QString name = text(key).remove(u'&');
+    while (!name.isEmpty() &&
+           (name.back().isSpace() || name.back() == u':' || name.back() == u'：'))
+        name.chop(1);
+    return name;
+}
 
 }  // namespace
 
@@ -20,57 +33,247 @@ bool DWTBaseView::init() {
     return DWTBaseClass::init() && TBV_Init();
 }
 
-QWidget *DWTBaseView::mainCustomView() const {
-    return view_Base;
+bool DWTBaseView::TBV_Init() {
+    nsObjectRelease(ndm_Object);
+    string_ViewKey.clear();
+    view_Base = new QWidget;
+    return true;
 }
 
-void DWTBaseView::dataManagerObject(const std::shared_ptr<DWTDataManager> &manager) {
-    ndm_Object = manager;
+void DWTBaseView::TBV_Dealloc() {
+    nsObjectRelease(ndm_Object);
+    if (!view_Base) return;
+    for (auto *field : view_Base->findChildren<TextField *>()) field->setDelegate(nullptr);
+    if (!view_Base->parent()) delete view_Base;
 }
 
-void DWTBaseView::SetViewKey(const QString &key) {
-    string_ViewKey = key;
+void DWTBaseView::addField(Field field) {
+    if (auto *control = qobject_cast<TextField *>(field.control)) control->setDelegate(this);
+    m_fields.push_back(std::move(field));
 }
 
-QString DWTBaseView::viewKey() const {
-    return string_ViewKey;
+void DWTBaseView::addShown(QLineEdit *control, const QString &key, Kind kind,
+                           const QStringList *items) {
+    Field field{control, key, kind};
+    field.items = items;
+    field.edited = false;
+    m_fields.push_back(std::move(field));
+}
+
+const DWTBaseView::Field *DWTBaseView::fieldOf(const QWidget *control) const {
+    const auto found = std::find_if(m_fields.begin(), m_fields.end(),
+                                    [&](const Field &field) { return field.control == control; });
+    return found == m_fields.end() ? nullptr : &*found;
+}
+
+void DWTBaseView::initializeUI() {
+    for (const Field &field : m_fields) {
+        if (field.input) *field.input = false;
+        if (!field.edited) showAsValue(field.line());
+    }
+}
+
+void DWTBaseView::showDataManager() {
+    mutableDictionary_ViewSettings = savedCategory();
+    for (const Field &field : m_fields) fill(field);
+}
+
+// A missing text or number leaves its field as it is; a missing address, or code that is only
+// shown, has its default.
+void DWTBaseView::fill(const Field &field) {
+    const CategoryDictionary &values = mutableDictionary_ViewSettings;
+    const bool missing = !values.contains(field.key);
+    if (missing && (field.edited || field.kind == Kind::Text)) return;
+    if (field.input) *field.input = true;
+    if (auto *group = qobject_cast<RadioGroup *>(field.control))
+        group->selectTag(integerValue(values, field.key));
+    else if (auto *popup = qobject_cast<QComboBox *>(field.control))
+        popup->setCurrentIndex(popup->findData(integerValue(values, field.key)));
+    else
+        field.line()->setText(textOf(field, values));
+}
+
+void DWTBaseView::enableAllItems(bool enabled) {
+    for (const Field &field : m_fields)
+        if (field.edited) field.control->setEnabled(enabled);
+}
+
+bool DWTBaseView::itemInputCheck() {
+    Alert alert(alertStyle());
+    bool passed = checkAddresses(alert);
+    for (const Field &field : m_fields) {
+        if (!field.rule || field.kind == Kind::Address || !field.control->isEnabled()) continue;
+        if (field.kind == Kind::Number) {
+            forceIntoRange(field);
+        } else if (!passes(field)) {
+            showInputError(alert, text(field.nameKey), text(field.ruleKey));
+            passed = false;
+        }
+    }
+    return passed;
+}
+
+bool DWTBaseView::checkAddresses(Alert &alert) const {
+    QStringList names, rules;
+    for (const Field &field : m_fields) {
+        if (!field.rule || field.kind != Kind::Address || !field.control->isEnabled() ||
+            passes(field))
+            continue;
+        if (names.isEmpty()) {
+            field.line()->setFocus();
+            field.line()->selectAll();
+        }
+        names << text(field.nameKey);
+        rules << text(field.ruleKey);
+    }
+    if (!names.isEmpty()) showInputError(alert, names.join(u'\n'), rules.join(u'\n'));
+    return names.isEmpty();
+}
+
+void DWTBaseView::forceIntoRange(const Field &number) {
+    const int value = Rules::numberInRange(number.line()->text(), *number.rule);
+    number.line()->setText(QString::number(value));
+}
+
+bool DWTBaseView::passes(const Field &field) const {
+    const Rules::Rule &rule = *field.rule;
+    if (field.kind == Kind::Address) return itemInputCheckAddress(field.line(), !rule.loopback);
+    return itemInputCheckString(field.line(), rule.characters, rule.min, rule.max,
+                                !field.input || *field.input);
+}
+
+CategoryDictionary DWTBaseView::shownCategory() const {
+    CategoryDictionary category = savedCategory();
+    for (const Field &field : m_fields) {
+        if (!field.edited || field.key.isEmpty() || !isUsed(field)) continue;
+        if (const auto value = valueOf(field)) category.insert(field.key, *value);
+    }
+    return category;
+}
+
+QList<DWTBaseView::Change> DWTBaseView::changes() const {
+    const CategoryDictionary saved = savedCategory(), shown = shownCategory();
+    QList<Change> list;
+    for (const Field &field : m_fields) {
+        if (!field.nameKey || !shown.contains(field.key)) continue;
+        const auto old = saved.constFind(field.key);
+        if (old != saved.constEnd() && *old == shown.value(field.key)) continue;
+        Change change{nameOf(field.nameKey), {}, {}};
+        if (!field.secret) {
+            change.oldText = textOf(field, saved);
+            change.newText = textOf(field, shown);
+        }
+        list << change;
+    }
+    return list;
+}
+
+std::optional<SettingValue> DWTBaseView::valueOf(const Field &field) const {
+    if (const auto *box = qobject_cast<QCheckBox *>(field.control)) return box->isChecked() ? 1 : 0;
+    if (const auto *group = qobject_cast<RadioGroup *>(field.control)) {
+        const int tag = group->selectedTag();
+        return tag < 0 ? std::nullopt : std::optional<SettingValue>(tag);
+    }
+    if (const auto *popup = qobject_cast<QComboBox *>(field.control)) {
+        const QVariant code = popup->currentData();
+        return code.isValid() ? std::optional<SettingValue>(code.toInt()) : std::nullopt;
+    }
+    const QString shown = field.line()->text();
+    if (field.kind == Kind::Address) return shown.split(u'.');
+    if (field.kind == Kind::Number) return integerOf(shown);
+    return shown;
+}
+
+QString DWTBaseView::textOf(const Field &field, const CategoryDictionary &category) const {
+    const int code = integerValue(category, field.key);
+    switch (field.kind) {
+        case Kind::Text:
+            return textValue(category, field.key);
+        case Kind::Address:
+            return addressNumberToString(addressValue(category, field.key));
+        case Kind::Choice:
+            if (field.items) return localized(field.items->value(code));
+            if (const auto *group = qobject_cast<RadioGroup *>(field.control))
+                return group->titleOf(code);
+            [[fallthrough]];
+        default:
+            return QString::number(code);
+    }
+}
+
+bool DWTBaseView::textShouldBeginEditing(TextField *control) {
+    if (const Field *field = fieldOf(control)) markInput(*field, false);
+    return true;
+}
+
+bool DWTBaseView::textShouldEndEditing(TextField *control) {
+    if (const Field *field = fieldOf(control)) {
+        markInput(*field, true);
+        if (field->store)
+            field->store();
+        else
+            store(control);
+    }
+    sendNotificationSendOK();
+    return true;
+}
+
+void DWTBaseView::controlTextDidChange(TextField *control) {
+    const Field *field = fieldOf(control);
+    if (!field) return;
+    if (field->kind == Kind::Address) checkIPtextField(control);
+    if (field->kind == Kind::Number) checkCountTextField(control);
+    postSendState(itemCheckDifferentToDataManager());
+}
+
+void DWTBaseView::markInput(const Field &field, bool) {
+    if (field.input) *field.input = true;
 }
 
 bool DWTBaseView::itemInputCheckString(const QLineEdit *field, const QString &characterSet, int min,
                                        int max, bool input) const {
-    const QString text = field->text();
-    if (text.size() > max || (input && text.size() < min)) return false;
-    return std::all_of(text.begin(), text.end(), [&](QChar c) { return characterSet.contains(c); });
+    return Rules::isText(field->text(), characterSet, min, max, input);
 }
 
 bool DWTBaseView::itemInputCheckAddress(const QLineEdit *field, bool localhostCheck) const {
-    const QString text = field->text();
-    const QStringList texts = text.split(u'.');
-    if (text.size() > longestAddress || texts.size() != parts || texts.contains(QString()))
-        return false;
-    QList<int> address;
-    for (const QString &part : texts) address << integerOf(part);
-    const auto inRange = [](int part) { return part >= 0 && part <= 255; };
-    if (!std::all_of(address.begin(), address.end(), inRange)) return false;
-    const QList<int> nowhere{0, 0, 0, 0}, everywhere{255, 255, 255, 255}, localhost{127, 0, 0, 1};
-    if (address == nowhere || address == everywhere) return false;
-    return !localhostCheck || address != localhost;
+    return Rules::isAddress(field->text(), !localhostCheck);
 }
 
 bool DWTBaseView::isEqualAddress(const QStringList &address,
                                  const QStringList &printerAddress) const {
-    if (address.size() < parts || printerAddress.size() < parts) return false;
-    return std::equal(
-        address.begin(), address.begin() + parts, printerAddress.begin(),
-        [](const QString &a, const QString &b) { return integerOf(a) == integerOf(b); });
+    return Rules::isSameAddress(address, printerAddress);
 }
 
 void DWTBaseView::checkIPtextField(TextField *field) const {
-    filterText(field, addressCharacters);
+    filterText(field, Rules::addressCharacters);
 }
 
-void DWTBaseView::sendNotificationSendOK() {
-    postSendState(ndm_Object && ndm_Object->isEqualToSaveData());
+void DWTBaseView::checkCountTextField(TextField *field) const {
+    filterText(field, Rules::digits);
+}
+
+QString DWTBaseView::addressNumberToString(const QStringList &address) {
+    if (address.size() != 4) return QStringLiteral("0.0.0.0");
+    QStringList numbers;
+    for (const QString &part : address) numbers << QString::number(integerOf(part));
+    return numbers.join(u'.');
+}
+
+void DWTBaseView::showInputError(Alert &alert, const QString &fieldName,
+                                 const QString &rule) const {
+    alert.setButtonTitle(text("DWT_Localize_Alert_Button_OK"));
+    alert.setMessageText(
+        QStringLiteral("%1 %2").arg(fieldName, text("DWT_Localize_Alert_MessageText_Error")));
+    alert.setInformativeText(rule);
+    alert.runModal(view_Base);
+}
+
+bool DWTBaseView::store(const QWidget *control) {
+    const Field &field = *fieldOf(control);
+    if (field.kind == Kind::Number) forceIntoRange(field);
+    mutableDictionary_ViewSettings.insert(field.key, *valueOf(field));
+    handOver(mutableDictionary_ViewSettings);
+    return true;
 }
 
 CategoryDictionary DWTBaseView::savedCategory() const {
@@ -82,45 +285,29 @@ void DWTBaseView::handOver(const CategoryDictionary &category) {
     if (ndm_Object) ndm_Object->setupDataFromMainView(category, string_ViewKey);
 }
 
+void DWTBaseView::sendNotificationSendOK() {
+    postSendState(ndm_Object && ndm_Object->isEqualToSaveData());
+}
+
 void DWTBaseView::postSendState(bool unchanged) {
     NotificationCenter::shared().post(
         unchanged ? DWT_MainDialog_SendNG_Message : DWT_MainDialog_SendOK_Message, this);
 }
 
 // The page is its fields' delegate as well, which tells it of the same change first.
-NotificationCenter::Observer DWTBaseView::observeTextChanges() {
-    return NotificationCenter::shared().observe(
+void DWTBaseView::notificationManager() {
+    m_textChanges = NotificationCenter::shared().observe(
         QStringLiteral("NSControlTextDidChangeNotification"), [this](const Notification &change) {
             auto *sender = const_cast<QObject *>(change.sender);
             if (auto *field = qobject_cast<TextField *>(sender)) controlTextDidChange(field);
         });
 }
 
-void DWTBaseView::showInputError(Alert &alert, const QString &fieldName,
-                                 const QString &rule) const {
-    const QString problem = localized(QStringLiteral("DWT_Localize_Alert_MessageText_Error"));
-    alert.setButtonTitle(localized(QStringLiteral("DWT_Localize_Alert_Button_OK")));
-    alert.setMessageText(QStringLiteral("%1 %2").arg(fieldName, problem));
-    alert.setInformativeText(rule);
-    alert.runModal(view_Base);
+QStringList DWTBaseView::itemList(const QVariantMap &lists, const char *key) {
+    return lists.value(QLatin1String(key)).toStringList();
 }
 
-bool DWTBaseView::checkField(const CheckedField &checked, Alert &alert) const {
-    if (!checked.field->isEnabled()) return true;
-    if (itemInputCheckString(checked.field, checked.characters, checked.min, checked.max,
-                             *checked.input))
-        return true;
-    showInputError(alert, localized(checked.messageKey), localized(checked.informationKey));
-    return false;
-}
-
-bool DWTBaseView::TBV_Init() {
-    nsObjectRelease(ndm_Object);
-    string_ViewKey.clear();
-    return true;
-}
-
-void DWTBaseView::TBV_Dealloc() {
-    nsObjectRelease(ndm_Object);
-    if (view_Base && !view_Base->parent()) delete view_Base;
+void DWTBaseView::offer(QComboBox *popup, const QStringList &keys, int firstCode) {
+    popup->clear();
+    for (const QString &key : keys) popup->addItem(localized(key), firstCode + popup->count());
 }

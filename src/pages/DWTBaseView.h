@@ -4,13 +4,18 @@
 #include <QString>
 #include <QStringList>
 #include <QWidget>
+#include <functional>
 #include <memory>
+#include <optional>
+#include <vector>
 
 #include "app/base/DWTBaseClass.h"
 #include "platform/core/NotificationCenter.h"
 #include "platform/ui/Alert.h"
+#include "platform/ui/PopUpButton.h"
 #include "platform/ui/TextField.h"
 #include "settings/DWTDataManager.h"
+#include "settings/Rules.h"
 
 // Posted by a page after an edit, with the page as sender: something differs from the saved data,
 // or nothing does.
@@ -21,7 +26,10 @@ inline const QString DWT_MainDialog_SendNG_Message =
 
 // A setting page: fills the controls of one panel from the saved data of its category, checks what
 // is typed, and writes it to the change data. The main window drives every page through the page
-// protocol. Main thread only.
+// protocol.
+//
+// What a page holds stands in its table, a row a value (addField(), addShown()); this class does
+// once what is the same for every row. A page overrides what is peculiar to it. Main thread only.
 class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
   public:
     ~DWTBaseView() override;
@@ -29,77 +37,151 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
 
     // The panel. The window that takes it into its page area owns it from then on; a panel that
     // nobody took goes with the page.
-    QWidget *mainCustomView() const;
+    QWidget *mainCustomView() const { return view_Base; }
     // The data manager that the page reads and writes; kept until another is handed over.
-    void dataManagerObject(const std::shared_ptr<DWTDataManager> &manager);
+    void dataManagerObject(const std::shared_ptr<DWTDataManager> &manager) { ndm_Object = manager; }
     // The page's category in the record, and its name in the window.
-    void SetViewKey(const QString &key);
-    QString viewKey() const;
+    void SetViewKey(const QString &key) { string_ViewKey = key; }
+    QString viewKey() const { return string_ViewKey; }
 
     // --- Page protocol ---
 
-    // Sets texts and initial states; called once, when the panel is in its window.
-    virtual void initializeUI() {}
+    // Sets initial states; called once, when the panel is in its window. Nothing counts as filled
+    // or touched then.
+    virtual void initializeUI();
     // Fills the controls from the saved data; called after every reading of the printer.
-    virtual void showDataManager() {}
-    virtual void enableAllItems(bool) {}
-    // Checks what is typed and shows an alert for what is wrong. False when something is.
-    virtual bool itemInputCheck() { return true; }
+    virtual void showDataManager();
+    virtual void enableAllItems(bool enabled);
+    // Checks what is typed and shows an alert for what is wrong: one for all addresses, of which
+    // the first wrong one is selected, then one for every other field. Numbers are forced into
+    // their range. Disabled fields are not checked. False when something is wrong.
+    virtual bool itemInputCheck();
     // Writes the controls' values to the change data.
-    virtual void itemSetToDataManager() {}
+    void itemSetToDataManager() { handOver(shownCategory()); }
     // False when the change alters the address or name by which the printer is reached.
     virtual bool itemConnectChangeCheck() { return true; }
     // True when the controls' values equal the saved data.
-    virtual bool itemCheckDifferentToDataManager() { return true; }
+    bool itemCheckDifferentToDataManager() { return shownCategory() == savedCategory(); }
 
-    // --- Checks, also used by what a page is made of ---
+    // A value that differs from the saved one, in the words of the page. A secret has no texts.
+    struct Change {
+        QString label;
+        QString oldText;
+        QString newText;
+    };
+    // What differs, in the order of the page; empty when nothing does.
+    virtual QList<Change> changes() const;
 
-    // Whether the text has `min` to `max` characters (UTF-16 units), all among `characterSet`. The
-    // minimum counts only when `input` is true: the field was filled or touched.
+    // --- Editing; also the delegate calls of the page's fields ---
+
+    bool textShouldBeginEditing(TextField *control) override;
+    // Stores the field in the change data, whatever it holds, and posts the record's state.
+    bool textShouldEndEditing(TextField *control) override;
+    // Takes out what an address or a number cannot hold, and posts whether the page differs, when
+    // `control` is one of the page's own.
+    void controlTextDidChange(TextField *control) override;
+
+    // --- Checks (settings/Rules.h) on fields ---
+
     bool itemInputCheckString(const QLineEdit *field, const QString &characterSet, int min, int max,
                               bool input) const;
-    // Whether the text is an IPv4 address of four parts from 0 to 255 that is neither 0.0.0.0 nor
-    // 255.255.255.255 nor, with `localhostCheck`, 127.0.0.1.
     bool itemInputCheckAddress(const QLineEdit *field, bool localhostCheck) const;
-    // Whether the four parts of two addresses are the same numbers; both need four parts.
     bool isEqualAddress(const QStringList &address, const QStringList &printerAddress) const;
     // Shows that a field's text cannot be used, and why.
     void showInputError(Alert &alert, const QString &fieldName, const QString &rule) const;
 
-  protected:
-    // A text field with its input flag, its key in the record, the rule of its text and what is
-    // said of a wrong one.
-    struct CheckedField {
-        TextField *field;
-        bool *input;
-        QString key;
-        QString characters;
-        int min;
-        int max;
-        QString messageKey;
-        QString informationKey;
-    };
-    // Whether the field is disabled or keeps its rule; shows the alert when not.
-    bool checkField(const CheckedField &checked, Alert &alert) const;
+    // An address of four parts with dots between them; "0.0.0.0" for any other count of parts.
+    static QString addressNumberToString(const QStringList &address);
 
+  protected:
+    // A row of the table: a value of the category, and the control that shows it.
+    struct Field {
+        // Values and their controls: a text, an address or a number in a QLineEdit; a choice in a
+        // RadioGroup (codes as tags) or a PopUpButton (codes as item data); a flag in a QCheckBox.
+        enum class Kind { Text, Address, Number, Choice, Flag };
+
+        QWidget *control;
+        QString key;  // in the record; empty when the record does not hold the value
+        Kind kind = Kind::Text;
+        // Localisation keys: how alerts and lists of changes call it, what is said of a wrong one.
+        const char *nameKey = nullptr;
+        const char *ruleKey = nullptr;
+        bool *input = nullptr;               // set when the field was filled or touched
+        std::function<bool()> store = {};    // at the end of editing; store(control) by default
+        bool secret = false;                 // a key or password: lists of changes do not show it
+        const QStringList *items = nullptr;  // the titles of a choice by its codes
+        const Rules::Rule *rule = Rules::ruleOf(key);
+        bool edited = true;  // false: shown, and never written
+
+        QLineEdit *line() const { return static_cast<QLineEdit *>(control); }
+        bool isText() const {
+            return kind == Kind::Text || kind == Kind::Address || kind == Kind::Number;
+        }
+    };
+    using Kind = Field::Kind;
+
+    // Adds a row. The page becomes the delegate of a text field.
+    void addField(Field field);
+    // Adds a row that only shows its value, as text: `items` are the texts of a choice.
+    void addShown(QLineEdit *control, const QString &key, Kind kind = Kind::Text,
+                  const QStringList *items = nullptr);
+    const std::vector<Field> &fields() const { return m_fields; }
+    // The row of a control; a null pointer when it is none of the page's.
+    const Field *fieldOf(const QWidget *control) const;
+
+    // --- What a page may do in its own way ---
+
+    // Shows the value of a row from the page's category.
+    virtual void fill(const Field &field);
+    // Whether what a row shows counts; otherwise its saved value does.
+    virtual bool isUsed(const Field &) const { return true; }
+    // Whether what a field holds keeps its rule.
+    virtual bool passes(const Field &field) const;
+    // The user begins to edit, or `ended` to edit, a field.
+    virtual void markInput(const Field &field, bool ended);
+    // The saved category with what the page shows now. A code that no choice stands for stays.
+    virtual CategoryDictionary shownCategory() const;
+    virtual Alert::Style alertStyle() const { return Alert::Style::Warning; }
+
+    // --- What every page does with its category ---
+
+    // Puts what a row shows into the page's category and hands that over. Always true.
+    bool store(const QWidget *control);
+    // The saved category; empty when there is none.
+    CategoryDictionary savedCategory() const;
+    // Hands a category over as change data.
+    void handOver(const CategoryDictionary &category);
+    // Listens to the text changes of every field.
+    void notificationManager();
     // Takes characters other than digits and dots out of the field.
     void checkIPtextField(TextField *field) const;
+    // Takes characters other than digits out of the field.
+    void checkCountTextField(TextField *field) const;
     // Posts whether the whole record differs from the saved data.
     void sendNotificationSendOK();
 
-    // What every page does with its category: the saved one (empty when there is none), handing one
-    // over as change data, and posting whether the page differs from the saved one.
-    CategoryDictionary savedCategory() const;
-    void handOver(const CategoryDictionary &category);
-    void postSendState(bool unchanged);
-    // Calls controlTextDidChange() for the text changes of every field while the token lives.
-    [[nodiscard]] NotificationCenter::Observer observeTextChanges();
+    // The lists of localisation keys of a property list of items, by their keys there.
+    static QStringList itemList(const QVariantMap &lists, const char *key);
+    // Makes `keys` the items of a pop-up; the first has the code `firstCode`.
+    static void offer(QComboBox *popup, const QStringList &keys, int firstCode = 0);
 
     QPointer<QWidget> view_Base;
     std::shared_ptr<DWTDataManager> ndm_Object;
     QString string_ViewKey;
+    // The page's working copy of its category, into which single edits go.
+    CategoryDictionary mutableDictionary_ViewSettings;
 
   private:
     bool TBV_Init();
     void TBV_Dealloc();
+    // What a row shows; nothing when no item of a choice is selected.
+    std::optional<SettingValue> valueOf(const Field &field) const;
+    // A value of a row as a person reads it.
+    QString textOf(const Field &field, const CategoryDictionary &category) const;
+    bool checkAddresses(Alert &alert) const;
+    static void forceIntoRange(const Field &number);
+    void postSendState(bool unchanged);
+
+    std::vector<Field> m_fields;
+    NotificationCenter::Observer m_textChanges;
 };

@@ -1,6 +1,7 @@
 #include "pages/DWTIPTextField.h"
 
 #include "pages/TextFilter.h"
+#include "settings/Rules.h"
 
 DWTIPTextField::DWTIPTextField(QWidget *parent) : TextField(parent) {
     SRF_Init();
@@ -15,7 +16,7 @@ void DWTIPTextField::textDidBeginEditing() {
 }
 
 void DWTIPTextField::textDidChange() {
-    filterText(this, addressCharacters);
+    filterText(this, Rules::addressCharacters);
     string_SaveString = text();
 }
 

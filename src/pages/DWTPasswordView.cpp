@@ -1,48 +1,42 @@
 #include "pages/DWTPasswordView.h"
 
-#include "pages/CharacterSets.h"
 #include "platform/core/Texts.h"
 #include "platform/ui/FieldLooks.h"
 
 namespace {
 
-constexpr int longestPassword = 8;
+const char *const passwordName = "DWT_Localize_Alert_MessageText_Password_Password";
+const char *const passwordRule = "DWT_Localize_Alert_InfoText_Password_InputErr";
 
 }  // namespace
 
-DWTPasswordView::~DWTPasswordView() {
-    NPS_Dealloc();
-}
-
-bool DWTPasswordView::init() {
-    return DWTBaseView::init() && NPS_Init();
+bool DWTPasswordView::NPS_Init() {
+    SetViewKey(DWT_View_Key_Password);
+    setupUi(view_Base);
+    addField({checkbox_PasswordChange, DWT_SaveData_Password_Change, Kind::Flag});
+    addField({secureTextField_Password, DWT_SaveData_Password_Password, Kind::Text, passwordName,
+              passwordRule, nullptr, [this] { return itemInputCheckPassword(); }, true});
+    addField({secureTextField_PasswordReinput,
+              {},
+              Kind::Text,
+              "DWT_Localize_Alert_MessageText_Password_Reinput",
+              passwordRule,
+              nullptr,
+              [this] { return itemInputCheckPasswordReinput(); },
+              true,
+              nullptr,
+              Rules::ruleOf(DWT_SaveData_Password_Password)});
+    connect(checkbox_PasswordChange, &QCheckBox::clicked, this,
+            &DWTPasswordView::push_PasswordChange);
+    return true;
 }
 
 void DWTPasswordView::initializeUI() {
-    checkbox_PasswordChange->setText(
-        localized(QStringLiteral("DWT_Localize_Password_Text_PasswordChange_Label")));
-    box_AdministratorPassword->setTitle(
-        localized(QStringLiteral("DWT_Localize_Password_Box_AdministratorPassword")));
-    textField_Label_Password->setText(
-        localized(QStringLiteral("DWT_Localize_Password_Text_Password_Label")));
-    textField_Label_Reinput->setText(
-        localized(QStringLiteral("DWT_Localize_Password_Text_Reinput_Label")));
-    textField_PasswordInfo->setText(
-        localized(QStringLiteral("DWT_Localize_Password_Text_PasswordInfomation")));
-    textField_Label_Cautions->setText(
-        localized(QStringLiteral("DWT_Localize_Password_Text_Cautions_Label")));
-    secureTextField_Password->setToolTip(
-        localized(QStringLiteral("DWT_ToolChip_Password_Text_Password")));
-    secureTextField_PasswordReinput->setToolTip(
-        localized(QStringLiteral("DWT_ToolChip_Password_Text_Reinput")));
+    DWTBaseView::initializeUI();
     // Eight mask characters, and room to see that there is no more.
-    fitWidth(secureTextField_Password, QString(longestPassword, u'M'));
-    fitWidth(secureTextField_PasswordReinput, QString(longestPassword, u'M'));
+    fitWidth(secureTextField_Password, QString(Rules::longestPassword, u'M'));
+    fitWidth(secureTextField_PasswordReinput, QString(Rules::longestPassword, u'M'));
     enableFields(false);
-}
-
-void DWTPasswordView::showDataManager() {
-    mutableDictionary_ViewSettings = savedCategory();
 }
 
 void DWTPasswordView::enableAllItems(bool enabled) {
@@ -52,25 +46,18 @@ void DWTPasswordView::enableAllItems(bool enabled) {
 
 bool DWTPasswordView::itemInputCheck() {
     if (!secureTextField_Password->isEnabled()) return true;
-    const QString name = QStringLiteral("DWT_Localize_Alert_MessageText_Password_Password");
-    Alert alert(Alert::Style::Warning);
-    const bool password = checkField(alert, secureTextField_Password, name);
-    const bool repeated =
-        checkField(alert, secureTextField_PasswordReinput,
-                   QStringLiteral("DWT_Localize_Alert_MessageText_Password_Reinput"));
-    if (!password || !repeated) return false;
-    if (secureTextField_Password->text() == secureTextField_PasswordReinput->text()) return true;
-    showInputError(alert, localized(name),
+    if (!DWTBaseView::itemInputCheck()) return false;
+    if (fieldsAgree()) return true;
+    Alert alert(alertStyle());
+    showInputError(alert, localized(QLatin1String(passwordName)),
                    localized(QStringLiteral("DWT_Localize_Alert_InfoText_Password_MatchingErr")));
     return false;
 }
 
-void DWTPasswordView::itemSetToDataManager() {
-    handOver(shownCategory());
-}
-
-bool DWTPasswordView::itemCheckDifferentToDataManager() {
-    return shownCategory() == savedCategory();
+// A new password is one change, also when it is none.
+QList<DWTBaseView::Change> DWTPasswordView::changes() const {
+    if (shownCategory() == savedCategory()) return {};
+    return {{localized(QLatin1String(passwordName)), {}, {}}};
 }
 
 void DWTPasswordView::passwordChangeSetting(bool on) {
@@ -89,48 +76,17 @@ void DWTPasswordView::clearPassword(bool) {
     enableFields(false);
 }
 
-bool DWTPasswordView::textShouldEndEditing(TextField *control) {
-    if (control == secureTextField_Password) itemInputCheckPassword();
-    if (control == secureTextField_PasswordReinput) itemInputCheckPasswordReinput();
-    sendNotificationSendOK();
-    return true;
-}
-
-bool DWTPasswordView::NPS_Init() {
-    SetViewKey(DWT_View_Key_Password);
-    mutableDictionary_ViewSettings.clear();
-    view_Password = new QWidget;
-    view_Base = view_Password;
-    setupUi(view_Password);
-    secureTextField_Password->setDelegate(this);
-    secureTextField_PasswordReinput->setDelegate(this);
-    connect(checkbox_PasswordChange, &QCheckBox::clicked, this,
-            &DWTPasswordView::push_PasswordChange);
-    return true;
-}
-
-void DWTPasswordView::NPS_Dealloc() {
-    mutableDictionary_ViewSettings.clear();
-    if (!view_Password) return;
-    secureTextField_Password->setDelegate(nullptr);
-    secureTextField_PasswordReinput->setDelegate(nullptr);
-}
-
 void DWTPasswordView::push_PasswordChange() {
     passwordChangeSetting(checkbox_PasswordChange->isEnabled() &&
                           checkbox_PasswordChange->isChecked());
 }
 
 bool DWTPasswordView::itemInputCheckPassword() {
-    if (secureTextField_Password->text() != secureTextField_PasswordReinput->text()) return true;
-    mutableDictionary_ViewSettings.insert(DWT_SaveData_Password_Password,
-                                          secureTextField_Password->text());
-    handOver(mutableDictionary_ViewSettings);
-    return true;
+    return !fieldsAgree() || store(secureTextField_Password);
 }
 
-bool DWTPasswordView::itemInputCheckPasswordReinput() {
-    return itemInputCheckPassword();
+bool DWTPasswordView::fieldsAgree() const {
+    return secureTextField_Password->text() == secureTextField_PasswordReinput->text();
 }
 
 void DWTPasswordView::enableFields(bool enabled) {
@@ -141,20 +97,4 @@ void DWTPasswordView::enableFields(bool enabled) {
 void DWTPasswordView::emptyFields() {
     secureTextField_Password->clear();
     secureTextField_PasswordReinput->clear();
-}
-
-bool DWTPasswordView::checkField(Alert &alert, const TextField *field,
-                                 const QString &messageKey) const {
-    if (itemInputCheckString(field, passwordCharacters, 0, longestPassword, true)) return true;
-    showInputError(alert, localized(messageKey),
-                   localized(QStringLiteral("DWT_Localize_Alert_InfoText_Password_InputErr")));
-    return false;
-}
-
-// The saved category with the state of the box and what stands in the first field now.
-CategoryDictionary DWTPasswordView::shownCategory() const {
-    CategoryDictionary category = savedCategory();
-    category.insert(DWT_SaveData_Password_Change, checkbox_PasswordChange->isChecked() ? 1 : 0);
-    category.insert(DWT_SaveData_Password_Password, secureTextField_Password->text());
-    return category;
 }

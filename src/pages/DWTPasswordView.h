@@ -6,15 +6,14 @@
 // A new administrator password, typed twice. The printer's own is never read or shown.
 class DWTPasswordView : public DWTBaseView, private Ui::PasswordPage {
   public:
-    ~DWTPasswordView() override;
-    bool init() override;
+    ~DWTPasswordView() override { NPS_Dealloc(); }
+    bool init() override { return DWTBaseView::init() && NPS_Init(); }
 
     void initializeUI() override;
-    void showDataManager() override;
     void enableAllItems(bool enabled) override;
+    // Also checks that both fields agree.
     bool itemInputCheck() override;
-    void itemSetToDataManager() override;
-    bool itemCheckDifferentToDataManager() override;
+    QList<Change> changes() const override;
 
     // Turns the change of the password on or off, and tells the data manager. The fields are usable
     // while it is on, and emptied when it is turned off.
@@ -23,22 +22,19 @@ class DWTPasswordView : public DWTBaseView, private Ui::PasswordPage {
     // The argument is not used.
     void clearPassword(bool);
 
-    bool textShouldEndEditing(TextField *control) override;
+  protected:
+    // The printer tells no password: reading changes no control.
+    void fill(const Field &) override {}
 
   private:
     bool NPS_Init();
-    void NPS_Dealloc();
+    void NPS_Dealloc() { mutableDictionary_ViewSettings.clear(); }
     // The check box's action.
     void push_PasswordChange();
     // Store the password in the change data when both fields agree. Always true.
     bool itemInputCheckPassword();
-    bool itemInputCheckPasswordReinput();
+    bool itemInputCheckPasswordReinput() { return itemInputCheckPassword(); }
+    bool fieldsAgree() const;
     void enableFields(bool enabled);
     void emptyFields();
-    // Shows an alert when the field's text breaks the rule; true when it does not.
-    bool checkField(Alert &alert, const TextField *field, const QString &messageKey) const;
-    CategoryDictionary shownCategory() const;
-
-    QPointer<QWidget> view_Password;
-    CategoryDictionary mutableDictionary_ViewSettings;
 };

@@ -1,5 +1,7 @@
 #include "pages/DWTSecureTextField.h"
 
+#include "settings/Rules.h"
+
 DWTSecureTextField::DWTSecureTextField(QWidget *parent) : TextField(parent) {
     setEchoMode(Password);
     SRF_Init();
@@ -14,7 +16,7 @@ void DWTSecureTextField::textDidBeginEditing() {
 }
 
 void DWTSecureTextField::textDidChange() {
-    if (text().size() <= longestText)
+    if (text().size() <= Rules::longestPassword)
         string_SaveString = text();
     else
         replaceText(string_SaveString, static_cast<int>(string_SaveString.size()));

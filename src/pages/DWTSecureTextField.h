@@ -2,14 +2,11 @@
 
 #include "platform/ui/TextField.h"
 
-// A masked text field that holds at most 8 characters: a change that would make its text longer is
-// undone as a whole. Changes are reported to nobody.
+// A masked text field that holds at most 8 characters (Rules::longestPassword): a change that would
+// make its text longer is undone as a whole. Changes are reported to nobody.
 class DWTSecureTextField : public TextField {
     Q_OBJECT
   public:
-    // Longest text, in UTF-16 units: the printer's longest password.
-    static constexpr qsizetype longestText = 8;
-
     explicit DWTSecureTextField(QWidget *parent = nullptr);
     ~DWTSecureTextField() override;
 

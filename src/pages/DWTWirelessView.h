@@ -6,22 +6,18 @@
 // The wireless communication mode, and the MAC addresses of the two wireless interfaces.
 class DWTWirelessView : public DWTBaseView, private Ui::WirelessPage {
   public:
-    ~DWTWirelessView() override;
-    bool init() override;
+    ~DWTWirelessView() override { NWL_Dealloc(); }
+    bool init() override { return DWTBaseView::init() && NWL_Init(); }
 
     void initializeUI() override;
-    void showDataManager() override;
-    void enableAllItems(bool enabled) override;
-    bool itemInputCheck() override;
-    void itemSetToDataManager() override;
-    bool itemCheckDifferentToDataManager() override;
 
-    // The printer's code of the chosen mode: 1 joins a wireless network; -1 when none is chosen.
-    int wirelessCommunicateMode() const;
+    // The printer's code of the chosen mode (CommunicationMode); -1 when none is chosen.
+    int wirelessCommunicateMode() const {
+        return radioButton_WirelessCommunicateMode->selectedTag();
+    }
 
   private:
     bool NWL_Init();
-    void NWL_Dealloc();
+    void NWL_Dealloc() { mutableDictionary_ViewSettings.clear(); }
     void select_WirelessCommunicateMode();
-    CategoryDictionary shownCategory() const;
 };

@@ -5,8 +5,6 @@
 
 #include "platform/ui/TextField.h"
 
-const QString addressCharacters = QStringLiteral("0123456789.");
-
 void filterText(TextField *field, const QString &allowed) {
     QString text = field->text();
     const auto foreign = [&](QChar c) { return !allowed.contains(c); };

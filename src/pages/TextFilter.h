@@ -7,6 +7,3 @@ class TextField;
 // `allowed`, those between them included, and puts the caret where it began. A text of allowed
 // characters alone stays as it is, and so does the caret.
 void filterText(TextField *field, const QString &allowed);
-
-// What an address field lets through.
-extern const QString addressCharacters;

@@ -9,7 +9,6 @@ namespace {
 const QString connectionType = QStringLiteral("ConnectionType");
 const QString productName = QStringLiteral("ProductName");
 const QString machineName = QStringLiteral("MachineName");
-const QString unreadable = QStringLiteral(" ");
 
 constexpr int nameItem = 0x1006;
 

@@ -9,9 +9,6 @@
 
 namespace {
 
-// What a text shows that could not be read.
-const QString unreadable = QStringLiteral(" ");
-
 // Result of a full read in which a request got no reply.
 constexpr int missingReply = 6;
 constexpr int noLink = 1;

@@ -13,9 +13,6 @@
 // A decoder takes the reply to a request for `code`. It looks at no byte beyond the reply area
 // (ReplyCursor) and gives nothing when the reply is not "CF" or carries another code.
 
-// One network found by the printer, under the DWT_SSIDList_ keys.
-using SSIDEntry = QMap<QString, SettingValue>;
-
 namespace ItemCodec {
 
 // --- Replies ------------------------------------------------------------------------------------

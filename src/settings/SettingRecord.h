@@ -13,8 +13,13 @@
 using SettingValue = std::variant<QString, int, QStringList, QByteArray>;
 // Save-data key -> value.
 using CategoryDictionary = QMap<QString, SettingValue>;
+// One network found by the printer, under the DWT_SSIDList_ keys.
+using SSIDEntry = QMap<QString, SettingValue>;
 // View key -> category.
 using SettingRecord = QMap<QString, CategoryDictionary>;
+
+// What a text holds that could not be read from the printer.
+inline const QString unreadable = QStringLiteral(" ");
 
 // The value of `key` when it is there and of that kind, otherwise a default: an empty text, 0, an
 // address without octets, no bytes.

@@ -23,6 +23,12 @@ bool RadioGroup::selectTag(int tag) {
     return found;
 }
 
+QString RadioGroup::titleOf(int tag) const {
+    for (const QRadioButton *cell : cells())
+        if (cell->property("tag") == QVariant(tag)) return cell->text();
+    return {};
+}
+
 // Cells are added after the group has been made; before the user can reach one, the group is shown.
 bool RadioGroup::event(QEvent *event) {
     if (event->type() == QEvent::Polish || event->type() == QEvent::ChildPolished)

@@ -17,6 +17,9 @@ class RadioGroup : public QWidget {
     // Selects the cell with the tag; an unknown tag selects none and gives false.
     bool selectTag(int tag);
 
+    // The title of the cell with the tag; empty for an unknown tag.
+    QString titleOf(int tag) const;
+
   Q_SIGNALS:
     // The user picked the cell with the tag, also the one that was selected before.
     void selected(int tag);

@@ -1,0 +1,97 @@
+#include "pages/InterfaceView.h"
+
+#include <algorithm>
+
+#include "platform/core/Texts.h"
+#include "platform/ui/FieldLooks.h"
+
+void InterfaceView::setControls(const Controls &controls) {
+    m_controls = controls;
+    QObject::connect(controls.connect, &QAbstractButton::clicked, this,
+                     &InterfaceView::connectRequested);
+}
+
+void InterfaceView::initializeUI() {
+    DWTBaseView::initializeUI();
+    for (TextField *field : {m_controls.address, m_controls.mask, m_controls.gateway})
+        fitWidth(field, QStringLiteral("255.255.255.255"));
+}
+
+void InterfaceView::showDataManager() {
+    DWTBaseView::showDataManager();
+    selectAddressSettingInput();
+}
+
+void InterfaceView::enableAllItems(bool enabled) {
+    DWTBaseView::enableAllItems(enabled);
+    if (enabled) selectAddressSettingInput();
+}
+
+bool InterfaceView::itemConnectChangeCheck() {
+    const CategoryDictionary saved = savedCategory();
+    return std::all_of(fields().begin(), fields().end(), [&](const Field &field) {
+        return field.kind != Kind::Address || !field.control->isEnabled() ||
+               isEqualAddress(field.line()->text().split(u'.'), addressValue(saved, field.key));
+    });
+}
+
+bool InterfaceView::textShouldBeginEditing(TextField *control) {
+    settingConnectButtonEnable(false);
+    return DWTBaseView::textShouldBeginEditing(control);
+}
+
+void InterfaceView::showConnectResult(bool online) {
+    m_controls.state->setText(
+        localized(QLatin1String(online ? m_controls.online : m_controls.offline)));
+}
+
+void InterfaceView::settingConnectButtonEnable(bool enabled) {
+    m_controls.connect->setEnabled(enabled);
+}
+
+QStringList InterfaceView::getipAddressArray() const {
+    return m_controls.address->text().split(u'.');
+}
+
+void InterfaceView::chooseAddressSetup() {
+    // First, since a field that is disabled while it has the focus stores what was typed.
+    selectAddressSettingInput();
+    const CategoryDictionary saved = savedCategory();
+    CategoryDictionary &settings = mutableDictionary_ViewSettings;
+    settings.insert(fieldOf(m_controls.choice)->key, m_controls.choice->selectedTag());
+    for (const Field &field : fields()) {
+        if (field.kind != Kind::Address) continue;
+        if (!isAutomatic())
+            settings.insert(field.key, field.line()->text().split(u'.'));
+        else if (saved.contains(field.key))
+            settings.insert(field.key, saved.value(field.key));
+        else
+            settings.remove(field.key);
+    }
+    handOver(settings);
+    sendNotificationSendOK();
+}
+
+void InterfaceView::selectAddressSettingInput() {
+    for (TextField *field : {m_controls.address, m_controls.mask, m_controls.gateway})
+        field->setEnabled(!isAutomatic());
+}
+
+void InterfaceView::fill(const Field &field) {
+    const CategoryDictionary &values = mutableDictionary_ViewSettings;
+    if (field.control == m_controls.choice) {
+        m_controls.choice->selectTag(integerValue(values, field.key));
+        return;
+    }
+    if (field.kind != Kind::Address) return DWTBaseView::fill(field);
+    const QMap<const QWidget *, QString> inUse{{m_controls.address, DWT_SaveData_Connect_IPAddress},
+                                               {m_controls.mask, DWT_SaveData_Connect_Subnetmask},
+                                               {m_controls.gateway, DWT_SaveData_Connect_Gateway}};
+    const QString key = isAutomatic() ? inUse.value(field.control) : field.key;
+    field.line()->setText(addressNumberToString(addressValue(values, key)));
+    if (field.input) *field.input = true;
+}
+
+bool InterfaceView::isUsed(const Field &field) const {
+    return field.kind != Kind::Address || !isAutomatic();
+}

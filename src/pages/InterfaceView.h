@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QLabel>
+
+#include "pages/DWTBaseView.h"
+#include "platform/ui/RadioGroup.h"
+
+// A page of one of the printer's network interfaces: how the interface gets its address, and the
+// test of its connection. The addresses can be typed in manual setup only; in automatic setup
+// their fields show the addresses in use.
+class InterfaceView : public DWTBaseView {
+    Q_OBJECT
+  public:
+    void initializeUI() override;
+    void showDataManager() override;
+    void enableAllItems(bool enabled) override;
+    bool itemConnectChangeCheck() override;
+    bool textShouldBeginEditing(TextField *control) override;
+
+    // Shows whether a printer answered at the address that the window tested.
+    void showConnectResult(bool online);
+    void settingConnectButtonEnable(bool enabled);
+    // The typed address, split at its dots.
+    QStringList getipAddressArray() const;
+
+  Q_SIGNALS:
+    // The user asks for a test of the printer's address.
+    void connectRequested();
+
+  protected:
+    // The controls of an interface; each of the first four has a row in the page's table.
+    struct Controls {
+        RadioGroup *choice;
+        TextField *address;
+        TextField *mask;
+        TextField *gateway;
+        QLabel *state;
+        QAbstractButton *connect;
+        // Localisation keys of the two results of a test.
+        const char *online;
+        const char *offline;
+    };
+    void setControls(const Controls &controls);
+
+    // The action of the choice: what the user picked goes into the change data, in manual setup
+    // with the typed addresses, in automatic setup with the configured ones. The fields keep what
+    // was typed.
+    void chooseAddressSetup();
+    // Address fields are usable in manual setup only.
+    void selectAddressSettingInput();
+
+    void fill(const Field &field) override;
+    bool isUsed(const Field &field) const override;
+
+  private:
+    bool isAutomatic() const {
+        return m_controls.choice->selectedTag() == AddressSetting::Automatic;
+    }
+
+    Controls m_controls{};
+};

@@ -1,0 +1,111 @@
+#include "settings/Rules.h"
+
+#include <QList>
+#include <QMap>
+#include <algorithm>
+
+#include "settings/SettingKeys.h"
+#include "settings/SettingRecord.h"
+
+namespace Rules {
+
+const QString alphanumericCharacters =
+    QStringLiteral("1234567890abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ");
+const QString hostNameCharacters = alphanumericCharacters + u'-';
+const QString passwordCharacters = alphanumericCharacters + QStringLiteral("!\"#$%&'()*+,-./{|}~");
+const QString hexadecimalCharacters = QStringLiteral("1234567890abcdefABCDEF");
+const QString printableCharacters =
+    alphanumericCharacters + QStringLiteral("!\"#$%&'()*+,-./:;<=>?@[\\]^_`{|}~ ");
+const QString addressCharacters = QStringLiteral("0123456789.");
+const QString digits = QStringLiteral("0123456789");
+
+namespace {
+
+constexpr qsizetype longestAddress = 15;  // "255.255.255.255"
+constexpr qsizetype parts = 4;
+// Lengths of the two sizes of WEP keys, in characters and in hexadecimal digits.
+constexpr int wepTexts[] = {5, 13};
+constexpr int wepDigits[] = {10, 26};
+
+using Kind = Rule::Kind;
+
+Rule text(ItemCode item, const QString &characters, int min, int max) {
+    return {item, Kind::Text, characters, min, max};
+}
+
+Rule address(ItemCode item, bool loopback) {
+    return {item, Kind::Address, addressCharacters, 0, 0, loopback};
+}
+
+// Made at the first look-up, when every text above exists.
+const QMap<QString, Rule> &table() {
+    static const QMap<QString, Rule> rules{
+        {DWT_SaveData_Network_Printer, text(0x1006, hostNameCharacters, 1, longestPrinterName)},
+        {DWT_SaveData_Network_Bonjour, text(0x1004, hostNameCharacters, 1, longestBonjourName)},
+        {DWT_SaveData_Network_BonjourService,
+         text(0x1005, printableCharacters, 1, longestServiceName)},
+        {DWT_SaveData_Infrastructure_IPAddress, address(0x3108, false)},
+        {DWT_SaveData_Infrastructure_Subnetmask, address(0x3108, true)},
+        {DWT_SaveData_Infrastructure_Gateway, address(0x3108, true)},
+        {DWT_SaveData_Infrastructure_SSID, text(0x3104, printableCharacters, 1, longestSSID)},
+        {DWT_SaveData_Infrastructure_PSK,
+         text(0x3105, printableCharacters, shortestPSK, longestPSK)},
+        {DWT_SaveData_Infrastructure_WEPKey, {0x3106, Kind::WEPKey, printableCharacters}},
+        {DWT_SaveData_SimpleAP_SSID, text(0x3201, printableCharacters, 1, longestAccessPointSSID)},
+        {DWT_SaveData_SimpleAP_PSK, text(0x3202, printableCharacters, shortestPSK, longestPSK)},
+        {DWT_SaveData_Ethernet_IPAddress, address(0x2001, false)},
+        {DWT_SaveData_Ethernet_Subnetmask, address(0x2001, true)},
+        {DWT_SaveData_Ethernet_Gateway, address(0x2001, true)},
+        {DWT_SaveData_Firmware_Timeout,
+         {0x1007, Kind::Number, digits, shortestTimeOut, longestTimeOut}},
+        {DWT_SaveData_Password_Password, text(0x1003, passwordCharacters, 0, longestPassword)}};
+    return rules;
+}
+
+}  // namespace
+
+const Rule *ruleOf(const QString &key) {
+    const auto found = table().constFind(key);
+    return found == table().constEnd() ? nullptr : &*found;
+}
+
+bool isText(const QString &text, const QString &characters, int min, int max, bool input) {
+    if (text.size() > max || (input && text.size() < min)) return false;
+    return std::all_of(text.begin(), text.end(), [&](QChar c) { return characters.contains(c); });
+}
+
+bool isAddress(const QString &text, bool loopback) {
+    const QStringList texts = text.split(u'.');
+    if (text.size() > longestAddress || texts.size() != parts || texts.contains(QString()))
+        return false;
+    QList<int> address;
+    for (const QString &part : texts) address << integerOf(part);
+    const auto inRange = [](int part) { return part >= 0 && part <= 255; };
+    if (!std::all_of(address.begin(), address.end(), inRange)) return false;
+    const QList<int> nowhere{0, 0, 0, 0}, everywhere{255, 255, 255, 255}, localhost{127, 0, 0, 1};
+    if (address == nowhere || address == everywhere) return false;
+    return loopback || address != localhost;
+}
+
+bool isSameAddress(const QStringList &a, const QStringList &b) {
+    if (a.size() < parts || b.size() < parts) return false;
+    return std::equal(
+        a.begin(), a.begin() + parts, b.begin(),
+        [](const QString &x, const QString &y) { return integerOf(x) == integerOf(y); });
+}
+
+bool isWEPKey(const QString &text, bool input) {
+    const auto length = int(text.size());
+    const auto isOne = [length](const auto &lengths) {
+        return std::find(std::begin(lengths), std::end(lengths), length) != std::end(lengths);
+    };
+    if (isOne(wepTexts)) return isText(text, printableCharacters, length, length, true);
+    if (isOne(wepDigits)) return isText(text, hexadecimalCharacters, length, length, true);
+    return length == 0 && !input;
+}
+
+int numberInRange(const QString &text, const Rule &rule) {
+    return std::clamp(integerOf(text), rule.min, rule.max);
+}
+
+}  // namespace Rules
