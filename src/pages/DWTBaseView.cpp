@@ -25,14 +25,6 @@ QString nameOf(const char *key) {
 
 }  // namespace
 
-DWTBaseView::~DWTBaseView() {
-    TBV_Dealloc();
-}
-
-bool DWTBaseView::init() {
-    return DWTBaseClass::init() && TBV_Init();
-}
-
 bool DWTBaseView::TBV_Init() {
     nsObjectRelease(ndm_Object);
     string_ViewKey.clear();
@@ -52,8 +44,17 @@ void DWTBaseView::addField(Field field) {
     m_fields.push_back(std::move(field));
 }
 
+void DWTBaseView::addChoice(QWidget *control, const QString &key, const char *nameKey,
+                            const QStringList *items) {
+    Field field{control, key, Kind::Choice};
+    field.nameKey = nameKey;
+    field.items = items;
+    addField(std::move(field));
+}
+
 void DWTBaseView::addShown(QLineEdit *control, const QString &key, Kind kind,
                            const QStringList *items) {
+    showAsValue(control);
     Field field{control, key, kind};
     field.items = items;
     field.edited = false;
@@ -67,10 +68,8 @@ const DWTBaseView::Field *DWTBaseView::fieldOf(const QWidget *control) const {
 }
 
 void DWTBaseView::initializeUI() {
-    for (const Field &field : m_fields) {
+    for (const Field &field : m_fields)
         if (field.input) *field.input = false;
-        if (!field.edited) showAsValue(field.line());
-    }
 }
 
 void DWTBaseView::showDataManager() {
@@ -106,7 +105,7 @@ bool DWTBaseView::itemInputCheck() {
         if (field.kind == Kind::Number) {
             forceIntoRange(field);
         } else if (!passes(field)) {
-            showInputError(alert, text(field.nameKey), text(field.ruleKey));
+            showInputError(alert, text(field.nameKey), text(field.rule->ruleKey));
             passed = false;
         }
     }
@@ -124,7 +123,7 @@ bool DWTBaseView::checkAddresses(Alert &alert) const {
             field.line()->selectAll();
         }
         names << text(field.nameKey);
-        rules << text(field.ruleKey);
+        rules << text(field.rule->ruleKey);
     }
     if (!names.isEmpty()) showInputError(alert, names.join(u'\n'), rules.join(u'\n'));
     return names.isEmpty();
@@ -159,7 +158,7 @@ QList<DWTBaseView::Change> DWTBaseView::changes() const {
         const auto old = saved.constFind(field.key);
         if (old != saved.constEnd() && *old == shown.value(field.key)) continue;
         Change change{nameOf(field.nameKey), {}, {}};
-        if (!field.secret) {
+        if (!field.rule || !field.rule->secret) {
             change.oldText = textOf(field, saved);
             change.newText = textOf(field, shown);
         }

@@ -31,10 +31,9 @@ inline const QString DWT_MainDialog_SendNG_Message =
 // What a page holds stands in its table, a row a value (addField(), addShown()); this class does
 // once what is the same for every row. A page overrides what is peculiar to it. Main thread only.
 class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
-  public:
-    ~DWTBaseView() override;
-    bool init() override;
+    DWT_SETUP(DWTBaseView, DWTBaseClass, TBV_Init, TBV_Dealloc)
 
+  public:
     // The panel. The window that takes it into its page area owns it from then on; a panel that
     // nobody took goes with the page.
     QWidget *mainCustomView() const { return view_Base; }
@@ -103,15 +102,13 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
         QWidget *control;
         QString key;  // in the record; empty when the record does not hold the value
         Kind kind = Kind::Text;
-        // Localisation keys: how alerts and lists of changes call it, what is said of a wrong one.
-        const char *nameKey = nullptr;
-        const char *ruleKey = nullptr;
-        bool *input = nullptr;               // set when the field was filled or touched
-        std::function<bool()> store = {};    // at the end of editing; store(control) by default
-        bool secret = false;                 // a key or password: lists of changes do not show it
-        const QStringList *items = nullptr;  // the titles of a choice by its codes
+        bool *input = nullptr;             // set when the field was filled or touched
+        std::function<bool()> store = {};  // at the end of editing; store(control) by default
         const Rules::Rule *rule = Rules::ruleOf(key);
-        bool edited = true;  // false: shown, and never written
+        // Localisation key of its name in alerts and lists of changes; null: it is in neither.
+        const char *nameKey = rule ? rule->nameKey : nullptr;
+        const QStringList *items = nullptr;  // the titles of a choice by its codes
+        bool edited = true;                  // false: shown, and never written
 
         QLineEdit *line() const { return static_cast<QLineEdit *>(control); }
         bool isText() const {
@@ -122,6 +119,10 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
 
     // Adds a row. The page becomes the delegate of a text field.
     void addField(Field field);
+    // Adds the row of a choice: its name, and the titles of its codes where the control may not
+    // have them all.
+    void addChoice(QWidget *control, const QString &key, const char *nameKey,
+                   const QStringList *items = nullptr);
     // Adds a row that only shows its value, as text: `items` are the texts of a choice.
     void addShown(QLineEdit *control, const QString &key, Kind kind = Kind::Text,
                   const QStringList *items = nullptr);
@@ -172,8 +173,6 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     CategoryDictionary mutableDictionary_ViewSettings;
 
   private:
-    bool TBV_Init();
-    void TBV_Dealloc();
     // What a row shows; nothing when no item of a choice is selected.
     std::optional<SettingValue> valueOf(const Field &field) const;
     // A value of a row as a person reads it.

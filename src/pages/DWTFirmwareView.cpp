@@ -12,7 +12,10 @@ bool DWTFirmwareView::NFW_Init() {
     SetViewKey(DWT_View_Key_Firmware);
     setupUi(view_Base);
     addShown(textField_Firmware, DWT_SaveData_Firmware);
-    addField({textField_PrintTimeOut, DWT_SaveData_Firmware_Timeout, Kind::Number,
-              "DWT_Localize_Firmware_Box_PrintTimeOut"});
+    addField({textField_PrintTimeOut, DWT_SaveData_Firmware_Timeout, Kind::Number});
     return true;
+}
+
+void DWTFirmwareView::NFW_Dealloc() {
+    mutableDictionary_ViewSettings.clear();
 }

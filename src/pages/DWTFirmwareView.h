@@ -5,13 +5,8 @@
 
 // The firmware version, and the print time-out in seconds, which is forced into its range.
 class DWTFirmwareView : public DWTBaseView, private Ui::FirmwarePage {
+    DWT_SETUP(DWTFirmwareView, DWTBaseView, NFW_Init, NFW_Dealloc)
+
   public:
-    ~DWTFirmwareView() override { NFW_Dealloc(); }
-    bool init() override { return DWTBaseView::init() && NFW_Init(); }
-
     void initializeUI() override;
-
-  private:
-    bool NFW_Init();
-    void NFW_Dealloc() { mutableDictionary_ViewSettings.clear(); }
 };

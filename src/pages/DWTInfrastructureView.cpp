@@ -32,23 +32,19 @@ void DWTInfrastructureView::ISV_Dealloc() {
 }
 
 void DWTInfrastructureView::addAddressFields() {
-    addField({radioButton_InfrastructureIPAddressSetting,
-              DWT_SaveData_Infrastructure_IPAddressSetting, Kind::Choice,
-              "DWT_Localize_Infrastructure_Box_IPAddressSetup"});
-    addField({textField_InfrastructureIpAddress, DWT_SaveData_Infrastructure_IPAddress,
-              Kind::Address, "DWT_Localize_Alert_MessageText_Infrastructure_IpAddress",
-              "DWT_Localize_Alert_InfoText_IpAddress_InputErr", nullptr,
-              [this] { return itemInputCheckInfrastructureIpAddress(); }});
-    addField({textField_InfrastructureSubnetMask, DWT_SaveData_Infrastructure_Subnetmask,
-              Kind::Address, "DWT_Localize_Alert_MessageText_Infrastructure_SubnetMask",
-              "DWT_Localize_Alert_InfoText_Subnetmask_InputErr", nullptr,
-              [this] { return itemInputCheckInfrastructureSubnetMask(); }});
-    addField({textField_InfrastructureDefaultGateway, DWT_SaveData_Infrastructure_Gateway,
-              Kind::Address, "DWT_Localize_Alert_MessageText_Infrastructure_Gateway",
-              "DWT_Localize_Alert_InfoText_Router_InputErr", nullptr,
-              [this] { return itemInputCheckInfrastructureGateway(); }});
+    addChoice(radioButton_InfrastructureIPAddressSetting,
+              DWT_SaveData_Infrastructure_IPAddressSetting,
+              "DWT_Localize_Infrastructure_Box_IPAddressSetup");
+    addAddress(textField_InfrastructureIpAddress, DWT_SaveData_Infrastructure_IPAddress,
+               DWT_SaveData_Connect_IPAddress,
+               [this] { return itemInputCheckInfrastructureIpAddress(); });
+    addAddress(textField_InfrastructureSubnetMask, DWT_SaveData_Infrastructure_Subnetmask,
+               DWT_SaveData_Connect_Subnetmask,
+               [this] { return itemInputCheckInfrastructureSubnetMask(); });
+    addAddress(textField_InfrastructureDefaultGateway, DWT_SaveData_Infrastructure_Gateway,
+               DWT_SaveData_Connect_Gateway,
+               [this] { return itemInputCheckInfrastructureGateway(); });
     setControls({radioButton_InfrastructureIPAddressSetting, textField_InfrastructureIpAddress,
-                 textField_InfrastructureSubnetMask, textField_InfrastructureDefaultGateway,
                  textField_InfrastructureConnection, button_InfrastructureConnect,
                  "DWT_Localize_Infrastructure_Text_Connection_Online",
                  "DWT_Localize_Infrastructure_Text_Connection_Offline"});
@@ -56,26 +52,19 @@ void DWTInfrastructureView::addAddressFields() {
 
 void DWTInfrastructureView::addSecurityFields() {
     addField({textField_InfrastructureSSID, DWT_SaveData_Infrastructure_SSID, Kind::Text,
-              "DWT_Localize_Alert_MessageText_Infrastructure_SSID",
-              "DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr",
               &bool_InfrastructureSSIDInput,
               [this] { return itemInputCheckInfrastructureSSID(); }});
-    addField({popupbutton_InfrastructureAuthentic, DWT_SaveData_Infrastructure_Authentic,
-              Kind::Choice, "DWT_Localize_Infrastructure_Text_Authentic_Label", nullptr, nullptr,
-              nullptr, false, &array_popUpButton_Authentic});
-    addField({popupbutton_InfrastructureEncryption, DWT_SaveData_Infrastructure_Encryption,
-              Kind::Choice, "DWT_Localize_Infrastructure_Text_Encryption_Label", nullptr, nullptr,
-              nullptr, false, &array_popUpButton_Encryption});
+    addChoice(popupbutton_InfrastructureAuthentic, DWT_SaveData_Infrastructure_Authentic,
+              "DWT_Localize_Infrastructure_Text_Authentic_Label", &array_popUpButton_Authentic);
+    addChoice(popupbutton_InfrastructureEncryption, DWT_SaveData_Infrastructure_Encryption,
+              "DWT_Localize_Infrastructure_Text_Encryption_Label", &array_popUpButton_Encryption);
     addField({textField_InfrastructurePSK, DWT_SaveData_Infrastructure_PSK, Kind::Text,
-              "DWT_Localize_Alert_MessageText_Infrastructure_PSK",
-              "DWT_Localize_Alert_InfoText_PSK_InputErr", &bool_InfrastructurePSKInput,
-              [this] { return itemInputCheckInfrastructurePSK(); }, true});
+              &bool_InfrastructurePSKInput, [this] { return itemInputCheckInfrastructurePSK(); }});
     addField({textField_InfrastructureWEPKey, DWT_SaveData_Infrastructure_WEPKey, Kind::Text,
-              "DWT_Localize_Alert_MessageText_Infrastructure_WEPKey",
-              "DWT_Localize_Alert_InfoText_WEPKey_InputErr", &bool_InfrastructureWEPKeyInput,
-              [this] { return itemInputCheckInfrastructureWEPKey(); }, true});
-    addField({popupbutton_InfrastructureSelectWEPKey, DWT_SaveData_Infrastructure_WEPKeyIndex,
-              Kind::Choice, "DWT_Localize_Infrastructure_Text_SelectWEPKey_Label"});
+              &bool_InfrastructureWEPKeyInput,
+              [this] { return itemInputCheckInfrastructureWEPKey(); }});
+    addChoice(popupbutton_InfrastructureSelectWEPKey, DWT_SaveData_Infrastructure_WEPKeyIndex,
+              "DWT_Localize_Infrastructure_Text_SelectWEPKey_Label");
 }
 
 void DWTInfrastructureView::initializeUI() {

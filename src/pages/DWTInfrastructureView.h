@@ -7,10 +7,9 @@
 // code that the printer reports beyond the end of a list of items shows an empty text, and is kept.
 class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePage {
     Q_OBJECT
-  public:
-    ~DWTInfrastructureView() override { ISV_Dealloc(); }
-    bool init() override { return InterfaceView::init() && ISV_Init(); }
+    DWT_SETUP(DWTInfrastructureView, InterfaceView, ISV_Init, ISV_Dealloc)
 
+  public:
     void initializeUI() override;
     void showDataManager() override;
     void enableAllItems(bool enabled) override;
@@ -34,8 +33,6 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
     CategoryDictionary shownCategory() const override;
 
   private:
-    bool ISV_Init();
-    void ISV_Dealloc();
     void addAddressFields();
     void addSecurityFields();
 
@@ -85,9 +82,8 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
     QStringList array_popUpButton_Encryption;
     QStringList array_popUpButton_SelectWEPKey;
     SSIDEntry mutableDictionary_selectSSID;  // empty until one is taken over
-    bool bool_InfrastructureSSIDInput = false;
-    bool bool_InfrastructurePSKInput = false;
-    bool bool_InfrastructureWEPKeyInput = false;
+    bool bool_InfrastructureSSIDInput = false, bool_InfrastructurePSKInput = false,
+         bool_InfrastructureWEPKeyInput = false;
     // SSID and security come from a network of the list, unchanged.
     bool bool_SSIDfromSelectSSID = false;
 };

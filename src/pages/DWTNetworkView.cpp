@@ -13,16 +13,15 @@ bool DWTNetworkView::NNW_Init() {
     SetViewKey(DWT_View_Key_Network);
     setupUi(view_Base);
     addField({textField_NetworkPrinterName, DWT_SaveData_Network_Printer, Kind::Text,
-              "DWT_Localize_Alert_MessageText_Network_PrinterName",
-              "DWT_Localize_Alert_InfoText_PrinterName_InputErr", &bool_NetworkPrinterNameInput,
+              &bool_NetworkPrinterNameInput,
               [this] { return itemInputCheckNetworkPrinterName(); }});
     addField({textField_NetworkBonjour, DWT_SaveData_Network_Bonjour, Kind::Text,
-              "DWT_Localize_Alert_MessageText_Network_BonjourName",
-              "DWT_Localize_Alert_InfoText_BonjourName_InputErr", &bool_NetworkBonjourInput,
-              [this] { return itemInputCheckNetworkBonjour(); }});
+              &bool_NetworkBonjourInput, [this] { return itemInputCheckNetworkBonjour(); }});
     addField({textField_NetworkBonjourService, DWT_SaveData_Network_BonjourService, Kind::Text,
-              "DWT_Localize_Alert_MessageText_Network_BonjourServiceName",
-              "DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr",
               &bool_NetworkBonjourServiceInput, [this] { return itemInputCheckBonjourService(); }});
     return true;
+}
+
+void DWTNetworkView::NNW_Dealloc() {
+    mutableDictionary_ViewSettings.clear();
 }

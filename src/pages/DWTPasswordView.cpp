@@ -3,29 +3,23 @@
 #include "platform/core/Texts.h"
 #include "platform/ui/FieldLooks.h"
 
-namespace {
-
-const char *const passwordName = "DWT_Localize_Alert_MessageText_Password_Password";
-const char *const passwordRule = "DWT_Localize_Alert_InfoText_Password_InputErr";
-
-}  // namespace
+void DWTPasswordView::NPS_Dealloc() {
+    mutableDictionary_ViewSettings.clear();
+}
 
 bool DWTPasswordView::NPS_Init() {
     SetViewKey(DWT_View_Key_Password);
     setupUi(view_Base);
     addField({checkbox_PasswordChange, DWT_SaveData_Password_Change, Kind::Flag});
-    addField({secureTextField_Password, DWT_SaveData_Password_Password, Kind::Text, passwordName,
-              passwordRule, nullptr, [this] { return itemInputCheckPassword(); }, true});
+    addField({secureTextField_Password, DWT_SaveData_Password_Password, Kind::Text, nullptr,
+              [this] { return itemInputCheckPassword(); }});
     addField({secureTextField_PasswordReinput,
               {},
               Kind::Text,
-              "DWT_Localize_Alert_MessageText_Password_Reinput",
-              passwordRule,
               nullptr,
               [this] { return itemInputCheckPasswordReinput(); },
-              true,
-              nullptr,
-              Rules::ruleOf(DWT_SaveData_Password_Password)});
+              Rules::ruleOf(DWT_SaveData_Password_Password),
+              "DWT_Localize_Alert_MessageText_Password_Reinput"});
     connect(checkbox_PasswordChange, &QCheckBox::clicked, this,
             &DWTPasswordView::push_PasswordChange);
     return true;
@@ -49,7 +43,7 @@ bool DWTPasswordView::itemInputCheck() {
     if (!DWTBaseView::itemInputCheck()) return false;
     if (fieldsAgree()) return true;
     Alert alert(alertStyle());
-    showInputError(alert, localized(QLatin1String(passwordName)),
+    showInputError(alert, passwordName(),
                    localized(QStringLiteral("DWT_Localize_Alert_InfoText_Password_MatchingErr")));
     return false;
 }
@@ -57,7 +51,7 @@ bool DWTPasswordView::itemInputCheck() {
 // A new password is one change, also when it is none.
 QList<DWTBaseView::Change> DWTPasswordView::changes() const {
     if (shownCategory() == savedCategory()) return {};
-    return {{localized(QLatin1String(passwordName)), {}, {}}};
+    return {{passwordName(), {}, {}}};
 }
 
 void DWTPasswordView::passwordChangeSetting(bool on) {
@@ -83,6 +77,10 @@ void DWTPasswordView::push_PasswordChange() {
 
 bool DWTPasswordView::itemInputCheckPassword() {
     return !fieldsAgree() || store(secureTextField_Password);
+}
+
+QString DWTPasswordView::passwordName() const {
+    return localized(QLatin1String(fieldOf(secureTextField_Password)->nameKey));
 }
 
 bool DWTPasswordView::fieldsAgree() const {

@@ -5,10 +5,9 @@
 
 // A new administrator password, typed twice. The printer's own is never read or shown.
 class DWTPasswordView : public DWTBaseView, private Ui::PasswordPage {
-  public:
-    ~DWTPasswordView() override { NPS_Dealloc(); }
-    bool init() override { return DWTBaseView::init() && NPS_Init(); }
+    DWT_SETUP(DWTPasswordView, DWTBaseView, NPS_Init, NPS_Dealloc)
 
+  public:
     void initializeUI() override;
     void enableAllItems(bool enabled) override;
     // Also checks that both fields agree.
@@ -27,14 +26,13 @@ class DWTPasswordView : public DWTBaseView, private Ui::PasswordPage {
     void fill(const Field &) override {}
 
   private:
-    bool NPS_Init();
-    void NPS_Dealloc() { mutableDictionary_ViewSettings.clear(); }
     // The check box's action.
     void push_PasswordChange();
     // Store the password in the change data when both fields agree. Always true.
     bool itemInputCheckPassword();
     bool itemInputCheckPasswordReinput() { return itemInputCheckPassword(); }
     bool fieldsAgree() const;
+    QString passwordName() const;
     void enableFields(bool enabled);
     void emptyFields();
 };

@@ -1,23 +1,14 @@
 #pragma once
 
-#include "platform/ui/TextField.h"
+#include "pages/RecallingTextField.h"
 
 // A masked text field that holds at most 8 characters (Rules::longestPassword): a change that would
-// make its text longer is undone as a whole. Changes are reported to nobody.
-class DWTSecureTextField : public TextField {
+// make its text longer is undone as a whole.
+class DWTSecureTextField : public RecallingTextField {
     Q_OBJECT
   public:
     explicit DWTSecureTextField(QWidget *parent = nullptr);
-    ~DWTSecureTextField() override;
 
   protected:
-    void textDidBeginEditing() override;
     void textDidChange() override;
-
-  private:
-    bool SRF_Init();
-    void SRF_Dealloc();
-
-    // The text that was accepted last.
-    QString string_SaveString;
 };

@@ -17,14 +17,14 @@ bool DWTSimpleAPView::SAP_Init() {
     addShown(textField_SimpleAPEncryption, DWT_SaveData_SimpleAP_Encryption, Kind::Choice,
              &array_textField_Encryption);
     addField({textField_SimpleAPSSID, DWT_SaveData_SimpleAP_SSID, Kind::Text,
-              "DWT_Localize_Alert_MessageText_SimpleAP_SSID",
-              "DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr", &bool_SimpleAPSSIDInput,
-              [this] { return itemInputCheckSimpleAPSSID(); }});
-    addField({textField_SimpleAPPSK, DWT_SaveData_SimpleAP_PSK, Kind::Text,
-              "DWT_Localize_Alert_MessageText_SimpleAP_PSK",
-              "DWT_Localize_Alert_InfoText_PSK_InputErr", &bool_SimpleAPPSKInput,
-              [this] { return itemInputCheckSimpleAPPSK(); }, true});
+              &bool_SimpleAPSSIDInput, [this] { return itemInputCheckSimpleAPSSID(); }});
+    addField({textField_SimpleAPPSK, DWT_SaveData_SimpleAP_PSK, Kind::Text, &bool_SimpleAPPSKInput,
+              [this] { return itemInputCheckSimpleAPPSK(); }});
     return true;
+}
+
+void DWTSimpleAPView::SAP_Dealloc() {
+    mutableDictionary_ViewSettings.clear();
 }
 
 void DWTSimpleAPView::initializeUI() {

@@ -5,10 +5,9 @@
 
 // The printer's own access point: its name and key can be changed, the rest is shown.
 class DWTSimpleAPView : public DWTBaseView, private Ui::SimpleAPPage {
-  public:
-    ~DWTSimpleAPView() override { SAP_Dealloc(); }
-    bool init() override { return DWTBaseView::init() && SAP_Init(); }
+    DWT_SETUP(DWTSimpleAPView, DWTBaseView, SAP_Init, SAP_Dealloc)
 
+  public:
     void initializeUI() override;
 
   protected:
@@ -16,8 +15,6 @@ class DWTSimpleAPView : public DWTBaseView, private Ui::SimpleAPPage {
     void fill(const Field &field) override;
 
   private:
-    bool SAP_Init();
-    void SAP_Dealloc() { mutableDictionary_ViewSettings.clear(); }
     // Each stores its field in the change data, whatever it holds. Always true.
     bool itemInputCheckSimpleAPSSID() { return store(textField_SimpleAPSSID); }
     bool itemInputCheckSimpleAPPSK() { return store(textField_SimpleAPPSK); }
@@ -26,6 +23,5 @@ class DWTSimpleAPView : public DWTBaseView, private Ui::SimpleAPPage {
     QStringList array_textField_WirelessMode;
     QStringList array_textField_Authentic;
     QStringList array_textField_Encryption;
-    bool bool_SimpleAPSSIDInput = false;
-    bool bool_SimpleAPPSKInput = false;
+    bool bool_SimpleAPSSIDInput = false, bool_SimpleAPPSKInput = false;
 };

@@ -3,20 +3,16 @@
 #include "platform/ui/FieldLooks.h"
 #include "platform/ui/RadioGroup.h"
 
-void DWTWirelessView::initializeUI() {
-    DWTBaseView::initializeUI();
-    showAsDigits(textField_WirelessInfrastructureMACAddress);
-    showAsDigits(textField_WirelessSimpleAPMACAddress);
-}
-
 bool DWTWirelessView::NWL_Init() {
     SetViewKey(DWT_View_Key_Wireless);
     setupUi(view_Base);
-    addField({radioButton_WirelessCommunicateMode, DWT_SaveData_Wireless_CommunicateMode,
-              Kind::Choice, "DWT_Localize_Wireless_Text_CommunicateMode_Label"});
+    addChoice(radioButton_WirelessCommunicateMode, DWT_SaveData_Wireless_CommunicateMode,
+              "DWT_Localize_Wireless_Text_CommunicateMode_Label");
     addShown(textField_WirelessInfrastructureMACAddress,
              DWT_SaveData_Wireless_InfrastructureMACAddress);
     addShown(textField_WirelessSimpleAPMACAddress, DWT_SaveData_Wireless_SampleAPMACAddress);
+    showAsDigits(textField_WirelessInfrastructureMACAddress);
+    showAsDigits(textField_WirelessSimpleAPMACAddress);
     connect(radioButton_WirelessCommunicateMode, &RadioGroup::selected, this,
             &DWTWirelessView::select_WirelessCommunicateMode);
     return true;
@@ -25,4 +21,8 @@ bool DWTWirelessView::NWL_Init() {
 void DWTWirelessView::select_WirelessCommunicateMode() {
     itemSetToDataManager();
     sendNotificationSendOK();
+}
+
+void DWTWirelessView::NWL_Dealloc() {
+    mutableDictionary_ViewSettings.clear();
 }

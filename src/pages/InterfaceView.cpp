@@ -5,6 +5,12 @@
 #include "platform/core/Texts.h"
 #include "platform/ui/FieldLooks.h"
 
+void InterfaceView::addAddress(TextField *field, const QString &key, const QString &keyInUse,
+                               std::function<bool()> store, bool *input) {
+    m_keysInUse.insert(key, keyInUse);
+    addField({field, key, Kind::Address, input, std::move(store)});
+}
+
 void InterfaceView::setControls(const Controls &controls) {
     m_controls = controls;
     QObject::connect(controls.connect, &QAbstractButton::clicked, this,
@@ -13,8 +19,8 @@ void InterfaceView::setControls(const Controls &controls) {
 
 void InterfaceView::initializeUI() {
     DWTBaseView::initializeUI();
-    for (TextField *field : {m_controls.address, m_controls.mask, m_controls.gateway})
-        fitWidth(field, QStringLiteral("255.255.255.255"));
+    for (const Field &field : fields())
+        if (field.kind == Kind::Address) fitWidth(field.line(), QStringLiteral("255.255.255.255"));
 }
 
 void InterfaceView::showDataManager() {
@@ -73,8 +79,8 @@ void InterfaceView::chooseAddressSetup() {
 }
 
 void InterfaceView::selectAddressSettingInput() {
-    for (TextField *field : {m_controls.address, m_controls.mask, m_controls.gateway})
-        field->setEnabled(!isAutomatic());
+    for (const Field &field : fields())
+        if (field.kind == Kind::Address) field.control->setEnabled(!isAutomatic());
 }
 
 void InterfaceView::fill(const Field &field) {
@@ -84,10 +90,7 @@ void InterfaceView::fill(const Field &field) {
         return;
     }
     if (field.kind != Kind::Address) return DWTBaseView::fill(field);
-    const QMap<const QWidget *, QString> inUse{{m_controls.address, DWT_SaveData_Connect_IPAddress},
-                                               {m_controls.mask, DWT_SaveData_Connect_Subnetmask},
-                                               {m_controls.gateway, DWT_SaveData_Connect_Gateway}};
-    const QString key = isAutomatic() ? inUse.value(field.control) : field.key;
+    const QString key = isAutomatic() ? m_keysInUse.value(field.key) : field.key;
     field.line()->setText(addressNumberToString(addressValue(values, key)));
     if (field.input) *field.input = true;
 }

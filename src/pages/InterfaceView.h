@@ -29,12 +29,15 @@ class InterfaceView : public DWTBaseView {
     void connectRequested();
 
   protected:
-    // The controls of an interface; each of the first four has a row in the page's table.
+    // Adds the row of an address: its keys in the record (configured, in use), and what the end of
+    // editing does.
+    void addAddress(TextField *field, const QString &key, const QString &keyInUse,
+                    std::function<bool()> store, bool *input = nullptr);
+
+    // The controls of an interface; the choice has a row in the page's table.
     struct Controls {
         RadioGroup *choice;
-        TextField *address;
-        TextField *mask;
-        TextField *gateway;
+        TextField *address;  // the printer's own
         QLabel *state;
         QAbstractButton *connect;
         // Localisation keys of the two results of a test.
@@ -59,4 +62,5 @@ class InterfaceView : public DWTBaseView {
     }
 
     Controls m_controls{};
+    QMap<QString, QString> m_keysInUse;  // by the configured address's key
 };

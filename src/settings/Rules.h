@@ -51,10 +51,14 @@ struct Rule {
     };
     ItemCode item;  // the setting item that carries the value
     Kind kind;
+    // Localisation keys: what the value is called, and what is said of one that breaks the rule.
+    const char *nameKey;
+    const char *ruleKey;
     QString characters;  // what can be typed, for an address and a number
     int min = 0;
     int max = 0;
     bool loopback = false;
+    bool secret = false;  // a key or password: never shown or printed
 };
 
 // The rule of the value of a record's key (DWT_SaveData_...); a null pointer when any value will

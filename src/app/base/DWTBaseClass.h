@@ -34,6 +34,21 @@ class DWTBaseClass : public QObject {
     void TBC_Dealloc();
 };
 
+// Declares, at the head of a class on `Base`, its private set-up step INIT and tear-down step
+// DEALLOC, and where they run.
+#define DWT_SETUP(Class, Base, INIT, DEALLOC) \
+  public:                                     \
+    ~Class() override {                       \
+        DEALLOC();                            \
+    }                                         \
+    bool init() override {                    \
+        return Base::init() && INIT();        \
+    }                                         \
+                                              \
+  private:                                    \
+    bool INIT();                              \
+    void DEALLOC();
+
 // Makes a T and sets it up; a null pointer when a set-up step says no.
 template <typename T>
 std::shared_ptr<T> make() {

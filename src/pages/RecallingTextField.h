@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/ui/TextField.h"
+
+// A text field that treats what is typed by itself and reports it to nobody, and recalls a text for
+// that.
+class RecallingTextField : public TextField {
+    Q_OBJECT
+  public:
+    explicit RecallingTextField(QWidget *parent) : TextField(parent) { SRF_Init(); }
+    ~RecallingTextField() override { SRF_Dealloc(); }
+
+  protected:
+    void textDidBeginEditing() override { string_SaveString = text(); }
+
+    // The text when editing began, and after each accepted change since then.
+    QString string_SaveString;
+
+  private:
+    bool SRF_Init() {
+        string_SaveString.clear();
+        return true;
+    }
+    void SRF_Dealloc() { string_SaveString.clear(); }
+};
