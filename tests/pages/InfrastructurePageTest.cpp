@@ -1,6 +1,5 @@
 #include <QComboBox>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QWheelEvent>
 
 #include "PageInWindow.h"
@@ -15,19 +14,15 @@ SSIDEntry network(const char *name, int authentic, int encryption) {
             {DWT_SSIDList_Encryption, encryption}};
 }
 
-class InfrastructurePage : public PageInWindow<DWTInfrastructureView> {
+class InfrastructurePage : public PageTest<DWTInfrastructureView> {
   protected:
-    explicit InfrastructurePage(const QByteArray &items = R"("0x3102": 3, "0x3103": 3)")
-        : PageInWindow(R"({"items": {"0x3104": "Café", "0x3108": {"setting": 1,
-                       "address": "10.0.0.5", "mask": "255.0.0.0", "gateway": "10.0.0.1"}, )" +
-                       items + "}}") {}
+    InfrastructurePage() : PageTest(R"("0x3104": "Café", "0x3102": 3, "0x3103": 3)") {}
     QComboBox *authentic() { return control<QComboBox>("popupbutton_InfrastructureAuthentic"); }
     QComboBox *encryption() { return control<QComboBox>("popupbutton_InfrastructureEncryption"); }
     QComboBox *keyNumber() { return control<QComboBox>("popupbutton_InfrastructureSelectWEPKey"); }
     TextField *ssid() { return control("textField_InfrastructureSSID"); }
     TextField *psk() { return control("textField_InfrastructurePSK"); }
     TextField *wepKey() { return control("textField_InfrastructureWEPKey"); }
-    TextField *address() { return control("textField_InfrastructureIpAddress"); }
     // Chooses an item by its text with the keyboard, as a user does.
     void choose(QComboBox *popup, const char *item) {
         popup->setFocus();
@@ -36,15 +31,9 @@ class InfrastructurePage : public PageInWindow<DWTInfrastructureView> {
         while (popup->currentIndex() != target)
             QTest::keyClick(popup, popup->currentIndex() < target ? Qt::Key_Down : Qt::Key_Up);
     }
-    int changedNumber(const QString &key) { return integerValue(changed(), key); }
     QByteArray changedListSSID() {
         return bytesValue(changed(), DWT_SaveData_Infrastructure_SSIDList_SSID);
     }
-};
-
-class UnknownCodes : public InfrastructurePage {
-  protected:
-    UnknownCodes() : InfrastructurePage(R"("0x3101": 77, "0x3102": 9, "0x3103": 12)") {}
 };
 
 TEST_F(InfrastructurePage, EveryAuthenticationOffersItsEncryptionsAndKeyFields) {
@@ -130,98 +119,73 @@ TEST_F(InfrastructurePage, ChangingWhatTheListGaveMakesItTheUsersOwn) {
     EXPECT_TRUE(taken()) << "looking at the name changed nothing";
 }
 
-TEST_F(InfrastructurePage, ChecksNameAndKeysByTheirRules) {
-    const QString ssidAlert = text("Network name (SSID) cannot be used");
-    const QString pskAlert = text("WPA key cannot be used");
-    const QString wepAlert = text("WEP key cannot be used");
-    const QString own = ssid()->text();
-    EXPECT_TRUE(alertsOf(true).isEmpty()) << "the printer's own name is not checked";
-    const auto check = [&](TextField *field, const QString &typed, const QString &alert) {
-        type(field, typed);
-        EXPECT_EQ(alertsOf(alert.isEmpty()), alert.isEmpty() ? QStringList() : QStringList{alert})
-            << qPrintable(typed);
-    };
-    check(psk(), QString(7, u'k'), pskAlert);
-    check(psk(), QString(64, u'k'), pskAlert);
-    check(psk(), QString(), pskAlert);
-    check(psk(), text("schlüssel"), pskAlert);
-    check(psk(), QString(63, u'~'), {});
-    check(psk(), text("8 chars."), {});
+TEST_F(InfrastructurePage, ClearedKeysCountAsUntouched) {
+    type(psk(), text("short"));
+    QTest::keyClick(psk(), Qt::Key_Return);
     page->clearEncryptionKey(true);
     EXPECT_TRUE(psk()->text().isEmpty() && psk()->isEnabled() && !wepKey()->isEnabled());
-    EXPECT_TRUE(alertsOf(true).isEmpty()) << "a cleared key that nobody touched";
-    check(ssid(), QString(33, u's'), ssidAlert);
-    check(ssid(), QString(), ssidAlert);
-    check(ssid(), text("名前"), ssidAlert);
-    check(ssid(), own, {});
-    check(ssid(), QString(32, u's'), {});
-    choose(authentic(), "Open system");
     EXPECT_TRUE(alertsOf(true).isEmpty());
-    check(wepKey(), text("abc e"), {});
-    check(wepKey(), text("1234567890"), {});
-    check(wepKey(), text("123456789g"), wepAlert);
-    check(wepKey(), text("abcdef"), wepAlert);
-    check(wepKey(), text("aé de"), wepAlert);
-    check(wepKey(), QString(13, u'~'), {});
-    check(wepKey(), QString(26, u'F'), {});
-    check(wepKey(), QString(64 * 1024, u'F'), wepAlert);
-    check(wepKey(), QString(), wepAlert);
-    QTest::keyClick(wepKey(), Qt::Key_Tab);
+    choose(authentic(), "Open system");
     choose(keyNumber(), "Key 3");
     EXPECT_EQ(changedNumber(DWT_SaveData_Infrastructure_WEPKeyIndex), 3);
+    type(wepKey(), text("abcde"));
+    page->enableAllItems(false);
     page->clearEncryptionKey(false);
     EXPECT_EQ(keyNumber()->currentIndex(), 0);
+    EXPECT_TRUE(wepKey()->text().isEmpty() && !wepKey()->isEnabled() && !psk()->isEnabled());
+    page->enableAllItems(true);
+    QTest::keyClick(wepKey(), Qt::Key_Return);
+    EXPECT_TRUE(alertsOf(true).isEmpty()) << "a key field that was only looked at";
 }
 
-TEST_F(InfrastructurePage, AlertsOfAddressNameAndKeyComeInThisOrder) {
-    type(address(), text("127.0.0.1"));
-    type(control("textField_InfrastructureDefaultGateway"), text("1.2"));
-    type(ssid(), text("ß"));
-    type(psk(), text("short"));
-    EXPECT_EQ(alertsOf(false), (QStringList{text("IP address\nDefault gateway cannot be used"),
-                                            text("Network name (SSID) cannot be used"),
-                                            text("WPA key cannot be used")}));
-    EXPECT_EQ(address()->selectedText(), text("127.0.0.1"));
-    EXPECT_FALSE(page->itemConnectChangeCheck());
-    control<QRadioButton>("buttonCell_Auto")->click();
-    EXPECT_TRUE(page->itemConnectChangeCheck());
-    EXPECT_EQ(alertsOf(false).size(), 2) << "addresses that are not used are not checked";
-    EXPECT_EQ(addressValue(changed(), DWT_SaveData_Infrastructure_IPAddress),
-              text("10.0.0.5").split(u'.'));
-}
-
-TEST_F(InfrastructurePage, TypingFiltersStoresAndTakesTheTestAway) {
-    auto *connectButton = control<QPushButton>("button_InfrastructureConnect");
-    EXPECT_TRUE(page->itemCheckDifferentToDataManager() && connectButton->isEnabled());
-    address()->setFocus();
-    address()->end(false);
-    QTest::keyClicks(address(), text("0x"));
-    EXPECT_EQ(address()->text(), text("10.0.0.50"));
-    EXPECT_FALSE(connectButton->isEnabled());
-    EXPECT_EQ(state, DWT_MainDialog_SendOK_Message);
-    QTest::keyClick(address(), Qt::Key_Return);
-    EXPECT_EQ(addressValue(changed(), DWT_SaveData_Infrastructure_IPAddress).value(3), text("50"));
-    type(address(), text("10.0.0.5"));
-    EXPECT_EQ(state, DWT_MainDialog_SendNG_Message);
+TEST_F(InfrastructurePage, NameAndKeysAreStoredWhenEditingEnds) {
     type(ssid(), {});
-    QTest::keyClick(ssid(), Qt::Key_Return);
-    EXPECT_EQ(textValue(changed(), DWT_SaveData_Infrastructure_SSID), QString());
     EXPECT_EQ(state, DWT_MainDialog_SendOK_Message) << "an emptied name is a change";
+    EXPECT_FALSE(control<QPushButton>("button_InfrastructureConnect")->isEnabled());
+    QTest::keyClick(ssid(), Qt::Key_Return);
+    EXPECT_EQ(changedText(DWT_SaveData_Infrastructure_SSID), QString());
     type(psk(), text("k\n\te y😀"));
-    EXPECT_FALSE(page->itemCheckDifferentToDataManager());
+    EXPECT_EQ(alertsOf(false).join(u'|'),
+              text("Network name (SSID) cannot be used|WPA key cannot be used"));
     QTest::keyClick(psk(), Qt::Key_Return);
-    EXPECT_EQ(textValue(changed(), DWT_SaveData_Infrastructure_PSK), psk()->text());
+    EXPECT_EQ(changedText(DWT_SaveData_Infrastructure_PSK), psk()->text());
+    choose(authentic(), "Shared key");
+    EXPECT_EQ(changeList(),
+              text("Network name (SSID): CafÃ© > |Authentication: WPA2 personal > Shared key|"
+                   "Encryption: AES > WEP|WPA key:  > "));
+    type(wepKey(), text("abcde"));
+    QTest::keyClick(wepKey(), Qt::Key_Return);
+    EXPECT_EQ(changedText(DWT_SaveData_Infrastructure_WEPKey), text("abcde"));
+    page->showDataManager();
+    EXPECT_EQ(ssid()->text() + psk()->text(), text("CafÃ©"));
+    EXPECT_EQ(authentic()->currentText() + encryption()->currentText(), text("WPA2 personalAES"));
+}
+
+TEST_F(InfrastructurePage, TheButtonsAskForTheListAndTheGuideAndScrollingForNothing) {
+    QStringList asked;
+    QObject::connect(page.get(), &DWTInfrastructureView::selectSSIDRequested,
+                     [&] { asked << text("list"); });
+    QObject::connect(page.get(), &DWTInfrastructureView::wpsGuideRequested,
+                     [&] { asked << text("guide"); });
+    control<QPushButton>("button_InfrastructureSelectSSID")->click();
+    control<QPushButton>("button_InfrastructureWPSFunction")->click();
+    EXPECT_EQ(asked.join(u' '), text("list guide"));
     const int before = authentic()->currentIndex();
     QWheelEvent wheel({5, 5}, authentic()->mapToGlobal(QPoint(5, 5)), {}, {0, 120}, Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(authentic(), &wheel);
     EXPECT_EQ(authentic()->currentIndex(), before) << "scrolling by changed a choice";
+    page->enableAllItems(false);
+    EXPECT_FALSE(control<QPushButton>("button_InfrastructureSelectSSID")->isEnabled());
 }
 
-TEST_F(UnknownCodes, AreShownAsEmptyTextsAndKept) {
-    EXPECT_EQ(control<QLineEdit>("textField_InfrastructureWirelessLanMode")->text(), QString());
-    EXPECT_EQ(authentic()->currentText(), QString());
-    EXPECT_EQ(encryption()->count(), 0);
+TEST(InfrastructureCodes, UnknownOnesAreShownAsEmptyTextsAndKept) {
+    const auto page = make<DWTInfrastructureView>();
+    PageInWindow shown(page, R"("0x3101": 77, "0x3102": 9, "0x3103": 12)");
+    EXPECT_EQ(shown.shown("textField_InfrastructureWirelessLanMode"), QString());
+    EXPECT_EQ(shown.control<QComboBox>("popupbutton_InfrastructureAuthentic")->currentText(),
+              QString());
+    EXPECT_EQ(shown.control<QComboBox>("popupbutton_InfrastructureEncryption")->count(), 0);
     EXPECT_TRUE(page->itemCheckDifferentToDataManager());
 }
 

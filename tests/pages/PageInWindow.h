@@ -3,22 +3,24 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QMessageBox>
+#include <QRadioButton>
 #include <QTimer>
 
 #include "pages/DWTBaseView.h"
 #include "platform/core/Texts.h"
 #include "support/DataManagers.h"
-#include "support/DialogScript.h"
+
+inline QString text(const char *utf8) {
+    return QString::fromUtf8(utf8);
+}
 
 // A page in a window, filled from a virtual printer that was read.
-template <typename Page>
-class PageInWindow : public testing::Test {
-  protected:
-    explicit PageInWindow(const QByteArray &profile)
-        : m(profile, OnePrinterLibrary::Transport::Virtual) {
+class PageInWindow {
+  public:
+    PageInWindow(const std::shared_ptr<DWTBaseView> &page, const QByteArray &items)
+        : m("{\"items\": {" + items + "}}", OnePrinterLibrary::Transport::Virtual), m_page(page) {
         static const bool texts = installTexts();
         EXPECT_TRUE(texts);
-        page = make<Page>();
         page->mainCustomView()->setParent(&window);
         page->initializeUI();
         page->dataManagerObject(m.manager);
@@ -32,12 +34,19 @@ class PageInWindow : public testing::Test {
                 name, [this](const Notification &n) { state = n.name; }, page.get()));
     }
     template <typename Widget = TextField>
-    Widget *control(const char *name) {
-        auto *found = window.findChild<Widget *>(QLatin1String(name));
-        EXPECT_TRUE(found) << name;
+    Widget *control(const QString &name) {
+        auto *found = window.findChild<Widget *>(name);
+        EXPECT_TRUE(found) << qPrintable(name);
         return found;
     }
+    template <typename Widget = TextField>
+    Widget *control(const char *name) {
+        return control<Widget>(text(name));
+    }
+    QString shown(const char *name) { return control<QLineEdit>(name)->text(); }
+    void pick(const char *cell) { control<QRadioButton>(cell)->click(); }
     // Replaces a field's text by a pasted one.
+    void type(const char *field, const QString &typed) { type(control(field), typed); }
     void type(TextField *target, const QString &typed) {
         target->setFocus();
         target->selectAll();
@@ -53,18 +62,49 @@ class PageInWindow : public testing::Test {
             auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             if (!box) return;
             alerts << box->text();
-            EXPECT_FALSE(box->informativeText().startsWith(text("DWT_"))) << "a key has no text";
+            explanation = box->informativeText();
+            style = box->icon();
             QTest::keyClick(box, Qt::Key_Return);
         });
         watch.start(1);
-        EXPECT_EQ(page->itemInputCheck(), expected);
+        EXPECT_EQ(m_page->itemInputCheck(), expected);
         return alerts;
     }
-    CategoryDictionary changed() { return *m.manager->setupDataFromChangeData(page->viewKey()); }
+    // The change data, and what the page itself says of its changes.
+    CategoryDictionary changed() { return *m.manager->setupDataFromChangeData(m_page->viewKey()); }
+    int changedNumber(const QString &key) { return integerValue(changed(), key); }
+    QString changedText(const QString &key) { return textValue(changed(), key); }
+    QString changedAddress(const QString &key) { return addressValue(changed(), key).join(u'.'); }
+    QString changeList() {
+        QStringList list;
+        for (const auto &change : m_page->changes())
+            list << QStringLiteral("%1: %2 > %3").arg(change.label, change.oldText, change.newText);
+        return list.join(u'|');
+    }
+    // The page forgets its printer and shows nothing but defaults.
+    void showNothing() {
+        m_page->dataManagerObject(make<DWTDataManager>());
+        m_page->showDataManager();
+    }
 
     ServedManager m;
     QWidget window;
-    std::shared_ptr<Page> page;
     std::vector<NotificationCenter::Observer> observers;
-    QString state;  // the send state posted last
+    QString state;        // the send state posted last
+    QString explanation;  // of the last alert
+    QMessageBox::Icon style = QMessageBox::NoIcon;
+
+  private:
+    const std::shared_ptr<DWTBaseView> m_page;
+};
+
+// The tests of one page, filled from the items (JSON without braces).
+template <typename Page>
+class PageTest : public testing::Test, protected PageInWindow {
+  protected:
+    explicit PageTest(const QByteArray &items) : PageTest(make<Page>(), items) {}
+    PageTest(const std::shared_ptr<Page> &made, const QByteArray &items)
+        : PageInWindow(made, items), page(made) {}
+
+    const std::shared_ptr<Page> page;
 };

@@ -1,0 +1,146 @@
+#include <QLabel>
+#include <QPushButton>
+
+#include "PageInWindow.h"
+#include "pages/DWTEthernetView.h"
+#include "pages/DWTInfrastructureView.h"
+
+namespace {
+
+struct Interface {
+    const char *name;  // in the names of controls and keys
+    std::shared_ptr<InterfaceView> (*make)();
+};
+
+// Both pages of an interface, in manual setup or, with another setting, in automatic setup.
+class AddressSetup : public testing::TestWithParam<Interface>, protected PageInWindow {
+  protected:
+    explicit AddressSetup(int setting = 1) : AddressSetup(GetParam().make(), setting) {}
+
+    TextField *address() { return control(named("textField_%1IpAddress")); }
+    TextField *mask() { return control(named("textField_%1SubnetMask")); }
+    TextField *gateway() { return control(named("textField_%1DefaultGateway")); }
+    QPushButton *test() { return control<QPushButton>(named("button_%1Connect")); }
+    QString stored(const char *value) {
+        return changedAddress(text("DWT_SaveData_%1_%2").arg(text(GetParam().name), text(value)));
+    }
+    int storedSetting() { return changedNumber(named("DWT_SaveData_%1_IPAddressSetting")); }
+    static QString named(const char *pattern) { return text(pattern).arg(text(GetParam().name)); }
+
+    const std::shared_ptr<InterfaceView> page;
+
+  private:
+    AddressSetup(const std::shared_ptr<InterfaceView> &made, int setting)
+        : PageInWindow(made, items(setting)), page(made) {}
+    static QByteArray items(int setting) {
+        const QByteArray value = "{\"setting\": " + QByteArray::number(setting) + R"(,
+            "address": "10.0.0.5", "mask": "255.0.0.0", "gateway": "10.0.0.1"})";
+        return R"("0x2000": "02004C000101", "0x2001": )" + value + R"(, "0x3108": )" + value;
+    }
+};
+
+class AutomaticSetup : public AddressSetup {
+  protected:
+    AutomaticSetup() : AddressSetup(0) {}
+};
+
+const Interface interfaces[] = {
+    {"Ethernet", []() -> std::shared_ptr<InterfaceView> { return make<DWTEthernetView>(); }},
+    {"Infrastructure",
+     []() -> std::shared_ptr<InterfaceView> { return make<DWTInfrastructureView>(); }}};
+const auto nameOf = [](const auto &info) { return std::string(info.param.name); };
+INSTANTIATE_TEST_SUITE_P(Every, AddressSetup, testing::ValuesIn(interfaces), nameOf);
+INSTANTIATE_TEST_SUITE_P(Every, AutomaticSetup, testing::ValuesIn(interfaces), nameOf);
+
+TEST_P(AddressSetup, TypedAddressesAreFilteredStoredAndCompared) {
+    EXPECT_EQ(address()->text(), text("10.0.0.5"));
+    EXPECT_TRUE(page->itemCheckDifferentToDataManager() && test()->isEnabled());
+    address()->setFocus();
+    address()->end(false);
+    QTest::keyClicks(address(), text("x"));
+    EXPECT_EQ(address()->text(), text("10.0.0.5"));
+    EXPECT_EQ(address()->cursorPosition(), 8);
+    EXPECT_EQ(state, DWT_MainDialog_SendNG_Message);
+    EXPECT_FALSE(test()->isEnabled()) << "a test while addresses are edited";
+    QTest::keyClicks(address(), text("0"));
+    EXPECT_EQ(state, DWT_MainDialog_SendOK_Message);
+    EXPECT_EQ(stored("IPAddress"), text("10.0.0.5")) << "stored before editing has ended";
+    type(mask(), text("255.255.0.0"));
+    type(gateway(), text("10.0.0.2"));
+    QTest::keyClick(gateway(), Qt::Key_Return);
+    EXPECT_EQ(stored("IPAddress"), text("10.0.0.50"));
+    EXPECT_EQ(stored("Subnetmask"), text("255.255.0.0"));
+    EXPECT_EQ(stored("Gateway"), text("10.0.0.2"));
+    EXPECT_EQ(changeList(), text("IP address: 10.0.0.5 > 10.0.0.50|Subnet mask: 255.0.0.0 > "
+                                 "255.255.0.0|Default gateway: 10.0.0.1 > 10.0.0.2"));
+    EXPECT_EQ(page->getipAddressArray().join(u'.'), text("10.0.0.50"));
+}
+
+TEST_P(AddressSetup, OnlyAnotherAddressChangesHowThePrinterIsReached) {
+    const auto reached = [this](TextField *field, const char *typed) {
+        const QString before = field->text();
+        type(field, text(typed));
+        const bool same = page->itemConnectChangeCheck();
+        EXPECT_FALSE(page->itemCheckDifferentToDataManager()) << typed;
+        type(field, before);
+        return same;
+    };
+    EXPECT_TRUE(reached(mask(), "255.000.0.0")) << "the same numbers, typed otherwise";
+    for (TextField *field : {address(), mask(), gateway()})
+        EXPECT_FALSE(reached(field, "10.0.0.66")) << qPrintable(field->objectName());
+}
+
+TEST_P(AddressSetup, OneAlertNamesEveryWrongAddressAndSelectsTheFirst) {
+    type(mask(), text("0.0.0.0"));
+    type(gateway(), text("1.2.3"));
+    EXPECT_EQ(alertsOf(false), QStringList{text("Subnet mask\nDefault gateway cannot be used")});
+    EXPECT_EQ(explanation.count(u'\n'), 1);
+    EXPECT_EQ(window.focusWidget(), mask());
+    EXPECT_EQ(mask()->selectedText(), text("0.0.0.0"));
+}
+
+TEST_P(AddressSetup, SwitchingTheSetupTakesTheMatchingAddresses) {
+    type(address(), text("10.0.0.9"));
+    pick("buttonCell_Auto");
+    EXPECT_EQ(storedSetting(), 0);
+    EXPECT_EQ(stored("IPAddress"), text("10.0.0.5")) << "the typed address was not dropped";
+    EXPECT_EQ(state, DWT_MainDialog_SendOK_Message);
+    EXPECT_EQ(changeList(), text("IP address: Fixed address > Automatic (DHCP)"));
+    EXPECT_EQ(address()->text(), text("10.0.0.9"));
+    EXPECT_FALSE(address()->isEnabled() || mask()->isEnabled() || gateway()->isEnabled());
+    gateway()->setText(text("1.2"));
+    EXPECT_TRUE(alertsOf(true).isEmpty() && page->itemConnectChangeCheck());
+    page->enableAllItems(true);
+    EXPECT_FALSE(address()->isEnabled());
+    pick("buttonCell_Manual");
+    EXPECT_EQ(storedSetting(), 1);
+    EXPECT_EQ(stored("IPAddress"), text("10.0.0.9"));
+    EXPECT_TRUE(address()->isEnabled());
+    page->enableAllItems(false);
+    pick("buttonCell_Auto");
+    EXPECT_EQ(storedSetting(), 1) << "a disabled choice moved";
+}
+
+TEST_P(AutomaticSetup, ShowsTheAddressesInUseAndTheResultOfATest) {
+    EXPECT_NE(address()->text(), text("10.0.0.5"));
+    EXPECT_NE(address()->text(), text("0.0.0.0"));
+    EXPECT_TRUE(page->itemCheckDifferentToDataManager());
+    page->itemSetToDataManager();
+    EXPECT_EQ(stored("IPAddress"), text("10.0.0.5"));
+    int asked = 0;
+    QObject::connect(page.get(), &InterfaceView::connectRequested, [&] { ++asked; });
+    test()->click();
+    EXPECT_EQ(asked, 1);
+    auto *result = control<QLabel>(named("textField_%1Connection"));
+    EXPECT_EQ(result->text(), text("Not tested yet"));
+    page->showConnectResult(true);
+    const QString online = result->text();
+    page->showConnectResult(false);
+    EXPECT_TRUE(online != text("Not tested yet") && online != result->text());
+    page->settingConnectButtonEnable(false);
+    EXPECT_FALSE(test()->isEnabled());
+    showNothing();
+    EXPECT_EQ(address()->text(), text("0.0.0.0"));
+}
+
+}  // namespace

@@ -1,0 +1,61 @@
+#include <QCheckBox>
+
+#include "PageInWindow.h"
+#include "pages/DWTPasswordView.h"
+
+namespace {
+
+class PasswordPage : public PageTest<DWTPasswordView> {
+  protected:
+    PasswordPage() : PageTest("") {}
+    QCheckBox *box() { return control<QCheckBox>("checkbox_PasswordChange"); }
+    TextField *password() { return control("secureTextField_Password"); }
+    TextField *repeated() { return control("secureTextField_PasswordReinput"); }
+    // Types both and leaves the fields.
+    void typeBoth(const char *first, const char *second) {
+        type(password(), text(first));
+        type(repeated(), text(second));
+        box()->setFocus();
+    }
+    bool isEmptyAndClosed() {
+        return password()->text().isEmpty() && repeated()->text().isEmpty() &&
+               !password()->isEnabled() && !repeated()->isEnabled() && !box()->isChecked();
+    }
+};
+
+TEST_F(PasswordPage, TheBoxOpensTheFieldsAndClosingItForgetsThem) {
+    EXPECT_TRUE(isEmptyAndClosed());
+    box()->click();
+    EXPECT_TRUE(password()->isEnabled() && repeated()->isEnabled());
+    EXPECT_EQ(changedNumber(DWT_SaveData_Password_Change), 1);
+    EXPECT_EQ(state, DWT_MainDialog_SendOK_Message);
+    typeBoth("abc", "abc");
+    EXPECT_EQ(changedText(DWT_SaveData_Password_Password), text("abc"));
+    typeBoth("abcd", "abc");
+    EXPECT_EQ(changedText(DWT_SaveData_Password_Password), text("abc")) << "they differ";
+    EXPECT_FALSE(page->itemCheckDifferentToDataManager());
+    EXPECT_EQ(changeList(), text("New password:  > ")) << "a password is shown";
+    page->enableAllItems(true);
+    EXPECT_TRUE(password()->isEnabled() && repeated()->isEnabled());
+    page->enableAllItems(false);
+    EXPECT_FALSE(password()->isEnabled() || repeated()->isEnabled() || box()->isEnabled());
+    page->enableAllItems(true);
+    box()->click();
+    EXPECT_TRUE(isEmptyAndClosed());
+    EXPECT_EQ(changedNumber(DWT_SaveData_Password_Change), 0);
+    EXPECT_EQ(state, DWT_MainDialog_SendNG_Message);
+    EXPECT_TRUE(m.manager->isEqualToSaveData() && changeList().isEmpty());
+}
+
+TEST_F(PasswordPage, ClearingTellsNobody) {
+    box()->click();
+    typeBoth("abc", "abc");
+    page->clearPassword(true);
+    EXPECT_TRUE(isEmptyAndClosed() && box()->isEnabled());
+    EXPECT_EQ(changedText(DWT_SaveData_Password_Password), text("abc"));
+    page->passwordChangeSetting(true);
+    EXPECT_EQ(changedText(DWT_SaveData_Password_Password), QString());
+    EXPECT_TRUE(box()->isChecked() && password()->isEnabled());
+}
+
+}  // namespace
