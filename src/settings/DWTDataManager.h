@@ -96,19 +96,19 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     bool installCommands(DWTCommunicationControl &link);
 
     // One request; an empty reply clears the read-failure flag.
-    QByteArray NDM_SendCommandSettingRequest(int code);
-    int NDM_ResultDataToInteger(const std::optional<QByteArray> &reply, int code);
+    QByteArray NDM_SendCommandSettingRequest(ItemCode code);
+    int NDM_ResultDataToInteger(const std::optional<QByteArray> &reply, ItemCode code);
     // Items as values; each asks nothing while the read-failure flag is cleared. A value that
     // cannot be read is " ", 0 or nothing.
-    QString NDM_DataToString(int code);
-    int NDM_DataToInteger(int code);
-    QString NDM_DataToStringAndLength(int code);
-    QString NDM_DataToMacAddress(int code);
-    QString NDM_DataToSoftwareVersion(int code);
-    std::optional<CategoryDictionary> NDM_DataToArray(int code);
-    std::optional<CategoryDictionary> NDM_DataToIntegerAndArray(int code);
+    QString NDM_DataToString(ItemCode code);
+    int NDM_DataToInteger(ItemCode code);
+    QString NDM_DataToStringAndLength(ItemCode code);
+    QString NDM_DataToMacAddress(ItemCode code);
+    QString NDM_DataToSoftwareVersion(ItemCode code);
+    std::optional<CategoryDictionary> NDM_DataToArray(ItemCode code);
+    std::optional<CategoryDictionary> NDM_DataToIntegerAndArray(ItemCode code);
     // Asks whatever the flag says.
-    std::optional<QList<SSIDEntry>> NDM_SSIDInfo(int code);
+    std::optional<QList<SSIDEntry>> NDM_SSIDInfo(ItemCode code);
     QString NDM_DataToPrinterName(const std::shared_ptr<DWTCommunicationControl> &link);
 
     // The categories, on a connected link.
@@ -123,14 +123,14 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
 
     // Items written: 0 accepted; 1 there is no link, or the value was refused unsent; -1 no usable
     // reply; otherwise the printer's code.
-    int NDM_StringToData(int code, const QString &text);
-    int NDM_IntegerToData(int code, int value);
-    int NDM_StringAndLengthToData(int code, const QString &text);
-    int NDM_IntegerAndStringAndLengthToData(int code, int value, const QString &text);
-    int NDM_DataToData(int code, const QByteArray &bytes);
-    int NDM_IntegerAndArrayToData(int code, int value, const QStringList &first,
+    int NDM_StringToData(ItemCode code, const QString &text);
+    int NDM_IntegerToData(ItemCode code, int value);
+    int NDM_StringAndLengthToData(ItemCode code, const QString &text);
+    int NDM_IntegerAndStringAndLengthToData(ItemCode code, int value, const QString &text);
+    int NDM_DataToData(ItemCode code, const QByteArray &bytes);
+    int NDM_IntegerAndArrayToData(ItemCode code, int value, const QStringList &first,
                                   const QStringList &second, const QStringList &third);
-    int sendFrame(int code, const std::optional<QByteArray> &frame);
+    int sendFrame(ItemCode code, const std::optional<QByteArray> &frame);
 
     // The send, on its own thread.
     void NDM_SendDataToPrinterThread();
@@ -140,7 +140,7 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     void sendPassword();
     CategoryDictionary sendNetwork();
     CategoryDictionary sendEthernet();
-    void sendInterface(int code, const CategoryDictionary &change, CategoryDictionary &copy,
+    void sendInterface(ItemCode code, const CategoryDictionary &change, CategoryDictionary &copy,
                        const QStringList &keys);
     CategoryDictionary sendWireless();
     CategoryDictionary sendInfrastructure();

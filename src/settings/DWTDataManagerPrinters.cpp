@@ -10,12 +10,7 @@ const QString connectionType = QStringLiteral("ConnectionType");
 const QString productName = QStringLiteral("ProductName");
 const QString machineName = QStringLiteral("MachineName");
 
-constexpr int nameItem = 0x1006;
-
-// Answers about the administrator password.
-enum PasswordState { NoAnswer = 1, PasswordSet = 2, NoPassword = 3 };
-constexpr int loginAccepted = 4;
-constexpr int noLink = 1;
+constexpr ItemCode nameItem = 0x1006;
 
 }  // namespace
 
@@ -54,29 +49,29 @@ int DWTDataManager::isCheckConnectToPrinter(const QStringList &address) {
 }
 
 int DWTDataManager::isPassword() {
-    if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) return NoAnswer;
+    if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) return PasswordState::NoAnswer;
     const int state = NDM_DataToInteger(0x1000);
     ncc_Object->disconnectPrinter(0);
     switch (state) {
         case 0:
-            return NoPassword;
+            return PasswordState::NotSet;
         case 1:
-            return PasswordSet;
+            return PasswordState::Set;
         default:
-            return NoAnswer;
+            return PasswordState::NoAnswer;
     }
 }
 
 int DWTDataManager::checkLoginPassword(const QString &password) {
-    if (!ncc_Object) return 0;
+    if (!ncc_Object) return LoginResult::NoLink;
     const int result = NDM_StringToData(0x1001, password);
-    if (result != 0) return result;
+    if (result != SettingResult::Accepted) return result;
     loginPassword_String = password;
-    return loginAccepted;
+    return LoginResult::Accepted;
 }
 
 int DWTDataManager::connectPrinter() {
-    return ncc_Object ? ncc_Object->connectPrinter(0) : noLink;
+    return ncc_Object ? ncc_Object->connectPrinter(0) : ReadResult::NoLink;
 }
 
 void DWTDataManager::disconnectPrinter() {

@@ -9,15 +9,12 @@
 
 namespace {
 
-// Result of a full read in which a request got no reply.
-constexpr int missingReply = 6;
-constexpr int noLink = 1;
-
 constexpr int scanPolls = 10;
 constexpr std::chrono::milliseconds scanInterval{1000};
 constexpr int scanFinished = 2;
 // The first network found (counted from 1) whose block is then read.
-constexpr std::pair<int, int> scanBlocks[] = {{1, 0x3121}, {6, 0x3122}, {11, 0x3123}, {16, 0x3124}};
+constexpr std::pair<int, ItemCode> scanBlocks[] = {
+    {1, 0x3121}, {6, 0x3122}, {11, 0x3123}, {16, 0x3124}};
 
 using Entry = std::pair<QString, std::optional<SettingValue>>;
 
@@ -39,10 +36,10 @@ Entry from(const CategoryDictionary &item, const QString &key) {
 
 // A decoder's value, from a reply that may be missing.
 template <typename Value>
-std::optional<Value> decoded(const QByteArray &reply, int code,
-                             std::optional<Value> (*decoder)(const QByteArray &, quint16)) {
+std::optional<Value> decoded(const QByteArray &reply, ItemCode code,
+                             std::optional<Value> (*decoder)(const QByteArray &, ItemCode)) {
     if (reply.isEmpty()) return {};
-    return decoder(reply, static_cast<quint16>(code));
+    return decoder(reply, code);
 }
 
 }  // namespace
@@ -51,7 +48,7 @@ int DWTDataManager::setupDataFromPrinter(int) {
     resultSettingRequest_BOOL = true;
     dictionary_SaveData.reset();
     mutableDictionary_ChangeData.reset();
-    if (!ncc_Object) return noLink;
+    if (!ncc_Object) return ReadResult::NoLink;
     const int connected = ncc_Object->connectPrinter(0);
     if (connected == 0) {
         SettingRecord record;
@@ -67,7 +64,7 @@ int DWTDataManager::setupDataFromPrinter(int) {
     }
     mutableDictionary_ChangeData = dictionary_SaveData.value_or(SettingRecord());
     if (connected != 0) return connected;
-    return resultSettingRequest_BOOL ? 0 : missingReply;
+    return resultSettingRequest_BOOL ? ReadResult::Complete : ReadResult::MissingReply;
 }
 
 std::optional<QList<SSIDEntry>> DWTDataManager::SSIDList() {
@@ -77,53 +74,53 @@ std::optional<QList<SSIDEntry>> DWTDataManager::SSIDList() {
     return networks.value_or(QList<SSIDEntry>());
 }
 
-QByteArray DWTDataManager::NDM_SendCommandSettingRequest(int code) {
-    const QByteArray frame = Frames::requestFrame(static_cast<quint16>(code));
+QByteArray DWTDataManager::NDM_SendCommandSettingRequest(ItemCode code) {
+    const QByteArray frame = Frames::requestFrame(code);
     QByteArray reply;
     if (ncc_Object) reply = ncc_Object->selectPrinterInfomation(frame).value_or(QByteArray());
     if (reply.isEmpty()) resultSettingRequest_BOOL = false;
     return reply;
 }
 
-QString DWTDataManager::NDM_DataToString(int code) {
+QString DWTDataManager::NDM_DataToString(ItemCode code) {
     if (!resultSettingRequest_BOOL) return unreadable;
     return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::text).value_or(unreadable);
 }
 
-int DWTDataManager::NDM_DataToInteger(int code) {
+int DWTDataManager::NDM_DataToInteger(ItemCode code) {
     if (!resultSettingRequest_BOOL) return 0;
     return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::integer).value_or(0);
 }
 
-QString DWTDataManager::NDM_DataToStringAndLength(int code) {
+QString DWTDataManager::NDM_DataToStringAndLength(ItemCode code) {
     if (!resultSettingRequest_BOOL) return unreadable;
     return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::textWithLength)
         .value_or(unreadable);
 }
 
-QString DWTDataManager::NDM_DataToMacAddress(int code) {
+QString DWTDataManager::NDM_DataToMacAddress(ItemCode code) {
     if (!resultSettingRequest_BOOL) return unreadable;
     return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::macAddress)
         .value_or(unreadable);
 }
 
-QString DWTDataManager::NDM_DataToSoftwareVersion(int code) {
+QString DWTDataManager::NDM_DataToSoftwareVersion(ItemCode code) {
     if (!resultSettingRequest_BOOL) return unreadable;
     return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::softwareVersion)
         .value_or(unreadable);
 }
 
-std::optional<CategoryDictionary> DWTDataManager::NDM_DataToArray(int code) {
+std::optional<CategoryDictionary> DWTDataManager::NDM_DataToArray(ItemCode code) {
     if (!resultSettingRequest_BOOL) return {};
     return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::addresses);
 }
 
-std::optional<CategoryDictionary> DWTDataManager::NDM_DataToIntegerAndArray(int code) {
+std::optional<CategoryDictionary> DWTDataManager::NDM_DataToIntegerAndArray(ItemCode code) {
     if (!resultSettingRequest_BOOL) return {};
     return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::integerAndAddresses);
 }
 
-std::optional<QList<SSIDEntry>> DWTDataManager::NDM_SSIDInfo(int code) {
+std::optional<QList<SSIDEntry>> DWTDataManager::NDM_SSIDInfo(ItemCode code) {
     return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::networks);
 }
 

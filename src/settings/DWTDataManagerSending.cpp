@@ -6,13 +6,6 @@
 
 namespace {
 
-constexpr int refusedUnsent = 1;
-
-// Values of the infrastructure encryption.
-constexpr int encryptionWEP = 1;
-constexpr int encryptionTKIP = 2;
-constexpr int encryptionAES = 3;
-
 // Takes what the printer accepted from the change into the copy of the saved category.
 void take(CategoryDictionary &copy, const CategoryDictionary &change, const QStringList &keys) {
     for (const QString &key : keys)
@@ -26,39 +19,39 @@ void DWTDataManager::sendDataToPrinter() {
         [self = shared_from_this()] { self->NDM_SendDataToPrinterThread(); });
 }
 
-int DWTDataManager::NDM_ResultDataToInteger(const std::optional<QByteArray> &reply, int code) {
-    if (!reply || reply->isEmpty()) return -1;
-    return ItemCodec::result(*reply, static_cast<quint16>(code));
+int DWTDataManager::NDM_ResultDataToInteger(const std::optional<QByteArray> &reply, ItemCode code) {
+    if (!reply || reply->isEmpty()) return SettingResult::NoReply;
+    return ItemCodec::result(*reply, code);
 }
 
-int DWTDataManager::NDM_StringToData(int code, const QString &text) {
-    return sendFrame(code, ItemCodec::textFrame(static_cast<quint16>(code), text));
+int DWTDataManager::NDM_StringToData(ItemCode code, const QString &text) {
+    return sendFrame(code, ItemCodec::textFrame(code, text));
 }
 
-int DWTDataManager::NDM_IntegerToData(int code, int value) {
-    return sendFrame(code, ItemCodec::integerFrame(static_cast<quint16>(code), value));
+int DWTDataManager::NDM_IntegerToData(ItemCode code, int value) {
+    return sendFrame(code, ItemCodec::integerFrame(code, value));
 }
 
-int DWTDataManager::NDM_StringAndLengthToData(int code, const QString &text) {
-    return sendFrame(code, ItemCodec::textWithLengthFrame(static_cast<quint16>(code), text));
+int DWTDataManager::NDM_StringAndLengthToData(ItemCode code, const QString &text) {
+    return sendFrame(code, ItemCodec::textWithLengthFrame(code, text));
 }
 
-int DWTDataManager::NDM_IntegerAndStringAndLengthToData(int code, int value, const QString &text) {
-    return sendFrame(code, ItemCodec::integerAndTextFrame(static_cast<quint16>(code), value, text));
+int DWTDataManager::NDM_IntegerAndStringAndLengthToData(ItemCode code, int value,
+                                                        const QString &text) {
+    return sendFrame(code, ItemCodec::integerAndTextFrame(code, value, text));
 }
 
-int DWTDataManager::NDM_DataToData(int code, const QByteArray &bytes) {
-    return sendFrame(code, ItemCodec::bytesFrame(static_cast<quint16>(code), bytes));
+int DWTDataManager::NDM_DataToData(ItemCode code, const QByteArray &bytes) {
+    return sendFrame(code, ItemCodec::bytesFrame(code, bytes));
 }
 
-int DWTDataManager::NDM_IntegerAndArrayToData(int code, int value, const QStringList &first,
+int DWTDataManager::NDM_IntegerAndArrayToData(ItemCode code, int value, const QStringList &first,
                                               const QStringList &second, const QStringList &third) {
-    return sendFrame(code, ItemCodec::integerAndAddressesFrame(static_cast<quint16>(code), value,
-                                                               first, second, third));
+    return sendFrame(code, ItemCodec::integerAndAddressesFrame(code, value, first, second, third));
 }
 
-int DWTDataManager::sendFrame(int code, const std::optional<QByteArray> &frame) {
-    if (!ncc_Object || !frame) return refusedUnsent;
+int DWTDataManager::sendFrame(ItemCode code, const std::optional<QByteArray> &frame) {
+    if (!ncc_Object || !frame) return SettingResult::RefusedUnsent;
     return NDM_ResultDataToInteger(ncc_Object->sendSetting(*frame), code);
 }
 
@@ -68,7 +61,7 @@ void DWTDataManager::NDM_SendDataToPrinterThread() {
         NDM_ProgressSetting(DWT_DataSend_Stop_Message, 1);
         return;
     }
-    if (sendLogin() == 0) sendCategories();
+    if (sendLogin() == SettingResult::Accepted) sendCategories();
     ncc_Object->disconnectPrinter(0);
     NDM_ProgressSetting(DWT_DataSend_Stop_Message, 0);
 }
@@ -83,7 +76,7 @@ void DWTDataManager::NDM_ProgressSetting(const QString &notification, double ste
 // Without a password the login counts as passed. The password is used once.
 int DWTDataManager::sendLogin() {
     const QString password = std::exchange(loginPassword_String, QString());
-    return password.isEmpty() ? 0 : NDM_StringToData(0x1001, password);
+    return password.isEmpty() ? SettingResult::Accepted : NDM_StringToData(0x1001, password);
 }
 
 void DWTDataManager::sendCategories() {
@@ -119,11 +112,12 @@ void DWTDataManager::sendPassword() {
 CategoryDictionary DWTDataManager::sendNetwork() {
     const CategoryDictionary change = changeOf(DWT_View_Key_Network);
     CategoryDictionary copy = savedOf(DWT_View_Key_Network);
-    const std::pair<int, QString> items[] = {{0x1004, DWT_SaveData_Network_Bonjour},
-                                             {0x1005, DWT_SaveData_Network_BonjourService},
-                                             {0x1006, DWT_SaveData_Network_Printer}};
+    const std::pair<ItemCode, QString> items[] = {{0x1004, DWT_SaveData_Network_Bonjour},
+                                                  {0x1005, DWT_SaveData_Network_BonjourService},
+                                                  {0x1006, DWT_SaveData_Network_Printer}};
     for (const auto &[code, key] : items)
-        if (NDM_StringToData(code, textValue(change, key)) == 0) take(copy, change, {key});
+        if (NDM_StringToData(code, textValue(change, key)) == SettingResult::Accepted)
+            take(copy, change, {key});
     return copy;
 }
 
@@ -136,19 +130,19 @@ CategoryDictionary DWTDataManager::sendEthernet() {
 }
 
 // The address setup of an interface; `keys` are those of its setting, address, mask and gateway.
-void DWTDataManager::sendInterface(int code, const CategoryDictionary &change,
+void DWTDataManager::sendInterface(ItemCode code, const CategoryDictionary &change,
                                    CategoryDictionary &copy, const QStringList &keys) {
     const int result = NDM_IntegerAndArrayToData(
         code, integerValue(change, keys[0]), addressValue(change, keys[1]),
         addressValue(change, keys[2]), addressValue(change, keys[3]));
-    if (result == 0) take(copy, change, keys);
+    if (result == SettingResult::Accepted) take(copy, change, keys);
 }
 
 CategoryDictionary DWTDataManager::sendWireless() {
     const CategoryDictionary change = changeOf(DWT_View_Key_Wireless);
     CategoryDictionary copy = savedOf(DWT_View_Key_Wireless);
     const int mode = integerValue(change, DWT_SaveData_Wireless_CommunicateMode);
-    if (NDM_IntegerToData(0x3000, mode) == 0)
+    if (NDM_IntegerToData(0x3000, mode) == SettingResult::Accepted)
         take(copy, change, {DWT_SaveData_Wireless_CommunicateMode});
     return copy;
 }
@@ -156,17 +150,19 @@ CategoryDictionary DWTDataManager::sendWireless() {
 CategoryDictionary DWTDataManager::sendInfrastructure() {
     const CategoryDictionary change = changeOf(DWT_View_Key_Infrastructure);
     CategoryDictionary copy = savedOf(DWT_View_Key_Infrastructure);
-    const std::pair<int, QString> integers[] = {{0x3102, DWT_SaveData_Infrastructure_Authentic},
-                                                {0x3103, DWT_SaveData_Infrastructure_Encryption}};
+    const std::pair<ItemCode, QString> integers[] = {
+        {0x3102, DWT_SaveData_Infrastructure_Authentic},
+        {0x3103, DWT_SaveData_Infrastructure_Encryption}};
     for (const auto &[code, key] : integers)
-        if (NDM_IntegerToData(code, integerValue(change, key)) == 0) take(copy, change, {key});
+        if (NDM_IntegerToData(code, integerValue(change, key)) == SettingResult::Accepted)
+            take(copy, change, {key});
 
     const QByteArray chosen = bytesValue(change, DWT_SaveData_Infrastructure_SSIDList_SSID);
     const bool fromList = !chosen.isEmpty();
     const QString typed = textValue(change, DWT_SaveData_Infrastructure_SSID);
     const int named =
         fromList ? NDM_DataToData(0x3104, chosen) : NDM_StringAndLengthToData(0x3104, typed);
-    if (named == 0)
+    if (named == SettingResult::Accepted)
         take(copy, change,
              {fromList ? DWT_SaveData_Infrastructure_SSIDList_SSID
                        : DWT_SaveData_Infrastructure_SSID});
@@ -183,13 +179,13 @@ CategoryDictionary DWTDataManager::sendInfrastructure() {
 // The key that the encryption uses. The saved category never shows it, so nothing is taken over.
 void DWTDataManager::sendInfrastructureKey(const CategoryDictionary &change) {
     switch (integerValue(change, DWT_SaveData_Infrastructure_Encryption)) {
-        case encryptionWEP:
+        case Encryption::WEP:
             NDM_IntegerAndStringAndLengthToData(
                 0x3106, integerValue(change, DWT_SaveData_Infrastructure_WEPKeyIndex),
                 textValue(change, DWT_SaveData_Infrastructure_WEPKey));
             break;
-        case encryptionTKIP:
-        case encryptionAES:
+        case Encryption::TKIP:
+        case Encryption::AES:
             NDM_StringAndLengthToData(0x3105, textValue(change, DWT_SaveData_Infrastructure_PSK));
             break;
         default:
@@ -202,7 +198,7 @@ void DWTDataManager::sendInfrastructureKey(const CategoryDictionary &change) {
 CategoryDictionary DWTDataManager::sendSimpleAP(CategoryDictionary copy) {
     const CategoryDictionary change = changeOf(DWT_View_Key_SimpleAP);
     const QString ssid = textValue(change, DWT_SaveData_SimpleAP_SSID);
-    if (NDM_StringAndLengthToData(0x3201, ssid) == 0)
+    if (NDM_StringAndLengthToData(0x3201, ssid) == SettingResult::Accepted)
         take(copy, change, {DWT_SaveData_SimpleAP_SSID});
     NDM_StringAndLengthToData(0x3202, textValue(change, DWT_SaveData_SimpleAP_PSK));
     return copy;
@@ -212,7 +208,7 @@ CategoryDictionary DWTDataManager::sendFirmware() {
     const CategoryDictionary change = changeOf(DWT_View_Key_Firmware);
     CategoryDictionary copy = savedOf(DWT_View_Key_Firmware);
     const int timeout = integerValue(change, DWT_SaveData_Firmware_Timeout);
-    if (NDM_IntegerToData(0x1007, timeout) == 0)
+    if (NDM_IntegerToData(0x1007, timeout) == SettingResult::Accepted)
         take(copy, change, {DWT_SaveData_Firmware_Timeout});
     return copy;
 }

@@ -36,11 +36,11 @@ QByteArray Frames::updateFrame() {
     return escFrame('w', {});
 }
 
-QByteArray Frames::requestFrame(quint16 code) {
+QByteArray Frames::requestFrame(ItemCode code) {
     return escFrame('f', word(code));
 }
 
-QByteArray Frames::settingFrame(quint16 code, const QByteArray &payload) {
+QByteArray Frames::settingFrame(ItemCode code, const QByteArray &payload) {
     if (payload.size() > maximumPayload) return {};
     const QByteArray summed = ';' + word(code) + ';' + payload + ';';
     return "CF;" + word(summed.size() + 1) + summed + checksum(summed);

@@ -1,7 +1,8 @@
 #pragma once
 
 #include <QByteArray>
-#include <QtGlobal>
+
+#include "settings/Codes.h"
 
 // The frames of the setting protocol, as pure functions on bytes. Numbers of two bytes are
 // little-endian; checksums are sums modulo 256.
@@ -21,12 +22,12 @@ QByteArray endFrame();     // command "U", parameter 0
 QByteArray updateFrame();  // command "w"
 
 // Asks for the setting item `code`: command "f" with the code.
-QByteArray requestFrame(quint16 code);
+QByteArray requestFrame(ItemCode code);
 
 // The frame  "CF;" L ";" code ";" payload ";" checksum  that writes the setting item `code`. L
 // counts the bytes from offset 5 on; the checksum covers those from offset 5 to the last ";".
 // Empty when the payload is longer than maximumPayload.
-QByteArray settingFrame(quint16 code, const QByteArray &payload);
+QByteArray settingFrame(ItemCode code, const QByteArray &payload);
 
 // Longest payload that the 16-bit length can express, in bytes.
 inline constexpr qsizetype maximumPayload = 0xFFFF - 6;

@@ -23,7 +23,7 @@ constexpr qsizetype wepKeyField = 26;
 constexpr qsizetype octets = 4;
 
 // A cursor at the data of a reply "C" + `kind` with the code; nothing for any other reply.
-std::optional<ReplyCursor> openReply(const QByteArray &reply, char kind, quint16 code) {
+std::optional<ReplyCursor> openReply(const QByteArray &reply, char kind, ItemCode code) {
     ReplyCursor cursor(reply);
     if (cursor.byte() != 'C' || cursor.byte() != static_cast<quint8>(kind)) return {};
     cursor.seek(codeOffset);
@@ -39,7 +39,7 @@ QStringList address(ReplyCursor &cursor) {
 }
 
 // The keys of an item's address groups, in the order of the groups.
-QStringList addressKeys(quint16 code) {
+QStringList addressKeys(ItemCode code) {
     switch (code) {
         case 0x2002:
         case 0x3119:
@@ -61,7 +61,7 @@ QStringList addressKeys(quint16 code) {
 }
 
 // The key of an item's integer; empty for an item that has addresses only.
-QString settingKey(quint16 code) {
+QString settingKey(ItemCode code) {
     switch (code) {
         case 0x2001:
             return DWT_SaveData_Ethernet_IPAddressSetting;
@@ -102,7 +102,7 @@ std::optional<QByteArray> countedField(const QByteArray &bytes, qsizetype width)
 }
 
 // The frame around a payload; nothing without one or with one that is too long.
-std::optional<QByteArray> frameAround(quint16 code, const std::optional<QByteArray> &payload) {
+std::optional<QByteArray> frameAround(ItemCode code, const std::optional<QByteArray> &payload) {
     if (!payload || payload->size() > Frames::maximumPayload) return {};
     return Frames::settingFrame(code, *payload);
 }
@@ -113,7 +113,7 @@ QString ItemCodec::textOf(const QByteArray &bytes) {
     return QString::fromLatin1(bytes).remove(QChar(u'\0'));
 }
 
-std::optional<QString> ItemCodec::text(const QByteArray &reply, quint16 code) {
+std::optional<QString> ItemCodec::text(const QByteArray &reply, ItemCode code) {
     auto cursor = openReply(reply, 'F', code);
     if (!cursor) return {};
     cursor->seek(lengthOffset);
@@ -122,26 +122,26 @@ std::optional<QString> ItemCodec::text(const QByteArray &reply, quint16 code) {
     return textOf(cursor->bytes(count));
 }
 
-std::optional<int> ItemCodec::integer(const QByteArray &reply, quint16 code) {
+std::optional<int> ItemCodec::integer(const QByteArray &reply, ItemCode code) {
     auto cursor = openReply(reply, 'F', code);
     if (!cursor) return {};
     return cursor->word();
 }
 
-std::optional<QString> ItemCodec::textWithLength(const QByteArray &reply, quint16 code) {
+std::optional<QString> ItemCodec::textWithLength(const QByteArray &reply, ItemCode code) {
     auto cursor = openReply(reply, 'F', code);
     if (!cursor) return {};
     const int count = cursor->word();
     return textOf(cursor->bytes(count));
 }
 
-std::optional<QString> ItemCodec::macAddress(const QByteArray &reply, quint16 code) {
+std::optional<QString> ItemCodec::macAddress(const QByteArray &reply, ItemCode code) {
     auto cursor = openReply(reply, 'F', code);
     if (!cursor) return {};
     return QString::fromLatin1(cursor->bytes(6).toHex().toUpper());
 }
 
-std::optional<QString> ItemCodec::softwareVersion(const QByteArray &reply, quint16 code) {
+std::optional<QString> ItemCodec::softwareVersion(const QByteArray &reply, ItemCode code) {
     auto cursor = openReply(reply, 'F', code);
     if (!cursor) return {};
     const QString digits =
@@ -149,7 +149,7 @@ std::optional<QString> ItemCodec::softwareVersion(const QByteArray &reply, quint
     return digits.left(1) + u'.' + digits.mid(1);
 }
 
-std::optional<CategoryDictionary> ItemCodec::addresses(const QByteArray &reply, quint16 code) {
+std::optional<CategoryDictionary> ItemCodec::addresses(const QByteArray &reply, ItemCode code) {
     auto cursor = openReply(reply, 'F', code);
     const QStringList keys = addressKeys(code);
     if (!cursor || keys.isEmpty() || !settingKey(code).isEmpty()) return {};
@@ -157,7 +157,7 @@ std::optional<CategoryDictionary> ItemCodec::addresses(const QByteArray &reply, 
 }
 
 std::optional<CategoryDictionary> ItemCodec::integerAndAddresses(const QByteArray &reply,
-                                                                 quint16 code) {
+                                                                 ItemCode code) {
     auto cursor = openReply(reply, 'F', code);
     const QString key = settingKey(code);
     if (!cursor || key.isEmpty()) return {};
@@ -174,7 +174,7 @@ std::optional<ItemCodec::ScanStatus> ItemCodec::scanStatus(const QByteArray &rep
     return ScanStatus{state, cursor->word()};
 }
 
-std::optional<QList<SSIDEntry>> ItemCodec::networks(const QByteArray &reply, quint16 code) {
+std::optional<QList<SSIDEntry>> ItemCodec::networks(const QByteArray &reply, ItemCode code) {
     auto cursor = openReply(reply, 'F', code);
     if (!cursor) return {};
     QList<SSIDEntry> list;
@@ -185,38 +185,38 @@ std::optional<QList<SSIDEntry>> ItemCodec::networks(const QByteArray &reply, qui
     return list;
 }
 
-int ItemCodec::result(const QByteArray &reply, quint16 code) {
+int ItemCodec::result(const QByteArray &reply, ItemCode code) {
     auto cursor = openReply(reply, 'R', code);
     return cursor ? cursor->word() : -1;
 }
 
-std::optional<QByteArray> ItemCodec::textFrame(quint16 code, const QString &text) {
+std::optional<QByteArray> ItemCodec::textFrame(ItemCode code, const QString &text) {
     if (text.isEmpty() && code != 0x1003) return {};
     return frameAround(code, text.toUtf8() + '\0');
 }
 
-QByteArray ItemCodec::integerFrame(quint16 code, int value) {
+QByteArray ItemCodec::integerFrame(ItemCode code, int value) {
     return Frames::settingFrame(code, word(value));
 }
 
-std::optional<QByteArray> ItemCodec::textWithLengthFrame(quint16 code, const QString &text) {
+std::optional<QByteArray> ItemCodec::textWithLengthFrame(ItemCode code, const QString &text) {
     const QByteArray bytes = text.toUtf8();
     const bool fixed = code == 0x3104 || code == 0x3201;
     return frameAround(code, countedField(bytes, fixed ? ssidField : bytes.size()));
 }
 
-std::optional<QByteArray> ItemCodec::integerAndTextFrame(quint16 code, int value,
+std::optional<QByteArray> ItemCodec::integerAndTextFrame(ItemCode code, int value,
                                                          const QString &text) {
     const auto field = countedField(text.toUtf8(), wepKeyField);
     if (!field) return {};
     return frameAround(code, word(value) + *field);
 }
 
-std::optional<QByteArray> ItemCodec::bytesFrame(quint16 code, const QByteArray &bytes) {
+std::optional<QByteArray> ItemCodec::bytesFrame(ItemCode code, const QByteArray &bytes) {
     return frameAround(code, countedField(bytes, ssidField));
 }
 
-std::optional<QByteArray> ItemCodec::integerAndAddressesFrame(quint16 code, int value,
+std::optional<QByteArray> ItemCodec::integerAndAddressesFrame(ItemCode code, int value,
                                                               const QStringList &first,
                                                               const QStringList &second,
                                                               const QStringList &third) {

@@ -3,9 +3,9 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
-#include <QtGlobal>
 #include <optional>
 
+#include "settings/Codes.h"
 #include "settings/SettingRecord.h"
 
 // The layouts of the setting items, as pure functions on bytes: without printer, record or flag.
@@ -21,21 +21,21 @@ namespace ItemCodec {
 QString textOf(const QByteArray &bytes);
 
 // Text from offset 9; its count of bytes is the frame's length (offsets 3-4) minus 6.
-std::optional<QString> text(const QByteArray &reply, quint16 code);
+std::optional<QString> text(const QByteArray &reply, ItemCode code);
 // Bytes 9-10, 0..65535.
-std::optional<int> integer(const QByteArray &reply, quint16 code);
+std::optional<int> integer(const QByteArray &reply, ItemCode code);
 // Bytes 9-10 count the text bytes from offset 11.
-std::optional<QString> textWithLength(const QByteArray &reply, quint16 code);
+std::optional<QString> textWithLength(const QByteArray &reply, ItemCode code);
 // Six bytes from offset 9 as 12 upper-case hexadecimal digits.
-std::optional<QString> macAddress(const QByteArray &reply, quint16 code);
+std::optional<QString> macAddress(const QByteArray &reply, ItemCode code);
 // The nibbles of bytes 10 and 9, high byte first, as "H.HHH".
-std::optional<QString> softwareVersion(const QByteArray &reply, quint16 code);
+std::optional<QString> softwareVersion(const QByteArray &reply, ItemCode code);
 // Addresses of four octets each from offset 9, under the keys of the items 0x2002, 0x3119, 0x3204
 // and 0x3205; nothing for another item.
-std::optional<CategoryDictionary> addresses(const QByteArray &reply, quint16 code);
+std::optional<CategoryDictionary> addresses(const QByteArray &reply, ItemCode code);
 // The integer of bytes 9-10 and three addresses from offset 11, under the keys of the items 0x2001
 // and 0x3108; nothing for another item.
-std::optional<CategoryDictionary> integerAndAddresses(const QByteArray &reply, quint16 code);
+std::optional<CategoryDictionary> integerAndAddresses(const QByteArray &reply, ItemCode code);
 
 // Item 0x3120: how far the printer's search for networks is.
 struct ScanStatus {
@@ -44,29 +44,29 @@ struct ScanStatus {
 };
 std::optional<ScanStatus> scanStatus(const QByteArray &reply);
 // Items 0x3121 to 0x3124: the networks of one block, in its order, without those that have no name.
-std::optional<QList<SSIDEntry>> networks(const QByteArray &reply, quint16 code);
+std::optional<QList<SSIDEntry>> networks(const QByteArray &reply, ItemCode code);
 
 // The result code 0..65535 of a "CR" reply to the setting frame of `code`, 0 = accepted; -1 for
 // anything else.
-int result(const QByteArray &reply, quint16 code);
+int result(const QByteArray &reply, ItemCode code);
 
 // --- Setting frames -----------------------------------------------------------------------------
 // Each gives nothing when the value cannot be written: the reasons stand at each. Texts are sent in
 // UTF-8 and their lengths count its bytes.
 
 // The text and one 0x00. Not empty, but for item 0x1003.
-std::optional<QByteArray> textFrame(quint16 code, const QString &text);
+std::optional<QByteArray> textFrame(ItemCode code, const QString &text);
 // The low 16 bits.
-QByteArray integerFrame(quint16 code, int value);
+QByteArray integerFrame(ItemCode code, int value);
 // The count and the text; items 0x3104 and 0x3201 have a zero-filled field of 32 bytes. Not empty,
 // not longer than the field.
-std::optional<QByteArray> textWithLengthFrame(quint16 code, const QString &text);
+std::optional<QByteArray> textWithLengthFrame(ItemCode code, const QString &text);
 // The integer, the count, and the text in a zero-filled field of 26 bytes. Not empty, not longer.
-std::optional<QByteArray> integerAndTextFrame(quint16 code, int value, const QString &text);
+std::optional<QByteArray> integerAndTextFrame(ItemCode code, int value, const QString &text);
 // The count, and the bytes in a zero-filled field of 32 bytes. Not empty, not longer.
-std::optional<QByteArray> bytesFrame(quint16 code, const QByteArray &bytes);
+std::optional<QByteArray> bytesFrame(ItemCode code, const QByteArray &bytes);
 // The integer and three addresses of exactly four octets each, of which the low 8 bits count.
-std::optional<QByteArray> integerAndAddressesFrame(quint16 code, int value,
+std::optional<QByteArray> integerAndAddressesFrame(ItemCode code, int value,
                                                    const QStringList &first,
                                                    const QStringList &second,
                                                    const QStringList &third);
