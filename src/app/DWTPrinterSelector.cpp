@@ -3,7 +3,6 @@
 #include "app/MainMenu.h"
 #include "mainwindow/WPSTexts.h"
 #include "platform/core/Texts.h"
-#include "platform/ui/Modal.h"
 #include "platform/ui/WaitSheet.h"
 
 namespace {
@@ -208,7 +207,6 @@ void DWTPrinterSelector::DWT_ShowMainSettingWindow() {
     if (row < 0) return;
     msw_Object = make<DWTMainSettingWindow>();
     if (!msw_Object) return;
-    Modal::stop();
     bool opened = false;
     {
         const WaitSheet waiting(window_Wait, window_PrinterSelector, progress_Wait);
@@ -311,7 +309,6 @@ void DWTPrinterSelector::push_PrinterListOK() {
 }
 
 void DWTPrinterSelector::push_PrinterListReload() {
-    Modal::stop();
     const WaitSheet waiting(window_Wait, window_PrinterSelector, progress_Wait);
     DWT_UpdatePrinterList();
     tableView_Printerlist->deselectAll();

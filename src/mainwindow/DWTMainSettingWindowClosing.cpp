@@ -63,7 +63,7 @@ void DWTMainSettingWindow::push_SendChangeCheckNoReflect() {
 }
 
 void DWTMainSettingWindow::push_SendChangeCheckCancel() {
-    Modal::stop(stay);
+    Modal::stop(window_SendData, stay);
     window_SendData->hide();
 }
 
@@ -71,7 +71,6 @@ void DWTMainSettingWindow::push_MainNewSetting() {
     if (bool_usbPrinter && bool_GetDataSuccess) {
         if (const auto shown = MSW_SelectedUIString())
             dictionary_ViewManagement[*shown]->itemSetToDataManager();
-        Modal::stop();
         if (!dataManager_Object->isEqualToSaveData()) {
             openSendDialog(DWT_View_Key_Send_UpdateCheck);
             return;
@@ -90,7 +89,6 @@ void DWTMainSettingWindow::push_UpdateChangeCheckCancel() {
 }
 
 void DWTMainSettingWindow::readAgain() {
-    Modal::stop();
     const WaitSheet waiting = wait(window_Main);
     initializeData(std::nullopt);
     MSW_ClearTextField();

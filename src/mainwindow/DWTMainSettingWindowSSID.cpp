@@ -43,7 +43,6 @@ void DWTMainSettingWindow::push_InfrastructureSelectSSID() {
                           "DWT_Localize_Alert_InfoText_SSIDList_CommunicateModeErr");
         return;
     }
-    Modal::stop();
     {
         const WaitSheet waiting = wait(window_Main);
         array_SSIDList = dataManager_Object->SSIDList().value_or(QList<SSIDEntry>());
@@ -56,7 +55,6 @@ void DWTMainSettingWindow::push_InfrastructureSelectSSID() {
     tableView_SelectSSIDWindow->deselectAll();
     tableView_SelectSSIDWindow->reloadData();
     button_SelectSSIDWindowOK->setEnabled(false);
-    Modal::stop();
     tableView_SelectSSIDWindow->setFocus();
     Modal::run(window_SelectSSID);
 }
@@ -100,7 +98,7 @@ void DWTMainSettingWindow::push_SelectSSIDWindowOK() {
 }
 
 void DWTMainSettingWindow::push_SelectSSIDWindowCancel() {
-    Modal::stop();
+    Modal::stop(window_SelectSSID);
     window_SelectSSID->hide();
 }
 
@@ -110,12 +108,11 @@ void DWTMainSettingWindow::MSW_SetSelectSSID() {
     if (row < 0) return;
     infrastructure_ViewObject->showSSIDFromSelectSSID(array_SSIDList.at(row));
     MSW_SendButtonEnable();
-    Modal::stop();
+    Modal::stop(window_SelectSSID);
     window_SelectSSID->hide();
 }
 
 void DWTMainSettingWindow::push_InfrastructureWPSGuide() {
-    Modal::stop();
     MSW_WPSUISelector(DWT_View_Key_Main_WPS1);
     Modal::run(window_WPSGuide);
 }
@@ -143,6 +140,6 @@ void DWTMainSettingWindow::push_WPSGuide2Exit() {
 }
 
 void DWTMainSettingWindow::closeWPSGuide() {
-    Modal::stop();
+    Modal::stop(window_WPSGuide);
     window_WPSGuide->hide();
 }

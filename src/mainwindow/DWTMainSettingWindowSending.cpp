@@ -98,13 +98,12 @@ void DWTMainSettingWindow::MSW_SendUISelector(const QString &viewKey) {
 }
 
 int DWTMainSettingWindow::openSendDialog(const QString &viewKey) {
-    Modal::stop();
     MSW_SendUISelector(viewKey);
     return Modal::run(window_SendData);
 }
 
 void DWTMainSettingWindow::closeSendDialog() {
-    Modal::stop();
+    Modal::stop(window_SendData);
     window_SendData->hide();
 }
 
@@ -159,7 +158,6 @@ void DWTMainSettingWindow::push_InfrastructureConnect() {
 template <typename Page>
 void DWTMainSettingWindow::checkConnection(Page &page, const QString &settingKey,
                                            const QString &addressKey) {
-    Modal::stop();
     const WaitSheet waiting = wait(window_Main);
     if (!dataManager_Object) dataManager_Object = make<DWTDataManager>();
     QStringList address = page.getipAddressArray();

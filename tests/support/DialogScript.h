@@ -97,7 +97,7 @@ class DialogScript : public QObject {
                           << " while waiting for "
                           << (isDone() ? "nothing" : qPrintable(m_steps.front().view));
             m_steps.clear();
-            Modal::stop();
+            Modal::stop(window);
             window->hide();
         }
     }
