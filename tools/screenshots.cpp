@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QProgressBar>
 
 #include "app/DWTPrinterSelector.h"
 #include "link/Binding.h"

@@ -102,7 +102,7 @@ class Looks : public testing::TestWithParam<const char *> {
             look(walk.main());
             QTest::keyClick(outline, Qt::Key_Down);
         }
-        for (const char *container : {"view_SendData", "WPSViews"}) {
+        for (const char *container : {"view_SendData", "view_WPSGuide"}) {
             QWidget *const dialog = controlOf(walk.main(), container)->window();
             dialog->show();
             showEach(dialog, container, look);

@@ -3,6 +3,7 @@
 #include "link/Binding.h"
 #include "mainwindow/DWTMainSettingWindow.h"
 #include "platform/core/Texts.h"
+#include "platform/ui/TableView.h"
 #include "support/Catalogues.h"
 #include "support/DialogScript.h"
 

@@ -10,7 +10,7 @@ namespace {
 const char *const passwordProfile = R"({"password": "open123"})";
 const char *const gone = R"({"refuseConnection": true})";
 
-class SendDialog : public PrinterWindow {
+class Sending : public PrinterWindow {
   protected:
     QByteArray bonjour() { return served->printer().item(0x1004); }
     void expectUnsent() {
@@ -28,7 +28,7 @@ class SendDialog : public PrinterWindow {
     }
 };
 
-TEST_F(SendDialog, WithoutAPasswordOneConfirmationSendsEverything) {
+TEST_F(Sending, WithoutAPasswordOneConfirmationSendsEverything) {
     open(R"({"items": {"0x3102": 3, "0x3103": 3}})");
     type("textField_NetworkBonjour", "new-name");
     choose("Infrastructure");
@@ -51,7 +51,7 @@ TEST_F(SendDialog, WithoutAPasswordOneConfirmationSendsEverything) {
     EXPECT_FALSE(isOpen()) << "nothing was left unsent";
 }
 
-TEST_F(SendDialog, TheLoginIsAskedForUntilItIsRightOrCancelled) {
+TEST_F(Sending, TheLoginIsAskedForUntilItIsRightOrCancelled) {
     open(passwordProfile);
     type("textField_NetworkBonjour", "new-name");
     warned().on("view_SendLogin", "button_SendLoginCancel");
@@ -87,7 +87,7 @@ TEST_F(SendDialog, TheLoginIsAskedForUntilItIsRightOrCancelled) {
     EXPECT_EQ(bonjour(), QByteArray("new-name"));
 }
 
-TEST_F(SendDialog, WrongInputOnTwoPagesShowsBothAlertsAndSendsNothing) {
+TEST_F(Sending, WrongInputOnTwoPagesShowsBothAlertsAndSendsNothing) {
     open("{}");
     type("textField_NetworkBonjour", "new name");
     choose("Wired network");
@@ -100,7 +100,7 @@ TEST_F(SendDialog, WrongInputOnTwoPagesShowsBothAlertsAndSendsNothing) {
     EXPECT_TRUE(served->printer().log().empty());
 }
 
-TEST_F(SendDialog, APrinterUnpluggedBeforeTheSendLosesNothing) {
+TEST_F(Sending, APrinterUnpluggedBeforeTheSendLosesNothing) {
     open(passwordProfile);
     type("textField_NetworkBonjour", "new-name");
     setFaults(gone);
@@ -139,7 +139,7 @@ TEST_F(SendDialog, APrinterUnpluggedBeforeTheSendLosesNothing) {
     EXPECT_EQ(bonjour(), QByteArray("new-name"));
 }
 
-TEST_F(SendDialog, APrinterUnpluggedDuringTheSendKeepsTheTypedValues) {
+TEST_F(Sending, APrinterUnpluggedDuringTheSendKeepsTheTypedValues) {
     for (const int frames : {1, 2, 3, 6, 9, 12}) {
         SCOPED_TRACE(frames);
         open("{}");
@@ -165,7 +165,7 @@ TEST_F(SendDialog, APrinterUnpluggedDuringTheSendKeepsTheTypedValues) {
     }
 }
 
-TEST_F(SendDialog, EscapeCancelsWhereTheViewCanBeCancelled) {
+TEST_F(Sending, EscapeCancelsWhereTheViewCanBeCancelled) {
     open(passwordProfile);
     type("textField_NetworkBonjour", "new-name");
     const auto close = [](QWidget *window) { window->close(); };
@@ -201,7 +201,7 @@ TEST_F(SendDialog, EscapeCancelsWhereTheViewCanBeCancelled) {
     EXPECT_EQ(bonjour(), QByteArray("new-name"));
 }
 
-TEST_F(SendDialog, TheConnectionTestAsksTheAddressInUse) {
+TEST_F(Sending, TheConnectionTestAsksTheAddressInUse) {
     open(R"({"items": {"0x2001": {"setting": 0, "address": "10.9.9.9", "mask": "255.0.0.0",
          "gateway": "10.0.0.1"}}})");
     const auto shown = [this](const char *name) { return control<QLabel>(name)->text(); };
