@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include <QJsonDocument>
 
 #include "support/Profiles.h"
