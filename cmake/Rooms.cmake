@@ -25,7 +25,8 @@ endfunction()
 function(nst_test room)
   cmake_parse_arguments(TEST "" "" "SOURCES;USES" ${ARGN})
   add_executable(${room}-tests ${TEST_SOURCES})
-  target_include_directories(${room}-tests PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_include_directories(${room}-tests PRIVATE ${PROJECT_SOURCE_DIR}/tests
+                             ${PROJECT_SOURCE_DIR}/tools)
   target_link_libraries(${room}-tests PRIVATE ${room} ${TEST_USES} GTest::gtest GTest::gtest_main Qt6::Test)
   nst_flags(${room}-tests)
   gtest_discover_tests(${room}-tests DISCOVERY_TIMEOUT 60

@@ -1,10 +1,9 @@
 #include "app/DWTPrinterSelector.h"
 
 #include "app/MainMenu.h"
-#include "mainwindow/WPSTexts.h"
+#include "mainwindow/WPSGuide.h"
+#include "mainwindow/WaitWindow.h"
 #include "platform/core/Texts.h"
-#include "platform/ui/Modal.h"
-#include "platform/ui/WaitSheet.h"
 
 namespace {
 
@@ -36,7 +35,7 @@ bool DWTPrinterSelector::init() {
 }
 
 bool DWTPrinterSelector::DWT_Init() {
-    dictionary_ViewManagement.clear();
+    dictionary_ViewManagement.reset();
     nsObjectRelease(ndm_Object);
     array_PrinterList.clear();
     nsObjectRelease(msw_Object);
@@ -50,7 +49,7 @@ void DWTPrinterSelector::DWT_Dealloc() {
         tableView_Printerlist->setTableDelegate(nullptr);
         tableView_Printerlist->setTableDataSource(nullptr);
     }
-    dictionary_ViewManagement.clear();
+    dictionary_ViewManagement.reset();
     nsObjectRelease(ndm_Object);
     array_PrinterList.clear();
     nsObjectRelease(msw_Object);
@@ -68,22 +67,17 @@ void DWTPrinterSelector::awakeFromNib() {
 void DWTPrinterSelector::DWT_UIInitialize() {
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/network-setting-tool-64.png")));
     window_PrinterSelector = new Window;
-    Ui::PrinterSelector::setupUi(window_PrinterSelector);
-    Ui::WPSViews::setupUi(view_PrinterSelector);
-    window_Wait = new QWidget(window_PrinterSelector, Qt::Dialog);
-    Ui::WaitWindow::setupUi(window_Wait);
-    dictionary_ViewManagement = {{DWT_View_Key_ToolPerform, view_ToolPerform},
-                                 {DWT_View_Key_ChooseConnect, view_ChooseConnect},
-                                 {DWT_View_Key_USBConnect, view_USBConnect},
-                                 {DWT_View_Key_WPS1, view_WPS1},
-                                 {DWT_View_Key_WPS2, view_WPS2},
-                                 {DWT_View_Key_Printerlist, view_Printerlist}};
-    m_views = std::make_unique<ViewStack>(view_PrinterSelector);
-    for (const QString &key :
-         {DWT_View_Key_ToolPerform, DWT_View_Key_ChooseConnect, DWT_View_Key_USBConnect,
-          DWT_View_Key_WPS1, DWT_View_Key_WPS2, DWT_View_Key_Printerlist})
-        m_views->add(key, dictionary_ViewManagement[key]);
-    setTexts();
+    setupUi(window_PrinterSelector);
+    auto *const guide = new WPSGuide(view_PrinterSelector);
+    window_Wait = new WaitWindow(window_PrinterSelector);
+    dictionary_ViewManagement = std::make_unique<ViewStack>(view_PrinterSelector);
+    ViewStack &views = *dictionary_ViewManagement;
+    views.add(DWT_View_Key_ToolPerform, view_ToolPerform);
+    views.add(DWT_View_Key_ChooseConnect, view_ChooseConnect);
+    views.add(DWT_View_Key_USBConnect, view_USBConnect);
+    views.add(DWT_View_Key_WPS1, guide->firstView());
+    views.add(DWT_View_Key_WPS2, guide->secondView());
+    views.add(DWT_View_Key_Printerlist, view_Printerlist);
     m_menu = makeMainMenu(window_PrinterSelector);
     window_PrinterSelector->layout()->setMenuBar(m_menu);
     localizeMenu(m_menu);
@@ -96,11 +90,9 @@ void DWTPrinterSelector::DWT_UIInitialize() {
     table.setHeaderTitle(
         _SERVICE_NAME_,
         localized(QStringLiteral("DWT_Localize_PrinterList_TableView_Service_Column")));
-    table.setAccessibleName(
-        localized(QStringLiteral("DWT_Localize_PrinterList_TableView_Name_Column")));
     table.setTableDataSource(this);
     table.setTableDelegate(this);
-    connectButtons();
+    connectButtons(guide);
     window_PrinterSelector->setShouldClose([this] {
         windowWillClose();
         return true;
@@ -108,29 +100,7 @@ void DWTPrinterSelector::DWT_UIInitialize() {
     window_PrinterSelector->fitToScreen();
 }
 
-void DWTPrinterSelector::setTexts() {
-    const auto text = [](const char *key) { return localized(QLatin1String(key)); };
-    textField_ToolPerform->setText(text("DWT_Localize_ToolPerform_TextField"));
-    button_ToolPerformOK->setText(text("DWT_Localize_ToolPerform_Button_OK_Key"));
-    button_ToolPerformEXIT->setText(text("DWT_Localize_ToolPerform_Button_Exit_Key"));
-    textField_ChooseConnect->setText(text("DWT_Localize_ChooseConnect_TextField"));
-    buttonCell_WSPConnect->setText(text("DWT_Localize_ChooseConnect_Matrix_WSP_Key"));
-    buttonCell_USBConnect->setText(text("DWT_Localize_ChooseConnect_Matrix_USB_Key"));
-    button_ChooseConnectNext->setText(text("DWT_Localize_ChooseConnect_Button_Next_Key"));
-    button_ChooseConnectEXIT->setText(text("DWT_Localize_ChooseConnect_Button_Exit_Key"));
-    setWPSTexts(*this);
-    textField_USBConnect->setText(text("DWT_Localize_USBConnect_TextField"));
-    button_USBConnectNext->setText(text("DWT_Localize_USBConnect_Button_Next_Key"));
-    textField_Printerlist->setText(text("DWT_Localize_PrinterList_TextField"));
-    button_PrinterlistOK->setText(text("DWT_Localize_PrinterList_Button_OK_Key"));
-    button_PrinterlistReload->setText(text("DWT_Localize_PrinterList_Button_Reload_Key"));
-    button_PrinterlistEXIT->setText(text("DWT_Localize_PrinterList_Button_Exit_Key"));
-    textField_WaitMassage->setText(text("DWT_Localize_Wait_TextField"));
-    window_PrinterSelector->setWindowTitle(text("DWT_Localize_App_Name"));
-    window_Wait->setWindowTitle(text("DWT_Localize_App_Name"));
-}
-
-void DWTPrinterSelector::connectButtons() {
+void DWTPrinterSelector::connectButtons(const WPSGuide *guide) {
     using Self = DWTPrinterSelector;
     const auto pushes = [this](QAbstractButton *button, void (Self::*operation)()) {
         connect(button, &QAbstractButton::clicked, this, operation);
@@ -140,12 +110,12 @@ void DWTPrinterSelector::connectButtons() {
     pushes(button_ChooseConnectNext, &Self::push_ChooseConnectNext);
     pushes(button_ChooseConnectEXIT, &Self::push_ChooseConnectExit);
     pushes(button_USBConnectNext, &Self::push_USBConnectNext);
-    pushes(button_WPS1Next, &Self::push_WPSSetting1Next);
-    pushes(button_WPS1Back, &Self::push_WPSSetting1Back);
-    pushes(button_WPS1EXIT, &Self::push_WPSSetting1Exit);
-    pushes(button_WPS2Next, &Self::push_WPSSetting2Next);
-    pushes(button_WPS2Back, &Self::push_WPSSetting2Back);
-    pushes(button_WPS2EXIT, &Self::push_WPSSetting2Exit);
+    connect(guide, &WPSGuide::next1, this, &Self::push_WPSSetting1Next);
+    connect(guide, &WPSGuide::back1, this, &Self::push_WPSSetting1Back);
+    connect(guide, &WPSGuide::exit1, this, &Self::push_WPSSetting1Exit);
+    connect(guide, &WPSGuide::next2, this, &Self::push_WPSSetting2Next);
+    connect(guide, &WPSGuide::back2, this, &Self::push_WPSSetting2Back);
+    connect(guide, &WPSGuide::exit2, this, &Self::push_WPSSetting2Exit);
     pushes(button_PrinterlistOK, &Self::push_PrinterListOK);
     pushes(button_PrinterlistReload, &Self::push_PrinterListReload);
     pushes(button_PrinterlistEXIT, &Self::push_PrinterListExit);
@@ -172,9 +142,8 @@ int DWTPrinterSelector::applicationShouldTerminate() {
 }
 
 void DWTPrinterSelector::DWT_UISelector(const QString &viewKey) {
-    if (viewKey == DWT_View_Key_WPS2) setWPSPicture(*this);
-    m_views->select(viewKey);
-    m_views->focusFirstControl();
+    dictionary_ViewManagement->select(viewKey);
+    dictionary_ViewManagement->focusFirstControl();
     if (viewKey != DWT_View_Key_Printerlist) return;
     DWT_UpdatePrinterList();
     button_PrinterlistOK->setEnabled(false);
@@ -208,10 +177,9 @@ void DWTPrinterSelector::DWT_ShowMainSettingWindow() {
     if (row < 0) return;
     msw_Object = make<DWTMainSettingWindow>();
     if (!msw_Object) return;
-    Modal::stop();
     bool opened = false;
     {
-        const WaitSheet waiting(window_Wait, window_PrinterSelector, progress_Wait);
+        const WaitSheet waiting = window_Wait->over(window_PrinterSelector);
         msw_Object->showWindow();
         Window *const opening = msw_Object->window();
         opening->layout()->setMenuBar(sharedMainMenu(m_menu, opening));
@@ -311,8 +279,7 @@ void DWTPrinterSelector::push_PrinterListOK() {
 }
 
 void DWTPrinterSelector::push_PrinterListReload() {
-    Modal::stop();
-    const WaitSheet waiting(window_Wait, window_PrinterSelector, progress_Wait);
+    const WaitSheet waiting = window_Wait->over(window_PrinterSelector);
     DWT_UpdatePrinterList();
     tableView_Printerlist->deselectAll();
     button_PrinterlistOK->setEnabled(false);

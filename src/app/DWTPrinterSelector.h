@@ -11,6 +11,9 @@
 #include "platform/ui/Window.h"
 #include "ui_PrinterSelector.h"
 
+class WPSGuide;
+class WaitWindow;
+
 // The application's delegate and its selection window: a small wizard that guides the user in
 // connecting a printer, and the list from which one is picked. It opens the main setting window of
 // the picked printer, hides meanwhile, and lives as long as the application. Main thread only.
@@ -18,9 +21,7 @@ class DWTPrinterSelector : public DWTBaseClass,
                            public ApplicationDelegate,
                            public TableDataSource,
                            public TableDelegate,
-                           private Ui::PrinterSelector,
-                           private Ui::WPSViews,
-                           private Ui::WaitWindow {
+                           private Ui::PrinterSelector {
   public:
     ~DWTPrinterSelector() override;
     bool init() override;
@@ -49,8 +50,7 @@ class DWTPrinterSelector : public DWTBaseClass,
     bool DWT_Init();
     void DWT_Dealloc();
     void DWT_UIInitialize();
-    void setTexts();
-    void connectButtons();
+    void connectButtons(const WPSGuide *guide);
     // Shows the view and hides the others; the printer list is fetched anew.
     void DWT_UISelector(const QString &viewKey);
     void DWT_UpdatePrinterList();
@@ -76,10 +76,9 @@ class DWTPrinterSelector : public DWTBaseClass,
     void push_PrinterListExit();
 
     QPointer<Window> window_PrinterSelector;
-    QPointer<QWidget> window_Wait;
+    WaitWindow *window_Wait = nullptr;  // belongs to the selection window
     QMenuBar *m_menu = nullptr;
-    std::unique_ptr<ViewStack> m_views;
-    QMap<QString, QWidget *> dictionary_ViewManagement;
+    std::unique_ptr<ViewStack> dictionary_ViewManagement;
     std::shared_ptr<DWTDataManager> ndm_Object;
     QList<PrinterEntry> array_PrinterList;
     std::shared_ptr<DWTMainSettingWindow> msw_Object;

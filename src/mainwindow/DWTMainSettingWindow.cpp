@@ -1,11 +1,12 @@
 #include "mainwindow/DWTMainSettingWindow.h"
 
-#include "mainwindow/ViewKeys.h"
-#include "mainwindow/WPSTexts.h"
+#include "mainwindow/NetworkList.h"
+#include "mainwindow/SendDialog.h"
+#include "mainwindow/WPSGuideWindow.h"
+#include "mainwindow/WaitWindow.h"
 #include "platform/core/PropertyList.h"
 #include "platform/core/Texts.h"
 #include "platform/ui/Alert.h"
-#include "platform/ui/FieldLooks.h"
 
 namespace {
 
@@ -37,15 +38,10 @@ void DWTMainSettingWindow::MSW_Dealloc() {
     if (window_Main) {
         outlineView_Main->setOutlineDelegate(nullptr);
         outlineView_Main->setOutlineDataSource(nullptr);
-        tableView_SelectSSIDWindow->setTableDelegate(nullptr);
-        tableView_SelectSSIDWindow->setTableDataSource(nullptr);
     }
     dictionary_ViewManagement.clear();
-    dictionary_SendViewManagement.clear();
-    dictionary_WPSViewManagement.clear();
     dictionary_OutlineView.clear();
     DWTBaseClass::BaseClass()->nsObjectRelease(dataManager_Object);
-    array_SSIDList.clear();
     dictionary_PrinterInfo.clear();
     dictionary_PrinterStatusTable.clear();
     delete window_Main;  // and every window that belongs to it
@@ -58,19 +54,10 @@ void DWTMainSettingWindow::showWindow() {
 void DWTMainSettingWindow::awakeFromNib() {
     MSW_UIInitialize();
     auto &center = NotificationCenter::shared();
-    using Self = DWTMainSettingWindow;
-    const auto observe = [&](const QString &name, auto operation) {
-        m_observers.push_back(center.observe(
-            name, [this, operation](const Notification &n) { (this->*operation)(n); }));
-    };
-    observe(DWT_DataSend_Start_Message, &Self::MSW_DataSendStart);
-    observe(DWT_DataSend_Stop_Message, &Self::MSW_DataSendStop);
-    observe(DWT_DataSend_Progress_Message, &Self::MSW_DataSendProgress);
     m_observers.push_back(center.observe(DWT_MainDialog_SendOK_Message,
                                          [this](const Notification &) { MSW_SendButtonEnable(); }));
     m_observers.push_back(center.observe(
         DWT_MainDialog_SendNG_Message, [this](const Notification &) { MSW_SendButtonDisable(); }));
-    connect(tableView_SelectSSIDWindow, &TableView::doubleAction, this, &Self::MSW_DoubleAction);
 }
 
 void DWTMainSettingWindow::MSW_UIInitialize() {
@@ -78,7 +65,6 @@ void DWTMainSettingWindow::MSW_UIInitialize() {
     Ui::MainWindow::setupUi(window_Main);
     makePages();
     makeDialogs();
-    setTexts();
     loadOutline();
     connectButtons();
     button_MainSend->setEnabled(false);
@@ -124,103 +110,15 @@ void DWTMainSettingWindow::makePages() {
 }
 
 void DWTMainSettingWindow::makeDialogs() {
-    window_SendData = new ModalWindow(window_Main);
-    Ui::SendDialog::setupUi(window_SendData);
-    dictionary_SendViewManagement = {{DWT_View_Key_Send_ChangeCheck, view_SendChangeCheck},
-                                     {DWT_View_Key_Send_UpdateCheck, view_UpdateChangeCheck},
-                                     {DWT_View_Key_Send_Confirm, view_SendConfirm},
-                                     {DWT_View_Key_Send_Progress, view_SendProgress},
-                                     {DWT_View_Key_Send_End, view_SendEnd},
-                                     {DWT_View_Key_Send_Login, view_SendLogin},
-                                     {DWT_View_Key_Send_LoginError, view_SendLoginError},
-                                     {DWT_View_Key_Send_ConnectError, view_SendConnectError}};
-    m_sendViews = std::make_unique<ViewStack>(view_SendData);
-    for (auto view = dictionary_SendViewManagement.cbegin();
-         view != dictionary_SendViewManagement.cend(); ++view)
-        m_sendViews->add(view.key(), view.value());
-    fitWidth(textField_Password, QStringLiteral("00000000"));
-
-    window_SelectSSID = new ModalWindow(window_Main);
-    Ui::SelectSSID::setupUi(window_SelectSSID);
-    for (const char *column : {"SSID", "Security", "Intensity"})
-        tableView_SelectSSIDWindow->addColumn(QLatin1String(column));
-    tableView_SelectSSIDWindow->setTableDataSource(this);
-    tableView_SelectSSIDWindow->setTableDelegate(this);
-
-    window_WPSGuide = new ModalWindow(window_Main);
-    view_WPSGuide = new QWidget;
-    Ui::WPSViews::setupUi(view_WPSGuide);
-    auto *guide = new QVBoxLayout(window_WPSGuide);
-    guide->addWidget(view_WPSGuide);
-    button_WPS1Back->hide();  // the guide leads forward only
-    button_WPS2Back->hide();
-    dictionary_WPSViewManagement = {{DWT_View_Key_Main_WPS1, view_WPS1},
-                                    {DWT_View_Key_Main_WPS2, view_WPS2}};
-    m_wpsViews = std::make_unique<ViewStack>(view_WPSGuide);
-    for (auto view = dictionary_WPSViewManagement.cbegin();
-         view != dictionary_WPSViewManagement.cend(); ++view)
-        m_wpsViews->add(view.key(), view.value());
-
-    window_Wait = new QWidget(window_Main, Qt::Dialog);
-    Ui::WaitWindow::setupUi(window_Wait);
-}
-
-void DWTMainSettingWindow::setTexts() {
-    button_MainSend->setText(text("DWT_Localize_MainDialog_Button_Send"));
-    button_MainCancel->setText(text("DWT_Localize_MainDialog_Button_Cancel"));
-    button_MainNewSetting->setText(text("DWT_Localize_MainDialog_Button_NewSetting"));
-    button_MainHelp->setText(text("DWT_Localize_MainDialog_Button_Help"));
-    button_MainHelp->hide();  // neither of the two does anything
-    checkbox_MainSetupIsChanged->hide();
-    textField_Label_SelectPrinterName->setText(
-        text("DWT_Localize_MainDialog_Text_SelectPrinter_Label"));
-    textField_WaitMassage->setText(text("DWT_Localize_Wait_TextField"));
-
-    textField_SelectSSIDWindow->setText(text("DWT_Localize_SSIDList_TextField"));
-    TableView &networks = *tableView_SelectSSIDWindow;
-    networks.setAccessibleName(text("DWT_Localize_SSIDList_TableView_Column_SSID"));
-    networks.setHeaderTitle(QStringLiteral("SSID"),
-                            text("DWT_Localize_SSIDList_TableView_Column_SSID"));
-    networks.setHeaderTitle(QStringLiteral("Security"),
-                            text("DWT_Localize_SSIDList_TableView_Column_Security"));
-    networks.setHeaderTitle(QStringLiteral("Intensity"),
-                            text("DWT_Localize_SSIDList_TableView_Column_Intensity"));
-    button_SelectSSIDWindowOK->setText(text("DWT_Localize_SSIDList_Button_OK_Key"));
-    button_SelectSSIDWindowCancel->setText(text("DWT_Localize_SSIDList_Button_Cancel_Key"));
-    setWPSTexts(*this);
-
-    textField_SendChangeCheck->setText(text("DWT_Localize_Send_ChangeCheck_TextField_Cancel"));
-    button_SendChangeCheckReflect->setText(text("DWT_Localize_Send_ChangeCheck_Button_Reflect"));
-    button_SendChangeCheckNoReflect->setText(
-        text("DWT_Localize_Send_ChangeCheck_Button_NoReflect"));
-    button_SendChangeCheckCancel->setText(text("DWT_Localize_Send_ChangeCheck_Button_Cancel"));
-    textField_UpdateChangeCheck->setText(text("DWT_Localize_Send_UpdateCheck_TextField_UpDate"));
-    button_UpdateChangeCheckOK->setText(text("DWT_Localize_Send_UpdateCheck_Button_OK"));
-    button_UpdateChangeCheckCancel->setText(text("DWT_Localize_Send_UpdateCheck_Button_Cancel"));
-    textField_SendConfirm->setText(text("DWT_Localize_Send_Confirm_TextField"));
-    button_SendConfirmTransmission->setText(text("DWT_Localize_Send_Confirm_Button_Send"));
-    button_SendConfirmCancel->setText(text("DWT_Localize_Send_Confirm_Button_Cancel"));
-    textField_SendProgress->setText(text("DWT_Localize_Send_Progress_TextField"));
-    textField_SendEnd->setText(text("DWT_Localize_Send_End_TextField"));
-    button_SendEndOK->setText(text("DWT_Localize_Send_End_Button_OK"));
-    textField_SendLogin->setText(text("DWT_Localize_Send_Login_TextField"));
-    textField_Label_Password->setText(text("DWT_Localize_Send_Login_Password_Label"));
-    button_SendLoginOK->setText(text("DWT_Localize_Send_Login_Button_OK"));
-    button_SendLoginCancel->setText(text("DWT_Localize_Send_Login_Button_Cancel"));
-    textField_SendLoginError->setText(text("DWT_Localize_Send_LoginErr_TextField"));
-    button_SendLoginErrorOK->setText(text("DWT_Localize_Send_LoginErr_Button_OK"));
-    textField_SendConnectError->setText(text("DWT_Localize_Send_ConnectErr_TextField"));
-    button_SendConnectErrorOK->setText(text("DWT_Localize_Send_ConnectErr_Button_OK"));
-
-    for (QWidget *window : std::initializer_list<QWidget *>{
-             window_Main, window_SelectSSID, window_SendData, window_WPSGuide, window_Wait})
-        window->setWindowTitle(text("DWT_Localize_App_Name"));
+    window_SendData = new SendDialog(window_Main);
+    window_SelectSSID = new NetworkList(window_Main);
+    window_WPSGuide = new WPSGuideWindow(window_Main);
+    window_Wait = new WaitWindow(window_Main);
 }
 
 void DWTMainSettingWindow::loadOutline() {
     dictionary_OutlineView =
         PropertyList::dictionary(QStringLiteral("OutlineData"), QStringLiteral("plist"));
-    outlineView_Main->setAccessibleName(text("DWT_Localize_Outline_Name"));
     outlineView_Main->setColumn(QStringLiteral("name"));
     outlineView_Main->setOutlineDataSource(this);
     outlineView_Main->setOutlineDelegate(this);
@@ -240,24 +138,15 @@ void DWTMainSettingWindow::connectButtons() {
     pushes(button_MainNewSetting, &Self::push_MainNewSetting);
     pushes(button_MainHelp, &Self::push_MainHelp);
     pushes(checkbox_MainSetupIsChanged, &Self::push_MainSetupIsChanged);
-    pushes(button_SendChangeCheckReflect, &Self::push_SendChangeCheckReflect);
-    pushes(button_SendChangeCheckNoReflect, &Self::push_SendChangeCheckNoReflect);
-    pushes(button_SendChangeCheckCancel, &Self::push_SendChangeCheckCancel);
-    pushes(button_UpdateChangeCheckOK, &Self::push_UpdateChangeCheckOK);
-    pushes(button_UpdateChangeCheckCancel, &Self::push_UpdateChangeCheckCancel);
-    pushes(button_SendConfirmTransmission, &Self::push_SendConfirmTransmission);
-    pushes(button_SendConfirmCancel, &Self::push_SendConfirmCancel);
-    pushes(button_SendLoginOK, &Self::push_SendLoginOK);
-    pushes(button_SendLoginCancel, &Self::push_SendLoginCancel);
-    pushes(button_SendLoginErrorOK, &Self::push_SendLoginErrorOK);
-    pushes(button_SendEndOK, &Self::push_SendEndOK);
-    pushes(button_SendConnectErrorOK, &Self::push_SendConnectErrorOK);
-    pushes(button_SelectSSIDWindowOK, &Self::push_SelectSSIDWindowOK);
-    pushes(button_SelectSSIDWindowCancel, &Self::push_SelectSSIDWindowCancel);
-    pushes(button_WPS1Next, &Self::push_WPSGuide1Next);
-    pushes(button_WPS1EXIT, &Self::push_WPSGuide1Exit);
-    pushes(button_WPS2Next, &Self::push_WPSGuide2Next);
-    pushes(button_WPS2EXIT, &Self::push_WPSGuide2Exit);
+    const auto asks = [this](void (SendDialog::*pushed)(), void (Self::*operation)()) {
+        connect(window_SendData, pushed, this, operation);
+    };
+    asks(&SendDialog::reflectPushed, &Self::push_SendChangeCheckReflect);
+    asks(&SendDialog::noReflectPushed, &Self::push_SendChangeCheckNoReflect);
+    asks(&SendDialog::updatePushed, &Self::push_UpdateChangeCheckOK);
+    asks(&SendDialog::transmissionPushed, &Self::push_SendConfirmTransmission);
+    asks(&SendDialog::loginPushed, &Self::push_SendLoginOK);
+    asks(&SendDialog::endPushed, &Self::push_SendEndOK);
 }
 
 bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &entry) {
@@ -360,10 +249,6 @@ bool DWTMainSettingWindow::shouldSelectItem(OutlineView *, const QVariantMap &it
     if (viewKey == shown) return false;
     if (bool_usbPrinter && shown) dictionary_ViewManagement[*shown]->itemSetToDataManager();
     MSW_UISelector(viewKey);
-    return true;
-}
-
-bool DWTMainSettingWindow::shouldCollapseItem(OutlineView *, const QVariantMap &) {
     return true;
 }
 

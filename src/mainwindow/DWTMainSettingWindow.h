@@ -14,18 +14,16 @@
 #include "pages/DWTSimpleAPView.h"
 #include "pages/DWTWirelessView.h"
 #include "platform/core/NotificationCenter.h"
-#include "platform/ui/ModalWindow.h"
 #include "platform/ui/OutlineView.h"
-#include "platform/ui/TableView.h"
 #include "platform/ui/ViewStack.h"
-#include "platform/ui/WaitSheet.h"
 #include "platform/ui/Window.h"
 #include "settings/DWTDataManager.h"
 #include "ui_MainWindow.h"
-#include "ui_SelectSSID.h"
-#include "ui_SendDialog.h"
-#include "ui_WPSViews.h"
-#include "ui_WaitWindow.h"
+
+class NetworkList;
+class SendDialog;
+class WPSGuideWindow;
+class WaitWindow;
 
 // Posted exactly once for every closing, with the window as sender: without user information when
 // the printer could not be read at the first opening, otherwise with the flag, which is false.
@@ -39,13 +37,7 @@ inline const QString DWT_IsShowPrinterSelectDialog_Flag =
 class DWTMainSettingWindow : public QObject,
                              public OutlineDataSource,
                              public OutlineDelegate,
-                             public TableDataSource,
-                             public TableDelegate,
-                             private Ui::MainWindow,
-                             private Ui::SendDialog,
-                             private Ui::SelectSSID,
-                             private Ui::WPSViews,
-                             private Ui::WaitWindow {
+                             private Ui::MainWindow {
     Q_OBJECT
   public:
     DWTMainSettingWindow() = default;
@@ -69,15 +61,6 @@ class DWTMainSettingWindow : public QObject,
     QVariant objectValueForTableColumn(OutlineView *outline, const QString &column,
                                        const QVariantMap &item) override;
     bool shouldSelectItem(OutlineView *outline, const QVariantMap &item) override;
-    bool shouldCollapseItem(OutlineView *outline, const QVariantMap &item) override;
-
-    // --- Networks in reach (DWTMainSettingWindowSSID.cpp) ---
-
-    int numberOfRowsInTableView(TableView *table) override;
-    QVariant objectValueForTableColumn(TableView *table, const QString &column, int row) override;
-    QIcon iconForTableColumn(TableView *table, const QString &column, int row) override;
-    bool selectionShouldChangeInTableView(TableView *table) override;
-    void tableViewSelectionDidChange(TableView *table) override;
 
     // --- Closing (DWTMainSettingWindowClosing.cpp) ---
 
@@ -93,7 +76,6 @@ class DWTMainSettingWindow : public QObject,
     void MSW_UIInitialize();
     void makePages();
     void makeDialogs();
-    void setTexts();
     void loadOutline();
     void connectButtons();
     void push_MainHelp() {}
@@ -111,43 +93,20 @@ class DWTMainSettingWindow : public QObject,
     void warnOfChangedConnection();
     QString sendViewAskingPassword();
     void push_SendConfirmTransmission();
-    void push_SendConfirmCancel();
     void push_SendLoginOK();
-    void push_SendLoginCancel();
-    void push_SendLoginErrorOK();
     void push_SendEndOK();
-    void push_SendConnectErrorOK();
-    void MSW_SendUISelector(const QString &viewKey);
-    int openSendDialog(const QString &viewKey);
-    void closeSendDialog();
-    void MSW_DataSendStart(const Notification &notification);
-    void MSW_DataSendProgress(const Notification &notification);
-    void MSW_DataSendStop(const Notification &notification);
-    void MSW_SetProgressInfo(const QVariantMap &progress);
     void MSW_SendButtonEnable();
     void MSW_SendButtonDisable();
     void MSW_ClearTextField();
+
+    // Networks in reach, the WPS guide and the connection test (DWTMainSettingWindowNetwork.cpp).
+    void push_InfrastructureSelectSSID();
+    void push_InfrastructureWPSGuide();
     void push_EthernetConnect();
     void push_InfrastructureConnect();
     // Tests the address of a page; `settingKey` and `addressKey` are that page's keys.
     template <typename Page>
     void checkConnection(Page &page, const QString &settingKey, const QString &addressKey);
-    // Shows the wait window over `parent` while the result lives.
-    WaitSheet wait(QWidget *parent);
-
-    // Networks in reach, and the WPS guide.
-    void push_InfrastructureSelectSSID();
-    void MSW_DoubleAction(int clickedRow);
-    void push_SelectSSIDWindowOK();
-    void push_SelectSSIDWindowCancel();
-    void MSW_SetSelectSSID();
-    void push_InfrastructureWPSGuide();
-    void MSW_WPSUISelector(const QString &viewKey);
-    void push_WPSGuide1Next();
-    void push_WPSGuide1Exit();
-    void push_WPSGuide2Next();
-    void push_WPSGuide2Exit();
-    void closeWPSGuide();
 
     // Closing and reading again.
     void push_MainCancel();
@@ -157,21 +116,17 @@ class DWTMainSettingWindow : public QObject,
     void closeMainWindow(const QVariantMap &userInfo);
     void push_SendChangeCheckReflect();
     void push_SendChangeCheckNoReflect();
-    void push_SendChangeCheckCancel();
     void push_MainNewSetting();
     void push_UpdateChangeCheckOK();
-    void push_UpdateChangeCheckCancel();
     void readAgain();
 
     QPointer<Window> window_Main;
-    QPointer<ModalWindow> window_SendData;
-    QPointer<ModalWindow> window_SelectSSID;
-    QPointer<ModalWindow> window_WPSGuide;
-    QPointer<QWidget> window_Wait;
-    QPointer<QWidget> view_WPSGuide;
+    // Its dialogs belong to the window.
+    SendDialog *window_SendData = nullptr;
+    NetworkList *window_SelectSSID = nullptr;
+    WPSGuideWindow *window_WPSGuide = nullptr;
+    WaitWindow *window_Wait = nullptr;
     std::unique_ptr<ViewStack> m_pages;
-    std::unique_ptr<ViewStack> m_sendViews;
-    std::unique_ptr<ViewStack> m_wpsViews;
 
     std::shared_ptr<DWTNetworkView> network_ViewObject;
     std::shared_ptr<DWTWirelessView> wireless_ViewObject;
@@ -181,12 +136,9 @@ class DWTMainSettingWindow : public QObject,
     std::shared_ptr<DWTFirmwareView> firmware_ViewObject;
     std::shared_ptr<DWTPasswordView> password_ViewObject;
     QMap<QString, std::shared_ptr<DWTBaseView>> dictionary_ViewManagement;
-    QMap<QString, QWidget *> dictionary_SendViewManagement;
-    QMap<QString, QWidget *> dictionary_WPSViewManagement;
 
     QVariantMap dictionary_OutlineView;
     std::shared_ptr<DWTDataManager> dataManager_Object;
-    QList<SSIDEntry> array_SSIDList;
     PrinterEntry dictionary_PrinterInfo;
     QVariantMap dictionary_PrinterStatusTable;
     bool bool_usbPrinter = true;

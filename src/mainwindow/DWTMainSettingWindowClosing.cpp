@@ -3,13 +3,10 @@
 #include <algorithm>
 
 #include "mainwindow/DWTMainSettingWindow.h"
-#include "mainwindow/ViewKeys.h"
-#include "platform/ui/Modal.h"
+#include "mainwindow/SendDialog.h"
+#include "mainwindow/WaitWindow.h"
 
 namespace {
-
-// Outcome of the send dialog when the user chose to stay.
-constexpr int stay = 0;
 
 // What every closing says but that of a window whose printer could not be read.
 const QVariantMap selectorStaysHidden{{DWT_IsShowPrinterSelectDialog_Flag, false}};
@@ -41,7 +38,7 @@ bool DWTMainSettingWindow::MSW_AppClose() {
     };
     if (editable &&
         std::any_of(dictionary_ViewManagement.cbegin(), dictionary_ViewManagement.cend(), differs))
-        return openSendDialog(DWT_View_Key_Send_ChangeCheck) != stay;
+        return window_SendData->runOn(DWT_View_Key_Send_ChangeCheck) != SendDialog::stay;
     closeMainWindow(selectorStaysHidden);
     return true;
 }
@@ -53,27 +50,21 @@ void DWTMainSettingWindow::closeMainWindow(const QVariantMap &userInfo) {
 }
 
 void DWTMainSettingWindow::push_SendChangeCheckReflect() {
-    closeSendDialog();
-    if (checkAndStorePages()) openSendDialog(sendViewAskingPassword());
+    window_SendData->closeDialog();
+    if (checkAndStorePages()) window_SendData->runOn(sendViewAskingPassword());
 }
 
 void DWTMainSettingWindow::push_SendChangeCheckNoReflect() {
-    closeSendDialog();
+    window_SendData->closeDialog();
     closeMainWindow(selectorStaysHidden);
-}
-
-void DWTMainSettingWindow::push_SendChangeCheckCancel() {
-    Modal::stop(stay);
-    window_SendData->hide();
 }
 
 void DWTMainSettingWindow::push_MainNewSetting() {
     if (bool_usbPrinter && bool_GetDataSuccess) {
         if (const auto shown = MSW_SelectedUIString())
             dictionary_ViewManagement[*shown]->itemSetToDataManager();
-        Modal::stop();
         if (!dataManager_Object->isEqualToSaveData()) {
-            openSendDialog(DWT_View_Key_Send_UpdateCheck);
+            window_SendData->runOn(DWT_View_Key_Send_UpdateCheck);
             return;
         }
     }
@@ -81,17 +72,12 @@ void DWTMainSettingWindow::push_MainNewSetting() {
 }
 
 void DWTMainSettingWindow::push_UpdateChangeCheckOK() {
-    closeSendDialog();
+    window_SendData->closeDialog();
     readAgain();
 }
 
-void DWTMainSettingWindow::push_UpdateChangeCheckCancel() {
-    closeSendDialog();
-}
-
 void DWTMainSettingWindow::readAgain() {
-    Modal::stop();
-    const WaitSheet waiting = wait(window_Main);
+    const WaitSheet waiting = window_Wait->over(window_Main);
     initializeData(std::nullopt);
     MSW_ClearTextField();
     MSW_SendButtonDisable();

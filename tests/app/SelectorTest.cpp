@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include <QClipboard>
 #include <QProcess>
 #include <QRadioButton>
@@ -9,24 +11,27 @@
 
 namespace {
 
+Catalogue demo() {
+    qputenv("ZMLIB_PRINTERS", "demo");
+    return catalogueFromEnvironment();
+}
+
 class Selector : public testing::Test {
   protected:
-    Selector() : walk(catalogue()) {
-        static_cast<Application *>(qApp)->setDelegate(walk.selector.get());
-    }
-    ~Selector() override { static_cast<Application *>(qApp)->setDelegate(nullptr); }
+    Selector() { application()->setDelegate(walk.selector.get()); }
+    ~Selector() override { application()->setDelegate(nullptr); }
 
-    static Catalogue catalogue() {
-        qputenv("ZMLIB_PRINTERS", "demo");
-        return catalogueFromEnvironment();
-    }
+    static Application *application() { return static_cast<Application *>(qApp); }
     QWidget *window() { return walk.selector->window(); }
-    void click(const char *button) {
-        QTest::mouseClick(controlOf(window(), button), Qt::LeftButton);
-    }
-    bool isEnabled(const char *name) { return controlOf(window(), name)->isEnabled(); }
-    QString cell(int row, int column) {
-        return walk.list()->model()->index(row, column).data().toString();
+    bool isListed() { return window()->isVisible(); }
+    void click(const char *button) { press(window(), button); }
+    bool canOpen() { return controlOf(window(), "button_PrinterlistOK")->isEnabled(); }
+    // Every cell of the list.
+    QString listed() {
+        QStringList cells;
+        for (int i = 0; i < 2 * walk.list()->model()->rowCount(); ++i)
+            cells << walk.list()->model()->index(i / 2, i % 2).data().toString();
+        return cells.join(u'|');
     }
     // Runs the action inside the event loop; true when it makes the application quit.
     static bool quits(const std::function<void()> &action) {
@@ -45,7 +50,8 @@ class Selector : public testing::Test {
         return {};
     }
 
-    Walk walk;
+    const Catalogue catalogue = demo();
+    Walk walk{catalogue};
 };
 
 TEST_F(Selector, EveryStepOfTheGuideLeadsToItsView) {
@@ -72,24 +78,19 @@ TEST_F(Selector, EveryStepOfTheGuideLeadsToItsView) {
     for (const auto &c : cases) {
         const bool quit = quits([&] {
             walk.launch();
-            for (const char *button : c.clicks) {
-                if (auto *cell = window()->findChild<QRadioButton *>(QLatin1String(button)))
-                    cell->click();
-                else
-                    click(button);
-            }
+            for (const char *button : c.clicks)
+                controlOf<QAbstractButton>(window(), button)->click();
         });
         EXPECT_EQ(quit, c.view == nullptr) << (c.clicks.isEmpty() ? "" : c.clicks.last());
         EXPECT_TRUE(quit || visibleView() == text(c.view)) << qPrintable(visibleView());
     }
-    click("button_WPS2Back");
-    click("button_WPS1Back");
-    controlOf<RadioGroup>(window(), "matrix_ChooseConnectSelect")->selectTag(9);
+    for (const char *back : {"button_WPS2Back", "button_WPS1Back"}) click(back);
+    auto *choice = controlOf<RadioGroup>(window(), "matrix_ChooseConnectSelect");
+    choice->selectTag(9);
     QTest::keyClick(window(), Qt::Key_Return);
     EXPECT_EQ(visibleView(), text("view_ChooseConnect")) << "nothing was chosen";
-    controlOf<RadioGroup>(window(), "matrix_ChooseConnectSelect")->selectTag(0);
-    QTest::keyClick(window(), Qt::Key_Return);
-    QTest::keyClick(window(), Qt::Key_Return);
+    choice->selectTag(0);
+    for (int i = 0; i < 2; ++i) QTest::keyClick(window(), Qt::Key_Return);
     EXPECT_EQ(visibleView(), text("view_Printerlist"));
     EXPECT_EQ(walk.list()->model()->rowCount(), 3) << "installer mode lists USB printers only";
 }
@@ -97,53 +98,49 @@ TEST_F(Selector, EveryStepOfTheGuideLeadsToItsView) {
 TEST_F(Selector, TheListShowsPrintersAndStaysWithoutAWindow) {
     walk.launch();
     EXPECT_EQ(visibleView(), text("view_Printerlist"));
-    ASSERT_EQ(walk.list()->model()->rowCount(), 4);
-    EXPECT_EQ(cell(0, 0) + cell(0, 1), text("Packing-DeskUSB"));
-    EXPECT_EQ(cell(3, 0) + cell(3, 1), text("Goods in (first floor)Network"));
-    EXPECT_FALSE(isEnabled("button_PrinterlistOK"));
+    const QString all = listed();
+    EXPECT_TRUE(all.startsWith(text("Packing-Desk|USB|"))) << qPrintable(all);
+    EXPECT_TRUE(all.endsWith(text("|Goods in (first floor)|Network"))) << qPrintable(all);
+    EXPECT_FALSE(canOpen());
     walk.list()->selectRow(1);
-    EXPECT_TRUE(isEnabled("button_PrinterlistOK"));
+    EXPECT_TRUE(canOpen());
     click("button_PrinterlistReload");
-    EXPECT_FALSE(isEnabled("button_PrinterlistOK"));
-    EXPECT_EQ(walk.list()->model()->rowCount(), 4);
+    EXPECT_FALSE(canOpen());
+    EXPECT_EQ(listed(), all);
     EXPECT_FALSE(quits([&] { click("button_PrinterlistEXIT"); }));
-    EXPECT_FALSE(window()->isVisible());
-    static_cast<Application *>(qApp)->reopen();
-    EXPECT_TRUE(window()->isVisible());
+    EXPECT_FALSE(isListed());
+    application()->reopen();
+    EXPECT_TRUE(isListed());
     EXPECT_FALSE(quits([&] { window()->close(); }));
-    EXPECT_FALSE(window()->isVisible());
+    EXPECT_FALSE(isListed());
 }
 
 TEST_F(Selector, ReopeningBringsBackTheWindowInUse) {
     walk.launch();
     walk.list()->selectRow(0);
     click("button_PrinterlistOK");
-    EXPECT_TRUE(walk.main()->isVisible() && !window()->isVisible());
-    static_cast<Application *>(qApp)->reopen();
-    EXPECT_FALSE(window()->isVisible()) << "a second window over an open printer";
+    EXPECT_TRUE(walk.main()->isVisible() && !isListed());
+    application()->reopen();
+    EXPECT_FALSE(isListed()) << "a second window over an open printer";
     walk.press("button_MainCancel");
-    EXPECT_FALSE(walk.main()->isVisible() || window()->isVisible());
-    static_cast<Application *>(qApp)->reopen();
-    EXPECT_TRUE(window()->isVisible());
+    EXPECT_FALSE(walk.main()->isVisible() || isListed());
+    application()->reopen();
+    EXPECT_TRUE(isListed());
     EXPECT_TRUE(walk.open(text("Dispatch")));
 }
 
 TEST_F(Selector, AFailedOpeningComesBackToTheListAsItWas) {
-    auto printers = catalogue();
-    walk.selector->applicationDidFinishLaunching();
-    auto &printer = *printers.virtualPrinters[text("virtual://packing-desk")];
-    Walk other(printers);
-    other.launch();
+    walk.launch();
     Faults gone;
     gone.refuseConnection = true;
+    VirtualPrinter &printer = *catalogue.virtualPrinters[text("virtual://packing-desk")];
     printer.setFaults(gone);
-    other.dialogs().alert("The connection to the printer cannot be used");
-    EXPECT_FALSE(other.open(text("Packing-Desk")));
-    EXPECT_TRUE(other.selector->window()->isVisible());
-    EXPECT_FALSE(other.main()->isVisible());
-    EXPECT_EQ(other.list()->selectedRow(), 0);
+    walk.dialogs().alert("The connection to the printer cannot be used");
+    EXPECT_FALSE(walk.open(text("Packing-Desk")));
+    EXPECT_TRUE(isListed() && !walk.main()->isVisible());
+    EXPECT_EQ(walk.list()->selectedRow(), 0);
     printer.setFaults({});
-    EXPECT_TRUE(other.open(text("Packing-Desk")));
+    EXPECT_TRUE(walk.open(text("Packing-Desk")));
 }
 
 TEST_F(Selector, QuittingAsksTheOpenPrinterAboutUnsentChanges) {
@@ -151,19 +148,20 @@ TEST_F(Selector, QuittingAsksTheOpenPrinterAboutUnsentChanges) {
     ASSERT_TRUE(walk.open(text("Packing-Desk")));
     walk.type("textField_NetworkBonjour", text("gate-2"));
     const auto quitByMenu = [&] { QTest::keyClick(walk.main(), Qt::Key_Q, Qt::ControlModifier); };
-    walk.dialogs().on("view_SendChangeCheck", "button_SendChangeCheckCancel");
-    EXPECT_FALSE(quits(quitByMenu));
-    EXPECT_EQ(walk.shown("textField_NetworkBonjour"), text("gate-2"));
-    walk.dialogs().on("view_SendChangeCheck", [](QWidget *dialog) {
-        EXPECT_FALSE(Application::terminate()) << "while a dialog waits for its answer";
-        QTest::mouseClick(controlOf(dialog, "button_SendChangeCheckCancel"), Qt::LeftButton);
-    });
     const auto quitBySystem = [] {
         QEvent quit(QEvent::Quit);
         QApplication::sendEvent(qApp, &quit);
     };
+    const auto quitOnceMore = [](QWidget *) {
+        EXPECT_FALSE(Application::terminate()) << "while a dialog waits for its answer";
+    };
+    const char *const view = "view_SendChangeCheck";
+    walk.dialogs().on(view, "button_SendChangeCheckCancel");
+    EXPECT_FALSE(quits(quitByMenu));
+    EXPECT_EQ(walk.shown("textField_NetworkBonjour"), text("gate-2"));
+    walk.dialogs().on(view, quitOnceMore, "button_SendChangeCheckCancel");
     EXPECT_FALSE(quits(quitBySystem));
-    walk.dialogs().on("view_SendChangeCheck", "button_SendChangeCheckNoReflect");
+    walk.dialogs().on(view, "button_SendChangeCheckNoReflect");
     EXPECT_TRUE(quits(quitBySystem));
     EXPECT_TRUE(quits(quitBySystem)) << "no printer is open any more";
 }
@@ -171,17 +169,13 @@ TEST_F(Selector, QuittingAsksTheOpenPrinterAboutUnsentChanges) {
 TEST_F(Selector, TheMenuHasTextsAndWorksOnTheField) {
     walk.launch();
     ASSERT_TRUE(walk.open(text("Packing-Desk")));
-    auto *bar = walk.main()->findChild<QMenuBar *>();
-    ASSERT_TRUE(bar);
     QMap<QString, QAction *> entries;
-    for (QAction *top : bar->actions())
+    for (QAction *top : walk.main()->findChild<QMenuBar *>()->actions())
         for (QAction *entry : top->menu()->actions()) entries[entry->text().remove(u'&')] = entry;
-    for (const QString &title : entries.keys())
-        EXPECT_FALSE(title.startsWith(text("DWT_"))) << qPrintable(title);
-    auto *field = controlOf<TextField>(walk.main(), "textField_NetworkBonjour");
+    EXPECT_TRUE(entries.keys().filter(text("DWT_")).isEmpty());
+    auto *field = controlOf<QLineEdit>(walk.main(), "textField_NetworkBonjour");
     field->setFocus();
-    entries[text("Select all")]->trigger();
-    entries[text("Cut")]->trigger();
+    for (const char *entry : {"Select all", "Cut"}) entries[text(entry)]->trigger();
     EXPECT_EQ(field->text(), QString());
     EXPECT_EQ(QApplication::clipboard()->text(), text("packing-desk"));
     entries[text("Paste")]->trigger();
@@ -190,7 +184,17 @@ TEST_F(Selector, TheMenuHasTextsAndWorksOnTheField) {
     EXPECT_FALSE(walk.main()->isVisible());
 }
 
-TEST(Start, ASecondProcessReopensTheFirstAndEndsWithZero) {
+// Runs the program with the argument, as the user's shell does; gives what it prints.
+QString printed(const char *argument) {
+    QProcess program;
+    program.start(text(NST_PROGRAM), {text(argument)});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return program.state() == QProcess::NotRunning; }, 10000));
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit) << argument;
+    EXPECT_EQ(program.exitCode(), 0) << argument;
+    return QString::fromLocal8Bit(program.readAllStandardOutput()).trimmed();
+}
+
+TEST(Start, PrintsItsHelpAndVersionAndOtherwiseReopensTheInstanceThatRuns) {
     const QTemporaryDir runtime;
     qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
     int reopened = 0;
@@ -198,12 +202,14 @@ TEST(Start, ASecondProcessReopensTheFirstAndEndsWithZero) {
         SingleInstance first;
         ASSERT_TRUE(first.isFirst());
         QObject::connect(&first, &SingleInstance::startedAgain, [&] { ++reopened; });
-        QProcess second;
-        second.start(text(NST_PROGRAM), {});
-        EXPECT_TRUE(QTest::qWaitFor([&] { return second.state() == QProcess::NotRunning; }, 10000));
-        EXPECT_EQ(second.exitStatus(), QProcess::NormalExit);
-        EXPECT_EQ(second.exitCode(), 0);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return reopened == 1; }));
+        EXPECT_EQ(printed("--version"), text("network-setting-tool " NST_VERSION));
+        const QString help = printed("--help");
+        EXPECT_TRUE(help.startsWith(text("Reads and changes the network settings of label")));
+        EXPECT_TRUE(help.contains(text("network-setting-tool [-Installer] [--help] [--version]")));
+        EXPECT_EQ(reopened, 0);
+        for (const char *starts : {"-Installer", "--helpful", "help", ""})
+            EXPECT_EQ(printed(starts), QString()) << starts;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return reopened == 4; }));
     }
     const SingleInstance next;
     EXPECT_TRUE(next.isFirst()) << "the first has gone";

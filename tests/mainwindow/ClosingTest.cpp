@@ -2,115 +2,91 @@
 
 namespace {
 
-enum class Entry { CancelButton, CloseBox, Quit };
-enum class Choice { Stay, Discard, SendValid, SendInvalid };
+enum Entry { CancelButton, CloseBox, Quit };
 
 class Closing : public PrinterWindow {
   protected:
     // Leaves the window by the entry; true when that lets the application end (Quit only).
     bool leave(Entry entry) {
-        if (entry == Entry::Quit) return main->terminateNetworkTool();
-        if (entry == Entry::CancelButton)
-            click("button_MainCancel");
-        else
-            main->window()->close();
-        return false;
+        if (entry == CancelButton) click("button_MainCancel");
+        if (entry == CloseBox) main->window()->close();
+        return entry == Quit && main->terminateNetworkTool();
     }
     const QVariantMap hidden{{DWT_IsShowPrinterSelectDialog_Flag, false}};
 };
 
 TEST_F(Closing, UnsentChangesAreAskedAboutHoweverTheWindowIsLeft) {
     const struct {
-        Entry entry;
-        Choice choice;
-        bool open;   // afterwards
-        bool quits;  // Quit only
-    } cases[] = {{Entry::CancelButton, Choice::Stay, true, false},
-                 {Entry::CloseBox, Choice::Stay, true, false},
-                 {Entry::Quit, Choice::Stay, true, false},
-                 {Entry::CancelButton, Choice::Discard, false, false},
-                 {Entry::CloseBox, Choice::Discard, false, false},
-                 {Entry::Quit, Choice::Discard, false, true},
-                 {Entry::CancelButton, Choice::SendValid, true, false},
-                 {Entry::CloseBox, Choice::SendValid, false, false},
-                 {Entry::Quit, Choice::SendValid, true, true},
-                 {Entry::CancelButton, Choice::SendInvalid, true, false},
-                 {Entry::CloseBox, Choice::SendInvalid, false, false},
-                 {Entry::Quit, Choice::SendInvalid, true, true}};
-    for (const auto &c : cases) {
-        SCOPED_TRACE(testing::Message() << int(c.entry) << " " << int(c.choice));
-        open("{}");
-        type("textField_NetworkBonjour", c.choice == Choice::SendInvalid ? "b d" : "new-name");
-        switch (c.choice) {
-            case Choice::Stay:
-                dialogs.on("view_SendChangeCheck", "button_SendChangeCheckCancel");
-                break;
-            case Choice::Discard:
-                dialogs.on("view_SendChangeCheck", "button_SendChangeCheckNoReflect");
-                break;
-            case Choice::SendValid:  // no warning of the changed name on this way
-                dialogs.on("view_SendChangeCheck", "button_SendChangeCheckReflect")
-                    .on("view_SendConfirm", "button_SendConfirmTransmission")
-                    .on("view_SendEnd", "button_SendEndOK");
-                break;
-            case Choice::SendInvalid:
-                dialogs.on("view_SendChangeCheck", "button_SendChangeCheckReflect")
-                    .alert("Bonjour name cannot be used");
-                break;
+        const char *typed, *button;
+        bool open[3];  // afterwards, by entry
+        bool quits;
+        const char *held;
+    } cases[] = {
+        {"new-name", "button_SendChangeCheckCancel", {true, true, true}, false, "label-printer"},
+        {"new-name", "button_SendChangeCheckNoReflect", {}, true, "label-printer"},
+        {"new-name", "button_SendChangeCheckReflect", {true, false, true}, true, "new-name"},
+        {"b d", "button_SendChangeCheckReflect", {true, false, true}, true, "label-printer"}};
+    for (const auto &c : cases)
+        for (const Entry entry : {CancelButton, CloseBox, Quit}) {
+            SCOPED_TRACE(testing::Message() << c.button << " " << c.typed << " " << entry);
+            open("{}");
+            typeName(c.typed);
+            dialogs.on("view_SendChangeCheck", c.button);
+            if (QByteArray(c.held) == "new-name") dialogs.confirmAndEnd();  // without a warning
+            if (QByteArray(c.typed) == "b d") dialogs.alert("Bonjour name cannot be used");
+            EXPECT_EQ(leave(entry), entry == Quit && c.quits);
+            EXPECT_TRUE(dialogs.isDone());
+            EXPECT_EQ(isOpen(), c.open[entry]);
+            EXPECT_EQ(closings, c.open[entry] ? QList<QVariantMap>() : QList{hidden});
+            EXPECT_EQ(held(), QByteArray(c.held));
+            EXPECT_TRUE(isEnabled("button_MainSend") || c.quits) << "the changes are still there";
         }
-        EXPECT_EQ(leave(c.entry), c.quits);
-        EXPECT_TRUE(dialogs.isDone());
-        EXPECT_EQ(isOpen(), c.open);
-        EXPECT_EQ(closings, c.open ? QList<QVariantMap>() : QList<QVariantMap>{hidden});
-        EXPECT_EQ(served->printer().item(0x1004), c.choice == Choice::SendValid
-                                                      ? QByteArray("new-name")
-                                                      : QByteArray("label-printer"));
-        EXPECT_TRUE(isEnabled("button_MainSend") || c.choice != Choice::Stay);
-    }
 }
 
 TEST_F(Closing, NothingIsAskedWhereNothingCanHaveChanged) {
-    for (const Entry entry : {Entry::CancelButton, Entry::CloseBox, Entry::Quit}) {
-        open("{}");
-        EXPECT_EQ(leave(entry), entry == Entry::Quit);
-        EXPECT_EQ(closings, QList<QVariantMap>{hidden});
-        open("{}", {{text("ConnectionType"), text("Network")}});
-        field("textField_NetworkBonjour")->setText(text("typed all the same"));
-        EXPECT_EQ(leave(entry), entry == Entry::Quit);
-        EXPECT_EQ(closings, QList<QVariantMap>{hidden});
-        EXPECT_FALSE(isOpen());
-    }
+    for (const Entry entry : {CancelButton, CloseBox, Quit})
+        for (const PrinterEntry &more : {PrinterEntry(), overNetwork}) {
+            open("{}", more);
+            if (!more.isEmpty()) field("textField_NetworkBonjour")->setText(text("all the same"));
+            EXPECT_EQ(leave(entry), entry == Quit);
+            EXPECT_EQ(closings, QList{hidden});
+            EXPECT_FALSE(isOpen());
+        }
 }
 
 TEST_F(Closing, AChangedAccessPointKeyStaysADifferenceAfterItWasSent) {
     open("{}");
     choose("Access point");
     type("textField_SimpleAPPSK", "12345678");
-    dialogs.on("view_SendConfirm", "button_SendConfirmTransmission")
-        .on("view_SendEnd", "button_SendEndOK")
-        .on("view_SendChangeCheck", "button_SendChangeCheckNoReflect");
+    dialogs.confirmAndEnd().on("view_SendChangeCheck", "button_SendChangeCheckNoReflect");
     click("button_MainSend");
     EXPECT_TRUE(served->printer().item(0x3202).endsWith("12345678"));
     click("button_MainCancel");
     EXPECT_FALSE(isOpen());
 }
 
-TEST_F(Closing, ReadingAgainAsksBeforeItDropsAChange) {
+TEST_F(Closing, ReadingAgainAsksBeforeItDropsChangesAndSecrets) {
     open(R"({"items": {"0x3102": 3, "0x3103": 3}})");
     click("button_MainNewSetting");
     EXPECT_FALSE(served->printer().log().empty()) << "without changes it reads at once";
-    type("textField_NetworkBonjour", "new-name");
+    const char *const secrets[] = {"textField_InfrastructurePSK", "secureTextField_Password",
+                                   "secureTextField_PasswordReinput"};
+    typeName("new-name");
     choose("Infrastructure");
-    type("textField_InfrastructurePSK", "secret key");
+    type(secrets[0], "secret key");
+    choose("Password");
+    QTest::mouseClick(control("checkbox_PasswordChange"), Qt::LeftButton);
+    for (const char *secret : {secrets[1], secrets[2]}) type(secret, "open123");
     choose("Device");
     dialogs.on("view_UpdateChangeCheck", "button_UpdateChangeCheckCancel");
     click("button_MainNewSetting");
-    EXPECT_EQ(field("textField_NetworkBonjour")->text(), text("new-name"));
+    EXPECT_EQ(name(), text("new-name"));
     EXPECT_TRUE(isEnabled("button_MainSend"));
+    for (const char *secret : secrets) EXPECT_NE(field(secret)->text(), QString()) << secret;
     dialogs.on("view_UpdateChangeCheck", "button_UpdateChangeCheckOK");
     click("button_MainNewSetting");
-    EXPECT_EQ(field("textField_NetworkBonjour")->text(), text("label-printer"));
-    EXPECT_EQ(field("textField_InfrastructurePSK")->text(), QString());
+    EXPECT_EQ(name(), text("label-printer"));
+    for (const char *secret : secrets) EXPECT_EQ(field(secret)->text(), QString()) << secret;
     EXPECT_FALSE(isEnabled("button_MainSend"));
     EXPECT_TRUE(isEnabled("textField_NetworkBonjour"));
 }

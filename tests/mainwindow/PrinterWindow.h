@@ -2,7 +2,7 @@
 
 #include "link/Binding.h"
 #include "mainwindow/DWTMainSettingWindow.h"
-#include "platform/core/Texts.h"
+#include "platform/ui/TableView.h"
 #include "support/Catalogues.h"
 #include "support/DialogScript.h"
 
@@ -17,8 +17,6 @@ class PrinterWindow : public testing::Test {
     // Makes the printer and opens the window on it; gives the result of the first reading.
     bool open(const QByteArray &profile, const PrinterEntry &more = {},
               int longestWait = OnePrinterLibrary::longestWait) {
-        static const bool texts = installTexts();
-        EXPECT_TRUE(texts);
         served = std::make_unique<OnePrinterLibrary>(
             printerOf(profile), OnePrinterLibrary::Transport::Virtual, more, longestWait);
         installLibrary(served->library());
@@ -36,23 +34,20 @@ class PrinterWindow : public testing::Test {
     void setFaults(const QByteArray &faults) {
         served->printer().setFaults(printerOf("{\"faults\": " + faults + "}")->faults());
     }
+    // The name that the printer holds.
+    QByteArray held() { return served->printer().item(0x1004); }
     template <typename Widget = QWidget>
     Widget *control(const char *name) {
         return controlOf<Widget>(main->window(), name);
     }
-    TextField *field(const char *name) { return control<TextField>(name); }
-    void click(const char *name) { QTest::mouseClick(control(name), Qt::LeftButton); }
-    bool isEnabled(const char *name) { return control(name)->isEnabled(); }
+    QLineEdit *field(const char *name) { return control<QLineEdit>(name); }
+    // The name of the printer as the window shows it.
+    QString name() { return field("textField_NetworkBonjour")->text(); }
+    void click(const char *button) { press(main->window(), button); }
+    bool isEnabled(const char *control_) { return control(control_)->isEnabled(); }
     bool isOpen() { return main->window()->isVisible(); }
-    // Replaces the text of a field with the keyboard.
-    void type(const char *name, const char *typed) {
-        field(name)->setFocus();
-        field(name)->selectAll();
-        if (*typed)
-            QTest::keyClicks(field(name), text(typed));
-        else
-            QTest::keyClick(field(name), Qt::Key_Backspace);
-    }
+    void type(const char *line, const char *typed) { typeInto(field(line), text(typed)); }
+    void typeName(const char *typed) { type("textField_NetworkBonjour", typed); }
     // Clicks the row of a category in the outline.
     void choose(const char *category) {
         auto *outline = control<OutlineView>("outlineView_Main");
@@ -72,3 +67,6 @@ class PrinterWindow : public testing::Test {
     QList<QVariantMap> closings;  // the user information of every close notification
     NotificationCenter::Observer observer;
 };
+
+inline const PrinterEntry overNetwork{{QStringLiteral("ConnectionType"), QStringLiteral("Network")},
+                                      {QStringLiteral("BonjourServiceName"), QStringLiteral("D")}};

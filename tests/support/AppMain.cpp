@@ -3,8 +3,13 @@
 #include "platform/core/Texts.h"
 #include "platform/ui/Application.h"
 #include "support/Arguments.h"
+#include "support/DialogScript.h"
 
 char **programArguments = nullptr;
+
+void scriptFailed(const QString &what) {
+    ADD_FAILURE() << qPrintable(what);
+}
 
 // Tests of the application run inside its own application object, with its texts.
 int main(int argc, char **argv) {

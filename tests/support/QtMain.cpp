@@ -2,6 +2,12 @@
 
 #include <QApplication>
 
+#include "support/DialogScript.h"
+
+void scriptFailed(const QString &what) {
+    ADD_FAILURE() << qPrintable(what);
+}
+
 // Tests of rooms with widgets run inside an application with real windows.
 int main(int argc, char **argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");

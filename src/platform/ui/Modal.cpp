@@ -9,6 +9,8 @@
 namespace {
 
 struct Run {
+    explicit Run(const QWidget *w) : window(w) {}
+    const QWidget *const window;
     QEventLoop loop;
     int outcome = Modal::stoppedOutcome;
     bool stopped = false;
@@ -20,16 +22,10 @@ std::vector<Run *> &runs() {
     return list;
 }
 
-Run *innermost() {
-    const auto found =
-        std::find_if(runs().rbegin(), runs().rend(), [](const Run *run) { return !run->stopped; });
-    return found == runs().rend() ? nullptr : *found;
-}
-
 }  // namespace
 
 int Modal::run(QWidget *window) {
-    Run current;
+    Run current(window);
     runs().push_back(&current);
     const QPointer<QWidget> shown(window);
     QObject::connect(window, &QObject::destroyed, &current.loop, &QEventLoop::quit);
@@ -44,14 +40,13 @@ int Modal::run(QWidget *window) {
     return current.outcome;
 }
 
-void Modal::stop(int outcome) {
-    Run *const current = innermost();
-    if (!current) return;
-    current->outcome = outcome;
-    current->stopped = true;
-    current->loop.quit();
-}
-
-bool Modal::isRunning() {
-    return innermost() != nullptr;
+void Modal::stop(const QWidget *window, int outcome) {
+    const auto runsNow = [window](const Run *run) {
+        return run->window == window && !run->stopped;
+    };
+    const auto found = std::find_if(runs().rbegin(), runs().rend(), runsNow);
+    if (found == runs().rend()) return;
+    (*found)->outcome = outcome;
+    (*found)->stopped = true;
+    (*found)->loop.quit();
 }

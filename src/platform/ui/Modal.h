@@ -14,10 +14,8 @@ inline constexpr int stoppedOutcome = -1000;
 // hides it itself, and one whose window is destroyed ends.
 int run(QWidget *window);
 
-// Ends the innermost run that has not been stopped; does nothing when there is none.
-void stop(int outcome = stoppedOutcome);
-
-// True while a run has not been stopped.
-bool isRunning();
+// Ends the run of `window`, the innermost one that has not been stopped; does nothing when the
+// window does not run.
+void stop(const QWidget *window, int outcome = stoppedOutcome);
 
 }  // namespace Modal

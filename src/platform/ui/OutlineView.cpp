@@ -126,7 +126,6 @@ OutlineView::OutlineView(QWidget *parent) : QTreeView(parent), m_model(new Outli
     setEditTriggers(NoEditTriggers);
     setHeaderHidden(true);
     setExpandsOnDoubleClick(true);
-    connect(this, &QTreeView::collapsed, this, &OutlineView::keepExpanded);
 }
 
 void OutlineView::setColumn(const QString &identifier) {
@@ -139,7 +138,6 @@ void OutlineView::setOutlineDataSource(OutlineDataSource *source) {
 }
 
 void OutlineView::setOutlineDelegate(OutlineDelegate *delegate) {
-    m_delegate = delegate;
     selectionOf(this)->delegate = delegate;
 }
 
@@ -151,11 +149,6 @@ int OutlineView::numberOfRows() const {
     int rows = 0;
     for (QModelIndex index = indexAtRow(0); index.isValid(); index = indexBelow(index)) ++rows;
     return rows;
-}
-
-QVariantMap OutlineView::itemAtRow(int row) const {
-    const QModelIndex index = indexAtRow(row);
-    return index.isValid() ? m_model->item(index) : QVariantMap();
 }
 
 int OutlineView::selectedRow() const {
@@ -193,9 +186,4 @@ QModelIndex OutlineView::indexAtRow(int row) const {
     QModelIndex index = m_model->index(0, 0, {});
     for (; index.isValid() && row > 0; --row) index = indexBelow(index);
     return index;
-}
-
-// A refused collapse is taken back at once.
-void OutlineView::keepExpanded(const QModelIndex &index) {
-    if (m_delegate && !m_delegate->shouldCollapseItem(this, m_model->item(index))) expand(index);
 }

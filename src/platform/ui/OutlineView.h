@@ -18,12 +18,11 @@ class OutlineDataSource {
                                                const QVariantMap &item) = 0;
 };
 
-// Asked before the user moves the selection or collapses an item.
+// Asked before the user moves the selection.
 class OutlineDelegate {
   public:
     virtual ~OutlineDelegate() = default;
     virtual bool shouldSelectItem(OutlineView *, const QVariantMap &) { return true; }
-    virtual bool shouldCollapseItem(OutlineView *, const QVariantMap &) { return true; }
 };
 
 // A tree of one named column whose contents come from a data source. One item may be selected; the
@@ -45,8 +44,7 @@ class OutlineView : public QTreeView {
 
     // Rows count the items that are visible, from the top, as they are expanded.
     int numberOfRows() const;
-    QVariantMap itemAtRow(int row) const;  // empty for a row that is not there
-    int selectedRow() const;               // -1 when no item is selected
+    int selectedRow() const;  // -1 when no item is selected
     // Expands the item of a row, and everything below it.
     void expandRow(int row);
     // Selects from code, without asking the delegate.
@@ -60,8 +58,6 @@ class OutlineView : public QTreeView {
 
   private:
     QModelIndex indexAtRow(int row) const;
-    void keepExpanded(const QModelIndex &index);
 
     OutlineModel *const m_model;
-    OutlineDelegate *m_delegate = nullptr;
 };

@@ -105,10 +105,6 @@ void TableView::setHeaderTitle(const QString &identifier, const QString &title) 
     m_model->setTitle(identifier, title);
 }
 
-QStringList TableView::columnIdentifiers() const {
-    return m_model->identifiers;
-}
-
 void TableView::reloadData() {
     const int row = selectedRow();
     m_model->reload();

@@ -41,7 +41,6 @@ class TableView : public QTableView {
     // the room that the others, as wide as their contents, leave.
     void addColumn(const QString &identifier);
     void setHeaderTitle(const QString &identifier, const QString &title);
-    QStringList columnIdentifiers() const;
 
     // Fetches everything anew. The selection stays while its row remains.
     void reloadData();

@@ -46,30 +46,32 @@ TEST(Modal, DeliversTheOutcomeWhenTheStoppingActionHasFinished) {
     Dialog dialog;
     QStringList order;
     QObject::connect(dialog.ok, &QPushButton::clicked, [&] {
-        Modal::stop(5);
+        Modal::stop(&dialog, 5);
         dialog.hide();
         order << QStringLiteral("stopped");
         // The same window again, from inside the action.
-        const int inner = dialog.runOn("ask", [&] { Modal::stop(7); });
+        const int inner = dialog.runOn("ask", [&] { Modal::stop(&dialog, 7); });
         order << QString::number(inner);
-        EXPECT_FALSE(Modal::isRunning());
     });
     const int outer = dialog.runOn("ask", [&] { QTest::mouseClick(dialog.ok, Qt::LeftButton); });
     order << QString::number(outer);
     EXPECT_EQ(order.join(u' '), QStringLiteral("stopped 7 5"));
 }
 
-TEST(Modal, StopsTheInnermostRunAndNothingWithoutOne) {
-    Modal::stop(3);
+TEST(Modal, StopsTheRunOfTheWindowAndNoOther) {
     Dialog outer, inner;
+    Modal::stop(&outer, 3);
     QList<int> outcomes;
     outcomes << outer.runOn("ask", [&] {
-        outcomes << inner.runOn("ask", [&] { Modal::stop(); });
-        inner.hide();
-        EXPECT_TRUE(Modal::isRunning());
-        Modal::stop(0);
+        outcomes << inner.runOn("ask", [&] {
+            Modal::stop(&outer, 4);
+            Modal::stop(&inner);
+            inner.hide();
+        });
+        Modal::stop(&inner, 5);
+        Modal::stop(&outer, 6);
     });
-    EXPECT_EQ(outcomes, (QList<int>{Modal::stoppedOutcome, 0}));
+    EXPECT_EQ(outcomes, (QList<int>{Modal::stoppedOutcome, 4}));
     EXPECT_NE(Modal::stoppedOutcome, 0);
 }
 
@@ -84,7 +86,7 @@ TEST(ModalWindow, EveryWayOutPressesTheVisibleCancelButton) {
         int cancelled = 0;
         QObject::connect(dialog.cancel, &QPushButton::clicked, [&] {
             ++cancelled;
-            Modal::stop(0);
+            Modal::stop(&dialog, 0);
         });
         EXPECT_EQ(dialog.runOn("ask", [&] { way.leave(dialog); }), 0) << way.name;
         EXPECT_EQ(cancelled, 1) << way.name;
@@ -94,7 +96,7 @@ TEST(ModalWindow, EveryWayOutPressesTheVisibleCancelButton) {
                                [&] {
                                    way.leave(dialog);
                                    EXPECT_TRUE(dialog.isVisible()) << way.name;
-                                   Modal::stop(9);
+                                   Modal::stop(&dialog, 9);
                                }),
                   9)
             << way.name << " left a view without Cancel";
@@ -104,8 +106,8 @@ TEST(ModalWindow, EveryWayOutPressesTheVisibleCancelButton) {
 
 TEST(ModalWindow, ReturnPressesTheDefaultButtonOfTheShownView) {
     Dialog dialog;
-    QObject::connect(dialog.ok, &QPushButton::clicked, [] { Modal::stop(1); });
-    QObject::connect(dialog.cancel, &QPushButton::clicked, [] { Modal::stop(2); });
+    QObject::connect(dialog.ok, &QPushButton::clicked, [&] { Modal::stop(&dialog, 1); });
+    QObject::connect(dialog.cancel, &QPushButton::clicked, [&] { Modal::stop(&dialog, 2); });
     EXPECT_EQ(dialog.runOn("ask", [&] { QTest::keyClick(&dialog, Qt::Key_Return); }), 1);
 }
 

@@ -44,10 +44,7 @@ class Walk {
         return true;
     }
     void type(const char *field, const QString &typed) {
-        auto *line = controlOf<TextField>(main(), field);
-        line->setFocus();
-        line->selectAll();
-        QTest::keyClicks(line, typed);
+        typeInto(controlOf<QLineEdit>(main(), field), typed);
         report(QStringLiteral("\"%1\" is typed").arg(typed), main());
     }
     // Sends, with the password when there is one.
@@ -58,10 +55,9 @@ class Walk {
         });
         if (password)
             m_dialogs.on("view_SendLogin", [this, password](QWidget *dialog) {
-                auto *line = controlOf<QLineEdit>(dialog, "textField_Password");
-                QTest::keyClicks(line, text(password));
+                typeInto(controlOf<QLineEdit>(dialog, "textField_Password"), text(password));
                 report(QStringLiteral("the password is typed"), dialog);
-                QTest::keyClick(line, Qt::Key_Return);
+                QTest::keyClick(dialog, Qt::Key_Return);
             });
         m_dialogs.on("view_SendConfirm", [this](QWidget *dialog) {
             report(QStringLiteral("the send is confirmed"), dialog);
@@ -82,7 +78,7 @@ class Walk {
     QByteArray held(const char *uri, quint16 item) const {
         return m_catalogue.virtualPrinters[QLatin1String(uri)]->item(item);
     }
-    void press(const char *button) { QTest::mouseClick(controlOf(main(), button), Qt::LeftButton); }
+    void press(const char *button) { ::press(main(), button); }
     Window *main() { return selector->mainSettingWindow()->window(); }
     TableView *list() { return controlOf<TableView>(selector->window(), "tableView_Printerlist"); }
     DialogScript &dialogs() { return m_dialogs; }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLineEdit>
@@ -13,6 +11,10 @@
 
 #include "platform/ui/Modal.h"
 
+// Told when something does not go as it is written down; every program that uses a script defines
+// it: a test fails, another program ends.
+void scriptFailed(const QString &what);
+
 inline QString text(const char *utf8) {
     return QString::fromUtf8(utf8);
 }
@@ -21,37 +23,58 @@ inline QString text(const char *utf8) {
 template <typename Widget = QWidget>
 Widget *controlOf(QWidget *window, const char *name) {
     auto *found = window->findChild<Widget *>(QLatin1String(name));
-    EXPECT_TRUE(found) << name;
+    if (!found) scriptFailed(text("no control ") + text(name));
     return found;
 }
 
+// Clicks a button.
+inline void press(QWidget *window, const char *button) {
+    QTest::mouseClick(controlOf(window, button), Qt::LeftButton);
+}
+
+// Replaces the text of a field with the keyboard.
+inline void typeInto(QLineEdit *field, const QString &typed) {
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClick(field, Qt::Key_Backspace);
+    QTest::keyClicks(field, typed);
+}
+
 // Answers the modal windows that come up, in the order written down, as a user does. A step waits
-// until its view (or an alert) is up; a window that stays unanswered for too long fails the test.
+// until its view (or an alert) is up; a window that stays unanswered for too long is a failure.
 class DialogScript : public QObject {
   public:
     using Answer = std::function<void(QWidget *window)>;
 
     DialogScript() { watch(); }
-    ~DialogScript() override { EXPECT_TRUE(isDone()) << qPrintable(m_steps.front().view); }
-
-    // When the view is shown: clicks the button, or does what is told.
-    DialogScript &on(const char *view, const char *button) {
-        return on(view, [button](QWidget *window) {
-            QTest::mouseClick(controlOf(window, button), Qt::LeftButton);
-        });
+    ~DialogScript() override {
+        if (!isDone()) scriptFailed(text("never came up: ") + m_steps.front().view);
     }
-    DialogScript &on(const char *view, const Answer &answer) {
-        m_steps.push_back({text(view), answer});
+
+    // When the view is shown: does what is told, then clicks the button when one is named.
+    DialogScript &on(const char *view, const Answer &act, const char *button = nullptr) {
+        m_steps.push_back({text(view), [=](QWidget *window) {
+                               if (act) act(window);
+                               if (button) press(window, button);
+                           }});
         return *this;
     }
+    DialogScript &on(const char *view, const char *button) { return on(view, nullptr, button); }
     // Types into a field of the view, then clicks the button.
     DialogScript &type(const char *view, const char *field, const char *typed, const char *button) {
-        return on(view, [=](QWidget *window) {
-            auto *line = controlOf<QLineEdit>(window, field);
-            line->selectAll();
-            QTest::keyClicks(line, text(typed));
-            QTest::mouseClick(controlOf(window, button), Qt::LeftButton);
-        });
+        const auto types = [=](QWidget *window) {
+            typeInto(controlOf<QLineEdit>(window, field), text(typed));
+        };
+        return on(view, types, button);
+    }
+    // Types the password of a send and goes on.
+    DialogScript &login(const char *password) {
+        return type("view_SendLogin", "textField_Password", password, "button_SendLoginOK");
+    }
+    // Confirms a send, after what is told, and leaves its end.
+    DialogScript &confirmAndEnd(const Answer &act = nullptr) {
+        return on("view_SendConfirm", act, "button_SendConfirmTransmission")
+            .on("view_SendEnd", "button_SendEndOK");
     }
     // Presses a key in the view.
     DialogScript &key(const char *view, Qt::Key key) {
@@ -60,7 +83,8 @@ class DialogScript : public QObject {
     // Dismisses an alert whose message has this text.
     DialogScript &alert(const char *message) {
         return on("", [message](QWidget *window) {
-            EXPECT_EQ(static_cast<QMessageBox *>(window)->text(), text(message));
+            const QString shown = static_cast<QMessageBox *>(window)->text();
+            if (shown != text(message)) scriptFailed(text("another alert: ") + shown);
             QTest::keyClick(window, Qt::Key_Return);
         });
     }
@@ -93,11 +117,11 @@ class DialogScript : public QObject {
             m_unanswered.invalidate();
             answer(window);
         } else if (m_unanswered.hasExpired(longestWait)) {
-            ADD_FAILURE() << "unanswered: " << qPrintable(window->objectName())
-                          << " while waiting for "
-                          << (isDone() ? "nothing" : qPrintable(m_steps.front().view));
+            scriptFailed(
+                text("unanswered: %1 while waiting for %2")
+                    .arg(window->objectName(), isDone() ? text("nothing") : m_steps.front().view));
             m_steps.clear();
-            Modal::stop();
+            Modal::stop(window);
             window->hide();
         }
     }

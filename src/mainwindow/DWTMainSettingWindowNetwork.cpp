@@ -1,0 +1,59 @@
+// The networks that the printer sees, the WPS guide, and the connection test.
+
+#include "mainwindow/DWTMainSettingWindow.h"
+#include "mainwindow/NetworkList.h"
+#include "mainwindow/WPSGuideWindow.h"
+#include "mainwindow/WaitWindow.h"
+
+namespace {
+
+// The communication mode in which the printer joins a network.
+constexpr int infrastructureMode = 1;
+
+}  // namespace
+
+// Taking a network over counts as a change, whatever the page held before.
+void DWTMainSettingWindow::push_InfrastructureSelectSSID() {
+    if (!dataManager_Object) dataManager_Object = make<DWTDataManager>();
+    if (wireless_ViewObject->wirelessCommunicateMode() != infrastructureMode) {
+        showStandardAlert("DWT_Localize_Alert_MessageText_Infrastructure_SelectSSID",
+                          "DWT_Localize_Alert_MessageText_Warning",
+                          "DWT_Localize_Alert_InfoText_SSIDList_CommunicateModeErr");
+        return;
+    }
+    const auto inReach = [this] {
+        const WaitSheet waiting = window_Wait->over(window_Main);
+        return dataManager_Object->SSIDList().value_or(QList<SSIDEntry>());
+    };
+    const std::optional<SSIDEntry> picked = window_SelectSSID->pick(inReach());
+    if (!picked) return;
+    infrastructure_ViewObject->showSSIDFromSelectSSID(*picked);
+    MSW_SendButtonEnable();
+}
+
+void DWTMainSettingWindow::push_InfrastructureWPSGuide() {
+    window_WPSGuide->run();
+}
+
+void DWTMainSettingWindow::push_EthernetConnect() {
+    checkConnection(*ethernet_ViewObject, DWT_SaveData_Ethernet_IPAddressSetting,
+                    DWT_SaveData_Ethernet_IPAddress);
+}
+
+void DWTMainSettingWindow::push_InfrastructureConnect() {
+    checkConnection(*infrastructure_ViewObject, DWT_SaveData_Infrastructure_IPAddressSetting,
+                    DWT_SaveData_Infrastructure_IPAddress);
+}
+
+template <typename Page>
+void DWTMainSettingWindow::checkConnection(Page &page, const QString &settingKey,
+                                           const QString &addressKey) {
+    const WaitSheet waiting = window_Wait->over(window_Main);
+    if (!dataManager_Object) dataManager_Object = make<DWTDataManager>();
+    QStringList address = page.getipAddressArray();
+    if (const auto saved = dataManager_Object->setupDataToMainView(page.viewKey())) {
+        const bool fixed = integerValue(*saved, settingKey) != 0;
+        address = addressValue(*saved, fixed ? addressKey : DWT_SaveData_Connect_IPAddress);
+    }
+    page.showConnectResult(dataManager_Object->isCheckConnectToPrinter(address) >= 0);
+}

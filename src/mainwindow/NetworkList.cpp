@@ -1,0 +1,120 @@
+#include "mainwindow/NetworkList.h"
+
+#include <algorithm>
+
+#include "platform/core/Texts.h"
+#include "platform/ui/Modal.h"
+
+namespace {
+
+// Weakest signals (dBm) that count as strong and as middle.
+constexpr int strongSignal = -66;
+constexpr int middleSignal = -74;
+
+// How strong a signal is said to be: its text and its picture.
+struct Intensity {
+    const char *key;
+    const char *picture;
+};
+
+Intensity intensityOf(const SSIDEntry &network) {
+    const int strength = integerValue(network, DWT_SSIDList_SignalStrength);
+    if (strength >= strongSignal)
+        return {"DWT_Localize_SSIDList_Intensity_Strong", ":/pictures/signal-strong.svg"};
+    if (strength >= middleSignal)
+        return {"DWT_Localize_SSIDList_Intensity_Middle", ":/pictures/signal-middle.svg"};
+    return {"DWT_Localize_SSIDList_Intensity_Low", ":/pictures/signal-low.svg"};
+}
+
+}  // namespace
+
+NetworkList::NetworkList(QWidget *parent) : ModalWindow(parent) {
+    setupUi(this);
+    const auto addColumn = [this](const QString &column, const QString &titleKey) {
+        tableView_SelectSSIDWindow->addColumn(column);
+        tableView_SelectSSIDWindow->setHeaderTitle(column, localized(titleKey));
+    };
+    addColumn(QStringLiteral("SSID"),
+              QStringLiteral("DWT_Localize_SSIDList_TableView_Column_SSID"));
+    addColumn(QStringLiteral("Security"),
+              QStringLiteral("DWT_Localize_SSIDList_TableView_Column_Security"));
+    addColumn(QStringLiteral("Intensity"),
+              QStringLiteral("DWT_Localize_SSIDList_TableView_Column_Intensity"));
+    tableView_SelectSSIDWindow->setTableDataSource(this);
+    tableView_SelectSSIDWindow->setTableDelegate(this);
+    connect(tableView_SelectSSIDWindow, &TableView::doubleAction, this,
+            &NetworkList::MSW_DoubleAction);
+    connect(button_SelectSSIDWindowOK, &QPushButton::clicked, this,
+            &NetworkList::push_SelectSSIDWindowOK);
+    connect(button_SelectSSIDWindowCancel, &QPushButton::clicked, this,
+            &NetworkList::push_SelectSSIDWindowCancel);
+}
+
+NetworkList::~NetworkList() {
+    tableView_SelectSSIDWindow->setTableDelegate(nullptr);
+    tableView_SelectSSIDWindow->setTableDataSource(nullptr);
+}
+
+std::optional<SSIDEntry> NetworkList::pick(const QList<SSIDEntry> &networks) {
+    array_SSIDList = networks;
+    const auto stronger = [](const SSIDEntry &a, const SSIDEntry &b) {
+        return integerValue(a, DWT_SSIDList_SignalStrength) >
+               integerValue(b, DWT_SSIDList_SignalStrength);
+    };
+    std::stable_sort(array_SSIDList.begin(), array_SSIDList.end(), stronger);
+    tableView_SelectSSIDWindow->deselectAll();
+    tableView_SelectSSIDWindow->reloadData();
+    button_SelectSSIDWindowOK->setEnabled(false);
+    tableView_SelectSSIDWindow->setFocus();
+    const int row = Modal::run(this);
+    return row < 0 ? std::nullopt : std::optional(array_SSIDList.at(row));
+}
+
+int NetworkList::numberOfRowsInTableView(TableView *) {
+    return int(array_SSIDList.size());
+}
+
+QVariant NetworkList::objectValueForTableColumn(TableView *, const QString &column, int row) {
+    const SSIDEntry network = array_SSIDList.value(row);
+    if (column == QStringLiteral("SSID")) return textValue(network, DWT_SSIDList_SSID_String);
+    if (column == QStringLiteral("Security"))
+        return localized(integerValue(network, DWT_SSIDList_Encryption) != 0
+                             ? QStringLiteral("DWT_Localize_SSIDList_Security_YES")
+                             : QStringLiteral("DWT_Localize_SSIDList_Security_NO"));
+    if (column == QStringLiteral("Intensity"))
+        return localized(QLatin1String(intensityOf(network).key));
+    return {};
+}
+
+QIcon NetworkList::iconForTableColumn(TableView *, const QString &column, int row) {
+    if (column != QStringLiteral("Intensity")) return {};
+    return QIcon(QLatin1String(intensityOf(array_SSIDList.value(row)).picture));
+}
+
+bool NetworkList::selectionShouldChangeInTableView(TableView *) {
+    return true;
+}
+
+void NetworkList::tableViewSelectionDidChange(TableView *table) {
+    button_SelectSSIDWindowOK->setEnabled(table->selectedRow() >= 0);
+}
+
+void NetworkList::MSW_DoubleAction(int clickedRow) {
+    if (clickedRow >= 0) MSW_SetSelectSSID();
+}
+
+void NetworkList::push_SelectSSIDWindowOK() {
+    MSW_SetSelectSSID();
+}
+
+void NetworkList::push_SelectSSIDWindowCancel() {
+    Modal::stop(this);
+    hide();
+}
+
+void NetworkList::MSW_SetSelectSSID() {
+    const int row = tableView_SelectSSIDWindow->selectedRow();
+    if (row < 0) return;
+    Modal::stop(this, row);
+    hide();
+}

@@ -1,0 +1,120 @@
+#include "mainwindow/SendDialog.h"
+
+#include "platform/ui/FieldLooks.h"
+#include "settings/SettingKeys.h"
+
+SendDialog::SendDialog(QWidget *parent) : ModalWindow(parent) {
+    setupUi(this);
+    dictionary_SendViewManagement = std::make_unique<ViewStack>(view_SendData);
+    ViewStack &views = *dictionary_SendViewManagement;
+    views.add(DWT_View_Key_Send_ChangeCheck, view_SendChangeCheck);
+    views.add(DWT_View_Key_Send_UpdateCheck, view_UpdateChangeCheck);
+    views.add(DWT_View_Key_Send_Confirm, view_SendConfirm);
+    views.add(DWT_View_Key_Send_Progress, view_SendProgress);
+    views.add(DWT_View_Key_Send_End, view_SendEnd);
+    views.add(DWT_View_Key_Send_Login, view_SendLogin);
+    views.add(DWT_View_Key_Send_LoginError, view_SendLoginError);
+    views.add(DWT_View_Key_Send_ConnectError, view_SendConnectError);
+    fitWidth(textField_Password, QStringLiteral("00000000"));
+    connectButtons();
+    const auto observe = [this](const QString &name,
+                                void (SendDialog::*operation)(const Notification &)) {
+        m_observers.push_back(NotificationCenter::shared().observe(
+            name, [this, operation](const Notification &n) { (this->*operation)(n); }));
+    };
+    observe(DWT_DataSend_Start_Message, &SendDialog::MSW_DataSendStart);
+    observe(DWT_DataSend_Progress_Message, &SendDialog::MSW_DataSendProgress);
+    observe(DWT_DataSend_Stop_Message, &SendDialog::MSW_DataSendStop);
+}
+
+void SendDialog::connectButtons() {
+    using Self = SendDialog;
+    const auto pushes = [this](QAbstractButton *button, void (Self::*operation)()) {
+        connect(button, &QAbstractButton::clicked, this, operation);
+    };
+    pushes(button_SendChangeCheckReflect, &Self::reflectPushed);
+    pushes(button_SendChangeCheckNoReflect, &Self::noReflectPushed);
+    pushes(button_SendChangeCheckCancel, &Self::push_SendChangeCheckCancel);
+    pushes(button_UpdateChangeCheckOK, &Self::updatePushed);
+    pushes(button_UpdateChangeCheckCancel, &Self::push_UpdateChangeCheckCancel);
+    pushes(button_SendConfirmTransmission, &Self::transmissionPushed);
+    pushes(button_SendConfirmCancel, &Self::push_SendConfirmCancel);
+    pushes(button_SendLoginOK, &Self::loginPushed);
+    pushes(button_SendLoginCancel, &Self::push_SendLoginCancel);
+    pushes(button_SendLoginErrorOK, &Self::push_SendLoginErrorOK);
+    pushes(button_SendEndOK, &Self::endPushed);
+    pushes(button_SendConnectErrorOK, &Self::push_SendConnectErrorOK);
+}
+
+int SendDialog::runOn(const QString &viewKey) {
+    MSW_SendUISelector(viewKey);
+    return Modal::run(this);
+}
+
+void SendDialog::closeDialog(int outcome) {
+    Modal::stop(this, outcome);
+    hide();
+}
+
+void SendDialog::MSW_SendUISelector(const QString &viewKey) {
+    dictionary_SendViewManagement->select(viewKey);
+    dictionary_SendViewManagement->focusFirstControl();
+}
+
+void SendDialog::showProgress() {
+    progress_SendProgress->reset();
+    MSW_SendUISelector(DWT_View_Key_Send_Progress);
+}
+
+QString SendDialog::password() const {
+    return textField_Password->text();
+}
+
+void SendDialog::clearPassword() {
+    textField_Password->clear();
+}
+
+void SendDialog::push_SendChangeCheckCancel() {
+    closeDialog(stay);
+}
+
+void SendDialog::push_UpdateChangeCheckCancel() {
+    closeDialog();
+}
+
+void SendDialog::push_SendConfirmCancel() {
+    closeDialog();
+}
+
+void SendDialog::push_SendLoginCancel() {
+    closeDialog();
+}
+
+void SendDialog::push_SendLoginErrorOK() {
+    MSW_SendUISelector(DWT_View_Key_Send_Login);
+}
+
+void SendDialog::push_SendConnectErrorOK() {
+    closeDialog();
+}
+
+void SendDialog::MSW_DataSendStart(const Notification &notification) {
+    MSW_SetProgressInfo(notification.userInfo);
+}
+
+void SendDialog::MSW_DataSendProgress(const Notification &notification) {
+    MSW_SetProgressInfo(notification.userInfo);
+}
+
+void SendDialog::MSW_DataSendStop(const Notification &notification) {
+    MSW_SetProgressInfo(notification.userInfo);
+    const bool ran = notification.userInfo.value(MSW_Searching_Value_Current).toDouble() == 0;
+    MSW_SendUISelector(ran ? DWT_View_Key_Send_End : DWT_View_Key_Send_ConnectError);
+}
+
+void SendDialog::MSW_SetProgressInfo(const QVariantMap &progress) {
+    const auto number = [&](const QString &key) { return qRound(progress.value(key).toDouble()); };
+    progress_SendProgress->setRange(number(MSW_Searching_Value_Minimum),
+                                    number(MSW_Searching_Value_Maximum));
+    progress_SendProgress->setValue(number(MSW_Searching_Value_Current));
+}

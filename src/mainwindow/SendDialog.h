@@ -1,0 +1,78 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/core/NotificationCenter.h"
+#include "platform/ui/Modal.h"
+#include "platform/ui/ModalWindow.h"
+#include "platform/ui/ViewStack.h"
+#include "ui_SendDialog.h"
+
+// Views of the send dialog.
+inline const QString DWT_View_Key_Send_ChangeCheck =
+    QStringLiteral("DWT_View_Key_Send_ChangeCheck");
+inline const QString DWT_View_Key_Send_UpdateCheck =
+    QStringLiteral("DWT_View_Key_Send_UpdateCheck");
+inline const QString DWT_View_Key_Send_Confirm = QStringLiteral("DWT_View_Key_Send_Confirm");
+inline const QString DWT_View_Key_Send_Progress = QStringLiteral("DWT_View_Key_Send_Progress");
+inline const QString DWT_View_Key_Send_End = QStringLiteral("DWT_View_Key_Send_End");
+inline const QString DWT_View_Key_Send_Login = QStringLiteral("DWT_View_Key_Send_Login");
+inline const QString DWT_View_Key_Send_LoginError = QStringLiteral("DWT_View_Key_Send_LoginError");
+inline const QString DWT_View_Key_Send_ConnectError =
+    QStringLiteral("DWT_View_Key_Send_ConnectError");
+
+// The dialog of a send, from the question for the password to the end, and of the questions about
+// unsent changes. It follows the running send by itself; what has consequences outside it is told
+// by its signals. Main thread only.
+class SendDialog : public ModalWindow, private Ui::SendDialog {
+    Q_OBJECT
+  public:
+    // Outcome of a run in which the user chose to stay.
+    static constexpr int stay = 0;
+
+    // Hidden; belongs to `parent`.
+    explicit SendDialog(QWidget *parent);
+
+    // Shows the dialog on the view of the key and runs until it is closed. Result: the outcome.
+    int runOn(const QString &viewKey);
+    // Ends the run with the outcome and hides the dialog.
+    void closeDialog(int outcome = Modal::stoppedOutcome);
+    // Shows the view of the key and hides the others.
+    void MSW_SendUISelector(const QString &viewKey);
+    // Shows the progress of a send that is about to start.
+    void showProgress();
+
+    // The password as it is typed in the login view.
+    QString password() const;
+    void clearPassword();
+
+  Q_SIGNALS:
+    // The unsent changes are to be sent, or dropped, before the window is left.
+    void reflectPushed();
+    void noReflectPushed();
+    // The printer is to be read again although changes are unsent.
+    void updatePushed();
+    // The typed password is to be tried; the dialog waits on the login view.
+    void loginPushed();
+    // The send is confirmed.
+    void transmissionPushed();
+    // The end of a send was read.
+    void endPushed();
+
+  private:
+    void connectButtons();
+    void push_SendChangeCheckCancel();
+    void push_UpdateChangeCheckCancel();
+    void push_SendConfirmCancel();
+    void push_SendLoginCancel();
+    void push_SendLoginErrorOK();
+    void push_SendConnectErrorOK();
+    void MSW_DataSendStart(const Notification &notification);
+    void MSW_DataSendProgress(const Notification &notification);
+    void MSW_DataSendStop(const Notification &notification);
+    void MSW_SetProgressInfo(const QVariantMap &progress);
+
+    std::unique_ptr<ViewStack> dictionary_SendViewManagement;
+    std::vector<NotificationCenter::Observer> m_observers;
+};

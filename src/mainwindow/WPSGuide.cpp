@@ -1,0 +1,32 @@
+#include "mainwindow/WPSGuide.h"
+
+#include <QEvent>
+#include <QIcon>
+
+WPSGuide::WPSGuide(QWidget *container) : QObject(container) {
+    setupUi(container);
+    view_WPS2->installEventFilter(this);
+    const auto forward = [this](QAbstractButton *button, void (WPSGuide::*pushed)()) {
+        connect(button, &QAbstractButton::clicked, this, pushed);
+    };
+    forward(button_WPS1Next, &WPSGuide::next1);
+    forward(button_WPS1Back, &WPSGuide::back1);
+    forward(button_WPS1EXIT, &WPSGuide::exit1);
+    forward(button_WPS2Next, &WPSGuide::next2);
+    forward(button_WPS2Back, &WPSGuide::back2);
+    forward(button_WPS2EXIT, &WPSGuide::exit2);
+}
+
+void WPSGuide::hideBack() {
+    button_WPS1Back->hide();
+    button_WPS2Back->hide();
+}
+
+bool WPSGuide::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::Show) {
+        const QIcon picture(QStringLiteral(":/pictures/wps.svg"));
+        imageView_WPS2->setPixmap(picture.pixmap(imageView_WPS2->minimumSize()));
+        watched->removeEventFilter(this);
+    }
+    return false;
+}

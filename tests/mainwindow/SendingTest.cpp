@@ -1,0 +1,187 @@
+#include <QLabel>
+#include <QProgressBar>
+#include <QRadioButton>
+
+#include "PrinterWindow.h"
+
+namespace {
+
+const char *const passwordProfile = R"({"password": "open123"})";
+const char *const gone = R"({"refuseConnection": true})";
+
+class Sending : public PrinterWindow {
+  protected:
+    void openAndType(const QByteArray &profile) {
+        open(profile);
+        typeName("new-name");
+    }
+    void expectUnsent() {
+        EXPECT_TRUE(isEnabled("button_MainSend")) << "the changes are still there";
+        EXPECT_EQ(name(), text("new-name"));
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    }
+    void send() {
+        click("button_MainSend");
+        EXPECT_TRUE(dialogs.isDone());
+    }
+    // The change of a name warns, whatever happens then.
+    DialogScript &warned() {
+        return dialogs.alert("The connection to the printer needs your attention");
+    }
+    DialogScript::Answer faults(const QByteArray &faults) {
+        return [this, faults](QWidget *) { setFaults(faults); };
+    }
+};
+
+TEST_F(Sending, WithoutAPasswordOneConfirmationSendsEverything) {
+    openAndType(R"({"items": {"0x3102": 3, "0x3103": 3}})");
+    choose("Infrastructure");
+    type("textField_InfrastructurePSK", "secret key");
+    EXPECT_FALSE(isEnabled("button_EthernetConnect") || isEnabled("button_InfrastructureConnect"));
+    QList<int> values;
+    QObject::connect(control<QProgressBar>("progress_SendProgress"), &QProgressBar::valueChanged,
+                     [&](int value) { values << value; });
+    warned().confirmAndEnd();
+    send();
+    EXPECT_EQ(values, (QList<int>{0, 16, 33, 50, 66, 85, 100, 0}));
+    EXPECT_EQ(held(), QByteArray("new-name"));
+    EXPECT_TRUE(served->printer().item(0x3105).endsWith("secret key"));
+    EXPECT_EQ(field("textField_InfrastructurePSK")->text(), QString());
+    EXPECT_FALSE(isEnabled("button_MainSend"));
+    EXPECT_TRUE(isEnabled("button_EthernetConnect") && isEnabled("button_InfrastructureConnect"));
+    click("button_MainCancel");
+    EXPECT_FALSE(isOpen()) << "nothing was left unsent";
+}
+
+TEST_F(Sending, TheLoginIsAskedForUntilItIsRightOrCancelled) {
+    openAndType(passwordProfile);
+    const auto expectPassword = [](const char *typed) {
+        return [typed](QWidget *dialog) {
+            auto *password = controlOf<QLineEdit>(dialog, "textField_Password");
+            EXPECT_EQ(password->text(), text(typed));
+            EXPECT_EQ(dialog->focusWidget(), password);
+        };
+    };
+    warned()
+        .login("wrong")
+        .on("view_SendLoginError", "button_SendLoginErrorOK")
+        .on("view_SendLogin", expectPassword("wrong"))
+        .login("open123")
+        .on("view_SendConfirm", "button_SendConfirmCancel");
+    send();
+    expectUnsent();
+    warned().on("view_SendLogin", expectPassword(""), "button_SendLoginCancel");
+    send();
+    expectUnsent();
+    EXPECT_EQ(held(), QByteArray("label-printer"));
+    warned()
+        .on("view_SendLogin",
+            [](QWidget *dialog) {
+                typeInto(controlOf<QLineEdit>(dialog, "textField_Password"), text("open123"));
+                QTest::keyClick(dialog, Qt::Key_Return);
+            })
+        .confirmAndEnd();
+    send();
+    EXPECT_EQ(held(), QByteArray("new-name"));
+}
+
+TEST_F(Sending, WrongInputOnTwoPagesShowsBothAlertsAndSendsNothing) {
+    open("{}");
+    typeName("new name");
+    choose("Wired network");
+    press(control("radioButton_EthernetIPAddressSetting"), "buttonCell_Manual");
+    type("textField_EthernetIpAddress", "1.2.3");
+    dialogs.alert("IP address cannot be used").alert("Bonjour name cannot be used");
+    send();
+    EXPECT_TRUE(served->printer().log().empty());
+}
+
+TEST_F(Sending, APrinterUnpluggedBeforeTheSendLosesNothing) {
+    openAndType(passwordProfile);
+    setFaults(gone);
+    warned().on("view_SendConnectError", "button_SendConnectErrorOK");
+    send();  // before the question for the password
+    expectUnsent();
+    setFaults("{}");
+    warned()
+        .on("view_SendLogin", faults(gone))
+        .login("open123")
+        .on("view_SendLogin", faults("{}"), "button_SendLoginOK")
+        .on("view_SendConfirm", faults(gone), "button_SendConfirmTransmission")
+        .on("view_SendConnectError", "button_SendConnectErrorOK");
+    send();
+    expectUnsent();
+    setFaults("{}");
+    warned().login("open123").confirmAndEnd();
+    send();
+    EXPECT_EQ(held(), QByteArray("new-name"));
+}
+
+TEST_F(Sending, APrinterUnpluggedDuringTheSendKeepsTheTypedValues) {
+    for (const int frames : {1, 2, 3, 6, 9, 12}) {
+        SCOPED_TRACE(frames);
+        openAndType("{}");
+        warned().confirmAndEnd(
+            faults("{\"closeAfterFrames\": " + QByteArray::number(frames) + "}"));
+        send();
+        EXPECT_EQ(held(), QByteArray("label-printer")) << "half of a transaction was kept";
+        EXPECT_EQ(name(), text("new-name"));
+        setFaults("{}");
+        type("textField_NetworkBonjourService", "desk");
+        warned().confirmAndEnd();
+        send();
+        EXPECT_EQ(held(), QByteArray("new-name"));
+    }
+}
+
+TEST_F(Sending, EscapeCancelsWhereTheViewCanBeCancelled) {
+    openAndType(passwordProfile);
+    const auto close = [](QWidget *window) { window->close(); };
+    warned().key("view_SendLogin", Qt::Key_Escape);
+    send();
+    expectUnsent();
+    warned().login("open123").on("view_SendConfirm", close);
+    send();
+    expectUnsent();
+    dialogs.key("view_UpdateChangeCheck", Qt::Key_Escape);
+    click("button_MainNewSetting");
+    expectUnsent();
+    dialogs.on("view_SendChangeCheck", close);
+    EXPECT_FALSE(main->terminateNetworkTool());
+    expectUnsent();
+    const auto tryToLeave = [](const char *view) {
+        return [view](QWidget *dialog) {
+            QTest::keyClick(dialog, Qt::Key_Escape);
+            dialog->close();
+            EXPECT_TRUE(controlOf(dialog, view)->isVisible());
+        };
+    };
+    warned()
+        .login("open123")
+        .on("view_SendConfirm", faults(R"({"delay": 30})"), "button_SendConfirmTransmission")
+        .on("view_SendProgress", tryToLeave("view_SendProgress"))
+        .on("view_SendEnd", tryToLeave("view_SendEnd"), "button_SendEndOK");
+    send();
+    EXPECT_EQ(held(), QByteArray("new-name"));
+}
+
+TEST_F(Sending, TheConnectionTestAsksTheAddressInUse) {
+    open(R"({"items": {"0x2001": {"setting": 0, "address": "10.9.9.9", "mask": "255.0.0.0",
+         "gateway": "10.0.0.1"}}})");
+    const struct {
+        const char *category, *button, *label, *faults, *answer;
+    } cases[] = {{"Wired network", "button_EthernetConnect", "textField_EthernetConnection", "{}",
+                  "The printer answers"},
+                 {"Wired network", "button_EthernetConnect", "textField_EthernetConnection", gone,
+                  "The printer does not answer"},
+                 {"Infrastructure", "button_InfrastructureConnect",
+                  "textField_InfrastructureConnection", "{}", "The printer answers"}};
+    for (const auto &c : cases) {
+        choose(c.category);
+        setFaults(c.faults);
+        click(c.button);
+        EXPECT_EQ(control<QLabel>(c.label)->text(), text(c.answer));
+    }
+}
+
+}  // namespace
