@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -45,9 +46,15 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // request was answered; 1 there is no link; 6 at least one request got no reply (its value and
     // those after it have their defaults); otherwise the link's result of connecting.
     int setupDataFromPrinter(int);
+    // How often a search for networks is asked whether it has finished, and how long it is waited
+    // between two polls.
+    static constexpr int scanPolls = 10;
+    static constexpr std::chrono::milliseconds scanInterval{1000};
     // The networks that the printer finds, in its order; empty when it found none or did not finish
-    // in ten polls (about 10 s); nothing when it cannot be connected.
+    // in scanPolls polls; nothing when it cannot be connected.
     std::optional<QList<SSIDEntry>> SSIDList();
+    // Waits another time than scanInterval between two polls; for tests.
+    void setScanInterval(std::chrono::milliseconds interval) { m_scanInterval = interval; }
 
     // --- Sending (DWTDataManagerSending.cpp) ---
 
@@ -107,6 +114,10 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     QString NDM_DataToSoftwareVersion(ItemCode code);
     std::optional<CategoryDictionary> NDM_DataToArray(ItemCode code);
     std::optional<CategoryDictionary> NDM_DataToIntegerAndArray(ItemCode code);
+    // One request through the decoder; nothing while the read-failure flag is cleared.
+    template <typename Value>
+    std::optional<Value> ask(ItemCode code,
+                             std::optional<Value> (*decoder)(const QByteArray &, ItemCode));
     // Asks whatever the flag says.
     std::optional<QList<SSIDEntry>> NDM_SSIDInfo(ItemCode code);
     QString NDM_DataToPrinterName(const std::shared_ptr<DWTCommunicationControl> &link);
@@ -174,4 +185,5 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     bool resultSettingRequest_BOOL = false;
     // Password of the last successful login; consumed by the next send.
     QString loginPassword_String;
+    std::chrono::milliseconds m_scanInterval = scanInterval;
 };

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr int scanPolls = 10;
-constexpr std::chrono::milliseconds scanInterval{1000};
 constexpr int scanFinished = 2;
 // The first network found (counted from 1) whose block is then read.
 constexpr std::pair<int, ItemCode> scanBlocks[] = {
@@ -82,42 +80,40 @@ QByteArray DWTDataManager::NDM_SendCommandSettingRequest(ItemCode code) {
     return reply;
 }
 
+template <typename Value>
+std::optional<Value> DWTDataManager::ask(ItemCode code,
+                                         std::optional<Value> (*decoder)(const QByteArray &,
+                                                                         ItemCode)) {
+    if (!resultSettingRequest_BOOL) return {};
+    return decoded(NDM_SendCommandSettingRequest(code), code, decoder);
+}
+
 QString DWTDataManager::NDM_DataToString(ItemCode code) {
-    if (!resultSettingRequest_BOOL) return unreadable;
-    return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::text).value_or(unreadable);
+    return ask(code, ItemCodec::text).value_or(unreadable);
 }
 
 int DWTDataManager::NDM_DataToInteger(ItemCode code) {
-    if (!resultSettingRequest_BOOL) return 0;
-    return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::integer).value_or(0);
+    return ask(code, ItemCodec::integer).value_or(0);
 }
 
 QString DWTDataManager::NDM_DataToStringAndLength(ItemCode code) {
-    if (!resultSettingRequest_BOOL) return unreadable;
-    return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::textWithLength)
-        .value_or(unreadable);
+    return ask(code, ItemCodec::textWithLength).value_or(unreadable);
 }
 
 QString DWTDataManager::NDM_DataToMacAddress(ItemCode code) {
-    if (!resultSettingRequest_BOOL) return unreadable;
-    return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::macAddress)
-        .value_or(unreadable);
+    return ask(code, ItemCodec::macAddress).value_or(unreadable);
 }
 
 QString DWTDataManager::NDM_DataToSoftwareVersion(ItemCode code) {
-    if (!resultSettingRequest_BOOL) return unreadable;
-    return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::softwareVersion)
-        .value_or(unreadable);
+    return ask(code, ItemCodec::softwareVersion).value_or(unreadable);
 }
 
 std::optional<CategoryDictionary> DWTDataManager::NDM_DataToArray(ItemCode code) {
-    if (!resultSettingRequest_BOOL) return {};
-    return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::addresses);
+    return ask(code, ItemCodec::addresses);
 }
 
 std::optional<CategoryDictionary> DWTDataManager::NDM_DataToIntegerAndArray(ItemCode code) {
-    if (!resultSettingRequest_BOOL) return {};
-    return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::integerAndAddresses);
+    return ask(code, ItemCodec::integerAndAddresses);
 }
 
 std::optional<QList<SSIDEntry>> DWTDataManager::NDM_SSIDInfo(ItemCode code) {
@@ -237,7 +233,7 @@ std::optional<QList<SSIDEntry>> DWTDataManager::NDM_DataToSSIDArray() {
         status = ItemCodec::scanStatus(NDM_SendCommandSettingRequest(0x3120));
         if (status) networks = QList<SSIDEntry>();
         if (status && status->state == scanFinished) break;
-        waitFor(scanInterval);
+        waitFor(m_scanInterval);
     }
     if (!status || status->state != scanFinished) return networks;
     for (const auto &[first, code] : scanBlocks)

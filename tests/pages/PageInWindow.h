@@ -10,10 +10,6 @@
 #include "platform/core/Texts.h"
 #include "support/DataManagers.h"
 
-inline QString text(const char *utf8) {
-    return QString::fromUtf8(utf8);
-}
-
 // A page in a window, filled from a virtual printer that was read.
 class PageInWindow {
   public:

@@ -9,10 +9,6 @@ using Transport = OnePrinterLibrary::Transport;
 QStringList address(const char *dotted) {
     return QString::fromLatin1(dotted).split(u'.');
 }
-QString text(const char *utf8) {
-    return QString::fromUtf8(utf8);
-}
-
 // A manager whose printer has been read, and the notifications of its sends.
 class Send : public testing::TestWithParam<Transport> {
   protected:
@@ -73,13 +69,17 @@ TEST_P(Send, WritesEveryItemInOrderAndThePrinterHoldsWhatWasSent) {
                                   {DWT_SaveData_Network_Bonjour, text("bonjour")},
                                   {DWT_SaveData_Network_BonjourService, text("Service")}});
     change(DWT_View_Key_Ethernet, {{DWT_SaveData_Ethernet_IPAddressSetting, 1},
-                                   {DWT_SaveData_Ethernet_IPAddress, address("10.0.0.7")}});
+                                   {DWT_SaveData_Ethernet_IPAddress, address("10.0.0.7")},
+                                   {DWT_SaveData_Ethernet_Subnetmask, address("255.0.0.0")},
+                                   {DWT_SaveData_Ethernet_Gateway, address("10.0.0.1")}});
     change(DWT_View_Key_Wireless, {{DWT_SaveData_Wireless_CommunicateMode, 2}});
     change(DWT_View_Key_Infrastructure,
            {{DWT_SaveData_Infrastructure_SSID, text("New")},
             {DWT_SaveData_Infrastructure_PSK, text("secret key")},
             {DWT_SaveData_Infrastructure_IPAddressSetting, 1},
-            {DWT_SaveData_Infrastructure_IPAddress, address("10.2.0.7")}});
+            {DWT_SaveData_Infrastructure_IPAddress, address("10.2.0.7")},
+            {DWT_SaveData_Infrastructure_Subnetmask, address("255.255.0.0")},
+            {DWT_SaveData_Infrastructure_Gateway, address("10.2.0.1")}});
     change(DWT_View_Key_SimpleAP, {{DWT_SaveData_SimpleAP_SSID, text("AP")},
                                    {DWT_SaveData_SimpleAP_PSK, text("other key")}});
     change(DWT_View_Key_Firmware, {{DWT_SaveData_Firmware_Timeout, 120}});
@@ -95,12 +95,12 @@ TEST_P(Send, WritesEveryItemInOrderAndThePrinterHoldsWhatWasSent) {
     EXPECT_EQ(printer.item(0x1006), "Name");
     EXPECT_EQ(printer.item(0x1004), "bonjour");
     EXPECT_EQ(printer.item(0x1005), "Service");
-    EXPECT_EQ(printer.item(0x2001).left(6), hex("01000a000007"));
+    EXPECT_EQ(printer.item(0x2001), hex("01000a000007ff0000000a000001"));
     EXPECT_EQ(printer.item(0x2002).left(4), hex("0a000007"));
     EXPECT_EQ(printer.item(0x3000), hex("0200"));
     EXPECT_EQ(printer.item(0x3104), hex("0300") + "New");
     EXPECT_EQ(printer.item(0x3105), hex("0a00") + "secret key");
-    EXPECT_EQ(printer.item(0x3108).left(6), hex("01000a020007"));
+    EXPECT_EQ(printer.item(0x3108), hex("01000a020007ffff00000a020001"));
     EXPECT_EQ(printer.item(0x3201), hex("0200") + "AP");
     EXPECT_EQ(printer.item(0x3202), hex("0900") + "other key");
     EXPECT_EQ(printer.item(0x1007), hex("7800"));

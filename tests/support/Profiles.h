@@ -9,7 +9,9 @@
 
 // The virtual printer of a description in JSON text.
 inline std::shared_ptr<VirtualPrinter> printerOf(const QByteArray &json) {
-    const auto result = profileFromJson(QJsonDocument::fromJson(json).object());
+    const auto document = QJsonDocument::fromJson(json);
+    EXPECT_TRUE(document.isObject()) << json.constData();
+    const auto result = profileFromJson(document.object());
     EXPECT_TRUE(result.profile) << qPrintable(result.error);
     return std::make_shared<VirtualPrinter>(result.profile.value_or(Profile{}));
 }
