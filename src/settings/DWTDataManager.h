@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -16,9 +17,9 @@
 // and every exchange that fills the one and writes the other. It owns the link to the printer.
 //
 // Made with the plain init() it has no link; every exchange then fails as its result says. All
-// operations run on the main thread and wait there for the printer, at most 15000 ms for each of
-// its answers. Only the send runs on a thread of its own; while it does, no other operation is
-// called.
+// operations run on the main thread and wait there for the printer, at most
+// DWTCommunicationControl::callTimeout for each of its answers. Only the send runs on a thread of
+// its own; while it does, no other operation is called.
 class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<DWTDataManager> {
   public:
     // A data manager for the printer of `entry`; a null pointer when the link cannot be made.
@@ -46,8 +47,13 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // those after it have their defaults); otherwise the link's result of connecting.
     int setupDataFromPrinter(int);
     // The networks that the printer finds, in its order; empty when it found none or did not finish
-    // in ten polls (about 10 s); nothing when it cannot be connected.
+    // in scanPolls polls, one every scan interval; nothing when it cannot be connected.
     std::optional<QList<SSIDEntry>> SSIDList();
+    static constexpr int scanPolls = 10;
+    static constexpr std::chrono::milliseconds defaultScanInterval{1000};
+    // Time between two polls of a search, defaultScanInterval at first; shorter for virtual
+    // printers.
+    void setScanInterval(std::chrono::milliseconds interval) { m_scanInterval = interval; }
 
     // --- Sending (DWTDataManagerSending.cpp) ---
 
@@ -59,10 +65,11 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // holds what the printer accepted. Not to be called again before the stop.
     void sendDataToPrinter();
 
-    // --- Printers and login (DWTDataManagerPrinters.cpp) ---
+    // --- Printers (DWTDataManagerPrinters.cpp) ---
 
     // The supported printers that can be reached, USB printers with their own name under
-    // "MachineName"; only USB printers in installer mode. Nothing when no link can be made.
+    // PrinterKey::MachineName; only USB printers in installer mode. Nothing when no link can be
+    // made.
     std::optional<QList<PrinterEntry>> printerList();
     // The name of the printer of `entry`, asked through `link`; " " when it cannot be read.
     QString printerName(const std::shared_ptr<DWTCommunicationControl> &link,
@@ -70,6 +77,9 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // Whether a printer answers at the address of exactly four parts; negative when not, when there
     // are not four parts, or without a link.
     int isCheckConnectToPrinter(const QStringList &address);
+
+    // --- Connection, password state and login (DWTDataManagerLogin.cpp) ---
+
     // 2: an administrator password is set; 3: none is set; 1: the printer cannot be connected or
     // gives no usable answer.
     int isPassword();
@@ -174,4 +184,5 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     bool resultSettingRequest_BOOL = false;
     // Password of the last successful login; consumed by the next send.
     QString loginPassword_String;
+    std::chrono::milliseconds m_scanInterval = defaultScanInterval;
 };

@@ -1,4 +1,4 @@
-// Listing printers, checking an address, password state and login.
+// Listing printers and checking an address.
 
 #include "platform/core/PropertyList.h"
 #include "settings/DWTDataManager.h"
@@ -6,17 +6,9 @@
 
 namespace {
 
-const QString connectionType = QStringLiteral("ConnectionType");
-const QString productName = QStringLiteral("ProductName");
-const QString machineName = QStringLiteral("MachineName");
 const QString unreadable = QStringLiteral(" ");
 
 constexpr int nameItem = 0x1006;
-
-// Answers about the administrator password.
-enum PasswordState { NoAnswer = 1, PasswordSet = 2, NoPassword = 3 };
-constexpr int loginAccepted = 4;
-constexpr int noLink = 1;
 
 }  // namespace
 
@@ -27,12 +19,12 @@ std::optional<QList<PrinterEntry>> DWTDataManager::printerList() {
     const QVariantMap models =
         PropertyList::dictionary(QStringLiteral("ZMPrinterStatusTable"), QStringLiteral("plist"));
     for (PrinterEntry entry : link->printerList().value_or(QList<PrinterEntry>())) {
-        if (!models.contains(entry.value(productName))) continue;
+        if (!models.contains(entry.value(PrinterKey::ProductName))) continue;
         const bool installer = checkLunchedMode();
-        if (entry.value(connectionType) == u"USB") {
+        if (entry.value(PrinterKey::ConnectionType) == PrinterConnection::USB) {
             const QString name = printerName(link, entry);
             if (name == unreadable) continue;
-            entry.insert(machineName, name);
+            entry.insert(PrinterKey::MachineName, name);
         } else if (installer) {
             continue;
         }
@@ -52,40 +44,6 @@ int DWTDataManager::isCheckConnectToPrinter(const QStringList &address) {
     QStringList octets;
     for (const QString &part : address) octets << QString::number(integerOf(part));
     return ncc_Object->checkConnect(octets.join(u'.'));
-}
-
-int DWTDataManager::isPassword() {
-    if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) return NoAnswer;
-    const int state = NDM_DataToInteger(0x1000);
-    ncc_Object->disconnectPrinter(0);
-    switch (state) {
-        case 0:
-            return NoPassword;
-        case 1:
-            return PasswordSet;
-        default:
-            return NoAnswer;
-    }
-}
-
-int DWTDataManager::checkLoginPassword(const QString &password) {
-    if (!ncc_Object) return 0;
-    const int result = NDM_StringToData(0x1001, password);
-    if (result != 0) return result;
-    loginPassword_String = password;
-    return loginAccepted;
-}
-
-int DWTDataManager::connectPrinter() {
-    return ncc_Object ? ncc_Object->connectPrinter(0) : noLink;
-}
-
-void DWTDataManager::disconnectPrinter() {
-    if (ncc_Object) ncc_Object->disconnectPrinter(0);
-}
-
-void DWTDataManager::qkStatusLength(int length) {
-    if (ncc_Object) ncc_Object->qkStatusLength(length);
 }
 
 bool DWTDataManager::NDM_InitMemberToPrinterList(

@@ -16,8 +16,6 @@ const QString unreadable = QStringLiteral(" ");
 constexpr int missingReply = 6;
 constexpr int noLink = 1;
 
-constexpr int scanPolls = 10;
-constexpr std::chrono::milliseconds scanInterval{1000};
 constexpr int scanFinished = 2;
 // The first network found (counted from 1) whose block is then read.
 constexpr std::pair<int, int> scanBlocks[] = {{1, 0x3121}, {6, 0x3122}, {11, 0x3123}, {16, 0x3124}};
@@ -243,7 +241,7 @@ std::optional<QList<SSIDEntry>> DWTDataManager::NDM_DataToSSIDArray() {
         status = ItemCodec::scanStatus(NDM_SendCommandSettingRequest(0x3120));
         if (status) networks = QList<SSIDEntry>();
         if (status && status->state == scanFinished) break;
-        waitFor(scanInterval);
+        waitFor(m_scanInterval);
     }
     if (!status || status->state != scanFinished) return networks;
     for (const auto &[first, code] : scanBlocks)
