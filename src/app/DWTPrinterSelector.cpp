@@ -22,8 +22,6 @@ const QString _SERVICE_NAME_ = QStringLiteral("_SERVICE_NAME_");
 constexpr int connectByUSB = 0;
 constexpr int connectByWPS = 1;
 
-const QString bonjourServiceName = QStringLiteral("BonjourServiceName");
-
 }  // namespace
 
 DWTPrinterSelector::~DWTPrinterSelector() {
@@ -203,10 +201,10 @@ QVariant DWTPrinterSelector::objectValueForTableColumn(TableView *, const QStrin
                                                        int row) {
     if (row >= array_PrinterList.size()) return {};
     const PrinterEntry &entry = array_PrinterList[row];
-    const bool network = entry.contains(bonjourServiceName);
+    const bool network = entry.contains(PrinterKey::BonjourServiceName);
     if (column == _MODEL_NAME_)
-        return network ? entry.value(bonjourServiceName)
-                       : entry.value(QStringLiteral("MachineName"));
+        return network ? entry.value(PrinterKey::BonjourServiceName)
+                       : entry.value(PrinterKey::MachineName);
     if (column == _SERVICE_NAME_)
         return localized(network ? QStringLiteral("DWT_Localize_PrinterList_BonjourService_Network")
                                  : QStringLiteral("DWT_Localize_PrinterList_BonjourService_USB"));
@@ -215,7 +213,7 @@ QVariant DWTPrinterSelector::objectValueForTableColumn(TableView *, const QStrin
 
 QIcon DWTPrinterSelector::iconForTableColumn(TableView *, const QString &column, int row) {
     if (column != _SERVICE_NAME_) return {};
-    const bool network = array_PrinterList.value(row).contains(bonjourServiceName);
+    const bool network = array_PrinterList.value(row).contains(PrinterKey::BonjourServiceName);
     return QIcon(network ? QStringLiteral(":/pictures/network.svg")
                          : QStringLiteral(":/pictures/usb.svg"));
 }

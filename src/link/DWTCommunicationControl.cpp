@@ -4,13 +4,6 @@
 
 namespace {
 
-// Longest time one library call may take, in milliseconds.
-constexpr int timeout = 15000;
-// Size in bytes of the area in which a reply is examined.
-constexpr int replyArea = 512;
-// Status length of models that the status table does not know, in bytes.
-constexpr int defaultStatusLength = 20;
-
 // The reply when the library reported success.
 std::optional<QByteArray> replyOf(int result, const QByteArray &reply) {
     return result == ZMLib::Success ? std::optional(reply) : std::nullopt;
@@ -70,13 +63,13 @@ std::optional<QList<PrinterEntry>> DWTCommunicationControl::printerList() {
 int DWTCommunicationControl::connectPrinter(int) {
     const auto library = installedLibrary();
     const QString uri = deviceURI();
-    switch (library->ZMGetEngageStatusSub(uri, timeout)) {
+    switch (library->ZMGetEngageStatusSub(uri, callTimeout)) {
         case 0:
             return library->ZMStartCommand(uri, settingCommands_Array, qkStatusLength_Integer,
-                                           timeout);
+                                           callTimeout);
         case 1:
             return library->ZMEngageConnectAndStartCommand(uri, settingCommands_Array,
-                                                           qkStatusLength_Integer, timeout);
+                                                           qkStatusLength_Integer, callTimeout);
         default:
             return 1;
     }
@@ -84,28 +77,30 @@ int DWTCommunicationControl::connectPrinter(int) {
 
 int DWTCommunicationControl::disconnectPrinter(int) {
     return installedLibrary()->ZMEndCommandAndEngageDisConnect(deviceURI(), settingCommands_Array,
-                                                               qkStatusLength_Integer, timeout);
+                                                               qkStatusLength_Integer, callTimeout);
 }
 
 std::optional<QByteArray> DWTCommunicationControl::selectPrinterInfomation(
     const QByteArray &request) {
     QByteArray reply;
-    const int result = installedLibrary()->ZMGetSettingData(deviceURI(), replyArea, request, reply,
-                                                            settingCommands_Array, timeout);
+    const int result = installedLibrary()->ZMGetSettingData(
+        deviceURI(), ZMLib::replyArea, request, reply, settingCommands_Array, callTimeout);
     return replyOf(result, reply);
 }
 
 std::optional<QByteArray> DWTCommunicationControl::sendSetting(const QByteArray &frame) {
     QByteArray reply;
-    const int result = installedLibrary()->ZMSendSettingData(
-        deviceURI(), static_cast<int>(frame.size()), frame, reply, settingCommands_Array, timeout);
+    const int result =
+        installedLibrary()->ZMSendSettingData(deviceURI(), static_cast<int>(frame.size()), frame,
+                                              reply, settingCommands_Array, callTimeout);
     return replyOf(result, reply);
 }
 
 int DWTCommunicationControl::checkConnect(const QString &address) {
-    const bool usb = dictionary_PrinterInfomation.value(QStringLiteral("ConnectionType")) == u"USB";
-    const QString target = usb ? QStringLiteral("ZMtcpip://") : deviceURI();
-    return installedLibrary()->ZMIOOpenForUDP(target, address, qkStatusLength_Integer, timeout);
+    const bool usb =
+        dictionary_PrinterInfomation.value(PrinterKey::ConnectionType) == PrinterConnection::USB;
+    const QString target = usb ? ZMLib::anyPrinter : deviceURI();
+    return installedLibrary()->ZMIOOpenForUDP(target, address, qkStatusLength_Integer, callTimeout);
 }
 
 bool DWTCommunicationControl::NUS_Init() {
@@ -114,7 +109,7 @@ bool DWTCommunicationControl::NUS_Init() {
     settingUpdateCommand_Data.clear();
     settingCommands_Array.clear();
     dictionary_PrinterInfomation.clear();
-    qkStatusLength_Integer = defaultStatusLength;
+    qkStatusLength_Integer = ZMLib::defaultStatusLength;
     return true;
 }
 
@@ -127,5 +122,5 @@ bool DWTCommunicationControl::NUS_InitMember(const PrinterEntry &entry) {
 }
 
 QString DWTCommunicationControl::deviceURI() const {
-    return dictionary_PrinterInfomation.value(QStringLiteral("DeviceURI"));
+    return dictionary_PrinterInfomation.value(PrinterKey::DeviceURI);
 }

@@ -13,10 +13,13 @@
 // buffers and result codes and never looks into a frame.
 //
 // Used from one thread at a time. Every operation that asks the printer blocks its thread for at
-// most 15000 ms (on the main thread windows go on painting meanwhile). Integer results are the
+// most callTimeout (on the main thread windows go on painting meanwhile). Integer results are the
 // library's own, 0 = success, unless stated otherwise.
 class DWTCommunicationControl : public DWTBaseClass {
   public:
+    // Longest time that one library call may take, in milliseconds.
+    static constexpr int callTimeout = 15000;
+
     // A link for `entry`, without command frames; a null pointer when there is no entry to copy.
     static std::shared_ptr<DWTCommunicationControl> communicationControl(const PrinterEntry &entry);
 
@@ -34,8 +37,8 @@ class DWTCommunicationControl : public DWTBaseClass {
     // Builds the command list from the three frames, in the order start, update, end.
     void setCommandSettingToArray();
 
-    // Stores the status length (bytes) that the library needs for the printer's model; 20 until
-    // then.
+    // Stores the status length (bytes) that the library needs for the printer's model;
+    // ZMLib::defaultStatusLength until then.
     void qkStatusLength(int length);
 
     // The printers that the library can reach; nothing when it gives no list. Needs no connection.
@@ -50,7 +53,7 @@ class DWTCommunicationControl : public DWTBaseClass {
     int disconnectPrinter(int);
 
     // The printer's reply to a request frame; nothing when the library reports a failure, also
-    // when bytes had come. At most 512 bytes.
+    // when bytes had come. At most ZMLib::replyArea bytes.
     std::optional<QByteArray> selectPrinterInfomation(const QByteArray &request);
 
     // The printer's reply to a setting frame; otherwise as above.

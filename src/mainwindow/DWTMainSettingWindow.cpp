@@ -10,8 +10,6 @@
 
 namespace {
 
-// Bytes of the status reply of a model that the status table does not name.
-constexpr int usualStatusLength = 20;
 // The Network page in the outline, with every node expanded.
 constexpr int networkRow = 2;
 
@@ -152,7 +150,7 @@ void DWTMainSettingWindow::connectButtons() {
 bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &entry) {
     if (entry) {
         if (dictionary_PrinterInfo.isEmpty()) dictionary_PrinterInfo = *entry;
-        const QString product = entry->value(QStringLiteral("ProductName"));
+        const QString product = entry->value(PrinterKey::ProductName);
         textField_SelectPrinterName->setText(product);
         if (!dataManager_Object) {
             dataManager_Object = DWTDataManager::dataManager(dictionary_PrinterInfo);
@@ -160,12 +158,12 @@ bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &ent
                 page->dataManagerObject(dataManager_Object);
         }
         if (dataManager_Object) dataManager_Object->qkStatusLength(statusLengthOf(product));
-        bool_usbPrinter =
-            entry->value(QStringLiteral("ConnectionType")) != QStringLiteral("Network");
+        bool_usbPrinter = entry->value(PrinterKey::ConnectionType) != PrinterConnection::Network;
     }
-    const int read = dataManager_Object ? dataManager_Object->setupDataFromPrinter(0) : 1;
-    const bool reached = read == 0 || read == 6;
-    if (!reached || (read == 6 && entry))
+    const int read =
+        dataManager_Object ? dataManager_Object->setupDataFromPrinter(0) : ReadResult::NoLink;
+    const bool reached = read == ReadResult::Complete || read == ReadResult::MissingReply;
+    if (!reached || (read == ReadResult::MissingReply && entry))
         showStandardAlert("DWT_Localize_Alert_MessageText_Dowline",
                           "DWT_Localize_Alert_MessageText_Error",
                           "DWT_Localize_Alert_InfoText_Printer_ConnectErr");
@@ -175,7 +173,7 @@ bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &ent
     }
     if (reached)
         for (const auto &page : dictionary_ViewManagement) page->showDataManager();
-    bool_GetDataSuccess = read == 0 && bool_usbPrinter;
+    bool_GetDataSuccess = read == ReadResult::Complete && bool_usbPrinter;
     enableAllViews(bool_GetDataSuccess);
     showReadState();
     if (reached && entry) {
@@ -193,7 +191,7 @@ int DWTMainSettingWindow::statusLengthOf(const QString &productName) {
     dictionary_PrinterStatusTable =
         PropertyList::dictionary(QStringLiteral("ZMPrinterStatusTable"), QStringLiteral("plist"));
     const auto model = dictionary_PrinterStatusTable.constFind(productName);
-    if (model == dictionary_PrinterStatusTable.constEnd()) return usualStatusLength;
+    if (model == dictionary_PrinterStatusTable.constEnd()) return ZMLib::defaultStatusLength;
     return model->toMap().value(QStringLiteral("GDQKStatusLength")).toInt();
 }
 

@@ -105,8 +105,7 @@ class DWTMainSettingWindow : public QObject,
     void push_EthernetConnect();
     void push_InfrastructureConnect();
     // Tests the address of a page; `settingKey` and `addressKey` are that page's keys.
-    template <typename Page>
-    void checkConnection(Page &page, const QString &settingKey, const QString &addressKey);
+    void checkConnection(InterfaceView &page, const QString &settingKey, const QString &addressKey);
 
     // Closing and reading again.
     void push_MainCancel();

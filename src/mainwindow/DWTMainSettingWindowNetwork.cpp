@@ -5,17 +5,10 @@
 #include "mainwindow/WPSGuideWindow.h"
 #include "mainwindow/WaitWindow.h"
 
-namespace {
-
-// The communication mode in which the printer joins a network.
-constexpr int infrastructureMode = 1;
-
-}  // namespace
-
 // Taking a network over counts as a change, whatever the page held before.
 void DWTMainSettingWindow::push_InfrastructureSelectSSID() {
     if (!dataManager_Object) dataManager_Object = make<DWTDataManager>();
-    if (wireless_ViewObject->wirelessCommunicateMode() != infrastructureMode) {
+    if (wireless_ViewObject->wirelessCommunicateMode() != CommunicationMode::Infrastructure) {
         showStandardAlert("DWT_Localize_Alert_MessageText_Infrastructure_SelectSSID",
                           "DWT_Localize_Alert_MessageText_Warning",
                           "DWT_Localize_Alert_InfoText_SSIDList_CommunicateModeErr");
@@ -45,14 +38,13 @@ void DWTMainSettingWindow::push_InfrastructureConnect() {
                     DWT_SaveData_Infrastructure_IPAddress);
 }
 
-template <typename Page>
-void DWTMainSettingWindow::checkConnection(Page &page, const QString &settingKey,
+void DWTMainSettingWindow::checkConnection(InterfaceView &page, const QString &settingKey,
                                            const QString &addressKey) {
     const WaitSheet waiting = window_Wait->over(window_Main);
     if (!dataManager_Object) dataManager_Object = make<DWTDataManager>();
     QStringList address = page.getipAddressArray();
     if (const auto saved = dataManager_Object->setupDataToMainView(page.viewKey())) {
-        const bool fixed = integerValue(*saved, settingKey) != 0;
+        const bool fixed = integerValue(*saved, settingKey) != AddressSetting::Automatic;
         address = addressValue(*saved, fixed ? addressKey : DWT_SaveData_Connect_IPAddress);
     }
     page.showConnectResult(dataManager_Object->isCheckConnectToPrinter(address) >= 0);

@@ -4,15 +4,6 @@
 #include "mainwindow/SendDialog.h"
 #include "mainwindow/WaitWindow.h"
 
-namespace {
-
-// Results of isPassword() and checkLoginPassword().
-constexpr int passwordIsSet = 2;
-constexpr int noPasswordIsSet = 3;
-constexpr int loginAccepted = 4;
-
-}  // namespace
-
 void DWTMainSettingWindow::push_MainSend() {
     if (!checkAndStorePages()) return;
     warnOfChangedConnection();
@@ -42,10 +33,10 @@ void DWTMainSettingWindow::warnOfChangedConnection() {
 QString DWTMainSettingWindow::sendViewAskingPassword() {
     const WaitSheet waiting = window_Wait->over(window_Main);
     switch (dataManager_Object->isPassword()) {
-        case passwordIsSet:
+        case PasswordState::Set:
             window_SendData->clearPassword();
             return DWT_View_Key_Send_Login;
-        case noPasswordIsSet:
+        case PasswordState::NotSet:
             return DWT_View_Key_Send_Confirm;
         default:
             return DWT_View_Key_Send_ConnectError;
@@ -58,7 +49,8 @@ void DWTMainSettingWindow::push_SendLoginOK() {
         if (dataManager_Object->connectPrinter() != 0) return DWT_View_Key_Send_Login;
         const int login = dataManager_Object->checkLoginPassword(window_SendData->password());
         dataManager_Object->disconnectPrinter();
-        return login == loginAccepted ? DWT_View_Key_Send_Confirm : DWT_View_Key_Send_LoginError;
+        return login == LoginResult::Accepted ? DWT_View_Key_Send_Confirm
+                                              : DWT_View_Key_Send_LoginError;
     };
     window_SendData->MSW_SendUISelector(answer());
 }

@@ -17,9 +17,9 @@
 // and every exchange that fills the one and writes the other. It owns the link to the printer.
 //
 // Made with the plain init() it has no link; every exchange then fails as its result says. All
-// operations run on the main thread and wait there for the printer, at most 15000 ms for each of
-// its answers. Only the send runs on a thread of its own; while it does, no other operation is
-// called.
+// operations run on the main thread and wait there for the printer, at most
+// DWTCommunicationControl::callTimeout for each of its answers. Only the send runs on a thread of
+// its own; while it does, no other operation is called.
 class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<DWTDataManager> {
   public:
     // A data manager for the printer of `entry`; a null pointer when the link cannot be made.
@@ -66,10 +66,11 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // holds what the printer accepted. Not to be called again before the stop.
     void sendDataToPrinter();
 
-    // --- Printers and login (DWTDataManagerPrinters.cpp) ---
+    // --- Printers (DWTDataManagerPrinters.cpp) ---
 
     // The supported printers that can be reached, USB printers with their own name under
-    // "MachineName"; only USB printers in installer mode. Nothing when no link can be made.
+    // PrinterKey::MachineName; only USB printers in installer mode. Nothing when no link can be
+    // made.
     std::optional<QList<PrinterEntry>> printerList();
     // The name of the printer of `entry`, asked through `link`; " " when it cannot be read.
     QString printerName(const std::shared_ptr<DWTCommunicationControl> &link,
@@ -77,6 +78,9 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // Whether a printer answers at the address of exactly four parts; negative when not, when there
     // are not four parts, or without a link.
     int isCheckConnectToPrinter(const QStringList &address);
+
+    // --- Connection, password state and login (DWTDataManagerLogin.cpp) ---
+
     // 2: an administrator password is set; 3: none is set; 1: the printer cannot be connected or
     // gives no usable answer.
     int isPassword();

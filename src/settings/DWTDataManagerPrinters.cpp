@@ -1,14 +1,10 @@
-// Listing printers, checking an address, password state and login.
+// Listing printers and checking an address.
 
 #include "platform/core/PropertyList.h"
 #include "settings/DWTDataManager.h"
 #include "settings/Frames.h"
 
 namespace {
-
-const QString connectionType = QStringLiteral("ConnectionType");
-const QString productName = QStringLiteral("ProductName");
-const QString machineName = QStringLiteral("MachineName");
 
 constexpr ItemCode nameItem = 0x1006;
 
@@ -21,12 +17,12 @@ std::optional<QList<PrinterEntry>> DWTDataManager::printerList() {
     const QVariantMap models =
         PropertyList::dictionary(QStringLiteral("ZMPrinterStatusTable"), QStringLiteral("plist"));
     for (PrinterEntry entry : link->printerList().value_or(QList<PrinterEntry>())) {
-        if (!models.contains(entry.value(productName))) continue;
+        if (!models.contains(entry.value(PrinterKey::ProductName))) continue;
         const bool installer = checkLunchedMode();
-        if (entry.value(connectionType) == u"USB") {
+        if (entry.value(PrinterKey::ConnectionType) == PrinterConnection::USB) {
             const QString name = printerName(link, entry);
             if (name == unreadable) continue;
-            entry.insert(machineName, name);
+            entry.insert(PrinterKey::MachineName, name);
         } else if (installer) {
             continue;
         }
@@ -46,40 +42,6 @@ int DWTDataManager::isCheckConnectToPrinter(const QStringList &address) {
     QStringList octets;
     for (const QString &part : address) octets << QString::number(integerOf(part));
     return ncc_Object->checkConnect(octets.join(u'.'));
-}
-
-int DWTDataManager::isPassword() {
-    if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) return PasswordState::NoAnswer;
-    const int state = NDM_DataToInteger(0x1000);
-    ncc_Object->disconnectPrinter(0);
-    switch (state) {
-        case 0:
-            return PasswordState::NotSet;
-        case 1:
-            return PasswordState::Set;
-        default:
-            return PasswordState::NoAnswer;
-    }
-}
-
-int DWTDataManager::checkLoginPassword(const QString &password) {
-    if (!ncc_Object) return LoginResult::NoLink;
-    const int result = NDM_StringToData(0x1001, password);
-    if (result != SettingResult::Accepted) return result;
-    loginPassword_String = password;
-    return LoginResult::Accepted;
-}
-
-int DWTDataManager::connectPrinter() {
-    return ncc_Object ? ncc_Object->connectPrinter(0) : ReadResult::NoLink;
-}
-
-void DWTDataManager::disconnectPrinter() {
-    if (ncc_Object) ncc_Object->disconnectPrinter(0);
-}
-
-void DWTDataManager::qkStatusLength(int length) {
-    if (ncc_Object) ncc_Object->qkStatusLength(length);
 }
 
 bool DWTDataManager::NDM_InitMemberToPrinterList(

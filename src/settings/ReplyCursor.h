@@ -4,12 +4,14 @@
 #include <QString>
 #include <QtGlobal>
 
+#include "zmlib/ZMLib.h"
+
 // Reads a reply inside its reply area: bytes beyond the reply's end read as 0, and a value that
 // would extend past the area is cut at the area's end.
 class ReplyCursor {
   public:
     // Size of the area in which a reply is examined, in bytes.
-    static constexpr qsizetype areaSize = 512;
+    static constexpr qsizetype areaSize = ZMLib::replyArea;
 
     explicit ReplyCursor(QByteArray reply);
 

@@ -6,14 +6,15 @@
 #include <cmath>
 
 #include "virtualprinter/Bytes.h"
+#include "virtualprinter/Profile.h"
 
 namespace {
 
 using Items::Item;
 using Items::Kind;
 
-// A setting frame gives these texts a field of 32 bytes, whatever their length.
-constexpr qsizetype ssidField = 32;
+// A setting frame gives an SSID a field of the longest one's width, whatever its length.
+constexpr qsizetype ssidField = longestSsid;
 constexpr qsizetype wepField = 26;
 
 QByteArray octets(std::initializer_list<int> values) {

@@ -9,10 +9,6 @@
 
 namespace {
 
-constexpr int longestDelay = 60000;  // ms
-constexpr int longestPassword = 8;   // bytes
-constexpr int longestSsid = 32;      // bytes
-
 // Walks a description and keeps the first place that is wrong.
 class Reader {
   public:
@@ -181,7 +177,8 @@ ProfileResult profileFromJson(const QJsonObject &object) {
     profile.password = reader.text(object, QStringLiteral("password"), QString(), longestPassword);
     readItems(reader, reader.object(object, QStringLiteral("items"), QString()), profile);
     readNetworks(reader, object[u"networks"], profile);
-    profile.scanPolls = reader.integer(object, QStringLiteral("scanPolls"), QString(), 0, 1000, 1);
+    profile.scanPolls = reader.integer(object, QStringLiteral("scanPolls"), QString(), 0,
+                                       mostScanPolls, profile.scanPolls);
     profile.faults = readFaults(reader, reader.object(object, QStringLiteral("faults"), QString()));
     if (!reader.error.isEmpty()) return {{}, reader.error};
     return {profile, {}};

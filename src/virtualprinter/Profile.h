@@ -9,6 +9,12 @@
 
 // The description of a virtual printer (docs/virtual-printer.md), as values.
 
+// Limits of a description.
+inline constexpr int longestDelay = 60000;  // ms before a reply
+inline constexpr int longestPassword = 8;   // bytes
+inline constexpr int longestSsid = 32;      // bytes; frames have a field of this width
+inline constexpr int mostScanPolls = 1000;  // polls answered before a search has finished
+
 // What goes wrong with one item. Unset members go right.
 struct ItemFault {
     bool noReply = false;
@@ -30,7 +36,7 @@ struct Faults {
 
 // A network that the printer's search finds.
 struct Network {
-    QByteArray ssid;  // at most 32 bytes
+    QByteArray ssid;  // at most longestSsid bytes
     int mode = 0;
     int authentic = 0;
     int encryption = 0;
@@ -38,7 +44,7 @@ struct Network {
 };
 
 struct Profile {
-    QByteArray password;              // at most 8 bytes; empty: none
+    QByteArray password;              // at most longestPassword bytes; empty: none
     QMap<quint16, QByteArray> items;  // every item, in the layout of Items.h
     QList<Network> networks;
     int scanPolls = 1;  // polls answered before the search has finished

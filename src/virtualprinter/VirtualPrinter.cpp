@@ -19,10 +19,7 @@ constexpr quint16 scan = 0x3120;
 constexpr quint16 firstBlock = 0x3121;
 constexpr quint16 lastBlock = 0x3124;
 
-constexpr qsizetype longestLog = 10000;
-constexpr qsizetype longestPassword = 8;
 constexpr qsizetype networksPerBlock = 5;
-constexpr qsizetype ssidField = 32;
 // States of the search for networks.
 constexpr int searching = 1;
 constexpr int finished = 2;
@@ -155,7 +152,7 @@ QByteArray VirtualPrinter::networkBlock(int block) const {
     QByteArray data = littleEndian(static_cast<int>(networks.size()));
     for (const Network &network : networks) {
         data += littleEndian(static_cast<int>(network.ssid.size()));
-        data += network.ssid + QByteArray(ssidField - network.ssid.size(), '\0');
+        data += network.ssid + QByteArray(longestSsid - network.ssid.size(), '\0');
         data += littleEndian(network.mode) + littleEndian(network.authentic);
         data += littleEndian(network.encryption) + littleEndian(network.signal) + littleEndian(0);
     }

@@ -22,6 +22,8 @@ class VirtualPrinter {
         BadValue = 4        // the payload does not have the layout of the item
     };
 
+    static constexpr qsizetype longestLog = 10000;  // frames
+
     struct LoggedFrame {
         enum Direction { Received, Sent };
         Direction direction;
@@ -71,7 +73,8 @@ class VirtualPrinter {
     QByteArray item(quint16 code) const;
     QByteArray password() const;
 
-    // The frames received and sent since the last clearLog(), in order: the last 10,000 of them.
+    // The frames received and sent since the last clearLog(), in order: the last longestLog of
+    // them.
     QList<LoggedFrame> log() const;
     void clearLog();
 

@@ -10,8 +10,8 @@
 
 namespace {
 
-const QStringList entryKeys{QStringLiteral("DeviceURI"), QStringLiteral("ConnectionType"),
-                            QStringLiteral("ProductName"), QStringLiteral("BonjourServiceName")};
+const QStringList entryKeys{PrinterKey::DeviceURI, PrinterKey::ConnectionType,
+                            PrinterKey::ProductName, PrinterKey::BonjourServiceName};
 const QString profileKey = QStringLiteral("profile");
 
 // The problem with the texts of an entry, or an empty text.
@@ -21,12 +21,13 @@ QString problemWithTexts(const QJsonObject &object) {
         if (!entryKeys.contains(key)) return QStringLiteral("unknown key \"%1\"").arg(key);
         if (!object[key].isString()) return QStringLiteral("\"%1\" is not a text").arg(key);
     }
-    const QString connection = object[u"ConnectionType"].toString();
-    if (connection != u"USB" && connection != u"Network")
+    const QString connection = object[PrinterKey::ConnectionType].toString();
+    if (connection != PrinterConnection::USB && connection != PrinterConnection::Network)
         return QStringLiteral("\"ConnectionType\" is neither \"USB\" nor \"Network\"");
-    if (object[u"ProductName"].toString().isEmpty())
+    if (object[PrinterKey::ProductName].toString().isEmpty())
         return QStringLiteral("\"ProductName\" is missing");
-    if (connection == u"Network" && object[u"BonjourServiceName"].toString().isEmpty())
+    if (connection == PrinterConnection::Network &&
+        object[PrinterKey::BonjourServiceName].toString().isEmpty())
         return QStringLiteral("a network printer needs a \"BonjourServiceName\"");
     return {};
 }
@@ -54,10 +55,10 @@ QString problemWithTcp(const QUrl &url, const QJsonObject &object) {
 QString addEntry(const QJsonValue &value, Catalogue &catalogue) {
     if (!value.isObject()) return QStringLiteral("not an object");
     const QJsonObject object = value.toObject();
-    const QString uri = object[u"DeviceURI"].toString();
+    const QString uri = object[PrinterKey::DeviceURI].toString();
     if (uri.isEmpty()) return QStringLiteral("\"DeviceURI\" is missing");
     for (const PrinterEntry &entry : std::as_const(catalogue.entries))
-        if (entry[QStringLiteral("DeviceURI")] == uri)
+        if (entry[PrinterKey::DeviceURI] == uri)
             return QStringLiteral("\"%1\" is listed already").arg(uri);
     if (const QString problem = problemWithTexts(object); !problem.isEmpty()) return problem;
 

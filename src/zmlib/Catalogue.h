@@ -14,13 +14,13 @@ class VirtualPrinter;
 
 // The printers that the library knows, in the order of the catalogue file.
 //
-// A catalogue is a JSON object {"printers": [entry, ...]}. An entry is an object of texts
-// "DeviceURI" ("virtual://name" or "tcp://host:port"), "ConnectionType" ("USB" or "Network"),
-// "ProductName" and, for a network printer, "BonjourServiceName"; a virtual printer has its
-// description (docs/virtual-printer.md) as an object under "profile".
+// A catalogue is a JSON object {"printers": [entry, ...]}. An entry is an object of texts under
+// "DeviceURI" ("virtual://name" or "tcp://host:port"), "ConnectionType", "ProductName" and, for a
+// network printer, "BonjourServiceName"; a virtual printer has its description
+// (docs/virtual-printer.md) as an object under "profile".
 struct Catalogue {
     QList<PrinterEntry> entries;
-    // The virtual printers of the process, by "DeviceURI".
+    // The virtual printers of the process, by PrinterKey::DeviceURI.
     QMap<QString, std::shared_ptr<VirtualPrinter>> virtualPrinters;
     // What was wrong, one readable line each, naming the source and the entry. Entries named here
     // are not listed; the others are.

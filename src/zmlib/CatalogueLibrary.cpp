@@ -2,7 +2,6 @@
 
 #include <QStringList>
 #include <algorithm>
-#include <chrono>
 
 #include "zmlib/Replies.h"
 
@@ -12,13 +11,6 @@ namespace {
 constexpr qsizetype startFrame = 0;
 constexpr qsizetype updateFrame = 1;
 constexpr qsizetype endFrame = 2;
-
-// Size of the area in which a caller examines a reply to a setting frame, in bytes.
-constexpr int settingReplyArea = 512;
-
-// How long one printer may take to tell its addresses, so that a silent one does not use up the
-// time of those after it.
-constexpr std::chrono::milliseconds addressWait{2000};
 
 int sendFrame(Transport &transport, const QList<QByteArray> &commands, qsizetype index,
               const QDeadlineTimer &deadline) {
@@ -85,16 +77,16 @@ int CatalogueLibrary::ZMGetSettingData(const QString &uri, int replySize, const 
 int CatalogueLibrary::ZMSendSettingData(const QString &uri, int frameSize, const QByteArray &frame,
                                         QByteArray &reply, const QList<QByteArray> &, int timeout) {
     return useChannel(uri, timeout, [&](Transport &transport, const QDeadlineTimer &deadline) {
-        return requestReply(transport, frame.left(frameSize), settingReplyArea, reply, deadline);
+        return requestReply(transport, frame.left(frameSize), replyArea, reply, deadline);
     });
 }
 
 int CatalogueLibrary::ZMIOOpenForUDP(const QString &target, const QString &address, int,
                                      int timeout) {
-    if (target != u"ZMtcpip://" && !isListed(target)) return UnknownPrinter;
+    if (target != anyPrinter && !isListed(target)) return UnknownPrinter;
     const QDeadlineTimer deadline = deadlineFor(timeout);
     for (const PrinterEntry &entry : m_catalogue.entries)
-        if (answersAt(entry[QStringLiteral("DeviceURI")], address, deadline)) return Success;
+        if (answersAt(entry[PrinterKey::DeviceURI], address, deadline)) return Success;
     return UnknownPrinter;
 }
 
@@ -105,7 +97,7 @@ QDeadlineTimer CatalogueLibrary::deadlineFor(int timeout) const {
 bool CatalogueLibrary::isListed(const QString &uri) const {
     return std::any_of(
         m_catalogue.entries.begin(), m_catalogue.entries.end(),
-        [&](const PrinterEntry &entry) { return entry[QStringLiteral("DeviceURI")] == uri; });
+        [&](const PrinterEntry &entry) { return entry[PrinterKey::DeviceURI] == uri; });
 }
 
 bool CatalogueLibrary::isOpen(const QString &uri) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDeadlineTimer>
+#include <chrono>
 #include <functional>
 #include <limits>
 #include <map>
@@ -15,6 +16,10 @@
 // Callable from several threads; a channel serves one call at a time.
 class CatalogueLibrary : public ZMLib {
   public:
+    // How long one printer may take to tell its addresses, so that a silent one does not use up the
+    // time of those after it.
+    static constexpr std::chrono::milliseconds addressWait{2000};
+
     // `longestWait` (milliseconds) caps the time-out of every call, for tests of silent printers.
     explicit CatalogueLibrary(Catalogue catalogue,
                               int longestWait = std::numeric_limits<int>::max());

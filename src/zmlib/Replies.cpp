@@ -6,7 +6,6 @@
 namespace {
 
 constexpr qsizetype headerSize = 5;
-constexpr qsizetype skipLimit = 64 * 1024;
 
 // Reads until `frame` begins with "C" and holds the whole header.
 int readHeader(Transport &transport, QByteArray &frame, const QDeadlineTimer &deadline) {
@@ -17,7 +16,7 @@ int readHeader(Transport &transport, QByteArray &frame, const QDeadlineTimer &de
         const qsizetype begin = frame.indexOf('C');
         const qsizetype useless = begin < 0 ? frame.size() : begin;
         skipped += useless;
-        if (skipped > skipLimit) return ZMLib::NotAReply;
+        if (skipped > skippedBytes) return ZMLib::NotAReply;
         frame.remove(0, useless);
     }
     return frame[1] == 'F' || frame[1] == 'R' ? ZMLib::Success : ZMLib::NotAReply;
@@ -72,7 +71,8 @@ std::optional<QStringList> addressesInUse(Transport &transport, const QDeadlineT
     QStringList addresses;
     for (const QByteArray &request : addressRequests) {
         QByteArray reply;
-        if (requestReply(transport, request, 512, reply, deadline) != ZMLib::Success) return {};
+        if (requestReply(transport, request, ZMLib::replyArea, reply, deadline) != ZMLib::Success)
+            return {};
         if (reply.size() < addressOffset + 4) continue;
         QStringList octets;
         for (qsizetype i = 0; i < 4; ++i)

@@ -10,13 +10,16 @@
 
 // What the library knows of the stream: where a reply frame begins and ends.
 
+// So many bytes that begin no reply are skipped before the stream is given up.
+inline constexpr qsizetype skippedBytes = 64 * 1024;
+
 // The library's result for the outcome of a transport operation.
 int resultOf(Transport::Outcome outcome);
 
 // Reads one reply frame and appends at most `replySize` bytes of it to `reply`. Bytes before the
-// first "C" are skipped (64 KiB of them are no reply); then come 5 header bytes, whose offsets 3-4
-// hold the little-endian number of bytes after them. Result: 0, or a negative ZMLib::Result with
-// `reply` unchanged.
+// first "C" are skipped (more than skippedBytes are no reply); then come 5 header bytes, whose
+// offsets 3-4 hold the little-endian number of bytes after them. Result: 0, or a negative
+// ZMLib::Result with `reply` unchanged.
 int readReply(Transport &transport, int replySize, QByteArray &reply,
               const QDeadlineTimer &deadline);
 

@@ -17,12 +17,9 @@
 
 #include "platform/core/Waiting.h"
 #include "zmlib/Transport.h"
+#include "zmlib/ZMLib.h"
 
 namespace {
-
-// How long an answer is looked for before the thread sleeps: a printer on the same machine answers
-// sooner than a sleeping thread is woken.
-constexpr std::chrono::microseconds nearAnswer{100};
 
 // Sockets are used directly, since a wait has to be interrupted every few milliseconds on whatever
 // thread it runs, and a QTcpSocket gives up a connection whose wait is interrupted.
@@ -91,7 +88,7 @@ class TcpTransport : public Transport {
   private:
     // Waits for bytes and takes what has come, so that one call serves a whole reply.
     Outcome receive(const QDeadlineTimer &deadline) {
-        std::array<char, 512> buffer;
+        std::array<char, ZMLib::replyArea> buffer;
         const QDeadlineTimer awake(nearAnswer, Qt::PreciseTimer);
         for (;;) {
             const ssize_t n = ::recv(m_socket.fd(), buffer.data(), buffer.size(), 0);

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QDeadlineTimer>
 #include <QString>
+#include <chrono>
 #include <memory>
 
 class VirtualPrinter;
@@ -21,6 +22,10 @@ class Transport {
     // Waits for at least one byte and appends what has come, `limit` bytes at most, to `bytes`.
     virtual Outcome read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) = 0;
 };
+
+// How long an answer over TCP is looked for before the thread sleeps: a printer on the same machine
+// answers sooner than a sleeping thread is woken.
+inline constexpr std::chrono::microseconds nearAnswer{100};
 
 // Opens the stream to `host` (a name or an IPv4 or IPv6 address) and `port`; a null pointer when it
 // cannot be opened before the deadline.

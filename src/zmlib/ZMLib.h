@@ -6,9 +6,26 @@
 #include <QString>
 #include <optional>
 
-// One printer as the library lists it: "DeviceURI", "ConnectionType" ("USB" or "Network"),
-// "ProductName" and, for a printer found on the network, "BonjourServiceName".
+// One printer as the library lists it, under the keys below.
 using PrinterEntry = QMap<QString, QString>;
+
+// The keys of a printer entry.
+namespace PrinterKey {
+inline const QString DeviceURI = QStringLiteral("DeviceURI");
+// PrinterConnection::USB or PrinterConnection::Network.
+inline const QString ConnectionType = QStringLiteral("ConnectionType");
+inline const QString ProductName = QStringLiteral("ProductName");
+// Of a printer found on the network.
+inline const QString BonjourServiceName = QStringLiteral("BonjourServiceName");
+// The printer's own name; not from the library, added by who asked the printer for it.
+inline const QString MachineName = QStringLiteral("MachineName");
+}  // namespace PrinterKey
+
+// The values of PrinterKey::ConnectionType.
+namespace PrinterConnection {
+inline const QString USB = QStringLiteral("USB");
+inline const QString Network = QStringLiteral("Network");
+}  // namespace PrinterConnection
 
 // The printer-communication library: it finds printers, opens and closes a printer's command
 // channel and carries byte frames to and from it. It never looks into a setting.
@@ -29,6 +46,13 @@ class ZMLib {
         Closed = -4,    // the printer closed the channel
         NotAReply = -5  // what came back is no reply frame
     };
+
+    // Size of the area in which a reply is examined, in bytes.
+    static constexpr int replyArea = 512;
+    // Status length of models that are not known, in bytes.
+    static constexpr int defaultStatusLength = 20;
+    // The target of ZMIOOpenForUDP() that stands for any printer.
+    static inline const QString anyPrinter = QStringLiteral("ZMtcpip://");
 
     virtual ~ZMLib() = default;
 
@@ -63,13 +87,13 @@ class ZMLib {
                                  int timeout) = 0;
 
     // Sends the setting frame `frame` of `frameSize` bytes and appends the printer's reply to
-    // `reply`, at most 512 bytes of it. Results as for ZMGetSettingData.
+    // `reply`, at most replyArea bytes of it. Results as for ZMGetSettingData.
     virtual int ZMSendSettingData(const QString &uri, int frameSize, const QByteArray &frame,
                                   QByteArray &reply, const QList<QByteArray> &commands,
                                   int timeout) = 0;
 
     // Asks whether a printer answers at `address` (dotted IPv4). `target` is the URI of a listed
-    // printer, or "ZMtcpip://" for any. Result: 0 when it does, negative otherwise.
+    // printer, or anyPrinter. Result: 0 when it does, negative otherwise.
     virtual int ZMIOOpenForUDP(const QString &target, const QString &address, int statusLength,
                                int timeout) = 0;
 };

@@ -47,7 +47,7 @@ TEST(Encoding, FramesAreTheseBytes) {
         {textWithLengthFrame(0x3105, {}), "refused"},
         {textWithLengthFrame(0x3201, QString(16, u'é')),
          "43463b28003b01323b2000c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a93bc"
-         "9"},
+         "4"},
         {textWithLengthFrame(0x3201, QString(17, u'é')), "refused"},
         {integerAndTextFrame(0x3106, 2, text("abcdefghijklm")),
          "43463b24003b06313b02000d006162636465666768696a6b6c6d" + zeros(13) + "3b32"},

@@ -2,7 +2,6 @@
 
 #include <QByteArray>
 #include <QTest>
-#include <algorithm>
 #include <memory>
 
 #include "support/PrinterServerThread.h"
@@ -10,7 +9,7 @@
 #include "zmlib/CatalogueLibrary.h"
 
 // A library with the one printer `printer`, reached inside the process ("virtual://printer") or
-// over loopback. Silent printers are given up after 200 ms.
+// over loopback. Silent printers are given up after `wait` ms.
 class OnePrinterLibrary {
   public:
     enum class Transport { Virtual, Tcp };
@@ -18,18 +17,17 @@ class OnePrinterLibrary {
 
     OnePrinterLibrary(std::shared_ptr<VirtualPrinter> printer, Transport transport,
                       const PrinterEntry &more = {}, int wait = longestWait)
-        : m_printer(std::move(printer)) {
+        : m_printer(std::move(printer)),
+          m_entry{{PrinterKey::DeviceURI, QStringLiteral("virtual://printer")},
+                  {PrinterKey::ConnectionType, PrinterConnection::USB},
+                  {PrinterKey::ProductName, QStringLiteral("Larkfield L200")}} {
         Catalogue catalogue;
-        m_uri = QStringLiteral("virtual://printer");
         if (transport == Transport::Tcp) {
             m_server = std::make_unique<PrinterServerThread>(m_printer);
-            m_uri = m_server->uri();
+            m_entry[PrinterKey::DeviceURI] = m_server->uri();
         } else {
-            catalogue.virtualPrinters.insert(m_uri, m_printer);
+            catalogue.virtualPrinters.insert(uri(), m_printer);
         }
-        m_entry = {{QStringLiteral("DeviceURI"), m_uri},
-                   {QStringLiteral("ConnectionType"), QStringLiteral("USB")},
-                   {QStringLiteral("ProductName"), QStringLiteral("Larkfield L200")}};
         m_entry.insert(more);
         catalogue.entries = {m_entry};
         m_library = std::make_shared<CatalogueLibrary>(std::move(catalogue), wait);
@@ -37,23 +35,24 @@ class OnePrinterLibrary {
 
     std::shared_ptr<CatalogueLibrary> library() const { return m_library; }
     VirtualPrinter &printer() const { return *m_printer; }
-    const QString &uri() const { return m_uri; }
+    QString uri() const { return m_entry[PrinterKey::DeviceURI]; }
+    const PrinterEntry &entry() const { return m_entry; }
 
     // What the printer received since the last call, as text: "start", "update", "end", "?1006" for
     // a request, "=1006" for a setting frame.
     QString received() {
         QStringList names;
-        for (const auto &frame : m_printer->log()) {
-            if (frame.direction != VirtualPrinter::LoggedFrame::Received) continue;
-            const QByteArray &b = frame.bytes;
+        for (const auto &[direction, b] : m_printer->log()) {
+            if (direction != VirtualPrinter::LoggedFrame::Received) continue;
+            const auto code = [&](qsizetype at) {
+                return QString::fromLatin1(b.mid(at + 1, 1).toHex() + b.mid(at, 1).toHex());
+            };
             if (b[0] == 'C')
-                names << u'=' + code(b.mid(6, 2));
+                names << u'=' + code(6);
             else if (b[3] == 'f')
-                names << u'?' + code(b.mid(4, 2));
-            else if (b[3] == 'w')
-                names << QStringLiteral("update");
+                names << u'?' + code(4);
             else
-                names << (b[4] == 1 ? QStringLiteral("start") : QStringLiteral("end"));
+                names << QLatin1String(b[3] == 'w' ? "update" : b[4] == 1 ? "start" : "end");
         }
         m_printer->clearLog();
         return names.join(u' ');
@@ -66,18 +65,11 @@ class OnePrinterLibrary {
         }));
         return received();
     }
-    const PrinterEntry &entry() const { return m_entry; }
 
   private:
-    static QString code(QByteArray bytes) {
-        std::reverse(bytes.begin(), bytes.end());
-        return QString::fromLatin1(bytes.toHex());
-    }
-
     std::shared_ptr<VirtualPrinter> m_printer;
-    std::unique_ptr<PrinterServerThread> m_server;
-    QString m_uri;
     PrinterEntry m_entry;
+    std::unique_ptr<PrinterServerThread> m_server;
     std::shared_ptr<CatalogueLibrary> m_library;
 };
 

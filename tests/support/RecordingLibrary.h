@@ -6,61 +6,52 @@
 
 // A library that notes every call as one line of text and answers what it is told to.
 class RecordingLibrary : public ZMLib {
-    using Commands = QList<QByteArray>;
-
   public:
+    using Commands = QList<QByteArray>;
     QStringList calls;
     std::optional<QList<PrinterEntry>> list;
     int status = 1;
     int result = 0;
     QByteArray reply;
 
-    std::optional<QList<PrinterEntry>> ZMCreatePrinterURI() override {
-        note("ZMCreatePrinterURI");
-        return list;
-    }
+    std::optional<QList<PrinterEntry>> ZMCreatePrinterURI() override { return list; }
     int ZMGetEngageStatusSub(const QString &uri, int timeout) override {
-        note("ZMGetEngageStatusSub", uri, timeout);
+        note("ZMGetEngageStatusSub", uri, {}, timeout);
         return status;
     }
-    int ZMStartCommand(const QString &uri, const Commands &commands, int statusLength,
-                       int timeout) override {
-        return note("ZMStartCommand", uri, commands, statusLength, timeout);
+    int ZMStartCommand(const QString &uri, const Commands &c, int length, int timeout) override {
+        return note("ZMStartCommand", uri, c, length, timeout);
     }
-    int ZMEngageConnectAndStartCommand(const QString &uri, const Commands &commands,
-                                       int statusLength, int timeout) override {
-        return note("ZMEngageConnectAndStartCommand", uri, commands, statusLength, timeout);
+    int ZMEngageConnectAndStartCommand(const QString &uri, const Commands &c, int length,
+                                       int timeout) override {
+        return note("ZMEngageConnectAndStartCommand", uri, c, length, timeout);
     }
-    int ZMEndCommandAndEngageDisConnect(const QString &uri, const Commands &commands,
-                                        int statusLength, int timeout) override {
-        return note("ZMEndCommandAndEngageDisConnect", uri, commands, statusLength, timeout);
+    int ZMEndCommandAndEngageDisConnect(const QString &uri, const Commands &c, int length,
+                                        int timeout) override {
+        return note("ZMEndCommandAndEngageDisConnect", uri, c, length, timeout);
     }
-    int ZMGetSettingData(const QString &uri, int replySize, const QByteArray &request,
-                         QByteArray &buffer, const Commands &commands, int timeout) override {
-        note("ZMGetSettingData", uri, replySize, request, '[' + buffer + ']', commands, timeout);
+    int ZMGetSettingData(const QString &uri, int size, const QByteArray &request,
+                         QByteArray &buffer, const Commands &c, int timeout) override {
         buffer += reply;
-        return result;
+        return note("ZMGetSettingData", uri, c + Commands{request}, size, timeout);
     }
-    int ZMSendSettingData(const QString &uri, int frameSize, const QByteArray &frame,
-                          QByteArray &buffer, const Commands &commands, int timeout) override {
-        note("ZMSendSettingData", uri, frameSize, frame, '[' + buffer + ']', commands, timeout);
+    int ZMSendSettingData(const QString &uri, int size, const QByteArray &frame, QByteArray &buffer,
+                          const Commands &c, int timeout) override {
         buffer += reply;
-        return result;
+        return note("ZMSendSettingData", uri, c + Commands{frame}, size, timeout);
     }
-    int ZMIOOpenForUDP(const QString &target, const QString &address, int statusLength,
+    int ZMIOOpenForUDP(const QString &target, const QString &address, int length,
                        int timeout) override {
-        return note("ZMIOOpenForUDP", target, address, statusLength, timeout);
+        return note("ZMIOOpenForUDP", target, {address.toLatin1()}, length, timeout);
     }
 
   private:
-    static QString shown(const QString &argument) { return argument; }
-    static QString shown(int argument) { return QString::number(argument); }
-    static QString shown(const QByteArray &argument) { return QString::fromLatin1(argument); }
-    static QString shown(const Commands &argument) { return shown(argument.join('/')); }
-
-    template <typename... Arguments>
-    int note(const char *function, const Arguments &...arguments) {
-        calls << QStringList{shown(QByteArray(function)), shown(arguments)...}.join(u' ');
+    template <typename... Numbers>
+    int note(const char *function, const QString &uri, const Commands &bytes, Numbers... numbers) {
+        QStringList line{QLatin1String(function), uri};
+        if (!bytes.isEmpty()) line << QString::fromLatin1(bytes.join('/'));
+        (line << ... << QString::number(numbers));
+        calls << line.join(u' ');
         return result;
     }
 };

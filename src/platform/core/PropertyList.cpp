@@ -50,11 +50,6 @@ QVariant valueOf(plist_t node) {
             const char *text = plist_get_string_ptr(node, &length);
             return QString::fromUtf8(text, static_cast<qsizetype>(length));
         }
-        case PLIST_DATA: {
-            uint64_t length = 0;
-            const char *bytes = plist_get_data_ptr(node, &length);
-            return QByteArray(bytes, static_cast<qsizetype>(length));
-        }
         case PLIST_BOOLEAN: {
             uint8_t flag = 0;
             plist_get_bool_val(node, &flag);
@@ -64,11 +59,6 @@ QVariant valueOf(plist_t node) {
             uint64_t number = 0;
             plist_get_uint_val(node, &number);
             return static_cast<qlonglong>(number);
-        }
-        case PLIST_REAL: {
-            double number = 0;
-            plist_get_real_val(node, &number);
-            return number;
         }
         default:
             return {};

@@ -7,8 +7,9 @@
 namespace PropertyList {
 
 // Contents of the resource `name`.`type` (":/plists/OutlineData.plist" for "OutlineData" and
-// "plist") as nested QVariantMap, QVariantList, QString, qlonglong, double, bool and QByteArray.
-// Missing, unreadable, malformed, or not a dictionary: empty.
+// "plist") as nested QVariantMap, QVariantList, QString, qlonglong and bool; a
+// value of another kind is an invalid QVariant. Missing, unreadable, malformed, or not a
+// dictionary: empty.
 QVariantMap dictionary(const QString &name, const QString &type);
 
 // While it lives, dictionary() reads from `folder` instead of the resources. One at a time; for

@@ -9,68 +9,51 @@ namespace {
 QStringList steps;
 
 // A chain of two classes, as the pages have it.
-class Middle : public DWTBaseClass {
-  public:
-    ~Middle() override { steps << QStringLiteral("Middle_Dealloc"); }
+template <bool accepts>
+struct Middle : DWTBaseClass {
+    ~Middle() override { steps << QStringLiteral("~Middle"); }
     bool init() override {
-        if (!DWTBaseClass::init()) return false;
-        steps << QStringLiteral("Middle_Init");
-        return accepts();
+        steps << QStringLiteral("Middle");
+        return DWTBaseClass::init() && accepts;
     }
-    virtual bool accepts() const { return true; }
 };
-
-class Leaf : public Middle {
-  public:
-    ~Leaf() override { steps << QStringLiteral("Leaf_Dealloc"); }
+template <bool accepts>
+struct Leaf : Middle<accepts> {
+    ~Leaf() override { steps << QStringLiteral("~Leaf"); }
     bool init() override {
-        if (!Middle::init()) return false;
-        steps << QStringLiteral("Leaf_Init");
+        if (!Middle<accepts>::init()) return false;
+        steps << QStringLiteral("Leaf");
         return true;
     }
 };
 
-class Refusing : public Leaf {
-    bool accepts() const override { return false; }
-};
-
-TEST(BaseClass, SetUpRunsBaseFirstAndTearDownDerivedFirst) {
-    steps.clear();
-    auto leaf = make<Leaf>();
+TEST(BaseClass, ReleasingDropsOneReferenceAndARefusedSetUpGivesNothing) {
+    auto leaf = make<Leaf<true>>();
     ASSERT_TRUE(leaf);
     auto other = leaf;
-    DWTBaseClass::BaseClass()->nsObjectRelease(leaf);
+    leaf->nsObjectRelease(leaf);
     EXPECT_FALSE(leaf);
-    EXPECT_EQ(other.use_count(), 1) << "exactly one reference is dropped";
-    other->nsObjectRelease(leaf);  // an empty field stays empty
+    EXPECT_EQ(other.use_count(), 1);
     other->nsObjectRelease(other);
-    EXPECT_EQ(steps.join(u' '),
-              QStringLiteral("Middle_Init Leaf_Init Leaf_Dealloc Middle_Dealloc"));
-}
-
-TEST(BaseClass, ARefusedSetUpGivesNothing) {
+    EXPECT_EQ(steps.join(u' '), QStringLiteral("Middle Leaf ~Leaf ~Middle"));
     steps.clear();
-    EXPECT_FALSE(make<Refusing>());
-    EXPECT_EQ(steps.join(u' '), QStringLiteral("Middle_Init Leaf_Dealloc Middle_Dealloc"));
+    EXPECT_FALSE(make<Leaf<false>>());
+    EXPECT_EQ(steps.join(u' '), QStringLiteral("Middle ~Leaf ~Middle"));
 }
 
 TEST(BaseClass, LaunchModeIsReadFromTheArguments) {
-    struct Case {
-        std::vector<const char *> arguments;
-        bool installer;
-    };
-    const Case cases[] = {{{"-Installer"}, true},           {{"-installer"}, true},
-                          {{"a", "b", "-INSTALLER"}, true}, {{}, false},
-                          {{"-Installers"}, false},         {{"--Installer"}, false},
-                          {{"Installer"}, false},           {{"-Installer "}, false}};
-    for (const Case &c : cases) {
-        std::vector<std::string> texts{"tool"};
-        texts.insert(texts.end(), c.arguments.begin(), c.arguments.end());
+    const std::pair<std::vector<std::string>, bool> cases[] = {{{"t", "-installer"}, true},
+                                                               {{"t", "a", "-INSTALLER"}, true},
+                                                               {{"t"}, false},
+                                                               {{"t", "-Installers"}, false},
+                                                               {{"t", "Installer"}, false},
+                                                               {{"t", "-Installer "}, false}};
+    for (auto [texts, installer] : cases) {
         std::vector<char *> argv;
         for (std::string &text : texts) argv.push_back(text.data());
         int argc = static_cast<int>(argv.size());
         const QCoreApplication app(argc, argv.data());
-        EXPECT_EQ(DWTBaseClass::BaseClass()->checkLunchedMode(), c.installer) << texts.back();
+        EXPECT_EQ(DWTBaseClass::BaseClass()->checkLunchedMode(), installer) << texts.back();
     }
 }
 

@@ -4,15 +4,13 @@
 #include <QTest>
 #include <QThread>
 #include <atomic>
-#include <thread>
 
 #include "platform/core/MainThread.h"
 #include "platform/core/NotificationCenter.h"
 
 namespace {
 
-const QString name = QStringLiteral("Changed");
-const QString other = QStringLiteral("Other");
+using namespace Qt::StringLiterals;
 
 NotificationCenter &center() {
     return NotificationCenter::shared();
@@ -21,57 +19,57 @@ NotificationCenter &center() {
 TEST(NotificationCenter, ReachesTheRightObserversInOrderOfRegistration) {
     QObject sender, stranger;
     QStringList calls;
-    const auto note = [&](const QString &who) {
-        return [&calls, who](const Notification &n) {
-            calls << who + QString::number(n.userInfo.value(QStringLiteral("n")).toInt());
-        };
+    const auto observe = [&](const char *who, const QString &name, const QObject *from) {
+        return center().observe(
+            name,
+            [&calls, who](const Notification &n) {
+                calls << QLatin1String(who) + n.userInfo[u"n"_s].toString();
+            },
+            from);
     };
-    const auto any = center().observe(name, note(QStringLiteral("any")));
-    const auto mine = center().observe(name, note(QStringLiteral("mine")), &sender);
-    const auto foreign = center().observe(name, note(QStringLiteral("foreign")), &stranger);
-    const auto otherName = center().observe(other, note(QStringLiteral("other")));
-    center().post(name, &sender, {{QStringLiteral("n"), 7}});
-    EXPECT_EQ(calls, (QStringList{QStringLiteral("any7"), QStringLiteral("mine7")}));
+    const auto any = observe("any", u"Changed"_s, nullptr);
+    const auto mine = observe("mine", u"Changed"_s, &sender);
+    const auto foreign = observe("foreign", u"Changed"_s, &stranger);
+    const auto other = observe("other", u"Other"_s, nullptr);
+    center().post(u"Changed"_s, &sender, {{u"n"_s, 7}});
+    EXPECT_EQ(calls.join(u' '), u"any7 mine7"_s);
 }
 
 TEST(NotificationCenter, AnObserverMayEndItselfOthersAndStartNewOnesWhileItIsCalled) {
-    int first = 0, second = 0, late = 0;
+    QString calls;
     NotificationCenter::Observer a, b, c;
-    a = center().observe(name, [&](const Notification &) {
-        ++first;
+    a = center().observe(u"Changed"_s, [&](const Notification &) {
+        calls += u'a';
         a = {};
         b = {};
-        c = center().observe(name, [&](const Notification &) { ++late; });
+        c = center().observe(u"Changed"_s, [&](const Notification &) { calls += u'c'; });
     });
-    b = center().observe(name, [&](const Notification &) { ++second; });
-    center().post(name, nullptr);
-    EXPECT_EQ(first, 1);
-    EXPECT_EQ(second, 0) << "an ended observation was still called";
-    EXPECT_EQ(late, 0) << "a new observer saw the post during which it was made";
-    center().post(name, nullptr);
-    EXPECT_EQ(first, 1);
-    EXPECT_EQ(late, 1);
+    b = center().observe(u"Changed"_s, [&](const Notification &) { calls += u'b'; });
+    center().post(u"Changed"_s, nullptr);
+    EXPECT_EQ(calls, u"a"_s) << "an ended observation was called, or one made during the post";
+    center().post(u"Changed"_s, nullptr);
+    EXPECT_EQ(calls, u"ac"_s);
 }
 
 TEST(MainThread, WorkersPostOnTheMainThreadInOrderAndWaitForTheObservers) {
     QStringList seen;
     std::atomic<int> handled = 0;
     std::atomic<bool> overtaken = false, ended = false;
-    const auto observer = center().observe(name, [&](const Notification &n) {
+    const auto observer = center().observe(u"Changed"_s, [&](const Notification &n) {
         EXPECT_EQ(QThread::currentThread(), qApp->thread());
-        seen << n.userInfo.value(QStringLiteral("step")).toString();
+        seen << n.userInfo[u"step"_s].toString();
         ++handled;
     });
     MainThread::startBackgroundWork([&] {
         for (int step = 0; step < 3; ++step) {
-            center().postOnMainThreadAndWait(name, nullptr, {{QStringLiteral("step"), step}});
+            center().postOnMainThreadAndWait(u"Changed"_s, nullptr, {{u"step"_s, step}});
             if (handled != step + 1) overtaken = true;
         }
         ended = true;
     });
     EXPECT_TRUE(QTest::qWaitFor([&] { return ended.load(); }));
     EXPECT_FALSE(overtaken) << "the worker went on before the observers had run";
-    EXPECT_EQ(seen, (QStringList{QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2")}));
+    EXPECT_EQ(seen.join(u' '), u"0 1 2"_s);
 }
 
 TEST(MainThread, UnfinishedWorkIsFinishedWithoutAnEventLoop) {

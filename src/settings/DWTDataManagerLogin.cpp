@@ -1,0 +1,37 @@
+// Connecting, the password state and the login.
+
+#include "settings/DWTDataManager.h"
+
+int DWTDataManager::isPassword() {
+    if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) return PasswordState::NoAnswer;
+    const int state = NDM_DataToInteger(0x1000);
+    ncc_Object->disconnectPrinter(0);
+    switch (state) {
+        case 0:
+            return PasswordState::NotSet;
+        case 1:
+            return PasswordState::Set;
+        default:
+            return PasswordState::NoAnswer;
+    }
+}
+
+int DWTDataManager::checkLoginPassword(const QString &password) {
+    if (!ncc_Object) return LoginResult::NoLink;
+    const int result = NDM_StringToData(0x1001, password);
+    if (result != SettingResult::Accepted) return result;
+    loginPassword_String = password;
+    return LoginResult::Accepted;
+}
+
+int DWTDataManager::connectPrinter() {
+    return ncc_Object ? ncc_Object->connectPrinter(0) : ReadResult::NoLink;
+}
+
+void DWTDataManager::disconnectPrinter() {
+    if (ncc_Object) ncc_Object->disconnectPrinter(0);
+}
+
+void DWTDataManager::qkStatusLength(int length) {
+    if (ncc_Object) ncc_Object->qkStatusLength(length);
+}
