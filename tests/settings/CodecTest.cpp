@@ -24,22 +24,14 @@ TEST(Encoding, FramesAreTheseBytes) {
         std::optional<QByteArray> frame;
         const char *bytes;
     } cases[] = {
-        {"start", Frames::startFrame(), "1b7b045501567d"},
-        {"end", Frames::endFrame(), "1b7b045500557d"},
-        {"update", Frames::updateFrame(), "1b7b0377777d"},
         {"request", Frames::requestFrame(0x1006), "1b7b056606107c7d"},
-        {"wrapped sum", Frames::requestFrame(0x20F0), "1b7b0566f020767d"},
-        {"integer", integerFrame(0x3000, 1), "43463b08003b00303b01003be2"},
         {"low 16 bits", integerFrame(0x1007, 0x7F012C), "43463b08003b07103b2c013bf5"},
-        {"text", textFrame(0x1006, u"AB"_s), "43463b09003b06103b4142003b4a"},
         {"UTF-8", textFrame(0x1006, u"é"_s), "43463b09003b06103bc3a9003b33"},
         {"no password", textFrame(0x1003, {}), "43463b07003b03103b003bc4"},
         {"no name", textFrame(0x1004, {}), nullptr},
         {"SSID field", textWithLengthFrame(0x3104, u"Hello"_s),
          "43463b28003b04313b050048656c6c6f0000000000000000000000000000000000000000000000000000003bd"
          "f"},
-        {"exact field", textWithLengthFrame(0x3105, u"password"_s),
-         "43463b10003b05313b080070617373776f72643b62"},
         {"empty PSK", textWithLengthFrame(0x3105, {}), nullptr},
         {"34 bytes of SSID", textWithLengthFrame(0x3201, QString(17, u'é')), nullptr},
         {"WEP key", integerAndTextFrame(0x3106, 2, u"abcdefghijklm"_s),

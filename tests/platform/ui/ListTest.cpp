@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QHeaderView>
 #include <QTest>
 
 #include "platform/ui/OutlineView.h"
@@ -18,7 +17,6 @@ class Table : public testing::Test, public TableDataSource, public TableDelegate
         table.resize(300, 200);
         table.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&table));
-        QObject::connect(&table, &TableView::doubleAction, [this](int row) { actions << row; });
     }
     int numberOfRowsInTableView(TableView *) override { return rows; }
     QVariant objectValueForTableColumn(TableView *, const QString &column, int row) override {
@@ -33,7 +31,7 @@ class Table : public testing::Test, public TableDataSource, public TableDelegate
     TableView table;
     int rows = 3;
     bool mayChange = true;
-    QList<int> selections, actions;
+    QList<int> selections;
 };
 
 TEST_F(Table, ShowsItsSourceAndReportsSelections) {
@@ -53,16 +51,6 @@ TEST_F(Table, ShowsItsSourceAndReportsSelections) {
     table.reloadData();
     EXPECT_EQ(table.selectedRow(), -1);
     EXPECT_EQ(selections.last(), -1) << "the row went away and nobody was told";
-}
-
-TEST_F(Table, DoubleClicksTellTheRowAndTheEmptyAreaNone) {
-    QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, centre(2));
-    QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, QPoint(10, 150));
-    QTest::mouseDClick(table.horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(20, 5));
-    EXPECT_EQ(actions, (QList<int>{2, -1, -1}));
-    table.selectRow(0);
-    QTest::keyClick(&table, Qt::Key_Return);
-    EXPECT_EQ(actions.last(), 0);
 }
 
 QVariantMap node(const char *name, const QVariantList &children = {}) {
@@ -109,9 +97,6 @@ class Outline : public testing::Test, public OutlineDataSource, public OutlineDe
         QTest::mouseClick(outline.viewport(), Qt::LeftButton, {},
                           outline.visualRect(index).center());
     }
-    QString nameAt(int row) {
-        return outline.itemAtRow(row).value(QStringLiteral("name")).toString();
-    }
 
     const QVariantMap root =
         node("root", {node("A", {node("a1"), node("a2")}), node("B", {node("b1")})});
@@ -120,13 +105,6 @@ class Outline : public testing::Test, public OutlineDataSource, public OutlineDe
     QString refused;
     bool mayCollapse = true;
 };
-
-TEST_F(Outline, RowsCountTheExpandedItemsFromTheTop) {
-    QStringList names;
-    for (int row = 0; row < outline.numberOfRows(); ++row) names << nameAt(row);
-    EXPECT_EQ(names.join(u' '), QStringLiteral("A a1 a2 B b1"));
-    EXPECT_TRUE(nameAt(5).isEmpty());
-}
 
 TEST_F(Outline, ARefusedSelectionLeavesSelectionAndCurrentItem) {
     outline.selectRow(1);
