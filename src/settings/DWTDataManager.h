@@ -49,11 +49,11 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // How often a search for networks is asked whether it has finished, and how long it is waited
     // between two polls.
     static constexpr int scanPolls = 10;
-    static constexpr std::chrono::milliseconds scanInterval{1000};
+    static constexpr std::chrono::milliseconds defaultScanInterval{1000};
     // The networks that the printer finds, in its order; empty when it found none or did not finish
     // in scanPolls polls; nothing when it cannot be connected.
     std::optional<QList<SSIDEntry>> SSIDList();
-    // Waits another time than scanInterval between two polls; for tests.
+    // Waits another time than defaultScanInterval between two polls; for tests.
     void setScanInterval(std::chrono::milliseconds interval) { m_scanInterval = interval; }
 
     // --- Sending (DWTDataManagerSending.cpp) ---
@@ -189,5 +189,5 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     bool resultSettingRequest_BOOL = false;
     // Password of the last successful login; consumed by the next send.
     QString loginPassword_String;
-    std::chrono::milliseconds m_scanInterval = scanInterval;
+    std::chrono::milliseconds m_scanInterval = defaultScanInterval;
 };

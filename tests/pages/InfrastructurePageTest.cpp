@@ -117,6 +117,7 @@ TEST_F(InfrastructurePage, ChangingWhatTheListGaveMakesItTheUsersOwn) {
     ssid()->setFocus();
     QTest::keyClick(ssid(), Qt::Key_Tab);
     EXPECT_TRUE(taken()) << "looking at the name changed nothing";
+    EXPECT_FALSE(ssid()->hasFocus());
 }
 
 TEST_F(InfrastructurePage, ClearedKeysCountAsUntouched) {
@@ -126,7 +127,9 @@ TEST_F(InfrastructurePage, ClearedKeysCountAsUntouched) {
     EXPECT_TRUE(psk()->text().isEmpty() && psk()->isEnabled() && !wepKey()->isEnabled());
     EXPECT_TRUE(alertsOf(true).isEmpty());
     choose(authentic(), "Open system");
+    state.clear();
     choose(keyNumber(), "Key 3");
+    EXPECT_EQ(state, DWT_MainDialog_SendOK_Message);
     EXPECT_EQ(changedNumber(DWT_SaveData_Infrastructure_WEPKeyIndex), 3);
     type(wepKey(), text("abcde"));
     page->enableAllItems(false);

@@ -10,13 +10,15 @@
 #include "platform/core/Texts.h"
 #include "support/DataManagers.h"
 
+inline QString text(const char *utf8) {
+    return QString::fromUtf8(utf8);
+}
+
 // A page in a window, filled from a virtual printer that was read.
 class PageInWindow {
   public:
     PageInWindow(const std::shared_ptr<DWTBaseView> &page, const QByteArray &items)
         : m("{\"items\": {" + items + "}}", OnePrinterLibrary::Transport::Virtual), m_page(page) {
-        static const bool texts = installTexts();
-        EXPECT_TRUE(texts);
         page->mainCustomView()->setParent(&window);
         page->initializeUI();
         page->dataManagerObject(m.manager);
@@ -58,6 +60,7 @@ class PageInWindow {
             auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             if (!box) return;
             alerts << box->text();
+            EXPECT_EQ(box->buttons().value(0)->text(), text("OK"));
             explanation = box->informativeText();
             style = box->icon();
             QTest::keyClick(box, Qt::Key_Return);

@@ -56,3 +56,22 @@ class ServedManager {
         return values.join(u' ');
     }
 };
+
+// A value as text: texts in quotes, addresses dotted, bytes as hexadecimal digits in brackets.
+struct ValueText {
+    QString operator()(int number) const { return QString::number(number); }
+    QString operator()(const QString &text) const { return u'\'' + text + u'\''; }
+    QString operator()(const QStringList &octets) const { return octets.join(u'.'); }
+    QString operator()(const QByteArray &bytes) const {
+        return u'<' + QString::fromLatin1(bytes.toHex()) + u'>';
+    }
+};
+
+// A category as text, in the order of its keys, which stand without "DWT_" and the next word.
+inline std::string asText(const std::optional<CategoryDictionary> &category) {
+    if (!category) return "nothing";
+    QStringList values;
+    for (auto i = category->begin(); i != category->end(); ++i)
+        values << i.key().section(u'_', 2) + u'=' + std::visit(ValueText(), *i);
+    return values.join(u' ').toStdString();
+}

@@ -1,7 +1,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "settings/Frames.h"
 #include "support/Profiles.h"
 
 namespace {
@@ -15,18 +14,14 @@ TEST(Profile, IsRefusedWithThePlaceThatIsWrong) {
         {"[1]", "printer.json: byte 0: not a JSON object"},
         {R"({"pasword": "x"})", "printer.json: pasword: unknown key"},
         {R"({"password": "123456789"})", ": password: longer than 8"},
-        {R"({"items": []})", ": items: not an object"},
         {R"({"items": {"1006": "x"}})", ": items.1006: not an item code"},
         {R"({"items": {"0x4000": 1}})", ": items.0x4000: unknown item"},
         {R"({"items": {"0x1006": 1}})", ": items.0x1006: not a text"},
-        {R"({"items": {"0x3000": 65536}})", ": items.0x3000: not an integer"},
         {R"({"items": {"0x2000": "00809200A1"}})", ": items.0x2000: not 12 hexadecimal"},
         {R"({"items": {"0x1008": "1.2345"}})", ": items.0x1008: not a version"},
         {R"({"items": {"0x3205": {"address": "300.1.1.1"}}})", "\"address\" is not an IPv4"},
-        {R"({"networks": [{}, {"signal": "x"}]})", ": networks[1].signal: "},
         {R"({"networks": [{"ssidHex": "0g"}]})", ": networks[0].ssidHex: not hexadecimal"},
         {R"({"scanPolls": -1})", ": scanPolls: not an integer from 0"},
-        {R"({"faults": {"items": {"0x1006": {"noReply": 1}}}})", ": faults.items.0x1006.noReply: "},
         {R"({"faults": {"dealy": 1}})", ": faults.dealy: unknown key"},
     };
     const QTemporaryDir folder;
@@ -56,31 +51,6 @@ TEST(VirtualPrinter, AnswersOnlyFramesThatAreRightAndInsideATransaction) {
         wrong += QByteArray(FrameParser::longestFrame, '\0');
         EXPECT_TRUE(channel->receive(wrong).isEmpty()) << "a wrong byte at " << i;
         EXPECT_EQ(channel->receive(good).size(), 1) << "lost its step after a wrong byte at " << i;
-    }
-}
-
-TEST(VirtualPrinter, RefusesValuesThatDoNotFitTheirItem) {
-    const QByteArray sixteen(16, 'x');
-    const struct {
-        quint16 code;
-        QByteArray payload;
-        int result;
-    } cases[] = {{0x1006, sixteen + sixteen.left(15) + '\0', VirtualPrinter::Accepted},
-                 {0x1006, sixteen + sixteen + '\0', VirtualPrinter::BadValue},
-                 {0x1006, "no end", VirtualPrinter::BadValue},
-                 {0x3104, hex("0500") + sixteen + sixteen, VirtualPrinter::Accepted},
-                 {0x3104, hex("0500") + sixteen, VirtualPrinter::BadValue},
-                 {0x3105, hex("0800") + sixteen, VirtualPrinter::BadValue},
-                 {0x3106, hex("01001b00") + sixteen + sixteen.left(10), VirtualPrinter::BadValue},
-                 {0x2001, sixteen.left(13), VirtualPrinter::BadValue},
-                 {0x2000, sixteen.left(6), VirtualPrinter::NotWritable}};
-    const auto printer = printerOf("{}");
-    const auto channel = printer->openChannel();
-    channel->receive(hex("1b7b045501567d"));
-    for (const auto &c : cases) {
-        const auto replies = channel->receive(Frames::settingFrame(c.code, c.payload));
-        ASSERT_EQ(replies.size(), 1);
-        EXPECT_EQ(replies[0].bytes[9], c.result) << c.payload.toHex().constData();
     }
 }
 

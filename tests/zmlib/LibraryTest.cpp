@@ -98,17 +98,7 @@ TEST_P(Library, BadRepliesEndInTimeCloseTheChannelAndSpoilNothing) {
     }
 }
 
-TEST_P(Library, WhatCannotBeReachedGivesNegativeResults) {
-    serve(R"({"faults": {"refuseConnection": true}})");
-    EXPECT_EQ(status(), -1);
-    EXPECT_LT(engage(), 0);
-    const QString unknown = QStringLiteral("virtual://unknown");
-    EXPECT_EQ(library().ZMGetEngageStatusSub(unknown, limit), -1);
-    EXPECT_LT(library().ZMStartCommand(unknown, commands, 20, limit), 0);
-    EXPECT_LT(check(unknown, "1.2.3.4"), 0);
-}
-
-TEST_P(Library, AnswersForTheAddressesThatItsPrintersUse) {
+TEST_P(Library, AnswersForTheAddressesOfThePrintersThatCanBeReached) {
     serve(R"({"items": {"0x2001": {"setting": 1, "address": "10.0.0.5", "mask": "255.0.0.0",
               "gateway": "10.0.0.1"}, "0x3108": {"setting": 1, "address": "10.0.0.6",
               "mask": "255.0.0.0", "gateway": "10.0.0.1"}}})");
@@ -120,6 +110,13 @@ TEST_P(Library, AnswersForTheAddressesThatItsPrintersUse) {
     EXPECT_EQ(finish(), 0);
     setFaults(R"({"refuseConnection": true})");
     EXPECT_LT(check(served->uri(), "10.0.0.5"), 0) << "an unplugged printer answers nowhere";
+    serve(R"({"faults": {"refuseConnection": true}})");
+    EXPECT_EQ(status(), ZMLib::UnknownPrinter);
+    EXPECT_LT(engage(), 0);
+    const QString unknown = QStringLiteral("virtual://unknown");
+    EXPECT_EQ(library().ZMGetEngageStatusSub(unknown, limit), ZMLib::UnknownPrinter);
+    EXPECT_LT(library().ZMStartCommand(unknown, commands, 20, limit), 0);
+    EXPECT_LT(check(unknown, "10.0.0.6"), 0);
 }
 
 // A peer that is no printer: whatever it sends, nothing may be read beyond it or for ever.

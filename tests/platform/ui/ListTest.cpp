@@ -119,14 +119,6 @@ class Outline : public testing::Test, public OutlineDataSource, public OutlineDe
     QString refused;
 };
 
-TEST_F(Outline, RowsCountTheExpandedItemsFromTheTop) {
-    QStringList names;
-    for (int row = 0; row < outline.numberOfRows(); ++row) names << indexAt(row).data().toString();
-    EXPECT_EQ(names.join(u' '), QStringLiteral("A a1 a2 B b1"));
-    outline.collapse(indexAt(0));
-    EXPECT_EQ(outline.numberOfRows(), 3);
-}
-
 TEST_F(Outline, ARefusedSelectionLeavesSelectionAndCurrentItem) {
     outline.selectRow(1);
     EXPECT_TRUE(asked.isEmpty()) << "asked about a selection from code";

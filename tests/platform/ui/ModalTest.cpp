@@ -9,12 +9,10 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "platform/core/Waiting.h"
 #include "platform/ui/Alert.h"
 #include "platform/ui/Modal.h"
 #include "platform/ui/ModalWindow.h"
 #include "platform/ui/ViewStack.h"
-#include "platform/ui/WaitSheet.h"
 
 namespace {
 
@@ -102,82 +100,6 @@ TEST(ModalWindow, EveryWayOutPressesTheVisibleCancelButton) {
             << way.name << " left a view without Cancel";
         EXPECT_EQ(cancelled, 1);
     }
-}
-
-TEST(ModalWindow, ReturnPressesTheDefaultButtonOfTheShownView) {
-    Dialog dialog;
-    QObject::connect(dialog.ok, &QPushButton::clicked, [&] { Modal::stop(&dialog, 1); });
-    QObject::connect(dialog.cancel, &QPushButton::clicked, [&] { Modal::stop(&dialog, 2); });
-    EXPECT_EQ(dialog.runOn("ask", [&] { QTest::keyClick(&dialog, Qt::Key_Return); }), 1);
-}
-
-TEST(ViewStack, ShowsOneViewAndKeepsTheSizeOfTheLargest) {
-    QWidget container;
-    ViewStack stack(&container);
-    auto *small = new QWidget, *large = new QWidget;
-    small->setMinimumSize(10, 10);
-    large->setMinimumSize(300, 200);
-    stack.add(QStringLiteral("small"), small);
-    stack.add(QStringLiteral("large"), large);
-    EXPECT_TRUE(stack.selectedKey().isNull());
-    container.show();
-    stack.select(QStringLiteral("small"));
-    EXPECT_EQ(stack.selectedKey(), QStringLiteral("small"));
-    EXPECT_GE(container.minimumSizeHint().width(), 300);
-    stack.select(QStringLiteral("large"));
-    EXPECT_FALSE(small->isVisible());
-    EXPECT_TRUE(large->isVisible());
-    stack.select(QStringLiteral("unknown"));
-    EXPECT_TRUE(stack.selectedKey().isNull());
-}
-
-// Counts how often the indicator was painted.
-struct CountingBar : QProgressBar {
-    int paints = 0;
-    void paintEvent(QPaintEvent *event) override {
-        ++paints;
-        QProgressBar::paintEvent(event);
-    }
-};
-
-TEST(WaitSheet, IsPaintedBeforeTheWorkMovesDuringItAndDropsInput) {
-    QWidget window;
-    auto *button = new QPushButton(QStringLiteral("Press"), &window);
-    int pressed = 0;
-    QObject::connect(button, &QPushButton::clicked, [&] { ++pressed; });
-    window.resize(400, 300);
-    window.show();
-    window.activateWindow();
-    button->setFocus();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-
-    auto *sheet = new QWidget(&window);
-    auto *bar = new CountingBar;
-    (new QVBoxLayout(sheet))->addWidget(bar);
-    {
-        const WaitSheet wait(sheet, &window, bar);
-        EXPECT_TRUE(sheet->isVisible());
-        const int before = bar->paints;
-        EXPECT_GT(before, 0) << "the work starts before the sheet is painted";
-        // As a person's input reaches the application: posted to the windows.
-        for (QWidget *target : {static_cast<QWidget *>(button), sheet}) {
-            QCoreApplication::postEvent(
-                target, new QKeyEvent(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier));
-            QCoreApplication::postEvent(
-                target, new QKeyEvent(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier));
-        }
-        QCoreApplication::postEvent(sheet, new QCloseEvent);
-        waitFor(std::chrono::milliseconds(300));
-        EXPECT_TRUE(sheet->isVisible());
-        EXPECT_GE(bar->paints - before, 3) << "the indicator stands still";
-        QCoreApplication::postEvent(button,
-                                    new QKeyEvent(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier));
-    }
-    EXPECT_FALSE(sheet->isVisible());
-    QCoreApplication::processEvents();
-    EXPECT_EQ(pressed, 0);
-    EXPECT_FALSE(button->isDown());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return button->hasFocus(); })) << "the focus was lost";
 }
 
 TEST(Alert, ShowsItsTextsAndIsDismissedByReturnOrEscape) {
