@@ -6,10 +6,6 @@
 #include "settings/DWTDataManager.h"
 #include "support/Catalogues.h"
 
-inline QString text(const char *utf8) {
-    return QString::fromUtf8(utf8);
-}
-
 // A data manager on a virtual printer, over either transport.
 class ServedManager {
   public:
@@ -17,7 +13,6 @@ class ServedManager {
         : served(printerOf(profile), transport) {
         installLibrary(served.library());
         manager = DWTDataManager::dataManager(served.entry());
-        manager->setScanInterval(std::chrono::milliseconds(10));
     }
     ~ServedManager() {
         manager.reset();
@@ -31,30 +26,8 @@ class ServedManager {
         printer().setFaults(printerOf("{\"faults\": " + faults + "}")->faults());
     }
 
-    // A saved category as text: "KEY=VALUE" by key, without the keys' common beginning; texts in
-    // quotes.
-    QString saved(const QString &viewKey) { return asText(manager->setupDataToMainView(viewKey)); }
-    QString changed(const QString &viewKey) {
-        return asText(manager->setupDataFromChangeData(viewKey));
-    }
-
     OnePrinterLibrary served;
     std::shared_ptr<DWTDataManager> manager;
-
-  private:
-    static QString asText(const std::optional<CategoryDictionary> &category) {
-        if (!category) return QStringLiteral("nothing");
-        struct Printed {
-            QString operator()(const QString &value) const { return u'\'' + value + u'\''; }
-            QString operator()(int value) const { return QString::number(value); }
-            QString operator()(const QStringList &value) const { return value.join(u'.'); }
-            QString operator()(const QByteArray &value) const { return text(value.toHex()); }
-        };
-        QStringList values;
-        for (auto value = category->begin(); value != category->end(); ++value)
-            values << value.key().mid(13) + u'=' + std::visit(Printed(), *value);
-        return values.join(u' ');
-    }
 };
 
 // A value as text: texts in quotes, addresses dotted, bytes as hexadecimal digits in brackets.
