@@ -1,11 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-#include <QTest>
-#include <QThread>
-#include <atomic>
-
-#include "platform/core/MainThread.h"
 #include "platform/core/NotificationCenter.h"
 
 namespace {
@@ -49,38 +43,6 @@ TEST(NotificationCenter, AnObserverMayEndItselfOthersAndStartNewOnesWhileItIsCal
     EXPECT_EQ(calls, u"a"_s) << "an ended observation was called, or one made during the post";
     center().post(u"Changed"_s, nullptr);
     EXPECT_EQ(calls, u"ac"_s);
-}
-
-TEST(MainThread, WorkersPostOnTheMainThreadInOrderAndWaitForTheObservers) {
-    QStringList seen;
-    std::atomic<int> handled = 0;
-    std::atomic<bool> overtaken = false, ended = false;
-    const auto observer = center().observe(u"Changed"_s, [&](const Notification &n) {
-        EXPECT_EQ(QThread::currentThread(), qApp->thread());
-        seen << n.userInfo[u"step"_s].toString();
-        ++handled;
-    });
-    MainThread::startBackgroundWork([&] {
-        for (int step = 0; step < 3; ++step) {
-            center().postOnMainThreadAndWait(u"Changed"_s, nullptr, {{u"step"_s, step}});
-            if (handled != step + 1) overtaken = true;
-        }
-        ended = true;
-    });
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ended.load(); }));
-    EXPECT_FALSE(overtaken) << "the worker went on before the observers had run";
-    EXPECT_EQ(seen.join(u' '), u"0 1 2"_s);
-}
-
-TEST(MainThread, UnfinishedWorkIsFinishedWithoutAnEventLoop) {
-    int calls = 0;
-    auto held = std::make_shared<int>(1);
-    MainThread::startBackgroundWork([&calls, held] {
-        for (int i = 0; i < 5; ++i) MainThread::callAndWait([&] { ++calls; });
-    });
-    MainThread::finishBackgroundWork();
-    EXPECT_EQ(calls, 5);
-    EXPECT_EQ(held.use_count(), 1) << "what the work held outlived it";
 }
 
 }  // namespace

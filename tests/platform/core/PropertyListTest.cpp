@@ -4,7 +4,6 @@
 #include <QTemporaryDir>
 
 #include "platform/core/PropertyList.h"
-#include "platform/core/Texts.h"
 
 namespace {
 
@@ -35,10 +34,6 @@ TEST(PropertyList, ValuesKeepTheirKindsAndWhatCannotBeReadIsEmpty) {
             << c.contents.constData();
     }
     EXPECT_TRUE(PropertyList::dictionary(u"None"_s, u"plist"_s).isEmpty());
-}
-
-TEST(Texts, AnUnknownKeyShowsItself) {
-    EXPECT_EQ(localized(u"DWT_Localize_No_Such_Key"_s), u"DWT_Localize_No_Such_Key"_s);
 }
 
 }  // namespace

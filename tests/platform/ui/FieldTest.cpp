@@ -3,11 +3,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHBoxLayout>
-#include <QRadioButton>
 #include <QTest>
 
 #include "platform/core/NotificationCenter.h"
-#include "platform/ui/RadioGroup.h"
 #include "platform/ui/TextField.h"
 
 namespace {
@@ -119,42 +117,6 @@ TEST_F(Fields, RefusalsUndoTheChangeAndKeepTheFocus) {
     QTest::keyClick(field, Qt::Key_Tab);
     EXPECT_TRUE(QTest::qWaitFor([&] { return field->hasFocus(); }));
     accepts = true;
-}
-
-TEST_F(Fields, SurvivesAHugePasteAndADelegateThatDisablesTheField) {
-    QApplication::clipboard()->setText(QString(64 * 1024, u'é') + u"👍🏽\u0301\n"_s);
-    field->paste();
-    EXPECT_EQ(field->text().size(), field->maxLength());
-    field->clear();
-    calls.clear();
-    onChange = [](TextField *f) { f->setEnabled(false); };
-    type(u"x"_s);
-    EXPECT_EQ(field->text(), u"x"_s);
-    EXPECT_EQ(take(), u"begin: change:x end:x"_s);
-}
-
-TEST(RadioGroup, ReportsTheUsersChoiceOnlyAndSelectsByTag) {
-    RadioGroup group;
-    auto *layout = new QHBoxLayout(&group);
-    QList<QRadioButton *> cells;
-    for (const int tag : {1, 2, 5}) {
-        cells << new QRadioButton(QString::number(tag));
-        cells.last()->setProperty("tag", tag);
-        layout->addWidget(cells.last());
-    }
-    QList<int> picked;
-    QObject::connect(&group, &RadioGroup::selected, [&](int tag) { picked << tag; });
-    group.show();
-    EXPECT_EQ(group.selectedTag(), -1);
-    EXPECT_TRUE(group.selectTag(2));
-    EXPECT_EQ(group.selectedTag(), 2);
-    cells[2]->click();
-    EXPECT_EQ(group.selectedTag(), 5);
-    EXPECT_EQ(picked, QList<int>{5}) << "selecting from code was reported";
-    EXPECT_FALSE(group.selectTag(9));
-    EXPECT_EQ(group.selectedTag(), -1);
-    EXPECT_TRUE(group.selectTag(1));
-    EXPECT_EQ(group.selectedTag(), 1) << "the cells no longer exclude each other";
 }
 
 }  // namespace

@@ -3,65 +3,42 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
-#include <QVBoxLayout>
 
 #include "platform/ui/Alert.h"
 #include "platform/ui/Modal.h"
 #include "platform/ui/ModalWindow.h"
-#include "platform/ui/ViewStack.h"
 
 namespace {
 
-// A dialog of two stacked views: "ask" has OK (default) and Cancel, "busy" has no button.
-struct Dialog : ModalWindow {
-    Dialog() {
-        auto *ask = new QWidget;
-        auto *layout = new QVBoxLayout(ask);
-        ok = new QPushButton(QStringLiteral("OK"));
-        cancel = new QPushButton(QStringLiteral("Cancel"));
-        ok->setProperty("defaultButton", true);
-        cancel->setProperty("cancelButton", true);
-        layout->addWidget(cancel);
-        layout->addWidget(ok);
-        views.add(QStringLiteral("ask"), ask);
-        views.add(QStringLiteral("busy"), new QProgressBar);
-    }
-    // Runs on a view; `action` happens once the dialog is shown.
-    int runOn(const char *view, const std::function<void()> &action) {
-        views.select(QLatin1String(view));
-        QTimer::singleShot(0, this, action);
-        return Modal::run(this);
-    }
-    ViewStack views{this};
-    QPushButton *ok, *cancel;
-};
+// Runs the window; `action` happens once it is shown.
+int run(ModalWindow &window, const std::function<void()> &action) {
+    QTimer::singleShot(0, &window, action);
+    return Modal::run(&window);
+}
 
 TEST(Modal, DeliversTheOutcomeWhenTheStoppingActionHasFinished) {
-    Dialog dialog;
+    ModalWindow window;
     QStringList order;
-    QObject::connect(dialog.ok, &QPushButton::clicked, [&] {
-        Modal::stop(&dialog, 5);
-        dialog.hide();
+    const int outer = run(window, [&] {
+        Modal::stop(&window, 5);
+        window.hide();
         order << QStringLiteral("stopped");
         // The same window again, from inside the action.
-        const int inner = dialog.runOn("ask", [&] { Modal::stop(&dialog, 7); });
-        order << QString::number(inner);
+        order << QString::number(run(window, [&] { Modal::stop(&window, 7); }));
     });
-    const int outer = dialog.runOn("ask", [&] { QTest::mouseClick(dialog.ok, Qt::LeftButton); });
     order << QString::number(outer);
     EXPECT_EQ(order.join(u' '), QStringLiteral("stopped 7 5"));
 }
 
 TEST(Modal, StopsTheRunOfTheWindowAndNoOther) {
-    Dialog outer, inner;
+    ModalWindow outer, inner;
     Modal::stop(&outer, 3);
     QList<int> outcomes;
-    outcomes << outer.runOn("ask", [&] {
-        outcomes << inner.runOn("ask", [&] {
+    outcomes << run(outer, [&] {
+        outcomes << run(inner, [&] {
             Modal::stop(&outer, 4);
             Modal::stop(&inner);
             inner.hide();
@@ -71,35 +48,6 @@ TEST(Modal, StopsTheRunOfTheWindowAndNoOther) {
     });
     EXPECT_EQ(outcomes, (QList<int>{Modal::stoppedOutcome, 4}));
     EXPECT_NE(Modal::stoppedOutcome, 0);
-}
-
-TEST(ModalWindow, EveryWayOutPressesTheVisibleCancelButton) {
-    const struct {
-        const char *name;
-        std::function<void(Dialog &)> leave;
-    } ways[] = {{"Escape", [](Dialog &d) { QTest::keyClick(&d, Qt::Key_Escape); }},
-                {"close box", [](Dialog &d) { d.close(); }}};
-    for (const auto &way : ways) {
-        Dialog dialog;
-        int cancelled = 0;
-        QObject::connect(dialog.cancel, &QPushButton::clicked, [&] {
-            ++cancelled;
-            Modal::stop(&dialog, 0);
-        });
-        EXPECT_EQ(dialog.runOn("ask", [&] { way.leave(dialog); }), 0) << way.name;
-        EXPECT_EQ(cancelled, 1) << way.name;
-        EXPECT_TRUE(dialog.isVisible()) << way.name << " closed the window by itself";
-
-        EXPECT_EQ(dialog.runOn("busy",
-                               [&] {
-                                   way.leave(dialog);
-                                   EXPECT_TRUE(dialog.isVisible()) << way.name;
-                                   Modal::stop(&dialog, 9);
-                               }),
-                  9)
-            << way.name << " left a view without Cancel";
-        EXPECT_EQ(cancelled, 1);
-    }
 }
 
 TEST(Alert, ShowsItsTextsAndIsDismissedByReturnOrEscape) {
