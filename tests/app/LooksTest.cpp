@@ -1,77 +1,16 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QDirIterator>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QRegularExpression>
 #include <QScrollBar>
-#include <QXmlStreamReader>
 
 #include "platform/core/Texts.h"
 #include "support/Walk.h"
 
 namespace {
-
-const char *const languages[] = {"de", "en", "es", "fr", "ja", "zh_CN"};
-
-QByteArray contents(const QString &path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
-    return file.readAll();
-}
-
-// The texts of a language by their keys.
-QMap<QString, QString> textsOf(const char *language) {
-    QXmlStreamReader file(contents(
-        text(NST_SOURCE "/resources/texts/network-setting-tool_%1.ts").arg(text(language))));
-    QMap<QString, QString> texts;
-    QString key;
-    while (!file.atEnd()) {
-        if (file.readNext() != QXmlStreamReader::StartElement) continue;
-        if (file.name() == text("message")) key = file.attributes().value(text("id")).toString();
-        if (file.name() == text("translation")) texts[key] = file.readElementText();
-    }
-    EXPECT_FALSE(file.hasError()) << language << qPrintable(file.errorString());
-    return texts;
-}
-
-// Every key that the code and the resources name.
-QSet<QString> usedKeys() {
-    const QRegularExpression key(text("DWT_(Localize|ToolChip)_\\w+"));
-    QSet<QString> keys;
-    for (const char *folder : {NST_SOURCE "/src", NST_SOURCE "/resources"}) {
-        QDirIterator files(text(folder),
-                           {text("*.cpp"), text("*.h"), text("*.ui"), text("*.plist")}, QDir::Files,
-                           QDirIterator::Subdirectories);
-        while (files.hasNext()) {
-            auto matches = key.globalMatch(QString::fromUtf8(contents(files.next())));
-            while (matches.hasNext()) keys << matches.next().captured();
-        }
-    }
-    return keys;
-}
-
-TEST(Languages, EveryKeyHasATextInEveryLanguageAndEveryTextAKey) {
-    const QSet<QString> used = usedKeys();
-    EXPECT_GT(used.size(), 200);
-    const auto english = textsOf("en");
-    for (const char *language : languages) {
-        const auto texts = textsOf(language);
-        const QStringList keys = texts.keys();
-        const QSet<QString> there(keys.begin(), keys.end());
-        for (const QString &odd : (used - there) + (there - used))
-            ADD_FAILURE() << qPrintable(odd) << " has no text, or is not used, in " << language;
-        for (auto entry = texts.begin(); entry != texts.end(); ++entry) {
-            const QString &original = english[entry.key()];
-            EXPECT_FALSE(entry.value().trimmed().isEmpty()) << language << qPrintable(entry.key());
-            for (const char *mark : {"%1", "&", "\n"})
-                EXPECT_EQ(entry.value().count(text(mark)), original.count(text(mark)))
-                    << language << " " << qPrintable(entry.key());
-        }
-    }
-}
 
 // Whether a widget shows a text that needs more room than there is.
 bool isCut(const QWidget *widget) {
@@ -92,10 +31,10 @@ bool isCut(const QWidget *widget) {
 }
 
 // What a person cannot read whole, or a screen reader cannot name, in a language.
-class Looks : public testing::TestWithParam<const char *> {
+class Looks : public testing::TestWithParam<QString> {
   protected:
     Looks() {
-        QLocale::setDefault(QLocale(text(GetParam())));
+        QLocale::setDefault(QLocale(GetParam()));
         EXPECT_TRUE(installTexts());
         qputenv("ZMLIB_PRINTERS", "demo");
         walk = std::make_unique<Walk>(catalogueFromEnvironment());
@@ -186,7 +125,15 @@ TEST_P(Looks, MnemonicsOfAMenuDiffer) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryLanguage, Looks, testing::ValuesIn(languages),
-                         [](const auto &language) { return std::string(language.param); });
+// The codes of the build's list of languages, "CODE=NAME;...".
+QStringList languages() {
+    QStringList codes = text(NST_LANGUAGES).split(u';');
+    for (QString &code : codes) code = code.section(u'=', 0, 0);
+    return codes;
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryLanguage, Looks, testing::ValuesIn(languages()),
+                         [](const auto &language) { return language.param.toStdString(); });
+});
 
 }  // namespace
