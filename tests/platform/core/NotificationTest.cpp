@@ -19,18 +19,14 @@ NotificationCenter &center() {
 TEST(NotificationCenter, ReachesTheRightObserversInOrderOfRegistration) {
     QObject sender, stranger;
     QStringList calls;
-    const auto observe = [&](const char *who, const QString &name, const QObject *from) {
-        return center().observe(
-            name,
-            [&calls, who](const Notification &n) {
-                calls << QLatin1String(who) + n.userInfo[u"n"_s].toString();
-            },
-            from);
+    const auto note = [&](const QString &who) {
+        return
+            [&calls, who](const Notification &n) { calls << who + n.userInfo[u"n"_s].toString(); };
     };
-    const auto any = observe("any", u"Changed"_s, nullptr);
-    const auto mine = observe("mine", u"Changed"_s, &sender);
-    const auto foreign = observe("foreign", u"Changed"_s, &stranger);
-    const auto other = observe("other", u"Other"_s, nullptr);
+    const auto any = center().observe(u"Changed"_s, note(u"any"_s));
+    const auto mine = center().observe(u"Changed"_s, note(u"mine"_s), &sender);
+    const auto foreign = center().observe(u"Changed"_s, note(u"foreign"_s), &stranger);
+    const auto other = center().observe(u"Other"_s, note(u"other"_s));
     center().post(u"Changed"_s, &sender, {{u"n"_s, 7}});
     EXPECT_EQ(calls.join(u' '), u"any7 mine7"_s);
 }
@@ -70,17 +66,6 @@ TEST(MainThread, WorkersPostOnTheMainThreadInOrderAndWaitForTheObservers) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return ended.load(); }));
     EXPECT_FALSE(overtaken) << "the worker went on before the observers had run";
     EXPECT_EQ(seen.join(u' '), u"0 1 2"_s);
-}
-
-TEST(MainThread, UnfinishedWorkIsFinishedWithoutAnEventLoop) {
-    int calls = 0;
-    auto held = std::make_shared<int>(1);
-    MainThread::startBackgroundWork([&calls, held] {
-        for (int i = 0; i < 5; ++i) MainThread::callAndWait([&] { ++calls; });
-    });
-    MainThread::finishBackgroundWork();
-    EXPECT_EQ(calls, 5);
-    EXPECT_EQ(held.use_count(), 1) << "what the work held outlived it";
 }
 
 }  // namespace

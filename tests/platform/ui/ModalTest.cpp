@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -16,19 +15,13 @@
 
 namespace {
 
-// A dialog of two stacked views: "ask" has OK (default) and Cancel, "busy" has no button.
+// A dialog whose view "ask" has the button OK.
 struct Dialog : ModalWindow {
     Dialog() {
         auto *ask = new QWidget;
-        auto *layout = new QVBoxLayout(ask);
         ok = new QPushButton(QStringLiteral("OK"));
-        cancel = new QPushButton(QStringLiteral("Cancel"));
-        ok->setProperty("defaultButton", true);
-        cancel->setProperty("cancelButton", true);
-        layout->addWidget(cancel);
-        layout->addWidget(ok);
+        (new QVBoxLayout(ask))->addWidget(ok);
         views.add(QStringLiteral("ask"), ask);
-        views.add(QStringLiteral("busy"), new QProgressBar);
     }
     // Runs on a view; `action` happens once the dialog is shown.
     int runOn(const char *view, const std::function<void()> &action) {
@@ -37,7 +30,7 @@ struct Dialog : ModalWindow {
         return Modal::run(this);
     }
     ViewStack views{this};
-    QPushButton *ok, *cancel;
+    QPushButton *ok;
 };
 
 TEST(Modal, DeliversTheOutcomeWhenTheStoppingActionHasFinished) {
@@ -69,35 +62,6 @@ TEST(Modal, StopsTheInnermostRunAndNothingWithoutOne) {
     });
     EXPECT_EQ(outcomes, (QList<int>{Modal::stoppedOutcome, 0}));
     EXPECT_NE(Modal::stoppedOutcome, 0);
-}
-
-TEST(ModalWindow, EveryWayOutPressesTheVisibleCancelButton) {
-    const struct {
-        const char *name;
-        std::function<void(Dialog &)> leave;
-    } ways[] = {{"Escape", [](Dialog &d) { QTest::keyClick(&d, Qt::Key_Escape); }},
-                {"close box", [](Dialog &d) { d.close(); }}};
-    for (const auto &way : ways) {
-        Dialog dialog;
-        int cancelled = 0;
-        QObject::connect(dialog.cancel, &QPushButton::clicked, [&] {
-            ++cancelled;
-            Modal::stop(0);
-        });
-        EXPECT_EQ(dialog.runOn("ask", [&] { way.leave(dialog); }), 0) << way.name;
-        EXPECT_EQ(cancelled, 1) << way.name;
-        EXPECT_TRUE(dialog.isVisible()) << way.name << " closed the window by itself";
-
-        EXPECT_EQ(dialog.runOn("busy",
-                               [&] {
-                                   way.leave(dialog);
-                                   EXPECT_TRUE(dialog.isVisible()) << way.name;
-                                   Modal::stop(9);
-                               }),
-                  9)
-            << way.name << " left a view without Cancel";
-        EXPECT_EQ(cancelled, 1);
-    }
 }
 
 TEST(Alert, ShowsItsTextsAndIsDismissedByReturnOrEscape) {
