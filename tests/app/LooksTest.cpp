@@ -125,9 +125,9 @@ TEST_P(Looks, MnemonicsOfAMenuDiffer) {
     }
 }
 
-// The codes of the build's list of languages, "CODE=NAME;...".
+// The codes of the build's list of languages, "CODE=NAME,...".
 QStringList languages() {
-    QStringList codes = text(NST_LANGUAGES).split(u';');
+    QStringList codes = text(NST_LANGUAGES).split(u',');
     for (QString &code : codes) code = code.section(u'=', 0, 0);
     return codes;
 }

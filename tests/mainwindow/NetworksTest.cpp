@@ -4,7 +4,7 @@
 
 namespace {
 
-const char *const fourNetworks = R"({"items": {"0x3000": 1}, "networks": [
+const char *const fourNetworks = R"({"items": {"0x3000": 1}, "scanPolls": 0, "networks": [
     {"ssid": "d", "mode": 2, "authentic": 0, "encryption": 1, "signal": -75},
     {"ssid": "b", "mode": 2, "authentic": 2, "encryption": 3, "signal": -67},
     {"ssid": "a", "mode": 2, "authentic": 0, "encryption": 0, "signal": -66},

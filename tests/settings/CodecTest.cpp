@@ -122,7 +122,7 @@ TEST(Decoding, ResultsAndScans) {
               "Authentic=3 Encryption=1 SSID=<43616665> SSID_String='Cafe' SignalStrength=-60 "
               "WirelessMode=2");
     EXPECT_EQ(bytesValue(list->at(1), DWT_SSIDList_SSID), QByteArray("a\0", 2));
-    EXPECT_EQ(block("0000", {}), QList<SSIDEntry>());
+    EXPECT_EQ(block("0000", entry(1, "x")), QList<SSIDEntry>());
     EXPECT_EQ(block("ffff", entry(200, "x").repeated(20))->size(), 11) << "beyond the reply area";
     EXPECT_EQ(networks({}, 0x3121), std::nullopt);
 }
