@@ -134,6 +134,5 @@ QStringList languages() {
 
 INSTANTIATE_TEST_SUITE_P(EveryLanguage, Looks, testing::ValuesIn(languages()),
                          [](const auto &language) { return language.param.toStdString(); });
-});
 
 }  // namespace
