@@ -7,9 +7,9 @@
 
 std::optional<QString> commandLineAnswer(int argc, char **argv) {
     for (int i = 1; i < argc; ++i) {
-        if (!std::strcmp(argv[i], "--version"))
+        if (std::strcmp(argv[i], "--version") == 0)
             return QStringLiteral("network-setting-tool " NST_VERSION);
-        if (std::strcmp(argv[i], "--help")) continue;
+        if (std::strcmp(argv[i], "--help") != 0) continue;
         const QCoreApplication texts(argc, argv);
         installTexts();
         return localized(QStringLiteral("DWT_Localize_CommandLine_Help"))

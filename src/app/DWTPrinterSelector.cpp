@@ -14,9 +14,11 @@ const QString DWT_View_Key_WPS1 = QStringLiteral("DWT_View_Key_WPS1");
 const QString DWT_View_Key_WPS2 = QStringLiteral("DWT_View_Key_WPS2");
 const QString DWT_View_Key_Printerlist = QStringLiteral("DWT_View_Key_Printerlist");
 
-// Columns of the printer table.
+// Columns of the printer table, under the names of their identifiers.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 const QString _MODEL_NAME_ = QStringLiteral("_MODEL_NAME_");
 const QString _SERVICE_NAME_ = QStringLiteral("_SERVICE_NAME_");
+// NOLINTEND(bugprone-reserved-identifier)
 
 // Tags of the two ways to connect.
 constexpr int connectByUSB = 0;

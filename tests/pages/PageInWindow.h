@@ -61,6 +61,7 @@ class PageInWindow {
             if (!box) return;
             alerts << box->text();
             EXPECT_EQ(box->buttons().value(0)->text(), text("OK"));
+            EXPECT_EQ(box->textFormat(), Qt::PlainText);
             explanation = box->informativeText();
             style = box->icon();
             QTest::keyClick(box, Qt::Key_Return);

@@ -47,15 +47,4 @@ TEST_F(PasswordPage, TheBoxOpensTheFieldsAndClosingItForgetsThem) {
     EXPECT_TRUE(m.manager->isEqualToSaveData() && changeList().isEmpty());
 }
 
-TEST_F(PasswordPage, ClearingTellsNobody) {
-    box()->click();
-    typeBoth("abc", "abc");
-    page->clearPassword(true);
-    EXPECT_TRUE(isEmptyAndClosed() && box()->isEnabled());
-    EXPECT_EQ(changedText(DWT_SaveData_Password_Password), text("abc"));
-    page->passwordChangeSetting(true);
-    EXPECT_EQ(changedText(DWT_SaveData_Password_Password), QString());
-    EXPECT_TRUE(box()->isChecked() && password()->isEnabled());
-}
-
 }  // namespace

@@ -31,13 +31,4 @@ TEST_F(SimpleAPPage, ShowsWhatThePrinterTellsAndStoresNameAndKey) {
     EXPECT_EQ(ssid->text() + psk->text(), text("éx"));
 }
 
-TEST(SimpleAPCodes, UnknownOnesAreShownAsEmptyTexts) {
-    const auto page = make<DWTSimpleAPView>();
-    PageInWindow shown(page, R"("0x3210": 9, "0x3211": 4, "0x3212": 65535)");
-    for (const char *name : {"textField_SimpleAPWirelessLanMode", "textField_SimpleAPAuthentic",
-                             "textField_SimpleAPEncryption"})
-        EXPECT_EQ(shown.shown(name), QString()) << name;
-    EXPECT_TRUE(page->itemCheckDifferentToDataManager());
-}
-
 }  // namespace

@@ -31,11 +31,4 @@ TEST_F(WirelessPage, TheModeReachesTheChangeDataAtEveryChoice) {
     EXPECT_EQ(shown("textField_WirelessSimpleAPMACAddress"), text("02004C000103"));
 }
 
-TEST(WirelessCodes, AModeThatNoChoiceStandsForIsKept) {
-    const auto page = make<DWTWirelessView>();
-    PageInWindow shown(page, R"("0x3000": 9)");
-    EXPECT_EQ(page->wirelessCommunicateMode(), -1);
-    EXPECT_TRUE(page->itemCheckDifferentToDataManager());
-}
-
 }  // namespace

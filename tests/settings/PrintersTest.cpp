@@ -69,6 +69,10 @@ TEST_F(Printers, ListsSupportedModelsAndAsksOnlyUsbPrintersForTheirName) {
         EXPECT_NE(listed->ZMGetEngageStatusSub(QLatin1String(p.uri), 100), 0)
             << p.uri << " was left open";
     }
+    {
+        const ArgumentOverride other("-Installers");
+        EXPECT_EQ(list(), u"net= usb=Desk last=Last"_s);
+    }
     const ArgumentOverride installer("-installer");
     EXPECT_EQ(list(), u"usb=Desk last=Last"_s) << "installer mode lists USB printers only";
     const QTemporaryDir folder;

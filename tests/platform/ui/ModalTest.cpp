@@ -1,13 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QLabel>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
-#include "platform/ui/Alert.h"
 #include "platform/ui/Modal.h"
 #include "platform/ui/ModalWindow.h"
 
@@ -48,30 +43,6 @@ TEST(Modal, StopsTheRunOfTheWindowAndNoOther) {
     });
     EXPECT_EQ(outcomes, (QList<int>{Modal::stoppedOutcome, 4}));
     EXPECT_NE(Modal::stoppedOutcome, 0);
-}
-
-TEST(Alert, ShowsItsTextsAndIsDismissedByReturnOrEscape) {
-    Alert alert(Alert::Style::Critical);
-    alert.setButtonTitle(QStringLiteral("Fine"));
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
-        alert.setMessageText(QStringLiteral("Text %1").arg(key));
-        alert.setInformativeText(QStringLiteral("<b>Why</b>"));
-        bool seen = false;
-        QTimer::singleShot(0, [&] {
-            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            ASSERT_TRUE(box);
-            EXPECT_EQ(box->text(), QStringLiteral("Text %1").arg(key));
-            for (const QLabel *label : box->findChildren<QLabel *>())
-                EXPECT_EQ(label->textFormat(), Qt::PlainText);
-            EXPECT_EQ(box->icon(), QMessageBox::Critical);
-            ASSERT_EQ(box->buttons().size(), 1);
-            EXPECT_EQ(box->buttons()[0]->text(), QStringLiteral("Fine"));
-            seen = true;
-            QTest::keyClick(box, key);
-        });
-        alert.runModal();
-        EXPECT_TRUE(seen);
-    }
 }
 
 }  // namespace
