@@ -24,7 +24,6 @@ TEST(UnknownCodes, AreShownAsEmptyTextsAndKept) {
                       !popup->currentText().isEmpty());
         EXPECT_TRUE(page->itemCheckDifferentToDataManager()) << qPrintable(page->viewKey());
     }
-    EXPECT_EQ(std::static_pointer_cast<DWTWirelessView>(pages[0])->wirelessCommunicateMode(), -1);
 }
 
 }  // namespace

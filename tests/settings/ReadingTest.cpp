@@ -140,8 +140,9 @@ TEST_P(Reading, AScanReadsAsManyBlocksAsNetworksWereFound) {
         QString received;
     } cases[] = {{0, u"start =3120 ?3120 update end"_s},
                  {5, u"start =3120 ?3120 ?3121 update end"_s},
-                 {7, u"start =3120 ?3120 ?3121 ?3122 update end"_s},
+                 {6, u"start =3120 ?3120 ?3121 ?3122 update end"_s},
                  {11, u"start =3120 ?3120 ?3121 ?3122 ?3123 update end"_s},
+                 {16, u"start =3120 ?3120 ?3121 ?3122 ?3123 ?3124 update end"_s},
                  {25, u"start =3120 ?3120 ?3121 ?3122 ?3123 ?3124 update end"_s}};
     for (const auto &c : cases) {
         QByteArrayList networks;

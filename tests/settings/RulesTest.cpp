@@ -54,6 +54,8 @@ TEST(Rules, KeysAndPasswordsAreSecrets) {
                                DWT_SaveData_SimpleAP_PSK, DWT_SaveData_Password_Password})
         EXPECT_TRUE(Rules::ruleOf(key)->secret) << qPrintable(key);
     EXPECT_FALSE(Rules::ruleOf(DWT_SaveData_SimpleAP_SSID)->secret);
+    for (const QString &key : {DWT_SaveData_Ethernet_Subnetmask, DWT_SaveData_Ethernet_Gateway})
+        EXPECT_TRUE(Rules::ruleOf(key)->loopback) << qPrintable(key);
     EXPECT_FALSE(Rules::ruleOf(DWT_SaveData_Wireless_CommunicateMode));
 }
 
