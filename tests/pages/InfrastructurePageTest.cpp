@@ -49,6 +49,7 @@ TEST_F(InfrastructurePage, EveryAuthenticationOffersItsEncryptionsAndKeyFields) 
                  {"TKIP", "Open system", 0, "None WEP", "WEP", 1, false, true},
                  {"None", "Shared key", 1, "None WEP", "None", 0, false, false},
                  {"WEP", "Shared key", 1, "None WEP", "WEP", 1, false, true},
+                 {"WEP", "WPA2 personal", 3, "TKIP AES", "AES", 3, true, false},
                  {"AES", "Shared key", 1, "None WEP", "WEP", 1, false, true},
                  {"None", "WPA personal", 2, "TKIP AES", "AES", 3, true, false}};
     for (const auto &c : cases) {
