@@ -39,15 +39,16 @@ class AddressSetup : public testing::TestWithParam<Interface>, protected PageInW
     }
 };
 
-class AutomaticSetup : public AddressSetup {
-  protected:
+struct AutomaticSetup : AddressSetup {
     AutomaticSetup() : AddressSetup(0) {}
 };
 
-const Interface interfaces[] = {
-    {"Ethernet", []() -> std::shared_ptr<InterfaceView> { return make<DWTEthernetView>(); }},
-    {"Infrastructure",
-     []() -> std::shared_ptr<InterfaceView> { return make<DWTInfrastructureView>(); }}};
+template <typename Page>
+std::shared_ptr<InterfaceView> a() {
+    return make<Page>();
+}
+const Interface interfaces[] = {{"Ethernet", a<DWTEthernetView>},
+                                {"Infrastructure", a<DWTInfrastructureView>}};
 const auto nameOf = [](const auto &info) { return std::string(info.param.name); };
 INSTANTIATE_TEST_SUITE_P(Every, AddressSetup, testing::ValuesIn(interfaces), nameOf);
 INSTANTIATE_TEST_SUITE_P(Every, AutomaticSetup, testing::ValuesIn(interfaces), nameOf);

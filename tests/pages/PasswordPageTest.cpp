@@ -47,4 +47,27 @@ TEST_F(PasswordPage, TheBoxOpensTheFieldsAndClosingItForgetsThem) {
     EXPECT_TRUE(m.manager->isEqualToSaveData() && changeList().isEmpty());
 }
 
+TEST(PasswordField, HoldsEightCharactersRefusesMoreAsAWholeAndReportsNothing) {
+    DWTSecureTextField field;
+    const auto paste = [&](const QString &pasted) {
+        QApplication::clipboard()->setText(pasted);
+        field.paste();
+    };
+    int reported = 0;
+    const auto observer = NotificationCenter::shared().observe(
+        text("NSControlTextDidChangeNotification"), [&](const Notification &) { ++reported; });
+    QTest::keyClicks(&field, text("123456789"));
+    EXPECT_EQ(field.text(), text("12345678"));
+    EXPECT_EQ(field.cursorPosition(), 8);
+    field.setCursorPosition(2);
+    QTest::keyClick(&field, Qt::Key_Backspace);
+    paste(text("abcde"));
+    EXPECT_EQ(field.text(), text("1345678"));
+    EXPECT_NE(field.displayText(), field.text()) << "the password is shown";
+    field.setText(text("other"));  // an earlier text must not come back
+    paste(QString(64 * 1024, u'x'));
+    EXPECT_EQ(field.text(), text("other"));
+    EXPECT_EQ(reported, 0);
+}
+
 }  // namespace

@@ -103,10 +103,7 @@ TEST_P(Reading, AForeignReplyLeavesOneDefaultAndEndsItsCategory) {
                   "SimpleAP_PSK='12345678' SimpleAP_SSID=' ' SimpleAP_StartIPAddress=10.9.0.2 "
                   "SimpleAP_Subnetmask=255.255.0.0 SimpleAP_WirelessMode=4"},
                  {"0x1008", DWT_View_Key_Firmware, "Firmware=' ' Firmware_Timeout=90"},
-                 {"0x1007", DWT_View_Key_Firmware, "Firmware='1.20A' Firmware_Timeout=0"},
-                 {"0x3100", DWT_View_Key_Wireless,
-                  "Wireless_CommunicateMode=2 Wireless_InfrastructureMACAddress=' ' "
-                  "Wireless_SampleAPMACAddress='02004C000103'"}};
+                 {"0x1007", DWT_View_Key_Firmware, "Firmware='1.20A' Firmware_Timeout=0"}};
     ServedManager m(profile, GetParam());
     for (const auto &c : cases) {
         m.setFaults(R"({"items": {")" + c.item + R"(": {"code": "0x7777"}}})");
