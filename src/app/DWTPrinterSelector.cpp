@@ -26,14 +26,6 @@ constexpr int connectByWPS = 1;
 
 }  // namespace
 
-DWTPrinterSelector::~DWTPrinterSelector() {
-    DWT_Dealloc();
-}
-
-bool DWTPrinterSelector::init() {
-    return DWTBaseClass::init() && DWT_Init();
-}
-
 bool DWTPrinterSelector::DWT_Init() {
     dictionary_ViewManagement.reset();
     nsObjectRelease(ndm_Object);

@@ -22,10 +22,9 @@ class DWTPrinterSelector : public DWTBaseClass,
                            public TableDataSource,
                            public TableDelegate,
                            private Ui::PrinterSelector {
-  public:
-    ~DWTPrinterSelector() override;
-    bool init() override;
+    DWT_SETUP(DWTPrinterSelector, DWTBaseClass, DWT_Init, DWT_Dealloc)
 
+  public:
     // Loads the selection window; it is not shown yet.
     void awakeFromNib() override;
     // Shows the first view: the guide in installer mode, otherwise the printer list.
@@ -47,8 +46,6 @@ class DWTPrinterSelector : public DWTBaseClass,
     std::shared_ptr<DWTMainSettingWindow> mainSettingWindow() const { return msw_Object; }
 
   private:
-    bool DWT_Init();
-    void DWT_Dealloc();
     void DWT_UIInitialize();
     void connectButtons(const WPSGuide *guide);
     // Shows the view and hides the others; the printer list is fetched anew.

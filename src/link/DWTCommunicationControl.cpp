@@ -23,14 +23,6 @@ std::shared_ptr<DWTCommunicationControl> DWTCommunicationControl::communicationC
     return link && link->NUS_InitMember(entry) ? link : nullptr;
 }
 
-DWTCommunicationControl::~DWTCommunicationControl() {
-    NUS_Dealloc();
-}
-
-bool DWTCommunicationControl::init() {
-    return DWTBaseClass::init() && NUS_Init();
-}
-
 void DWTCommunicationControl::communicationToPrinterList(const PrinterEntry &entry) {
     dictionary_PrinterInfomation = entry;
 }

@@ -16,15 +16,14 @@
 // most callTimeout (on the main thread windows go on painting meanwhile). Integer results are the
 // library's own, 0 = success, unless stated otherwise.
 class DWTCommunicationControl : public DWTBaseClass {
+    DWT_SETUP(DWTCommunicationControl, DWTBaseClass, NUS_Init, NUS_Dealloc)
+
   public:
     // Longest time that one library call may take, in milliseconds.
     static constexpr int callTimeout = 15000;
 
     // A link for `entry`, without command frames; a null pointer when there is no entry to copy.
     static std::shared_ptr<DWTCommunicationControl> communicationControl(const PrinterEntry &entry);
-
-    ~DWTCommunicationControl() override;
-    bool init() override;
 
     // Points the link at another printer; frames, command list and status length stay.
     void communicationToPrinterList(const PrinterEntry &entry);
@@ -64,8 +63,6 @@ class DWTCommunicationControl : public DWTBaseClass {
     int checkConnect(const QString &address);
 
   private:
-    bool NUS_Init();
-    void NUS_Dealloc();
     bool NUS_InitMember(const PrinterEntry &entry);
     QString deviceURI() const;
 

@@ -26,14 +26,6 @@ std::shared_ptr<DWTDataManager> DWTDataManager::dataManager(const PrinterEntry &
     return manager && manager->NDM_InitMember(entry) ? manager : nullptr;
 }
 
-DWTDataManager::~DWTDataManager() {
-    NDM_Dealloc();
-}
-
-bool DWTDataManager::init() {
-    return DWTBaseClass::init() && NDM_Init();
-}
-
 std::optional<CategoryDictionary> DWTDataManager::setupDataToMainView(
     const QString &viewKey) const {
     return categoryOf(dictionary_SaveData, viewKey);

@@ -21,12 +21,11 @@
 // DWTCommunicationControl::callTimeout for each of its answers. Only the send runs on a thread of
 // its own; while it does, no other operation is called.
 class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<DWTDataManager> {
+    DWT_SETUP(DWTDataManager, DWTBaseClass, NDM_Init, NDM_Dealloc)
+
   public:
     // A data manager for the printer of `entry`; a null pointer when the link cannot be made.
     static std::shared_ptr<DWTDataManager> dataManager(const PrinterEntry &entry);
-
-    ~DWTDataManager() override;
-    bool init() override;
 
     // --- The record (DWTDataManager.cpp) ---
 
@@ -95,8 +94,6 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     void qkStatusLength(int length);
 
   private:
-    bool NDM_Init();
-    void NDM_Dealloc();
     bool NDM_InitMember(const PrinterEntry &entry);
 
     // Command frames: each installs one into the link; true when it could not be stored.

@@ -60,7 +60,7 @@ class Reader {
         const QJsonValue value = parent[key];
         if (!value.isUndefined() && !value.isString())
             fail(place + key, QStringLiteral("not a text"));
-        const QByteArray bytes = value.toString().toUtf8();
+        QByteArray bytes = value.toString().toUtf8();
         if (bytes.size() > longest)
             fail(place + key, QStringLiteral("longer than %1 bytes").arg(longest));
         return bytes;

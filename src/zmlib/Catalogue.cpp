@@ -60,11 +60,11 @@ QString addEntry(const QJsonValue &value, Catalogue &catalogue) {
     for (const PrinterEntry &entry : std::as_const(catalogue.entries))
         if (entry[PrinterKey::DeviceURI] == uri)
             return QStringLiteral("\"%1\" is listed already").arg(uri);
-    if (const QString problem = problemWithTexts(object); !problem.isEmpty()) return problem;
+    QString problem = problemWithTexts(object);
+    if (!problem.isEmpty()) return problem;
 
     const QUrl url(uri, QUrl::StrictMode);
-    QString problem =
-        QStringLiteral("\"%1\" is neither virtual://name nor tcp://host:port").arg(uri);
+    problem = QStringLiteral("\"%1\" is neither virtual://name nor tcp://host:port").arg(uri);
     if (url.scheme() == u"virtual" && !url.host().isEmpty())
         problem = addVirtualPrinter(uri, object, catalogue);
     else if (url.scheme() == u"tcp")

@@ -11,7 +11,7 @@
 // What the library knows of the stream: where a reply frame begins and ends.
 
 // So many bytes that begin no reply are skipped before the stream is given up.
-inline constexpr qsizetype skippedBytes = 64 * 1024;
+inline constexpr qsizetype skippedBytes = qsizetype{64} * 1024;
 
 // The library's result for the outcome of a transport operation.
 int resultOf(Transport::Outcome outcome);

@@ -117,11 +117,11 @@ TEST_P(Looks, NoTextIsCutAndEveryControlHasANameForAScreenReader) {
 
 TEST_P(Looks, MnemonicsOfAMenuDiffer) {
     const auto *bar = walk->selector->window()->findChild<QMenuBar *>();
-    QList<QList<QAction *>> menus{bar->actions()};
-    for (const QAction *top : bar->actions()) menus << top->menu()->actions();
-    for (const auto &menu : menus) {
+    QList<const QWidget *> menus{bar};
+    for (const QMenu *menu : bar->findChildren<QMenu *>()) menus << menu;
+    for (const QWidget *menu : menus) {
         QStringList letters;
-        for (const QAction *entry : menu)
+        for (const QAction *entry : menu->actions())
             if (!entry->isSeparator()) letters << entry->text().section(u'&', 1).left(1).toLower();
         EXPECT_FALSE(letters.contains(QString()));
         EXPECT_EQ(letters.removeDuplicates(), 0) << qPrintable(letters.join(u' '));

@@ -88,9 +88,6 @@ TEST_F(Link, NoListIsNotAnEmptyListAndWithoutAnEntryThereIsNoLink) {
     library->list = QList<PrinterEntry>{usb, network};
     EXPECT_EQ(link->printerList(), (QList<PrinterEntry>{usb, network}));
     EXPECT_FALSE(DWTCommunicationControl::communicationControl({}));
-    EXPECT_TRUE(link->setStartSetting({}));
-    EXPECT_TRUE(link->setEndSetting({}));
-    EXPECT_TRUE(link->setUpdateSetting({}));
 }
 
 }  // namespace

@@ -70,7 +70,6 @@ class PageInWindow {
         EXPECT_EQ(m_page->itemInputCheck(), expected);
         return alerts;
     }
-    // The change data, and what the page itself says of its changes.
     CategoryDictionary changed() { return *m.manager->setupDataFromChangeData(m_page->viewKey()); }
     int changedNumber(const QString &key) { return integerValue(changed(), key); }
     QString changedText(const QString &key) { return textValue(changed(), key); }

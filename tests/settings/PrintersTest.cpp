@@ -46,7 +46,6 @@ TEST_F(Printers, ListsSupportedModelsAndAsksOnlyUsbPrintersForTheirName) {
         {"net", false, "L400", "{}", false},
         {"usb", true, "L200", R"({"items": {"0x1006": "Desk"}})", true},
         {"unsupported", true, "P900", "{}", false},
-        {"case", true, "l200", "{}", false},
         {"refusing", true, "L200", R"({"faults": {"refuseConnection": true}})", false},
         {"silent", true, "L200", R"({"faults": {"items": {"0x1006": {"noReply": true}}}})", true},
         {"foreign", true, "L200", R"({"faults": {"items": {"0x1006": {"code": "0x1004"}}}})", true},

@@ -102,7 +102,6 @@ TEST_P(Reading, AForeignReplyLeavesOneDefaultAndEndsItsCategory) {
                   "SimpleAP_Authentic=3 SimpleAP_Encryption=1 SimpleAP_IPAddress=10.9.0.1 "
                   "SimpleAP_PSK='12345678' SimpleAP_SSID=' ' SimpleAP_StartIPAddress=10.9.0.2 "
                   "SimpleAP_Subnetmask=255.255.0.0 SimpleAP_WirelessMode=4"},
-                 {"0x1008", DWT_View_Key_Firmware, "Firmware=' ' Firmware_Timeout=90"},
                  {"0x1007", DWT_View_Key_Firmware, "Firmware='1.20A' Firmware_Timeout=0"}};
     ServedManager m(profile, GetParam());
     for (const auto &c : cases) {

@@ -11,8 +11,7 @@ void scriptFailed(const QString &what) {
     ADD_FAILURE() << qPrintable(what);
 }
 
-// Tests of rooms with widgets run inside the application object of the tool, with the texts of the
-// rooms that have them.
+// Tests of rooms with widgets run inside the tool's application object, with its texts.
 int main(int argc, char **argv) {
     programArguments = argv;
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -73,7 +73,6 @@ class OnePrinterLibrary {
     std::shared_ptr<CatalogueLibrary> m_library;
 };
 
-// Test names by transport.
 inline std::string nameOf(OnePrinterLibrary::Transport transport) {
     return transport == OnePrinterLibrary::Transport::Tcp ? "Tcp" : "Virtual";
 }

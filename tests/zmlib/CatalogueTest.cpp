@@ -20,7 +20,6 @@ TEST(Catalogue, BadEntriesAreNamedAndTheGoodOnesListed) {
          "needs a \"BonjourServiceName\""},
         {R"({"DeviceURI": "lpd://x", )" + usb, "neither virtual"},
         {R"({"DeviceURI": "tcp://x", )" + usb, "host or a port"},
-        {R"({"DeviceURI": "virtual://x", "Port": "1", )" + usb, "unknown key \"Port\""},
         {R"({"DeviceURI": "virtual://x", "profile": {"items": {"0x9999": 1}}, )" + usb,
          "profile: items.0x9999: unknown item"},
     };

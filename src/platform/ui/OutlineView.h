@@ -18,7 +18,8 @@ class OutlineDataSource {
                                                const QVariantMap &item) = 0;
 };
 
-// Asked before the user moves the selection.
+// Asked before the user moves the selection. Collapsing is always allowed, so that nobody is asked
+// shouldCollapseItem.
 class OutlineDelegate {
   public:
     virtual ~OutlineDelegate() = default;
