@@ -81,7 +81,9 @@ QByteArray VirtualPrinter::password() const {
 
 QList<VirtualPrinter::LoggedFrame> VirtualPrinter::log() const {
     const std::lock_guard lock(m_mutex);
-    return m_log;
+    QList<LoggedFrame> own = m_log;
+    own.detach();  // under the lock: frames are appended in place as soon as nobody shares them
+    return own;
 }
 
 void VirtualPrinter::clearLog() {

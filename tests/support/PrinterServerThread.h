@@ -1,30 +1,37 @@
 #pragma once
 
-#include <QThread>
+#include <QEventLoop>
+#include <future>
+#include <memory>
+#include <thread>
 
 #include "virtualprinter/VirtualPrinterServer.h"
 
-// Serves a virtual printer on a free loopback port, on a thread of its own.
+// Serves a virtual printer on a free loopback port, on a thread of its own: a standard one, since
+// the thread sanitizer cannot see what Debian's Qt does to synchronize its own.
 class PrinterServerThread {
   public:
-    explicit PrinterServerThread(const std::shared_ptr<VirtualPrinter> &printer)
-        : m_server(new VirtualPrinterServer(printer)) {
-        m_server->moveToThread(&m_thread);
-        m_thread.start();
-        const auto listen = [this] { m_server->listen(QHostAddress::LocalHost, 0); };
-        QMetaObject::invokeMethod(m_server, listen, Qt::BlockingQueuedConnection);
-        m_uri = QStringLiteral("tcp://127.0.0.1:%1").arg(m_server->port());
+    explicit PrinterServerThread(const std::shared_ptr<VirtualPrinter> &printer) {
+        std::promise<void> listening;
+        m_thread = std::thread([this, printer, &listening] {
+            VirtualPrinterServer server(printer);
+            QEventLoop loop;
+            if (server.listen(QHostAddress::LocalHost, 0)) m_port = server.port();
+            m_loop = &loop;
+            listening.set_value();
+            loop.exec();
+        });
+        listening.get_future().wait();
     }
     ~PrinterServerThread() {
-        m_server->deleteLater();
-        m_thread.quit();
-        m_thread.wait();
+        QMetaObject::invokeMethod(m_loop, &QEventLoop::quit, Qt::QueuedConnection);
+        m_thread.join();
     }
 
-    QString uri() const { return m_uri; }
+    QString uri() const { return QStringLiteral("tcp://127.0.0.1:%1").arg(m_port); }
 
   private:
-    QThread m_thread;
-    VirtualPrinterServer *m_server;
-    QString m_uri;
+    std::thread m_thread;
+    QEventLoop *m_loop = nullptr;
+    quint16 m_port = 0;
 };
