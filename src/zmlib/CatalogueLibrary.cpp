@@ -1,9 +1,10 @@
 #include "zmlib/CatalogueLibrary.h"
 
+#include <QCoreApplication>
+#include <QHostAddress>
 #include <QStringList>
+#include <QTimer>
 #include <algorithm>
-
-#include "zmlib/Replies.h"
 
 namespace {
 
@@ -11,11 +12,6 @@ namespace {
 constexpr qsizetype startFrame = 0;
 constexpr qsizetype updateFrame = 1;
 constexpr qsizetype endFrame = 2;
-
-int sendFrame(Transport &transport, const QList<QByteArray> &commands, qsizetype index,
-              const QDeadlineTimer &deadline) {
-    return resultOf(transport.write(commands.value(index), deadline));
-}
 
 }  // namespace
 
@@ -28,13 +24,16 @@ std::optional<QList<PrinterEntry>> CatalogueLibrary::ZMCreatePrinterURI() {
 
 int CatalogueLibrary::ZMGetEngageStatusSub(const QString &uri, int timeout) {
     if (isOpen(uri)) return 0;
-    return openTransport(uri, deadlineFor(timeout)) ? 1 : UnknownPrinter;
+    auto channel = open(uri, deadlineFor(timeout));
+    if (!channel) return UnknownPrinter;
+    letWait(uri, std::move(*channel));
+    return 1;
 }
 
 int CatalogueLibrary::ZMStartCommand(const QString &uri, const QList<QByteArray> &commands, int,
                                      int timeout) {
-    return useChannel(uri, timeout, [&](Transport &transport, const QDeadlineTimer &deadline) {
-        return sendFrame(transport, commands, startFrame, deadline);
+    return useChannel(uri, timeout, [&](Channel &channel, const QDeadlineTimer &deadline) {
+        return channel.send(commands.value(startFrame), deadline);
     });
 }
 
@@ -43,11 +42,12 @@ int CatalogueLibrary::ZMEngageConnectAndStartCommand(const QString &uri,
                                                      int statusLength, int timeout) {
     const QDeadlineTimer deadline = deadlineFor(timeout);
     if (isOpen(uri)) return NotOpen;
-    auto transport = openTransport(uri, deadline);
-    if (!transport) return UnknownPrinter;
+    auto channel = takeWaiting(uri);
+    if (!channel) channel = open(uri, deadline);
+    if (!channel) return UnknownPrinter;
     {
         const std::lock_guard lock(m_mutex);
-        if (!m_channels.try_emplace(uri, Channel{std::move(transport)}).second) return NotOpen;
+        if (!m_channels.try_emplace(uri, OpenChannel{std::move(*channel)}).second) return NotOpen;
     }
     const int left = static_cast<int>(std::min<qint64>(deadline.remainingTime(), timeout));
     return ZMStartCommand(uri, commands, statusLength, left);
@@ -56,9 +56,8 @@ int CatalogueLibrary::ZMEngageConnectAndStartCommand(const QString &uri,
 int CatalogueLibrary::ZMEndCommandAndEngageDisConnect(const QString &uri,
                                                       const QList<QByteArray> &commands, int,
                                                       int timeout) {
-    const auto end = [&](Transport &transport, const QDeadlineTimer &deadline) {
-        const int result = sendFrame(transport, commands, updateFrame, deadline);
-        return result == Success ? sendFrame(transport, commands, endFrame, deadline) : result;
+    const auto end = [&](Channel &channel, const QDeadlineTimer &deadline) {
+        return channel.finish(commands.value(updateFrame), commands.value(endFrame), deadline);
     };
     const int result = useChannel(uri, timeout, end);
     const std::lock_guard lock(m_mutex);
@@ -69,15 +68,15 @@ int CatalogueLibrary::ZMEndCommandAndEngageDisConnect(const QString &uri,
 
 int CatalogueLibrary::ZMGetSettingData(const QString &uri, int replySize, const QByteArray &request,
                                        QByteArray &reply, const QList<QByteArray> &, int timeout) {
-    return useChannel(uri, timeout, [&](Transport &transport, const QDeadlineTimer &deadline) {
-        return requestReply(transport, request, replySize, reply, deadline);
+    return useChannel(uri, timeout, [&](Channel &channel, const QDeadlineTimer &deadline) {
+        return channel.exchange(request, replySize, reply, deadline);
     });
 }
 
 int CatalogueLibrary::ZMSendSettingData(const QString &uri, int frameSize, const QByteArray &frame,
                                         QByteArray &reply, const QList<QByteArray> &, int timeout) {
-    return useChannel(uri, timeout, [&](Transport &transport, const QDeadlineTimer &deadline) {
-        return requestReply(transport, frame.left(frameSize), replyArea, reply, deadline);
+    return useChannel(uri, timeout, [&](Channel &channel, const QDeadlineTimer &deadline) {
+        return channel.exchange(frame.left(frameSize), replyArea, reply, deadline);
     });
 }
 
@@ -85,9 +84,13 @@ int CatalogueLibrary::ZMIOOpenForUDP(const QString &target, const QString &addre
                                      int timeout) {
     if (target != anyPrinter && !isListed(target)) return UnknownPrinter;
     const QDeadlineTimer deadline = deadlineFor(timeout);
-    for (const PrinterEntry &entry : m_catalogue.entries)
-        if (answersAt(entry[PrinterKey::DeviceURI], address, deadline)) return Success;
-    return UnknownPrinter;
+    const auto &entries = m_catalogue.entries;
+    const bool answers =
+        std::any_of(entries.begin(), entries.end(), [&](const PrinterEntry &entry) {
+            const QString uri = entry[PrinterKey::DeviceURI];
+            return mayHave(uri, address) && answersAt(uri, address, deadline);
+        });
+    return answers ? Success : UnknownPrinter;
 }
 
 QDeadlineTimer CatalogueLibrary::deadlineFor(int timeout) const {
@@ -105,30 +108,61 @@ bool CatalogueLibrary::isOpen(const QString &uri) {
     return m_channels.contains(uri);
 }
 
-std::unique_ptr<Transport> CatalogueLibrary::openTransport(const QString &uri,
-                                                           const QDeadlineTimer &deadline) {
-    if (!isListed(uri)) return nullptr;
-    if (const auto printer = m_catalogue.virtualPrinters.value(uri))
-        return openVirtualTransport(printer);
-    const QUrl url(uri);
-    return openTcpTransport(url.host(), static_cast<quint16>(url.port()), deadline);
+// Another machine is asked for its own address only: the silence of each that cannot have the
+// address would cost time that the others need.
+bool CatalogueLibrary::mayHave(const QString &uri, const QString &address) const {
+    const QHostAddress host(QUrl(uri).host());
+    return host.isNull() || host.isLoopback() || host == QHostAddress(address);
 }
 
-// Claims the channel for one exchange. A channel whose exchange failed is closed: its stream may
-// be out of step with the calls.
+std::optional<Channel> CatalogueLibrary::open(const QString &uri, const QDeadlineTimer &deadline) {
+    if (!isListed(uri)) return {};
+    const QUrl url(uri);
+    const auto printer = m_catalogue.virtualPrinters.value(uri);
+    auto transport = printer ? openVirtualTransport(printer)
+                             : openTcpTransport(url.host(QUrl::FullyDecoded),
+                                                static_cast<quint16>(url.port()), deadline);
+    if (!transport) return {};
+    return Channel(std::move(transport));
+}
+
+void CatalogueLibrary::letWait(const QString &uri, Channel channel) {
+    const auto waiting = std::make_shared<Waiting>();
+    waiting->channel = std::move(channel);
+    const std::chrono::milliseconds longest(m_longestWait);
+    QTimer::singleShot(std::min(engageWait, longest), QCoreApplication::instance(), [waiting] {
+        const std::lock_guard lock(waiting->mutex);
+        waiting->channel.reset();
+    });
+    const std::lock_guard lock(m_mutex);
+    m_waiting[uri] = waiting;
+}
+
+std::optional<Channel> CatalogueLibrary::takeWaiting(const QString &uri) {
+    std::shared_ptr<Waiting> waiting;
+    {
+        const std::lock_guard lock(m_mutex);
+        waiting = std::exchange(m_waiting[uri], nullptr);
+    }
+    if (!waiting) return {};
+    const std::lock_guard lock(waiting->mutex);
+    return std::exchange(waiting->channel, std::nullopt);
+}
+
+// Claims the channel for one exchange. It stays open until its printer has closed it.
 int CatalogueLibrary::useChannel(const QString &uri, int timeout, const Exchange &exchange) {
-    Channel *channel = nullptr;
+    OpenChannel *open = nullptr;
     {
         const std::lock_guard lock(m_mutex);
         const auto found = m_channels.find(uri);
         if (found == m_channels.end() || found->second.busy) return NotOpen;
-        channel = &found->second;
-        channel->busy = true;
+        open = &found->second;
+        open->busy = true;
     }
-    const int result = exchange(*channel->transport, deadlineFor(timeout));
+    const int result = exchange(open->channel, deadlineFor(timeout));
     const std::lock_guard lock(m_mutex);
-    channel->busy = false;
-    if (result != Success) m_channels.erase(uri);
+    open->busy = false;
+    if (result == Closed) m_channels.erase(uri);
     return result;
 }
 
@@ -137,20 +171,18 @@ bool CatalogueLibrary::answersAt(const QString &uri, const QString &address,
                                  const QDeadlineTimer &deadline) {
     const auto wait = std::min(std::chrono::milliseconds(deadline.remainingTime()), addressWait);
     bool found = false;
-    const auto ask = [&](Transport &transport, const QDeadlineTimer &limit) {
-        const auto addresses = addressesInUse(transport, limit);
-        found = addresses && addresses->contains(address);
-        return addresses ? Success : NotAReply;
+    const auto ask = [&](Channel &channel, const QDeadlineTimer &limit) {
+        found = channel.addressesInUse(limit).value_or(QStringList()).contains(address);
+        return Success;
     };
     if (isOpen(uri)) {
         useChannel(uri, static_cast<int>(wait.count()), ask);
         return found;
     }
     const QDeadlineTimer limit(wait);
-    const auto transport = openTransport(uri, limit);
-    if (!transport) return false;
-    if (resultOf(transport->write(queryStart, limit)) != ZMLib::Success) return false;
-    ask(*transport, limit);
-    transport->write(queryEnd, limit);
+    auto channel = open(uri, limit);
+    if (!channel || channel->send(queryStart, limit) != Success) return false;
+    ask(*channel, limit);
+    channel->send(queryEnd, limit);
     return found;
 }

@@ -7,9 +7,10 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 
 #include "zmlib/Catalogue.h"
-#include "zmlib/Transport.h"
+#include "zmlib/Channel.h"
 #include "zmlib/ZMLib.h"
 
 // The library that ships: the printers of a catalogue, each over the transport of its URI.
@@ -19,6 +20,8 @@ class CatalogueLibrary : public ZMLib {
     // How long one printer may take to tell its addresses, so that a silent one does not use up the
     // time of those after it.
     static constexpr std::chrono::milliseconds addressWait{2000};
+    // How long a channel that the engage status opened waits for the engage that uses it.
+    static constexpr std::chrono::milliseconds engageWait{2000};
 
     // `longestWait` (milliseconds) caps the time-out of every call, for tests of silent printers.
     explicit CatalogueLibrary(Catalogue catalogue,
@@ -42,21 +45,30 @@ class CatalogueLibrary : public ZMLib {
                        int timeout) override;
 
   private:
-    struct Channel {
-        std::unique_ptr<Transport> transport;
+    struct OpenChannel {
+        Channel channel;
         bool busy = false;
     };
-    using Exchange = std::function<int(Transport &, const QDeadlineTimer &)>;
+    // A channel that was opened and not yet engaged; empty once it was, or when it waited too long.
+    struct Waiting {
+        std::mutex mutex;
+        std::optional<Channel> channel;
+    };
+    using Exchange = std::function<int(Channel &, const QDeadlineTimer &)>;
 
     QDeadlineTimer deadlineFor(int timeout) const;
     bool isListed(const QString &uri) const;
     bool isOpen(const QString &uri);
-    std::unique_ptr<Transport> openTransport(const QString &uri, const QDeadlineTimer &deadline);
+    bool mayHave(const QString &uri, const QString &address) const;
+    std::optional<Channel> open(const QString &uri, const QDeadlineTimer &deadline);
+    void letWait(const QString &uri, Channel channel);
+    std::optional<Channel> takeWaiting(const QString &uri);
     int useChannel(const QString &uri, int timeout, const Exchange &exchange);
     bool answersAt(const QString &uri, const QString &address, const QDeadlineTimer &deadline);
 
     const Catalogue m_catalogue;
     const int m_longestWait;
-    std::mutex m_mutex;  // guards m_channels; never held while a call waits
-    std::map<QString, Channel> m_channels;
+    std::mutex m_mutex;  // guards what follows; never held while a call waits
+    std::map<QString, OpenChannel> m_channels;
+    std::map<QString, std::shared_ptr<Waiting>> m_waiting;
 };

@@ -1,7 +1,6 @@
 #include "zmlib/Replies.h"
 
-#include <algorithm>
-#include <array>
+#include "zmlib/ZMLib.h"
 
 namespace {
 
@@ -22,16 +21,7 @@ int readHeader(Transport &transport, QByteArray &frame, const QDeadlineTimer &de
     return frame[1] == 'F' || frame[1] == 'R' ? ZMLib::Success : ZMLib::NotAReply;
 }
 
-// The requests for the addresses in use: items 0x2002 (wired) and 0x3119 (wireless).
-const std::array addressRequests{QByteArray::fromHex("1b7b05660220887d"),
-                                 QByteArray::fromHex("1b7b05661931b07d")};
-// Where the four octets of the address stand in the answer.
-constexpr qsizetype addressOffset = 9;
-
 }  // namespace
-
-const QByteArray queryStart = QByteArray::fromHex("1b7b045501567d");
-const QByteArray queryEnd = QByteArray::fromHex("1b7b045500557d");
 
 int resultOf(Transport::Outcome outcome) {
     switch (outcome) {
@@ -45,39 +35,15 @@ int resultOf(Transport::Outcome outcome) {
     return ZMLib::Closed;
 }
 
-int readReply(Transport &transport, int replySize, QByteArray &reply,
-              const QDeadlineTimer &deadline) {
-    QByteArray frame;
-    if (const int result = readHeader(transport, frame, deadline); result != ZMLib::Success)
+int readReply(Transport &transport, QByteArray &reply, const QDeadlineTimer &deadline) {
+    if (const int result = readHeader(transport, reply, deadline); result != ZMLib::Success)
         return result;
-    const auto low = static_cast<quint8>(frame[3]);
-    const auto high = static_cast<quint8>(frame[4]);
+    const auto low = static_cast<quint8>(reply[3]);
+    const auto high = static_cast<quint8>(reply[4]);
     const qsizetype size = headerSize + (low | high << 8);
-    while (frame.size() < size) {
-        const auto outcome = transport.read(frame, size - frame.size(), deadline);
+    while (reply.size() < size) {
+        const auto outcome = transport.read(reply, size - reply.size(), deadline);
         if (outcome != Transport::Outcome::Done) return resultOf(outcome);
     }
-    reply.append(frame.constData(), std::min<qsizetype>(frame.size(), replySize));
     return ZMLib::Success;
-}
-
-int requestReply(Transport &transport, const QByteArray &frame, int replySize, QByteArray &reply,
-                 const QDeadlineTimer &deadline) {
-    const int written = resultOf(transport.write(frame, deadline));
-    return written == ZMLib::Success ? readReply(transport, replySize, reply, deadline) : written;
-}
-
-std::optional<QStringList> addressesInUse(Transport &transport, const QDeadlineTimer &deadline) {
-    QStringList addresses;
-    for (const QByteArray &request : addressRequests) {
-        QByteArray reply;
-        if (requestReply(transport, request, ZMLib::replyArea, reply, deadline) != ZMLib::Success)
-            return {};
-        if (reply.size() < addressOffset + 4) continue;
-        QStringList octets;
-        for (qsizetype i = 0; i < 4; ++i)
-            octets << QString::number(static_cast<quint8>(reply[addressOffset + i]));
-        addresses << octets.join(u'.');
-    }
-    return addresses;
 }

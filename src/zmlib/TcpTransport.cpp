@@ -1,5 +1,5 @@
 #include <fcntl.h>
-#include <netdb.h>
+#include <net/if.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <poll.h>
@@ -13,9 +13,11 @@
 #include <cerrno>
 #include <functional>
 #include <future>
-#include <thread>
+#include <memory>
 
+#include "platform/core/MainThread.h"
 #include "platform/core/Waiting.h"
+#include "zmlib/Replies.h"
 #include "zmlib/Transport.h"
 #include "zmlib/ZMLib.h"
 
@@ -77,7 +79,8 @@ class TcpTransport : public Transport {
 
     Outcome read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) override {
         if (m_received.isEmpty()) {
-            if (const Outcome outcome = receive(deadline); outcome != Outcome::Done) return outcome;
+            if (const Outcome outcome = receive(deadline, nearAnswer); outcome != Outcome::Done)
+                return outcome;
         }
         const qsizetype taken = std::min(limit, m_received.size());
         bytes.append(m_received.constData(), taken);
@@ -85,11 +88,21 @@ class TcpTransport : public Transport {
         return Outcome::Done;
     }
 
+    Outcome dropArrived(std::chrono::milliseconds notice) override {
+        const QDeadlineTimer deadline(notice);
+        Outcome outcome = Outcome::Done;
+        while (outcome == Outcome::Done && m_received.size() <= skippedBytes)
+            outcome = receive(deadline, std::chrono::microseconds(0));
+        m_received.clear();
+        return outcome == Outcome::Closed ? Outcome::Closed : Outcome::Done;
+    }
+
   private:
-    // Waits for bytes and takes what has come, so that one call serves a whole reply.
-    Outcome receive(const QDeadlineTimer &deadline) {
+    // Waits for bytes, awake for the first while, and takes what has come, so that one call serves
+    // a whole reply.
+    Outcome receive(const QDeadlineTimer &deadline, std::chrono::microseconds awakeFor) {
         std::array<char, ZMLib::replyArea> buffer;
-        const QDeadlineTimer awake(nearAnswer, Qt::PreciseTimer);
+        const QDeadlineTimer awake(awakeFor, Qt::PreciseTimer);
         for (;;) {
             const ssize_t n = ::recv(m_socket.fd(), buffer.data(), buffer.size(), 0);
             if (n > 0) {
@@ -108,19 +121,25 @@ class TcpTransport : public Transport {
     Socket m_socket;
 };
 
-// The addresses of `host`. A name is looked up on a thread of its own, which may outlive the wait.
+// The addresses of `host`. The look-up of a name may outlive the wait, but not the application.
 QList<QHostAddress> addressesOf(const QString &host, const QDeadlineTimer &deadline) {
     if (const QHostAddress address(host); !address.isNull()) return {address};
-    std::promise<QList<QHostAddress>> promise;
-    auto found = promise.get_future();
-    std::thread([host, promise = std::move(promise)]() mutable {
-        promise.set_value(QHostInfo::fromName(host).addresses());
-    }).detach();
+    const auto promise = std::make_shared<std::promise<QList<QHostAddress>>>();
+    auto found = promise->get_future();
+    MainThread::startBackgroundWork(
+        [host, promise] { promise->set_value(QHostInfo::fromName(host).addresses()); });
     const auto ready = [&] {
         return found.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
     };
     const auto pause = [&](std::chrono::milliseconds slice) { found.wait_for(slice); };
     return waitUntil(ready, deadline, pause) ? found.get() : QList<QHostAddress>();
+}
+
+// The number of the interface that the scope of an address names, by its name or number; 0: none.
+quint32 scopeOf(const QHostAddress &address) {
+    const QByteArray scope = address.scopeId().toLocal8Bit();
+    const quint32 named = scope.isEmpty() ? 0 : ::if_nametoindex(scope.constData());
+    return named != 0 ? named : scope.toUInt();
 }
 
 bool startConnecting(const Socket &socket, const QHostAddress &address, quint16 port) {
@@ -129,6 +148,7 @@ bool startConnecting(const Socket &socket, const QHostAddress &address, quint16 
         sockaddr_in6 name{};
         name.sin6_family = AF_INET6;
         name.sin6_port = htons(port);
+        name.sin6_scope_id = scopeOf(address);
         const Q_IPV6ADDR bytes = address.toIPv6Address();
         std::copy(std::begin(bytes.c), std::end(bytes.c), std::begin(name.sin6_addr.s6_addr));
         result = ::connect(socket.fd(), reinterpret_cast<const sockaddr *>(&name), sizeof name);
@@ -156,10 +176,11 @@ bool connectSocket(const Socket &socket, const QHostAddress &address, quint16 po
 std::unique_ptr<Transport> openTcpTransport(const QString &host, quint16 port,
                                             const QDeadlineTimer &deadline) {
     const QList<QHostAddress> addresses = addressesOf(host, deadline);
-    for (const QHostAddress &address : addresses) {
-        const bool v6 = address.protocol() == QAbstractSocket::IPv6Protocol;
+    for (qsizetype i = 0; i < addresses.size(); ++i) {
+        const bool v6 = addresses[i].protocol() == QAbstractSocket::IPv6Protocol;
         Socket socket(v6 ? AF_INET6 : AF_INET);
-        if (connectSocket(socket, address, port, deadline))
+        const QDeadlineTimer share(deadline.remainingTimeAsDuration() / (addresses.size() - i));
+        if (connectSocket(socket, addresses[i], port, share))
             return std::make_unique<TcpTransport>(std::move(socket));
     }
     return nullptr;

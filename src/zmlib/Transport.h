@@ -21,14 +21,19 @@ class Transport {
 
     // Waits for at least one byte and appends what has come, `limit` bytes at most, to `bytes`.
     virtual Outcome read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) = 0;
+
+    // Drops what has arrived and was not read, and what arrives within `notice`, so that a printer
+    // that is about to close is noticed. Closed when the printer has closed, otherwise Done.
+    virtual Outcome dropArrived(std::chrono::milliseconds notice) = 0;
 };
 
 // How long an answer over TCP is looked for before the thread sleeps: a printer on the same machine
 // answers sooner than a sleeping thread is woken.
 inline constexpr std::chrono::microseconds nearAnswer{100};
 
-// Opens the stream to `host` (a name or an IPv4 or IPv6 address) and `port`; a null pointer when it
-// cannot be opened before the deadline.
+// Opens the stream to `host` (a name, or an IPv4 or IPv6 address, the latter with a scope where it
+// needs one: "fe80::1%eth0") and `port`; a null pointer when it cannot be opened before the
+// deadline. Each address of a name gets an equal share of the time that is left.
 std::unique_ptr<Transport> openTcpTransport(const QString &host, quint16 port,
                                             const QDeadlineTimer &deadline);
 

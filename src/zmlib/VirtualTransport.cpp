@@ -34,6 +34,11 @@ class VirtualTransport : public Transport {
         return Outcome::Done;
     }
 
+    Outcome dropArrived(std::chrono::milliseconds) override {
+        while (!m_replies.empty() && m_replies.front().due.hasExpired()) m_replies.pop_front();
+        return m_channel->isOpen() ? Outcome::Done : Outcome::Closed;
+    }
+
   private:
     struct Pending {
         QByteArray bytes;

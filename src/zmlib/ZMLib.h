@@ -43,7 +43,7 @@ class ZMLib {
         UnknownPrinter = -1,  // no printer of that URI, or it cannot be reached
         NotOpen = -2,         // the printer's channel is not open, or in use by another call
         TimedOut = -3,
-        Closed = -4,    // the printer closed the channel
+        Closed = -4,    // the printer closed the channel, which is then closed here, too
         NotAReply = -5  // what came back is no reply frame
     };
 
@@ -60,7 +60,8 @@ class ZMLib {
     virtual std::optional<QList<PrinterEntry>> ZMCreatePrinterURI() = 0;
 
     // 1: the channel is closed and the printer can be reached; 0: this process holds the channel
-    // open; negative: the printer cannot be reached or is unknown.
+    // open; negative: the printer cannot be reached or is unknown. The connection with which that
+    // was found out is kept a short while for the engage.
     virtual int ZMGetEngageStatusSub(const QString &uri, int timeout) = 0;
 
     // Sends the start frame on the open channel; the printer does not answer it.
@@ -73,15 +74,16 @@ class ZMLib {
                                                const QList<QByteArray> &commands, int statusLength,
                                                int timeout) = 0;
 
-    // Sends the update frame, then the end frame, and closes the channel. The channel is closed
-    // whatever the result. Result: 0, or a negative Result.
+    // Sends the update frame, then the end frame, and closes the channel. When the printer has
+    // closed it, nothing is sent and the result is Closed. The channel is closed whatever the
+    // result. Result: 0 when the update frame is out, or a negative Result.
     virtual int ZMEndCommandAndEngageDisConnect(const QString &uri,
                                                 const QList<QByteArray> &commands, int statusLength,
                                                 int timeout) = 0;
 
     // Sends `request` and appends the printer's reply to `reply`, at most `replySize` bytes of it.
-    // Result: 0, or a negative Result. After a negative result other than NotOpen the channel is
-    // closed: what the printer still sends could not be told from the next reply.
+    // What arrived before the request, and what answers an earlier exchange, is skipped.
+    // Result: 0, or a negative Result. The channel stays open unless it is Closed.
     virtual int ZMGetSettingData(const QString &uri, int replySize, const QByteArray &request,
                                  QByteArray &reply, const QList<QByteArray> &commands,
                                  int timeout) = 0;

@@ -10,6 +10,8 @@ using Transport = OnePrinterLibrary::Transport;
 
 const QList<QByteArray> commands{hex("1b7b045501567d"), hex("1b7b0377777d"), hex("1b7b045500557d")};
 const QByteArray readName = hex("1b7b056606107c7d");
+const QByteArray readBonjour = hex("1b7b056604107a7d");
+const QByteArray bonjourC = hex("43463b07003b04103b433b08");
 const QByteArray nameAB = hex("43463b08003b06103b41423b4a");
 const QByteArray writeAB = hex("43463b09003b06103b4142003b4a");
 const QByteArray accepted = hex("43523b08003b06103b00003bc7");
@@ -34,10 +36,10 @@ class Library : public testing::TestWithParam<Transport> {
         return library().ZMEndCommandAndEngageDisConnect(served->uri(), commands, 20, limit);
     }
     // The reply in hexadecimal digits, or the library's result.
-    std::string get(int area = ZMLib::replyArea) {
+    std::string get(int area = ZMLib::replyArea, const QByteArray &request = readName) {
         QByteArray reply;
         const int result =
-            library().ZMGetSettingData(served->uri(), area, readName, reply, commands, limit);
+            library().ZMGetSettingData(served->uri(), area, request, reply, commands, limit);
         EXPECT_EQ(result == 0, !reply.isEmpty());
         return result == 0 ? reply.toHex().toStdString() : std::to_string(result);
     }
@@ -74,27 +76,52 @@ TEST_P(Library, ATransactionPutsExactlyItsFramesOnTheWire) {
               QStringLiteral("start start =1006 update end start ?1006 ?1006 update end"));
 }
 
-TEST_P(Library, BadRepliesEndInTimeCloseTheChannelAndSpoilNothing) {
+TEST_P(Library, ABadReplyIsTheFailureOfOneExchange) {
     const struct {
         const char *faults;
         int result;
-    } cases[] = {
-        {R"({"items": {"0x1006": {"truncate": 3}}})", ZMLib::TimedOut},
-        {R"({"items": {"0x1006": {"length": 65535}}})", ZMLib::TimedOut},
-        {R"({"items": {"0x1006": {"garbage": true}}})", ZMLib::NotAReply},
-        {R"({"items": {"0x1006": {"noReply": true}}, "closeAfterFrames": 2})", ZMLib::Closed}};
-    serve(R"({"items": {"0x1006": "AB"}})");
+    } cases[] = {{R"({"items": {"0x1006": {"noReply": true}}})", ZMLib::TimedOut},
+                 {R"({"items": {"0x1006": {"delay": 130}}})", ZMLib::TimedOut},
+                 {R"({"items": {"0x1006": {"truncate": 3}}})", ZMLib::TimedOut},
+                 {R"({"items": {"0x1006": {"length": 65535}}})", ZMLib::TimedOut},
+                 {R"({"items": {"0x1006": {"garbage": true}}})", ZMLib::NotAReply}};
+    serve(
+        R"({"items": {"0x1006": "AB", "0x1004": "C"}, "faults": {"items": {"0x1004": {"delay": 60}}}})");
     for (const auto &c : cases) {
+        ASSERT_EQ(engage(), 0) << c.faults;
         setFaults(c.faults);
-        ASSERT_EQ(engage(), 0) << c.faults;
         EXPECT_EQ(get(), std::to_string(c.result)) << c.faults;
-        EXPECT_EQ(get(), std::to_string(ZMLib::NotOpen)) << c.faults;
-        EXPECT_EQ(finish(), ZMLib::NotOpen) << c.faults;
-        setFaults("{}");
-        ASSERT_EQ(engage(), 0) << c.faults;
+        setFaults(R"({"items": {"0x1004": {"delay": 60}}})");
+        EXPECT_EQ(get(ZMLib::replyArea, readBonjour), bonjourC.toHex().toStdString()) << c.faults;
         EXPECT_EQ(get(), nameAB.toHex().toStdString()) << c.faults;
         EXPECT_EQ(finish(), 0);
     }
+}
+
+TEST_P(Library, OnlyAPrinterThatClosesEndsTheTransaction) {
+    for (const int frames : {1, 2}) {
+        serve(R"({"items": {"0x1006": "AB"}, "faults": {"closeAfterFrames": )" +
+              QByteArray::number(frames) + "}}");
+        ASSERT_EQ(engage(), 0);
+        QByteArray reply;
+        const int result = library().ZMSendSettingData(served->uri(), int(writeAB.size()), writeAB,
+                                                       reply, commands, limit);
+        EXPECT_EQ(result, frames == 1 ? ZMLib::Closed : ZMLib::Success);
+        if (frames == 2) {
+            EXPECT_EQ(get(), std::to_string(ZMLib::Closed));
+        }
+        EXPECT_EQ(get(), std::to_string(ZMLib::NotOpen));
+        EXPECT_EQ(finish(), ZMLib::NotOpen);
+        EXPECT_EQ(served->printer().item(0x1006), QByteArray("AB")) << "applied";
+    }
+}
+
+TEST_P(Library, TheConnectionOfTheStatusIsTheOneThatIsEngaged) {
+    serve("{}");
+    EXPECT_EQ(status(), 1);
+    setFaults(R"({"refuseConnection": true})");
+    ASSERT_EQ(engage(), 0) << "a second connection";
+    EXPECT_EQ(finish(), 0);
 }
 
 TEST_P(Library, AnswersForTheAddressesOfThePrintersThatCanBeReached) {
@@ -116,6 +143,24 @@ TEST_P(Library, AnswersForTheAddressesOfThePrintersThatCanBeReached) {
     EXPECT_EQ(library().ZMGetEngageStatusSub(unknown, limit), ZMLib::UnknownPrinter);
     EXPECT_LT(library().ZMStartCommand(unknown, commands, 20, limit), 0);
     EXPECT_LT(check(unknown, "10.0.0.6"), 0);
+}
+
+TEST(TcpPeer, IsReachedByEveryKindOfHost) {
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::Any));
+    for (const char *host : {"127.0.0.1", "[::1]", "localhost", "[::1%25lo]"}) {
+        const QString uri =
+            QStringLiteral("tcp://%1:%2").arg(QLatin1String(host)).arg(server.serverPort());
+        Catalogue catalogue;
+        catalogue.entries = {{{PrinterKey::DeviceURI, uri}}};
+        CatalogueLibrary library(catalogue, 100);
+        EXPECT_EQ(library.ZMGetEngageStatusSub(uri, limit), 1) << host;
+        ASSERT_TRUE(server.hasPendingConnections() || server.waitForNewConnection(limit));
+        const auto *peer = server.nextPendingConnection();
+        const auto closed = [&] { return peer->state() == QAbstractSocket::UnconnectedState; };
+        EXPECT_FALSE(closed());
+        EXPECT_TRUE(QTest::qWaitFor(closed)) << "kept although nobody engages";
+    }
 }
 
 // A peer that is no printer: whatever it sends, nothing may be read beyond it or for ever.
