@@ -4,11 +4,6 @@
 
 namespace {
 
-// The reply when the library reported success.
-std::optional<QByteArray> replyOf(int result, const QByteArray &reply) {
-    return result == ZMLib::Success ? std::optional(reply) : std::nullopt;
-}
-
 // Stores a copy of `frame`; true when there is none.
 bool store(QByteArray &field, const QByteArray &frame) {
     field = frame;
@@ -88,6 +83,10 @@ std::optional<QByteArray> DWTCommunicationControl::sendSetting(const QByteArray 
     return replyOf(result, reply);
 }
 
+bool DWTCommunicationControl::isClosedByPrinter() const {
+    return m_exchange == ZMLib::Closed || m_exchange == ZMLib::NotOpen;
+}
+
 int DWTCommunicationControl::checkConnect(const QString &address) {
     const bool usb =
         dictionary_PrinterInfomation.value(PrinterKey::ConnectionType) == PrinterConnection::USB;
@@ -102,6 +101,7 @@ bool DWTCommunicationControl::NUS_Init() {
     settingCommands_Array.clear();
     dictionary_PrinterInfomation.clear();
     qkStatusLength_Integer = ZMLib::defaultStatusLength;
+    m_exchange = ZMLib::Success;
     return true;
 }
 
@@ -115,4 +115,10 @@ bool DWTCommunicationControl::NUS_InitMember(const PrinterEntry &entry) {
 
 QString DWTCommunicationControl::deviceURI() const {
     return dictionary_PrinterInfomation.value(PrinterKey::DeviceURI);
+}
+
+// The reply when the library reported success.
+std::optional<QByteArray> DWTCommunicationControl::replyOf(int result, const QByteArray &reply) {
+    m_exchange = result;
+    return result == ZMLib::Success ? std::optional(reply) : std::nullopt;
 }

@@ -12,9 +12,10 @@
 // The link to one printer: the only object that calls the communication library. It deals in byte
 // buffers and result codes and never looks into a frame.
 //
-// Used from one thread at a time. Every operation that asks the printer blocks its thread for at
-// most callTimeout (on the main thread windows go on painting meanwhile). Integer results are the
-// library's own, 0 = success, unless stated otherwise.
+// Used from one thread at a time. Every library call blocks the thread for at most callTimeout (on
+// the main thread windows go on painting meanwhile); connectPrinter() makes two, every other
+// operation that asks the printer one. Integer results are the library's own, 0 = success, unless
+// stated otherwise.
 class DWTCommunicationControl : public DWTBaseClass {
     DWT_SETUP(DWTCommunicationControl, DWTBaseClass, NUS_Init, NUS_Dealloc)
 
@@ -58,6 +59,10 @@ class DWTCommunicationControl : public DWTBaseClass {
     // The printer's reply to a setting frame; otherwise as above.
     std::optional<QByteArray> sendSetting(const QByteArray &frame);
 
+    // Whether the last exchange (the two above) found no open channel, since the printer had closed
+    // it; false when it was answered, or merely not in time.
+    bool isClosedByPrinter() const;
+
     // Whether a printer answers at `address` (dotted IPv4); negative when not. For a USB printer
     // any printer's answer counts. Needs no connection.
     int checkConnect(const QString &address);
@@ -65,6 +70,7 @@ class DWTCommunicationControl : public DWTBaseClass {
   private:
     bool NUS_InitMember(const PrinterEntry &entry);
     QString deviceURI() const;
+    std::optional<QByteArray> replyOf(int result, const QByteArray &reply);
 
     QByteArray settingStartCommand_Data;
     QByteArray settingEndCommand_Data;
@@ -72,4 +78,5 @@ class DWTCommunicationControl : public DWTBaseClass {
     QList<QByteArray> settingCommands_Array;
     PrinterEntry dictionary_PrinterInfomation;
     int qkStatusLength_Integer = 0;
+    int m_exchange = ZMLib::Success;  // the library's result of the last exchange
 };

@@ -2,6 +2,8 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QMap>
+#include <QSet>
 #include <QString>
 #include <chrono>
 #include <memory>
@@ -10,15 +12,32 @@
 #include "app/base/DWTBaseClass.h"
 #include "link/DWTCommunicationControl.h"
 #include "settings/ItemCodec.h"
+#include "settings/SentItems.h"
 #include "settings/SettingKeys.h"
 #include "settings/SettingRecord.h"
+
+// What happened in a send.
+struct SendReport {
+    enum class Login { Passed, Refused, NoReply };
+    Login login = Login::Passed;  // unless passed, nothing was written
+    // The connection was lost before the update: nothing was applied.
+    bool lost = false;
+    // The items that were not accepted, with the printer's code, or SettingResult::RefusedUnsent.
+    QList<std::pair<ItemCode, int>> refused;
+    // The items without a usable reply: the printer may have taken them.
+    QList<ItemCode> unclear;
+
+    bool isComplete() const;
+    // Whether the item was written and accepted, or not written at all.
+    bool isClean(ItemCode code) const;
+};
 
 // The settings of one printer: what it reported (saved data), what the user entered (change data),
 // and every exchange that fills the one and writes the other. It owns the link to the printer.
 //
 // Made with the plain init() it has no link; every exchange then fails as its result says. All
-// operations run on the main thread and wait there for the printer, at most
-// DWTCommunicationControl::callTimeout for each of its answers. Only the send runs on a thread of
+// operations run on the main thread and wait there for the printer, as long as the link's calls
+// take. Only the send runs on a thread of
 // its own; while it does, no other operation is called.
 class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<DWTDataManager> {
     DWT_SETUP(DWTDataManager, DWTBaseClass, NDM_Init, NDM_Dealloc)
@@ -45,12 +64,17 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // request was answered; 1 there is no link; 6 at least one request got no reply (its value and
     // those after it have their defaults); otherwise the link's result of connecting.
     int setupDataFromPrinter(int);
+    // The items that a send writes and that the last reading asked for without getting their value:
+    // the record holds a default, or nothing. They are not sent until the record is changed.
+    QList<ItemCode> notTold() const;
+    // Whether the record's value of a key is the printer's own: what it told or accepted.
+    bool isTold(const QString &key) const;
     // How often a search for networks is asked whether it has finished, and how long it is waited
     // between two polls.
     static constexpr int scanPolls = 10;
     static constexpr std::chrono::milliseconds defaultScanInterval{1000};
     // The networks that the printer finds, in its order; empty when it found none or did not finish
-    // in scanPolls polls; nothing when it cannot be connected.
+    // in scanPolls polls; nothing when it cannot be connected or closes the connection.
     std::optional<QList<SSIDEntry>> SSIDList();
     // Waits another time than defaultScanInterval between two polls; for tests.
     void setScanInterval(std::chrono::milliseconds interval) { m_scanInterval = interval; }
@@ -60,10 +84,13 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // Writes the change data to the printer on a thread of its own, which keeps this object alive,
     // and returns at once. Reports by the notifications DWT_DataSend_Start_Message (0),
     // DWT_DataSend_Progress_Message (16, 33, 50, 66, 85, 100) and DWT_DataSend_Stop_Message (0; 1
-    // when the printer could not be connected), each handled on the main thread before the send
-    // goes on, with this object as sender and the MSW_Searching_Value_ numbers. The saved data then
-    // holds what the printer accepted. Not to be called again before the stop.
+    // when the printer could not be connected, or the connection was lost before anything was
+    // applied), each handled on the main thread before the send goes on, with this object as sender
+    // and the MSW_Searching_Value_ numbers. The saved data then holds what the printer accepted.
+    // Not to be called again before the stop.
     void sendDataToPrinter();
+    // What happened in the last send; written until its stop.
+    const SendReport &sendReport() const { return m_report; }
 
     // --- Printers (DWTDataManagerPrinters.cpp) ---
 
@@ -133,6 +160,11 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     CategoryDictionary NDM_FirmwareDataFromPrinter();
     std::optional<QList<SSIDEntry>> NDM_DataToSSIDArray();
 
+    // Notes whether a reply told the value of an item that a send writes.
+    void noteTold(ItemCode code, const QByteArray &reply);
+    // Forgets what was told of items whose values did not get into the record.
+    void forgetMissing();
+
     // Items written: 0 accepted; 1 there is no link, or the value was refused unsent; -1 no usable
     // reply; otherwise the printer's code.
     int NDM_StringToData(ItemCode code, const QString &text);
@@ -142,23 +174,25 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     int NDM_DataToData(ItemCode code, const QByteArray &bytes);
     int NDM_IntegerAndArrayToData(ItemCode code, int value, const QStringList &first,
                                   const QStringList &second, const QStringList &third);
-    int sendFrame(ItemCode code, const std::optional<QByteArray> &frame);
+    int sendFrame(ItemCode code, std::optional<QByteArray> frame);
 
     // The send, on its own thread.
     void NDM_SendDataToPrinterThread();
     void NDM_ProgressSetting(const QString &notification, double step);
-    int sendLogin();
-    void sendCategories();
-    void sendPassword();
-    CategoryDictionary sendNetwork();
-    CategoryDictionary sendEthernet();
-    void sendInterface(ItemCode code, const CategoryDictionary &change, CategoryDictionary &copy,
-                       const QStringList &keys);
-    CategoryDictionary sendWireless();
-    CategoryDictionary sendInfrastructure();
-    void sendInfrastructureKey(const CategoryDictionary &change);
-    CategoryDictionary sendSimpleAP(CategoryDictionary copy);
-    CategoryDictionary sendFirmware();
+    bool sendLogin();
+    // What the saved data becomes when the send is applied: the saved record, and m_told, with what
+    // the printer accepted.
+    struct Accepted {
+        SettingRecord record;
+        QMap<ItemCode, QByteArray> told;
+    };
+    Accepted sendCategories();
+    void sendInfrastructure(Accepted &accepted);
+    // Writes one item of the change data.
+    void send(ItemCode code, Accepted &accepted);
+    bool isWorthSending(const SentItem &item) const;
+    int write(const SentItem &item, const CategoryDictionary &change, bool changed);
+    void report(ItemCode code, int result);
     CategoryDictionary changeOf(const QString &viewKey) const;
     CategoryDictionary savedOf(const QString &viewKey) const;
 
@@ -186,5 +220,9 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     bool resultSettingRequest_BOOL = false;
     // Password of the last successful login; consumed by the next send.
     QString loginPassword_String;
+    // What the printer told or accepted, by item: the very bytes of its value.
+    QMap<ItemCode, QByteArray> m_told;
+    QSet<ItemCode> m_asked;  // by the last reading
+    SendReport m_report;
     std::chrono::milliseconds m_scanInterval = defaultScanInterval;
 };

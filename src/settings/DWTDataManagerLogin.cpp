@@ -1,6 +1,7 @@
 // Connecting, the password state and the login.
 
 #include "settings/DWTDataManager.h"
+#include "settings/Wipe.h"
 
 int DWTDataManager::isPassword() {
     if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) return PasswordState::NoAnswer;
@@ -20,7 +21,8 @@ int DWTDataManager::checkLoginPassword(const QString &password) {
     if (!ncc_Object) return LoginResult::NoLink;
     const int result = NDM_StringToData(0x1001, password);
     if (result != SettingResult::Accepted) return result;
-    loginPassword_String = password;
+    wipe(loginPassword_String);
+    loginPassword_String = ownCopy(password);
     return LoginResult::Accepted;
 }
 

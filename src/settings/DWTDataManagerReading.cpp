@@ -1,5 +1,6 @@
 // Reading: single items, the seven categories, the search for networks.
 
+#include <algorithm>
 #include <initializer_list>
 #include <utility>
 
@@ -46,6 +47,8 @@ int DWTDataManager::setupDataFromPrinter(int) {
     resultSettingRequest_BOOL = true;
     dictionary_SaveData.reset();
     mutableDictionary_ChangeData.reset();
+    m_told.clear();
+    m_asked.clear();
     if (!ncc_Object) return ReadResult::NoLink;
     const int connected = ncc_Object->connectPrinter(0);
     if (connected == 0) {
@@ -58,6 +61,7 @@ int DWTDataManager::setupDataFromPrinter(int) {
         record.insert(DWT_View_Key_Password, NDM_PasswordDataFromPrinter());
         record.insert(DWT_View_Key_Firmware, NDM_FirmwareDataFromPrinter());
         dictionary_SaveData = record;
+        forgetMissing();
         ncc_Object->disconnectPrinter(0);
     }
     mutableDictionary_ChangeData = dictionary_SaveData.value_or(SettingRecord());
@@ -68,8 +72,34 @@ int DWTDataManager::setupDataFromPrinter(int) {
 std::optional<QList<SSIDEntry>> DWTDataManager::SSIDList() {
     if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) return {};
     const auto networks = NDM_DataToSSIDArray();
+    const bool closed = ncc_Object->isClosedByPrinter();
     ncc_Object->disconnectPrinter(0);
+    if (closed) return {};
     return networks.value_or(QList<SSIDEntry>());
+}
+
+QList<ItemCode> DWTDataManager::notTold() const {
+    QList<ItemCode> codes;
+    for (const SentItem &item : sentItems())
+        if (m_asked.contains(item.code) && !m_told.contains(item.code)) codes << item.code;
+    return codes;
+}
+
+bool DWTDataManager::isTold(const QString &key) const {
+    return std::any_of(sentItems().begin(), sentItems().end(), [&](const SentItem &item) {
+        return item.keys.contains(key) && m_told.contains(item.code);
+    });
+}
+
+void DWTDataManager::noteTold(ItemCode code, const QByteArray &reply) {
+    m_asked.insert(code);
+    if (const auto value = ItemCodec::wholeValue(reply, code)) m_told.insert(code, *value);
+}
+
+// A category ends before the first value that is missing, whatever was told of those after it.
+void DWTDataManager::forgetMissing() {
+    for (const SentItem &item : sentItems())
+        if (!savedOf(item.viewKey).contains(item.keys.first())) m_told.remove(item.code);
 }
 
 QByteArray DWTDataManager::NDM_SendCommandSettingRequest(ItemCode code) {
@@ -85,7 +115,9 @@ std::optional<Value> DWTDataManager::ask(ItemCode code,
                                          std::optional<Value> (*decoder)(const QByteArray &,
                                                                          ItemCode)) {
     if (!resultSettingRequest_BOOL) return {};
-    return decoded(NDM_SendCommandSettingRequest(code), code, decoder);
+    const QByteArray reply = NDM_SendCommandSettingRequest(code);
+    noteTold(code, reply);
+    return decoded(reply, code, decoder);
 }
 
 QString DWTDataManager::NDM_DataToString(ItemCode code) {
@@ -233,6 +265,7 @@ std::optional<QList<SSIDEntry>> DWTDataManager::NDM_DataToSSIDArray() {
         status = ItemCodec::scanStatus(NDM_SendCommandSettingRequest(0x3120));
         if (status) networks = QList<SSIDEntry>();
         if (status && status->state == scanFinished) break;
+        if (ncc_Object->isClosedByPrinter()) break;
         waitFor(m_scanInterval);
     }
     if (!status || status->state != scanFinished) return networks;

@@ -1,18 +1,50 @@
 // Sending: single items, and the whole record on a thread of its own.
 
+#include <algorithm>
+
 #include "platform/core/MainThread.h"
 #include "platform/core/NotificationCenter.h"
 #include "settings/DWTDataManager.h"
+#include "settings/Rules.h"
+#include "settings/Wipe.h"
 
 namespace {
 
-// Takes what the printer accepted from the change into the copy of the saved category.
-void take(CategoryDictionary &copy, const CategoryDictionary &change, const QStringList &keys) {
-    for (const QString &key : keys)
-        if (change.contains(key)) copy.insert(key, change.value(key));
+constexpr ItemCode ssidItem = 0x3104;
+constexpr ItemCode passwordItem = 0x1003;
+
+// Whether two categories differ in what an item carries.
+bool differ(const SentItem &item, const CategoryDictionary &a, const CategoryDictionary &b) {
+    return std::any_of(item.keys.begin(), item.keys.end(), [&](const QString &key) {
+        const auto inA = a.constFind(key), inB = b.constFind(key);
+        if (inA == a.constEnd() || inB == b.constEnd())
+            return (inA == a.constEnd()) != (inB == b.constEnd());
+        return *inA != *inB;
+    });
+}
+
+bool isSecret(const SentItem &item) {
+    const Rules::Rule *const rule = Rules::ruleOf(item.keys.last());
+    return rule && rule->secret;
+}
+
+// The name of a network of the list, where one is to be sent.
+QByteArray networkOfList(const SentItem &item, const CategoryDictionary &change) {
+    return item.code == ssidItem ? bytesValue(change, DWT_SaveData_Infrastructure_SSIDList_SSID)
+                                 : QByteArray();
 }
 
 }  // namespace
+
+bool SendReport::isComplete() const {
+    return login == Login::Passed && !lost && refused.isEmpty() && unclear.isEmpty();
+}
+
+bool SendReport::isClean(ItemCode code) const {
+    const auto isIt = [code](const auto &entry) { return entry.first == code; };
+    return login == Login::Passed && !lost && !unclear.contains(code) &&
+           std::none_of(refused.begin(), refused.end(), isIt);
+}
 
 void DWTDataManager::sendDataToPrinter() {
     MainThread::startBackgroundWork(
@@ -50,20 +82,31 @@ int DWTDataManager::NDM_IntegerAndArrayToData(ItemCode code, int value, const QS
     return sendFrame(code, ItemCodec::integerAndAddressesFrame(code, value, first, second, third));
 }
 
-int DWTDataManager::sendFrame(ItemCode code, const std::optional<QByteArray> &frame) {
+int DWTDataManager::sendFrame(ItemCode code, std::optional<QByteArray> frame) {
     if (!ncc_Object || !frame) return SettingResult::RefusedUnsent;
-    return NDM_ResultDataToInteger(ncc_Object->sendSetting(*frame), code);
+    const auto reply = ncc_Object->sendSetting(*frame);
+    wipe(*frame);
+    return NDM_ResultDataToInteger(reply, code);
 }
 
 void DWTDataManager::NDM_SendDataToPrinterThread() {
+    m_report = {};
     NDM_ProgressSetting(DWT_DataSend_Start_Message, 0);
     if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) {
+        wipe(loginPassword_String);
         NDM_ProgressSetting(DWT_DataSend_Stop_Message, 1);
         return;
     }
-    if (sendLogin() == SettingResult::Accepted) sendCategories();
-    ncc_Object->disconnectPrinter(0);
-    NDM_ProgressSetting(DWT_DataSend_Stop_Message, 0);
+    const bool loggedIn = sendLogin();
+    std::optional<Accepted> accepted;
+    if (loggedIn) accepted = sendCategories();
+    // What was accepted is applied with the end of the connection only.
+    if (ncc_Object->disconnectPrinter(0) != 0 && loggedIn) m_report.lost = true;
+    if (accepted && !m_report.lost) {
+        dictionary_SaveData = accepted->record;
+        m_told = accepted->told;
+    }
+    NDM_ProgressSetting(DWT_DataSend_Stop_Message, m_report.lost ? 1 : 0);
 }
 
 void DWTDataManager::NDM_ProgressSetting(const QString &notification, double step) {
@@ -74,143 +117,125 @@ void DWTDataManager::NDM_ProgressSetting(const QString &notification, double ste
 }
 
 // Without a password the login counts as passed. The password is used once.
-int DWTDataManager::sendLogin() {
-    const QString password = std::exchange(loginPassword_String, QString());
-    return password.isEmpty() ? SettingResult::Accepted : NDM_StringToData(0x1001, password);
+bool DWTDataManager::sendLogin() {
+    QString password = std::exchange(loginPassword_String, QString());
+    if (password.isEmpty()) return true;
+    const int result = NDM_StringToData(0x1001, password);
+    wipe(password);
+    if (result == SettingResult::Accepted) return true;
+    m_report.lost = ncc_Object->isClosedByPrinter();
+    m_report.login =
+        result == SettingResult::NoReply ? SendReport::Login::NoReply : SendReport::Login::Refused;
+    return false;
 }
 
-void DWTDataManager::sendCategories() {
+DWTDataManager::Accepted DWTDataManager::sendCategories() {
+    Accepted accepted{dictionary_SaveData.value_or(SettingRecord()), m_told};
     const auto progress = [this](double step) {
-        NDM_ProgressSetting(DWT_DataSend_Progress_Message, step);
+        if (!m_report.lost) NDM_ProgressSetting(DWT_DataSend_Progress_Message, step);
     };
-    SettingRecord record;
-    record.insert(DWT_View_Key_Password, savedOf(DWT_View_Key_Password));
-    sendPassword();
+    if (integerValue(changeOf(DWT_View_Key_Password), DWT_SaveData_Password_Change) != 0)
+        send(passwordItem, accepted);
     progress(16);
-    record.insert(DWT_View_Key_Network, sendNetwork());
+    for (const ItemCode code : std::initializer_list<ItemCode>{0x1004, 0x1005, 0x1006})
+        send(code, accepted);
     progress(33);
-    record.insert(DWT_View_Key_Ethernet, sendEthernet());
+    send(0x2001, accepted);
     progress(50);
-    record.insert(DWT_View_Key_Wireless, sendWireless());
+    send(0x3000, accepted);
     progress(66);
-    const CategoryDictionary simpleAP = savedOf(DWT_View_Key_SimpleAP);
-    record.insert(DWT_View_Key_Infrastructure, sendInfrastructure());
+    sendInfrastructure(accepted);
     progress(85);
-    record.insert(DWT_View_Key_SimpleAP, sendSimpleAP(simpleAP));
+    for (const ItemCode code : std::initializer_list<ItemCode>{0x3201, 0x3202})
+        send(code, accepted);
     progress(100);
-    record.insert(DWT_View_Key_Firmware, sendFirmware());
-    dictionary_SaveData = record;
+    send(0x1007, accepted);
+    return accepted;
 }
 
-// The saved category never shows a password, so nothing is taken over.
-void DWTDataManager::sendPassword() {
-    const CategoryDictionary change = changeOf(DWT_View_Key_Password);
-    if (integerValue(change, DWT_SaveData_Password_Change) != 0)
-        NDM_StringToData(0x1003, textValue(change, DWT_SaveData_Password_Password));
-}
-
-CategoryDictionary DWTDataManager::sendNetwork() {
-    const CategoryDictionary change = changeOf(DWT_View_Key_Network);
-    CategoryDictionary copy = savedOf(DWT_View_Key_Network);
-    const std::pair<ItemCode, QString> items[] = {{0x1004, DWT_SaveData_Network_Bonjour},
-                                                  {0x1005, DWT_SaveData_Network_BonjourService},
-                                                  {0x1006, DWT_SaveData_Network_Printer}};
-    for (const auto &[code, key] : items)
-        if (NDM_StringToData(code, textValue(change, key)) == SettingResult::Accepted)
-            take(copy, change, {key});
-    return copy;
-}
-
-CategoryDictionary DWTDataManager::sendEthernet() {
-    CategoryDictionary copy = savedOf(DWT_View_Key_Ethernet);
-    sendInterface(0x2001, changeOf(DWT_View_Key_Ethernet), copy,
-                  {DWT_SaveData_Ethernet_IPAddressSetting, DWT_SaveData_Ethernet_IPAddress,
-                   DWT_SaveData_Ethernet_Subnetmask, DWT_SaveData_Ethernet_Gateway});
-    return copy;
-}
-
-// The address setup of an interface; `keys` are those of its setting, address, mask and gateway.
-void DWTDataManager::sendInterface(ItemCode code, const CategoryDictionary &change,
-                                   CategoryDictionary &copy, const QStringList &keys) {
-    const int result = NDM_IntegerAndArrayToData(
-        code, integerValue(change, keys[0]), addressValue(change, keys[1]),
-        addressValue(change, keys[2]), addressValue(change, keys[3]));
-    if (result == SettingResult::Accepted) take(copy, change, keys);
-}
-
-CategoryDictionary DWTDataManager::sendWireless() {
-    const CategoryDictionary change = changeOf(DWT_View_Key_Wireless);
-    CategoryDictionary copy = savedOf(DWT_View_Key_Wireless);
-    const int mode = integerValue(change, DWT_SaveData_Wireless_CommunicateMode);
-    if (NDM_IntegerToData(0x3000, mode) == SettingResult::Accepted)
-        take(copy, change, {DWT_SaveData_Wireless_CommunicateMode});
-    return copy;
-}
-
-CategoryDictionary DWTDataManager::sendInfrastructure() {
-    const CategoryDictionary change = changeOf(DWT_View_Key_Infrastructure);
-    CategoryDictionary copy = savedOf(DWT_View_Key_Infrastructure);
-    const std::pair<ItemCode, QString> integers[] = {
-        {0x3102, DWT_SaveData_Infrastructure_Authentic},
-        {0x3103, DWT_SaveData_Infrastructure_Encryption}};
-    for (const auto &[code, key] : integers)
-        if (NDM_IntegerToData(code, integerValue(change, key)) == SettingResult::Accepted)
-            take(copy, change, {key});
-
-    const QByteArray chosen = bytesValue(change, DWT_SaveData_Infrastructure_SSIDList_SSID);
-    const bool fromList = !chosen.isEmpty();
-    const QString typed = textValue(change, DWT_SaveData_Infrastructure_SSID);
-    const int named =
-        fromList ? NDM_DataToData(0x3104, chosen) : NDM_StringAndLengthToData(0x3104, typed);
-    if (named == SettingResult::Accepted)
-        take(copy, change,
-             {fromList ? DWT_SaveData_Infrastructure_SSIDList_SSID
-                       : DWT_SaveData_Infrastructure_SSID});
-
-    sendInfrastructureKey(change);
-
-    sendInterface(
-        0x3108, change, copy,
-        {DWT_SaveData_Infrastructure_IPAddressSetting, DWT_SaveData_Infrastructure_IPAddress,
-         DWT_SaveData_Infrastructure_Subnetmask, DWT_SaveData_Infrastructure_Gateway});
-    return copy;
-}
-
-// The key that the encryption uses. The saved category never shows it, so nothing is taken over.
-void DWTDataManager::sendInfrastructureKey(const CategoryDictionary &change) {
-    switch (integerValue(change, DWT_SaveData_Infrastructure_Encryption)) {
+// Of the keys only the one that the encryption uses.
+void DWTDataManager::sendInfrastructure(Accepted &accepted) {
+    for (const ItemCode code : {ItemCode{0x3102}, ItemCode{0x3103}, ssidItem}) send(code, accepted);
+    switch (integerValue(changeOf(DWT_View_Key_Infrastructure),
+                         DWT_SaveData_Infrastructure_Encryption)) {
         case Encryption::WEP:
-            NDM_IntegerAndStringAndLengthToData(
-                0x3106, integerValue(change, DWT_SaveData_Infrastructure_WEPKeyIndex),
-                textValue(change, DWT_SaveData_Infrastructure_WEPKey));
+            send(0x3106, accepted);
             break;
         case Encryption::TKIP:
         case Encryption::AES:
-            NDM_StringAndLengthToData(0x3105, textValue(change, DWT_SaveData_Infrastructure_PSK));
+            send(0x3105, accepted);
             break;
         default:
             break;
     }
+    send(0x3108, accepted);
 }
 
-// `copy` is the saved category as it was before the infrastructure was sent. The key is sent, but
-// not taken over.
-CategoryDictionary DWTDataManager::sendSimpleAP(CategoryDictionary copy) {
-    const CategoryDictionary change = changeOf(DWT_View_Key_SimpleAP);
-    const QString ssid = textValue(change, DWT_SaveData_SimpleAP_SSID);
-    if (NDM_StringAndLengthToData(0x3201, ssid) == SettingResult::Accepted)
-        take(copy, change, {DWT_SaveData_SimpleAP_SSID});
-    NDM_StringAndLengthToData(0x3202, textValue(change, DWT_SaveData_SimpleAP_PSK));
-    return copy;
+void DWTDataManager::send(ItemCode code, Accepted &accepted) {
+    const SentItem &item = *sentItem(code);
+    const CategoryDictionary change = changeOf(item.viewKey);
+    const QByteArray chosen = networkOfList(item, change);
+    const bool changed = !chosen.isEmpty() || differ(item, change, savedOf(item.viewKey));
+    if (m_report.lost || (!changed && !isWorthSending(item))) return;
+    const int result = write(item, change, changed);
+    report(code, result);
+    // Keys and passwords never become saved values.
+    if (result != SettingResult::Accepted || isSecret(item)) return;
+    CategoryDictionary &saved = accepted.record[item.viewKey];
+    for (const QString &key : item.keys) saved.insert(key, change.value(key));
+    if (!changed) return;
+    accepted.told.insert(code, textValue(change, item.keys.first()).toUtf8());
+    if (code != ssidItem) return;
+    saved.insert(DWT_SaveData_Infrastructure_SSIDList_SSID,
+                 change.value(DWT_SaveData_Infrastructure_SSIDList_SSID));
+    if (chosen.isEmpty()) return;
+    saved.insert(DWT_SaveData_Infrastructure_SSID, ItemCodec::textOf(chosen));
+    accepted.told.insert(code, chosen);
 }
 
-CategoryDictionary DWTDataManager::sendFirmware() {
-    const CategoryDictionary change = changeOf(DWT_View_Key_Firmware);
-    CategoryDictionary copy = savedOf(DWT_View_Key_Firmware);
-    const int timeout = integerValue(change, DWT_SaveData_Firmware_Timeout);
-    if (NDM_IntegerToData(0x1007, timeout) == SettingResult::Accepted)
-        take(copy, change, {DWT_SaveData_Firmware_Timeout});
-    return copy;
+// An unchanged value is worth it when the printer told it, and it is not an empty text, which no
+// frame can carry but that of the password.
+bool DWTDataManager::isWorthSending(const SentItem &item) const {
+    if (item.code == passwordItem) return true;
+    const bool isText =
+        item.kind != SentItem::Kind::Integer && item.kind != SentItem::Kind::Interface;
+    return m_told.contains(item.code) && !(isText && m_told.value(item.code).isEmpty());
+}
+
+// What was not changed goes back as the very bytes that were told.
+int DWTDataManager::write(const SentItem &item, const CategoryDictionary &change, bool changed) {
+    const QStringList &keys = item.keys;
+    const QByteArray told = m_told.value(item.code), chosen = networkOfList(item, change);
+    switch (item.kind) {
+        case SentItem::Kind::Text:
+            if (changed || !item.told)
+                return NDM_StringToData(item.code, textValue(change, keys[0]));
+            return sendFrame(item.code, ItemCodec::textBytesFrame(item.code, told));
+        case SentItem::Kind::CountedText:
+            if (!chosen.isEmpty()) return NDM_DataToData(item.code, chosen);
+            if (!changed) return NDM_DataToData(item.code, told);
+            return NDM_StringAndLengthToData(item.code, textValue(change, keys[0]));
+        case SentItem::Kind::WEPKey:
+            return NDM_IntegerAndStringAndLengthToData(item.code, integerValue(change, keys[0]),
+                                                       textValue(change, keys[1]));
+        case SentItem::Kind::Interface:
+            return NDM_IntegerAndArrayToData(
+                item.code, integerValue(change, keys[0]), addressValue(change, keys[1]),
+                addressValue(change, keys[2]), addressValue(change, keys[3]));
+        case SentItem::Kind::Integer:
+            break;
+    }
+    return NDM_IntegerToData(item.code, integerValue(change, keys[0]));
+}
+
+void DWTDataManager::report(ItemCode code, int result) {
+    if (result == SettingResult::Accepted) return;
+    if (result != SettingResult::NoReply)
+        m_report.refused.append({code, result});
+    else if (ncc_Object->isClosedByPrinter())
+        m_report.lost = true;
+    else
+        m_report.unclear.append(code);
 }
 
 CategoryDictionary DWTDataManager::changeOf(const QString &viewKey) const {

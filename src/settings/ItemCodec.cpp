@@ -5,6 +5,7 @@
 
 #include "settings/Frames.h"
 #include "settings/ReplyCursor.h"
+#include "settings/SentItems.h"
 #include "settings/SettingKeys.h"
 
 namespace {
@@ -13,6 +14,7 @@ using Frames::word;
 
 // Offsets in a reply, in bytes.
 constexpr qsizetype lengthOffset = 3;
+constexpr qsizetype countedOffset = 5;  // where what the length counts begins
 constexpr qsizetype codeOffset = 6;
 constexpr qsizetype dataOffset = 9;
 // What a reply's length counts beside the data: ";", the code, ";", ";" and the checksum.
@@ -21,6 +23,7 @@ constexpr int lengthOverhead = 6;
 constexpr qsizetype ssidField = 32;
 constexpr qsizetype wepKeyField = 26;
 constexpr qsizetype octets = 4;
+constexpr qsizetype interfaceSize = 2 + 3 * octets;
 
 // A cursor at the data of a reply "C" + `kind` with the code; nothing for any other reply.
 std::optional<ReplyCursor> openReply(const QByteArray &reply, char kind, ItemCode code) {
@@ -167,6 +170,25 @@ std::optional<CategoryDictionary> ItemCodec::integerAndAddresses(const QByteArra
     return values;
 }
 
+std::optional<QByteArray> ItemCodec::wholeValue(const QByteArray &reply, ItemCode code) {
+    const SentItem *const item = sentItem(code);
+    auto cursor = openReply(reply, 'F', code);
+    if (!item || !cursor) return {};
+    cursor->seek(lengthOffset);
+    const int length = cursor->word();
+    if (length < lengthOverhead || countedOffset + length > reply.size()) return {};
+    QByteArray data = reply.mid(dataOffset, length - lengthOverhead);
+    if (item->kind == SentItem::Kind::Text) {
+        while (data.endsWith('\0')) data.chop(1);
+        return data;
+    }
+    if (data.size() < (item->kind == SentItem::Kind::Interface ? interfaceSize : 2)) return {};
+    if (item->kind != SentItem::Kind::CountedText) return data;
+    const qsizetype count = ReplyCursor(data).word();
+    if (count > data.size() - 2) return {};
+    return data.mid(2, count);
+}
+
 std::optional<ItemCodec::ScanStatus> ItemCodec::scanStatus(const QByteArray &reply) {
     auto cursor = openReply(reply, 'F', 0x3120);
     if (!cursor) return {};
@@ -191,8 +213,12 @@ int ItemCodec::result(const QByteArray &reply, ItemCode code) {
 }
 
 std::optional<QByteArray> ItemCodec::textFrame(ItemCode code, const QString &text) {
+    return textBytesFrame(code, text.toUtf8());
+}
+
+std::optional<QByteArray> ItemCodec::textBytesFrame(ItemCode code, const QByteArray &text) {
     if (text.isEmpty() && code != 0x1003) return {};
-    return frameAround(code, text.toUtf8() + '\0');
+    return frameAround(code, text + '\0');
 }
 
 QByteArray ItemCodec::integerFrame(ItemCode code, int value) {
@@ -200,7 +226,10 @@ QByteArray ItemCodec::integerFrame(ItemCode code, int value) {
 }
 
 std::optional<QByteArray> ItemCodec::textWithLengthFrame(ItemCode code, const QString &text) {
-    const QByteArray bytes = text.toUtf8();
+    return bytesFrame(code, text.toUtf8());
+}
+
+std::optional<QByteArray> ItemCodec::bytesFrame(ItemCode code, const QByteArray &bytes) {
     const bool fixed = code == 0x3104 || code == 0x3201;
     return frameAround(code, countedField(bytes, fixed ? ssidField : bytes.size()));
 }
@@ -210,10 +239,6 @@ std::optional<QByteArray> ItemCodec::integerAndTextFrame(ItemCode code, int valu
     const auto field = countedField(text.toUtf8(), wepKeyField);
     if (!field) return {};
     return frameAround(code, word(value) + *field);
-}
-
-std::optional<QByteArray> ItemCodec::bytesFrame(ItemCode code, const QByteArray &bytes) {
-    return frameAround(code, countedField(bytes, ssidField));
 }
 
 std::optional<QByteArray> ItemCodec::integerAndAddressesFrame(ItemCode code, int value,

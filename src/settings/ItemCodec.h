@@ -37,6 +37,11 @@ std::optional<CategoryDictionary> addresses(const QByteArray &reply, ItemCode co
 // and 0x3108; nothing for another item.
 std::optional<CategoryDictionary> integerAndAddresses(const QByteArray &reply, ItemCode code);
 
+// The value of a sent item (SentItems.h) as the very bytes that came: of a text those of the text,
+// without zero bytes at its end. Nothing when the reply does not hold all of it, where the decoders
+// above take what is missing as zero and cut what is too long.
+std::optional<QByteArray> wholeValue(const QByteArray &reply, ItemCode code);
+
 // Item 0x3120: how far the printer's search for networks is.
 struct ScanStatus {
     int state = 0;  // bytes 9-10; 2: finished
@@ -56,15 +61,15 @@ int result(const QByteArray &reply, ItemCode code);
 
 // The text and one 0x00. Not empty, but for item 0x1003.
 std::optional<QByteArray> textFrame(ItemCode code, const QString &text);
+std::optional<QByteArray> textBytesFrame(ItemCode code, const QByteArray &text);
 // The low 16 bits.
 QByteArray integerFrame(ItemCode code, int value);
 // The count and the text; items 0x3104 and 0x3201 have a zero-filled field of 32 bytes. Not empty,
 // not longer than the field.
 std::optional<QByteArray> textWithLengthFrame(ItemCode code, const QString &text);
+std::optional<QByteArray> bytesFrame(ItemCode code, const QByteArray &bytes);
 // The integer, the count, and the text in a zero-filled field of 26 bytes. Not empty, not longer.
 std::optional<QByteArray> integerAndTextFrame(ItemCode code, int value, const QString &text);
-// The count, and the bytes in a zero-filled field of 32 bytes. Not empty, not longer.
-std::optional<QByteArray> bytesFrame(ItemCode code, const QByteArray &bytes);
 // The integer and three addresses of exactly four octets each, of which the low 8 bits count.
 std::optional<QByteArray> integerAndAddressesFrame(ItemCode code, int value,
                                                    const QStringList &first,

@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "platform/core/MainThread.h"
+
 namespace {
 
 // Positions in a command list.
@@ -126,14 +128,17 @@ std::optional<Channel> CatalogueLibrary::open(const QString &uri, const QDeadlin
     return Channel(std::move(transport));
 }
 
+// A timer closes what nobody takes; on a thread without one the next status or engage does.
 void CatalogueLibrary::letWait(const QString &uri, Channel channel) {
+    const auto wait = std::min(engageWait, std::chrono::milliseconds(m_longestWait));
     const auto waiting = std::make_shared<Waiting>();
     waiting->channel = std::move(channel);
-    const std::chrono::milliseconds longest(m_longestWait);
-    QTimer::singleShot(std::min(engageWait, longest), QCoreApplication::instance(), [waiting] {
-        const std::lock_guard lock(waiting->mutex);
-        waiting->channel.reset();
-    });
+    waiting->until.setRemainingTime(wait);
+    if (MainThread::isCurrent())
+        QTimer::singleShot(wait, QCoreApplication::instance(), [waiting] {
+            const std::lock_guard lock(waiting->mutex);
+            waiting->channel.reset();
+        });
     const std::lock_guard lock(m_mutex);
     m_waiting[uri] = waiting;
 }
@@ -144,7 +149,7 @@ std::optional<Channel> CatalogueLibrary::takeWaiting(const QString &uri) {
         const std::lock_guard lock(m_mutex);
         waiting = std::exchange(m_waiting[uri], nullptr);
     }
-    if (!waiting) return {};
+    if (!waiting || waiting->until.hasExpired()) return {};
     const std::lock_guard lock(waiting->mutex);
     return std::exchange(waiting->channel, std::nullopt);
 }

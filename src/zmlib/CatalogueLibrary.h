@@ -53,6 +53,7 @@ class CatalogueLibrary : public ZMLib {
     struct Waiting {
         std::mutex mutex;
         std::optional<Channel> channel;
+        QDeadlineTimer until;
     };
     using Exchange = std::function<int(Channel &, const QDeadlineTimer &)>;
 

@@ -71,7 +71,7 @@ TEST_P(Reading, AMissingReplyEndsTheTrafficAndGivesSix) {
     ServedManager m(profile, GetParam());
     m.setFaults(R"({"items": {"0x3000": {"noReply": true}}})");
     EXPECT_EQ(m.manager->setupDataFromPrinter(0), 6);
-    EXPECT_EQ(m.served.received(), u"start ?1006 ?1004 ?1005 ?3000"_s);
+    EXPECT_EQ(m.served.receivedUntilEnd(), u"start ?1006 ?1004 ?1005 ?3000 update end"_s);
     const auto read = [&](const QString &key) {
         return asText(m.manager->setupDataToMainView(key));
     };
