@@ -468,6 +468,9 @@
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
         <translation>Nicht alle Einstellungen konnten gelesen werden, daher lässt sich nichts ändern. Prüfen Sie, ob der Drucker eingeschaltet und angeschlossen ist, und wählen Sie dann „Neu lesen“.</translation>
     </message>
+    <message id="DWT_Localize_MainDialog_Text_NotTold">
+        <translation>Diese Einstellungen hat der Drucker nicht mitgeteilt; sie werden erst gesendet, wenn Sie etwas dafür eingeben: %1</translation>
+    </message>
     <message id="DWT_Localize_Outline_Name">
         <translation>Kategorien</translation>
     </message>
@@ -549,6 +552,20 @@
     <message id="DWT_Localize_Send_End_TextField">
         <translation>Die Einstellungen wurden gesendet. Was der Drucker jetzt enthält, zeigt „Neu lesen“.</translation>
     </message>
+    <message id="DWT_Localize_Send_End_Refused">
+        <translation>Diese Einstellungen hat der Drucker nicht angenommen. Im Drucker sind sie wie zuvor, und Ihre Eingaben bleiben erhalten:
+%1</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Unclear">
+        <translation>Ob der Drucker diese Einstellungen übernommen hat, ist unklar. Was er jetzt enthält, zeigt „Neu lesen“:
+%1</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_LoginRefused">
+        <translation>Der Drucker hat das Kennwort abgelehnt, und es wurde nichts gesendet. Ihre Änderungen bleiben erhalten.</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_LoginNoReply">
+        <translation>Der Drucker hat auf die Anmeldung nicht geantwortet, und es wurde nichts gesendet. Ihre Änderungen bleiben erhalten.</translation>
+    </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>OK</translation>
     </message>
@@ -572,6 +589,9 @@
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>Der Drucker ist nicht erreichbar, und es wurde nichts gesendet. Prüfen Sie, ob er eingeschaltet ist und sein Kabel steckt, und senden Sie dann erneut. Ihre Änderungen bleiben erhalten.</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Lost">
+        <translation>Die Verbindung zum Drucker ist abgebrochen. Es wurde nichts übernommen, und Ihre Änderungen bleiben erhalten. Prüfen Sie, ob der Drucker eingeschaltet ist und sein Kabel steckt, und senden Sie dann erneut.</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>OK</translation>

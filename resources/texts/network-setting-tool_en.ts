@@ -468,6 +468,9 @@
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
         <translation>Not every setting could be read, so nothing can be changed. Check that the printer is switched on and connected, then choose Read again.</translation>
     </message>
+    <message id="DWT_Localize_MainDialog_Text_NotTold">
+        <translation>The printer did not tell these settings; they are not sent until you enter something for them: %1</translation>
+    </message>
     <message id="DWT_Localize_Outline_Name">
         <translation>Categories</translation>
     </message>
@@ -549,6 +552,20 @@
     <message id="DWT_Localize_Send_End_TextField">
         <translation>The settings have been sent. To see what the printer holds now, choose Read again.</translation>
     </message>
+    <message id="DWT_Localize_Send_End_Refused">
+        <translation>The printer did not accept these settings. They are as they were in the printer, and your entries are kept:
+%1</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Unclear">
+        <translation>It is not clear whether the printer took these settings. To see what it holds, choose Read again:
+%1</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_LoginRefused">
+        <translation>The printer refused the password, and nothing was sent. Your changes are kept.</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_LoginNoReply">
+        <translation>The printer did not answer the login, and nothing was sent. Your changes are kept.</translation>
+    </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>OK</translation>
     </message>
@@ -572,6 +589,9 @@
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>The printer cannot be reached, and nothing was sent. Check that it is switched on and that its cable is plugged in, then send again. Your changes are kept.</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Lost">
+        <translation>The connection to the printer was lost. Nothing was applied, and your changes are kept. Check that the printer is switched on and that its cable is plugged in, then send again.</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>OK</translation>

@@ -468,6 +468,9 @@
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
         <translation>No se pudieron leer todos los ajustes, por lo que no se puede cambiar nada. Compruebe que la impresora está encendida y conectada y elija «Volver a leer».</translation>
     </message>
+    <message id="DWT_Localize_MainDialog_Text_NotTold">
+        <translation>La impresora no ha comunicado estos ajustes; no se envían hasta que introduzca algo en ellos: %1</translation>
+    </message>
     <message id="DWT_Localize_Outline_Name">
         <translation>Categorías</translation>
     </message>
@@ -549,6 +552,20 @@
     <message id="DWT_Localize_Send_End_TextField">
         <translation>Los ajustes se han enviado. Para ver lo que la impresora contiene ahora, elija «Volver a leer».</translation>
     </message>
+    <message id="DWT_Localize_Send_End_Refused">
+        <translation>La impresora no ha aceptado estos ajustes. En la impresora siguen como estaban y lo que ha escrito se conserva:
+%1</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Unclear">
+        <translation>No está claro si la impresora ha tomado estos ajustes. Para ver lo que contiene, elija «Volver a leer»:
+%1</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_LoginRefused">
+        <translation>La impresora ha rechazado la contraseña y no se ha enviado nada. Sus cambios se conservan.</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_LoginNoReply">
+        <translation>La impresora no ha respondido al inicio de sesión y no se ha enviado nada. Sus cambios se conservan.</translation>
+    </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>Aceptar</translation>
     </message>
@@ -572,6 +589,9 @@
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>No se puede acceder a la impresora y no se ha enviado nada. Compruebe que está encendida y que su cable está conectado, y vuelva a enviar. Sus cambios se conservan.</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Lost">
+        <translation>Se ha perdido la conexión con la impresora. No se ha aplicado nada y sus cambios se conservan. Compruebe que la impresora está encendida y que su cable está conectado, y vuelva a enviar.</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>Aceptar</translation>

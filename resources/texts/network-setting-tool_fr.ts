@@ -468,6 +468,9 @@
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
         <translation>Certains réglages n’ont pas pu être lus ; rien ne peut donc être modifié. Vérifiez que l’imprimante est allumée et connectée, puis choisissez « Relire ».</translation>
     </message>
+    <message id="DWT_Localize_MainDialog_Text_NotTold">
+        <translation>L’imprimante n’a pas communiqué ces réglages ; ils ne sont envoyés que si vous y saisissez quelque chose : %1</translation>
+    </message>
     <message id="DWT_Localize_Outline_Name">
         <translation>Catégories</translation>
     </message>
@@ -549,6 +552,20 @@
     <message id="DWT_Localize_Send_End_TextField">
         <translation>Les réglages ont été envoyés. Pour voir ce que l’imprimante contient à présent, choisissez « Relire ».</translation>
     </message>
+    <message id="DWT_Localize_Send_End_Refused">
+        <translation>L’imprimante n’a pas accepté ces réglages. Ils y restent tels quels, et vos saisies sont conservées :
+%1</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Unclear">
+        <translation>On ne sait pas si l’imprimante a pris ces réglages. Pour voir ce qu’elle contient, choisissez « Relire » :
+%1</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_LoginRefused">
+        <translation>L’imprimante a refusé le mot de passe, et rien n’a été envoyé. Vos modifications sont conservées.</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_LoginNoReply">
+        <translation>L’imprimante n’a pas répondu à la connexion, et rien n’a été envoyé. Vos modifications sont conservées.</translation>
+    </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>OK</translation>
     </message>
@@ -572,6 +589,9 @@
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>L’imprimante est injoignable, et rien n’a été envoyé. Vérifiez qu’elle est allumée et que son câble est branché, puis renvoyez. Vos modifications sont conservées.</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Lost">
+        <translation>La connexion à l’imprimante a été perdue. Rien n’a été appliqué, et vos modifications sont conservées. Vérifiez que l’imprimante est allumée et que son câble est branché, puis renvoyez.</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>OK</translation>

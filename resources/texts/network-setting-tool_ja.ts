@@ -468,6 +468,9 @@
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
         <translation>読み込めなかった設定があるため、変更できません。プリンターの電源と接続を確認してから、［再読み込み］を選択してください。</translation>
     </message>
+    <message id="DWT_Localize_MainDialog_Text_NotTold">
+        <translation>次の設定はプリンターから取得できませんでした。入力するまで送信されません：%1</translation>
+    </message>
     <message id="DWT_Localize_Outline_Name">
         <translation>カテゴリ</translation>
     </message>
@@ -549,6 +552,20 @@
     <message id="DWT_Localize_Send_End_TextField">
         <translation>設定を送信しました。プリンターの現在の設定を確認するには、［再読み込み］を選択してください。</translation>
     </message>
+    <message id="DWT_Localize_Send_End_Refused">
+        <translation>次の設定はプリンターに受け付けられませんでした。プリンターの設定は元のままで、入力した内容は残っています。
+%1</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Unclear">
+        <translation>次の設定がプリンターに反映されたかどうか確認できません。現在の設定を確認するには、［再読み込み］を選択してください。
+%1</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_LoginRefused">
+        <translation>プリンターがパスワードを受け付けなかったため、何も送信されていません。変更内容は残っています。</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_LoginNoReply">
+        <translation>ログインに対するプリンターの応答がなかったため、何も送信されていません。変更内容は残っています。</translation>
+    </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>OK</translation>
     </message>
@@ -572,6 +589,9 @@
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>プリンターに接続できないため、何も送信されていません。電源が入っていること、ケーブルが接続されていることを確認して、もう一度送信してください。変更内容は残っています。</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Lost">
+        <translation>プリンターとの接続が切れました。設定は何も適用されておらず、変更内容は残っています。電源が入っていること、ケーブルが接続されていることを確認して、もう一度送信してください。</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>OK</translation>

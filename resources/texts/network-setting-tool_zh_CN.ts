@@ -468,6 +468,9 @@
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
         <translation>有些设置无法读取，因此不能更改。请检查打印机是否已开机并连接，然后选择“重新读取”。</translation>
     </message>
+    <message id="DWT_Localize_MainDialog_Text_NotTold">
+        <translation>打印机未提供以下设置；在您输入内容之前不会发送它们：%1</translation>
+    </message>
     <message id="DWT_Localize_Outline_Name">
         <translation>类别</translation>
     </message>
@@ -549,6 +552,20 @@
     <message id="DWT_Localize_Send_End_TextField">
         <translation>设置已发送。要查看打印机当前的设置，请选择“重新读取”。</translation>
     </message>
+    <message id="DWT_Localize_Send_End_Refused">
+        <translation>打印机未接受以下设置。打印机中的设置保持不变，您输入的内容已保留：
+%1</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Unclear">
+        <translation>不清楚打印机是否采用了以下设置。要查看打印机当前的设置，请选择“重新读取”：
+%1</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_LoginRefused">
+        <translation>打印机拒绝了密码，未发送任何内容。您的更改已保留。</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_LoginNoReply">
+        <translation>打印机未响应登录，未发送任何内容。您的更改已保留。</translation>
+    </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>确定</translation>
     </message>
@@ -572,6 +589,9 @@
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>无法连接打印机，未发送任何内容。请检查打印机是否已开机、电缆是否已插好，然后重新发送。您的更改已保留。</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Lost">
+        <translation>与打印机的连接已断开。未应用任何设置，您的更改已保留。请检查打印机是否已开机、电缆是否已插好，然后重新发送。</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>确定</translation>

@@ -142,6 +142,7 @@ void DWTPrinterSelector::DWT_UISelector(const QString &viewKey) {
 }
 
 void DWTPrinterSelector::DWT_UpdatePrinterList() {
+    const WaitSheet waiting = window_Wait->over(window_PrinterSelector);
     if (!ndm_Object) ndm_Object = make<DWTDataManager>();
     array_PrinterList.clear();
     tableView_Printerlist->setEmptyText(
@@ -198,7 +199,7 @@ QVariant DWTPrinterSelector::objectValueForTableColumn(TableView *, const QStrin
     const bool network = entry.contains(PrinterKey::BonjourServiceName);
     if (column == _MODEL_NAME_)
         return network ? entry.value(PrinterKey::BonjourServiceName)
-                       : entry.value(PrinterKey::MachineName);
+                       : readableText(entry.value(PrinterKey::MachineName));
     if (column == _SERVICE_NAME_)
         return localized(network ? QStringLiteral("DWT_Localize_PrinterList_BonjourService_Network")
                                  : QStringLiteral("DWT_Localize_PrinterList_BonjourService_USB"));
@@ -271,7 +272,6 @@ void DWTPrinterSelector::push_PrinterListOK() {
 }
 
 void DWTPrinterSelector::push_PrinterListReload() {
-    const WaitSheet waiting = window_Wait->over(window_PrinterSelector);
     DWT_UpdatePrinterList();
     tableView_Printerlist->deselectAll();
     button_PrinterlistOK->setEnabled(false);

@@ -17,6 +17,16 @@ QString text(const char *key) {
     return localized(QLatin1String(key));
 }
 
+// The name, in an outline, of the page with a view key.
+QString pageNameIn(const QVariantMap &node, const QString &viewKey) {
+    if (node.value(QStringLiteral("viewID")) == viewKey)
+        return localized(node.value(QStringLiteral("name")).toString());
+    QString name;
+    for (const QVariant &child : node.value(QStringLiteral("child")).toList())
+        if (name.isEmpty()) name = pageNameIn(child.toMap(), viewKey);
+    return name;
+}
+
 }  // namespace
 
 DWTMainSettingWindow::~DWTMainSettingWindow() {
@@ -144,6 +154,7 @@ void DWTMainSettingWindow::connectButtons() {
     asks(&SendDialog::updatePushed, &Self::push_UpdateChangeCheckOK);
     asks(&SendDialog::transmissionPushed, &Self::push_SendConfirmTransmission);
     asks(&SendDialog::loginPushed, &Self::push_SendLoginOK);
+    asks(&SendDialog::stopped, &Self::sayWhatWasSent);
     asks(&SendDialog::endPushed, &Self::push_SendEndOK);
 }
 
@@ -174,12 +185,13 @@ bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &ent
     if (reached)
         for (const auto &page : dictionary_ViewManagement) page->showDataManager();
     bool_GetDataSuccess = read == ReadResult::Complete && bool_usbPrinter;
+    // First, since enabling the pages may find a difference that can be sent.
+    if (reached && entry) MSW_SendButtonDisable();
     enableAllViews(bool_GetDataSuccess);
     showReadState();
     if (reached && entry) {
         outlineView_Main->selectRow(networkRow);
         MSW_UISelector(DWT_View_Key_Network);
-        MSW_SendButtonDisable();
         m_open = true;
         window_Main->fitToScreen();
         window_Main->bringToFront();
@@ -195,12 +207,34 @@ int DWTMainSettingWindow::statusLengthOf(const QString &productName) {
     return model->toMap().value(QStringLiteral("GDQKStatusLength")).toInt();
 }
 
-// Says why nothing can be changed.
+// Says why nothing can be changed, and what the printer did not tell.
 void DWTMainSettingWindow::showReadState() {
-    textField_ReadOnly->setVisible(!bool_GetDataSuccess);
-    textField_ReadOnly->setText(text(bool_usbPrinter
-                                         ? "DWT_Localize_MainDialog_Text_ReadOnly_NotRead"
-                                         : "DWT_Localize_MainDialog_Text_ReadOnly_Network"));
+    QStringList lines;
+    if (!bool_GetDataSuccess)
+        lines << text(bool_usbPrinter ? "DWT_Localize_MainDialog_Text_ReadOnly_NotRead"
+                                      : "DWT_Localize_MainDialog_Text_ReadOnly_Network");
+    const auto notTold = dataManager_Object ? dataManager_Object->notTold() : QList<ItemCode>();
+    if (!notTold.isEmpty())
+        lines << text("DWT_Localize_MainDialog_Text_NotTold")
+                     .arg(namesOf(notTold, QStringLiteral("; ")));
+    textField_ReadOnly->setText(lines.join(u'\n'));
+    textField_ReadOnly->setVisible(!lines.isEmpty());
+}
+
+QString DWTMainSettingWindow::nameOf(ItemCode code) const {
+    const SentItem &item = *sentItem(code);
+    const bool isInterface = item.kind == SentItem::Kind::Interface;
+    const QString &key = isInterface ? item.keys[1] : item.keys.last();
+    return QStringLiteral("%1: %2").arg(
+        pageNameIn(dictionary_OutlineView, item.viewKey),
+        dictionary_ViewManagement.value(item.viewKey)->labelOf(key));
+}
+
+QString DWTMainSettingWindow::namesOf(const QList<ItemCode> &codes,
+                                      const QString &separator) const {
+    QStringList names;
+    for (const ItemCode code : codes) names << nameOf(code);
+    return names.join(separator);
 }
 
 void DWTMainSettingWindow::enableAllViews(bool enabled) {

@@ -82,6 +82,9 @@ class DWTMainSettingWindow : public QObject,
     void push_MainSetupIsChanged() {}
     int statusLengthOf(const QString &productName);
     void showReadState();
+    // What a page calls the value of an item, with the page's name before it.
+    QString nameOf(ItemCode code) const;
+    QString namesOf(const QList<ItemCode> &codes, const QString &separator) const;
     void enableAllViews(bool enabled);
     void MSW_UISelector(const QString &viewKey);
     std::optional<QString> MSW_SelectedUIString() const;
@@ -94,6 +97,7 @@ class DWTMainSettingWindow : public QObject,
     QString sendViewAskingPassword();
     void push_SendConfirmTransmission();
     void push_SendLoginOK();
+    void sayWhatWasSent();
     void push_SendEndOK();
     void MSW_SendButtonEnable();
     void MSW_SendButtonDisable();

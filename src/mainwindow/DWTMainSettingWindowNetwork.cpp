@@ -16,9 +16,14 @@ void DWTMainSettingWindow::push_InfrastructureSelectSSID() {
     }
     const auto inReach = [this] {
         const WaitSheet waiting = window_Wait->over(window_Main);
-        return dataManager_Object->SSIDList().value_or(QList<SSIDEntry>());
+        return dataManager_Object->SSIDList();
     };
-    const std::optional<SSIDEntry> picked = window_SelectSSID->pick(inReach());
+    const auto networks = inReach();
+    if (!networks)
+        showStandardAlert("DWT_Localize_Alert_MessageText_Dowline",
+                          "DWT_Localize_Alert_MessageText_Error",
+                          "DWT_Localize_Alert_InfoText_Printer_ConnectErr");
+    const auto picked = window_SelectSSID->pick(networks.value_or(QList<SSIDEntry>()));
     if (!picked) return;
     infrastructure_ViewObject->showSSIDFromSelectSSID(*picked);
     MSW_SendButtonEnable();

@@ -3,6 +3,9 @@
 #include "mainwindow/DWTMainSettingWindow.h"
 #include "mainwindow/SendDialog.h"
 #include "mainwindow/WaitWindow.h"
+#include "platform/core/Texts.h"
+
+using namespace Qt::StringLiterals;
 
 void DWTMainSettingWindow::push_MainSend() {
     if (!checkAndStorePages()) return;
@@ -44,13 +47,20 @@ QString DWTMainSettingWindow::sendViewAskingPassword() {
 }
 
 void DWTMainSettingWindow::push_SendLoginOK() {
-    const auto answer = [this] {
+    const QString unreachable = localized(QStringLiteral("DWT_Localize_Send_ConnectErr_TextField"));
+    const auto answer = [&] {
         const WaitSheet waiting = window_Wait->over(window_SendData);
-        if (dataManager_Object->connectPrinter() != 0) return DWT_View_Key_Send_Login;
+        if (dataManager_Object->connectPrinter() != 0) {
+            window_SendData->sayInstead(DWT_View_Key_Send_Login, unreachable);
+            return DWT_View_Key_Send_Login;
+        }
         const int login = dataManager_Object->checkLoginPassword(window_SendData->password());
         dataManager_Object->disconnectPrinter();
-        return login == LoginResult::Accepted ? DWT_View_Key_Send_Confirm
-                                              : DWT_View_Key_Send_LoginError;
+        if (login == SettingResult::NoReply)
+            window_SendData->sayInstead(DWT_View_Key_Send_LoginError, unreachable);
+        if (login != LoginResult::Accepted) return DWT_View_Key_Send_LoginError;
+        window_SendData->clearPassword();
+        return DWT_View_Key_Send_Confirm;
     };
     window_SendData->MSW_SendUISelector(answer());
 }
@@ -60,11 +70,41 @@ void DWTMainSettingWindow::push_SendConfirmTransmission() {
     dataManager_Object->sendDataToPrinter();
 }
 
+void DWTMainSettingWindow::sayWhatWasSent() {
+    const auto text = [](const char *key) { return localized(QLatin1String(key)); };
+    const SendReport &report = dataManager_Object->sendReport();
+    if (report.lost)
+        window_SendData->sayInstead(DWT_View_Key_Send_ConnectError,
+                                    text("DWT_Localize_Send_ConnectErr_Lost"));
+    QStringList paragraphs;
+    if (report.login == SendReport::Login::Refused)
+        paragraphs << text("DWT_Localize_Send_End_LoginRefused");
+    if (report.login == SendReport::Login::NoReply)
+        paragraphs << text("DWT_Localize_Send_End_LoginNoReply");
+    QList<ItemCode> refused;
+    for (const auto &[code, result] : report.refused) refused << code;
+    if (!refused.isEmpty())
+        paragraphs << text("DWT_Localize_Send_End_Refused").arg(namesOf(refused, u"\n"_s));
+    if (!report.unclear.isEmpty())
+        paragraphs << text("DWT_Localize_Send_End_Unclear").arg(namesOf(report.unclear, u"\n"_s));
+    if (!paragraphs.isEmpty())
+        window_SendData->sayInstead(DWT_View_Key_Send_End, paragraphs.join(u"\n\n"_s));
+}
+
+// What the printer did not take stays as it was entered, keys and passwords, too.
 void DWTMainSettingWindow::push_SendEndOK() {
+    const SendReport &report = dataManager_Object->sendReport();
     window_SendData->closeDialog();
-    MSW_ClearTextField();
-    password_ViewObject->passwordChangeSetting(false);
-    MSW_SendButtonDisable();
+    if (report.isClean(0x3105) && report.isClean(0x3106))
+        infrastructure_ViewObject->clearEncryptionKey(bool_usbPrinter);
+    if (report.isClean(0x1003)) {
+        password_ViewObject->clearPassword(bool_usbPrinter);
+        password_ViewObject->passwordChangeSetting(false);
+    }
+    if (report.isComplete())
+        MSW_SendButtonDisable();
+    else
+        MSW_SendButtonEnable();
 }
 
 void DWTMainSettingWindow::MSW_SendButtonEnable() {

@@ -76,7 +76,8 @@ int NetworkList::numberOfRowsInTableView(TableView *) {
 
 QVariant NetworkList::objectValueForTableColumn(TableView *, const QString &column, int row) {
     const SSIDEntry network = array_SSIDList.value(row);
-    if (column == QStringLiteral("SSID")) return textValue(network, DWT_SSIDList_SSID_String);
+    if (column == QStringLiteral("SSID"))
+        return readableText(textValue(network, DWT_SSIDList_SSID_String));
     if (column == QStringLiteral("Security"))
         return localized(integerValue(network, DWT_SSIDList_Encryption) != 0
                              ? QStringLiteral("DWT_Localize_SSIDList_Security_YES")

@@ -15,6 +15,11 @@ SendDialog::SendDialog(QWidget *parent) : ModalWindow(parent) {
     views.add(DWT_View_Key_Send_Login, view_SendLogin);
     views.add(DWT_View_Key_Send_LoginError, view_SendLoginError);
     views.add(DWT_View_Key_Send_ConnectError, view_SendConnectError);
+    m_saying = {{DWT_View_Key_Send_Login, textField_SendLogin},
+                {DWT_View_Key_Send_LoginError, textField_SendLoginError},
+                {DWT_View_Key_Send_End, textField_SendEnd},
+                {DWT_View_Key_Send_ConnectError, textField_SendConnectError}};
+    for (QLabel *label : std::as_const(m_saying)) m_usualTexts.insert(label, label->text());
     fitWidth(textField_Password, QStringLiteral("00000000"));
     connectButtons();
     const auto observe = [this](const QString &name,
@@ -47,6 +52,7 @@ void SendDialog::connectButtons() {
 }
 
 int SendDialog::runOn(const QString &viewKey) {
+    for (QLabel *label : std::as_const(m_saying)) label->setText(m_usualTexts.value(label));
     MSW_SendUISelector(viewKey);
     return Modal::run(this);
 }
@@ -74,6 +80,10 @@ void SendDialog::clearPassword() {
     textField_Password->clear();
 }
 
+void SendDialog::sayInstead(const QString &viewKey, const QString &text) {
+    m_saying.value(viewKey)->setText(text);
+}
+
 void SendDialog::push_SendChangeCheckCancel() {
     closeDialog(stay);
 }
@@ -90,8 +100,10 @@ void SendDialog::push_SendLoginCancel() {
     closeDialog();
 }
 
+// What is typed next replaces the wrong password.
 void SendDialog::push_SendLoginErrorOK() {
     MSW_SendUISelector(DWT_View_Key_Send_Login);
+    textField_Password->selectAll();
 }
 
 void SendDialog::push_SendConnectErrorOK() {
@@ -108,6 +120,7 @@ void SendDialog::MSW_DataSendProgress(const Notification &notification) {
 
 void SendDialog::MSW_DataSendStop(const Notification &notification) {
     MSW_SetProgressInfo(notification.userInfo);
+    Q_EMIT stopped();
     const bool ran = notification.userInfo.value(MSW_Searching_Value_Current).toDouble() == 0;
     MSW_SendUISelector(ran ? DWT_View_Key_Send_End : DWT_View_Key_Send_ConnectError);
 }

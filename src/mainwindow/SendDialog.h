@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMap>
 #include <memory>
 #include <vector>
 
@@ -47,6 +48,10 @@ class SendDialog : public ModalWindow, private Ui::SendDialog {
     QString password() const;
     void clearPassword();
 
+    // What the login, login-error, end and connection-error views say instead of what they usually
+    // do, until the next run.
+    void sayInstead(const QString &viewKey, const QString &text);
+
   Q_SIGNALS:
     // The unsent changes are to be sent, or dropped, before the window is left.
     void reflectPushed();
@@ -57,6 +62,8 @@ class SendDialog : public ModalWindow, private Ui::SendDialog {
     void loginPushed();
     // The send is confirmed.
     void transmissionPushed();
+    // The send has stopped; its last view is not yet shown.
+    void stopped();
     // The end of a send was read.
     void endPushed();
 
@@ -74,5 +81,7 @@ class SendDialog : public ModalWindow, private Ui::SendDialog {
     void MSW_SetProgressInfo(const QVariantMap &progress);
 
     std::unique_ptr<ViewStack> dictionary_SendViewManagement;
+    QMap<QString, QLabel *> m_saying;      // by view key
+    QMap<QLabel *, QString> m_usualTexts;  // of the labels above
     std::vector<NotificationCenter::Observer> m_observers;
 };

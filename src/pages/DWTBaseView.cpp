@@ -77,19 +77,25 @@ void DWTBaseView::showDataManager() {
     for (const Field &field : m_fields) fill(field);
 }
 
-// A missing text or number leaves its field as it is; a missing address, or code that is only
-// shown, has its default.
 void DWTBaseView::fill(const Field &field) {
     const CategoryDictionary &values = mutableDictionary_ViewSettings;
-    const bool missing = !values.contains(field.key);
-    if (missing && (field.edited || field.kind == Kind::Text)) return;
-    if (field.input) *field.input = true;
-    if (auto *group = qobject_cast<RadioGroup *>(field.control))
-        group->selectTag(integerValue(values, field.key));
-    else if (auto *popup = qobject_cast<QComboBox *>(field.control))
-        popup->setCurrentIndex(popup->findData(integerValue(values, field.key)));
-    else
+    const bool nothing = field.edited && !values.contains(field.key);
+    if (field.input) *field.input = !nothing;
+    const int code = nothing ? -1 : integerValue(values, field.key);
+    if (auto *group = qobject_cast<RadioGroup *>(field.control)) {
+        if (!nothing) group->selectTag(code);
+    } else if (auto *popup = qobject_cast<QComboBox *>(field.control)) {
+        popup->setCurrentIndex(popup->findData(code));
+    } else if (nothing) {
+        field.line()->clear();
+    } else if (values.contains(field.key) || field.kind != Kind::Text) {
         field.line()->setText(textOf(field, values));
+    }
+}
+
+void DWTBaseView::fillText(const Field &field, const QString &shown) {
+    field.line()->setText(shown);
+    if (field.input) *field.input = !shown.isEmpty();
 }
 
 void DWTBaseView::enableAllItems(bool enabled) {
@@ -104,7 +110,7 @@ bool DWTBaseView::itemInputCheck() {
         if (!field.rule || field.kind == Kind::Address || !field.control->isEnabled()) continue;
         if (field.kind == Kind::Number) {
             forceIntoRange(field);
-        } else if (!passes(field)) {
+        } else if (!isUnchangedText(field) && !passes(field)) {
             showInputError(alert, text(field.nameKey), text(field.rule->ruleKey));
             passed = false;
         }
@@ -129,7 +135,12 @@ bool DWTBaseView::checkAddresses(Alert &alert) const {
     return names.isEmpty();
 }
 
-void DWTBaseView::forceIntoRange(const Field &number) {
+// A number that was neither told nor entered stays what it is.
+void DWTBaseView::forceIntoRange(const Field &number) const {
+    const int shown = integerOf(number.line()->text());
+    if (ndm_Object && !ndm_Object->isTold(number.key) &&
+        shown == integerValue(savedCategory(), number.key))
+        return;
     const int value = Rules::numberInRange(number.line()->text(), *number.rule);
     number.line()->setText(QString::number(value));
 }
@@ -145,6 +156,7 @@ CategoryDictionary DWTBaseView::shownCategory() const {
     CategoryDictionary category = savedCategory();
     for (const Field &field : m_fields) {
         if (!field.edited || field.key.isEmpty() || !isUsed(field)) continue;
+        if (!category.contains(field.key) && showsNothing(field)) continue;
         if (const auto value = valueOf(field)) category.insert(field.key, *value);
     }
     return category;
@@ -177,17 +189,39 @@ std::optional<SettingValue> DWTBaseView::valueOf(const Field &field) const {
         const QVariant code = popup->currentData();
         return code.isValid() ? std::optional<SettingValue>(code.toInt()) : std::nullopt;
     }
+    if (isUnchangedText(field)) return textValue(savedCategory(), field.key);
     const QString shown = field.line()->text();
     if (field.kind == Kind::Address) return shown.split(u'.');
     if (field.kind == Kind::Number) return integerOf(shown);
     return shown;
 }
 
+bool DWTBaseView::showsNothing(const Field &field) const {
+    if (const auto *group = qobject_cast<RadioGroup *>(field.control))
+        return group->selectedTag() <= 0;
+    if (const auto *popup = qobject_cast<QComboBox *>(field.control))
+        return popup->currentIndex() <= 0;
+    if (field.kind == Kind::Flag) return false;
+    return field.line()->text().isEmpty() || field.line()->text() == addressNumberToString({});
+}
+
+bool DWTBaseView::isUnchangedText(const Field &field) const {
+    const CategoryDictionary saved = savedCategory();
+    return field.kind == Kind::Text && !textValue(saved, field.key).isEmpty() &&
+           field.line()->text() == textOf(field, saved);
+}
+
+QString DWTBaseView::labelOf(const QString &key) const {
+    const auto found = std::find_if(m_fields.begin(), m_fields.end(),
+                                    [&](const Field &f) { return f.key == key; });
+    return found == m_fields.end() || !found->nameKey ? QString() : nameOf(found->nameKey);
+}
+
 QString DWTBaseView::textOf(const Field &field, const CategoryDictionary &category) const {
     const int code = integerValue(category, field.key);
     switch (field.kind) {
         case Kind::Text:
-            return textValue(category, field.key);
+            return readableText(textValue(category, field.key));
         case Kind::Address:
             return addressNumberToString(addressValue(category, field.key));
         case Kind::Choice:

@@ -71,6 +71,10 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // What differs, in the order of the page; empty when nothing does.
     virtual QList<Change> changes() const;
 
+    // The name of the value of a record's key, in the words of the page; empty for a key that is
+    // not the page's.
+    QString labelOf(const QString &key) const;
+
     // --- Editing; also the delegate calls of the page's fields ---
 
     bool textShouldBeginEditing(TextField *control) override;
@@ -132,8 +136,11 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
 
     // --- What a page may do in its own way ---
 
-    // Shows the value of a row from the page's category.
+    // Shows the value of a row from the page's category. One that is missing there empties a field,
+    // and leaves radio buttons as they are.
     virtual void fill(const Field &field);
+    // Shows a text, or nothing, in a row's line; it counts as filled when it is not empty.
+    static void fillText(const Field &field, const QString &shown);
     // Whether what a row shows counts; otherwise its saved value does.
     virtual bool isUsed(const Field &) const { return true; }
     // Whether what a field holds keeps its rule.
@@ -173,12 +180,16 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     CategoryDictionary mutableDictionary_ViewSettings;
 
   private:
-    // What a row shows; nothing when no item of a choice is selected.
+    // What a row shows; nothing when no item of a choice is selected. A text that was not changed
+    // is the saved one.
     std::optional<SettingValue> valueOf(const Field &field) const;
+    // Whether a row shows what it shows when its value is missing.
+    bool showsNothing(const Field &field) const;
     // A value of a row as a person reads it.
     QString textOf(const Field &field, const CategoryDictionary &category) const;
+    bool isUnchangedText(const Field &field) const;
     bool checkAddresses(Alert &alert) const;
-    static void forceIntoRange(const Field &number);
+    void forceIntoRange(const Field &number) const;
     void postSendState(bool unchanged);
 
     std::vector<Field> m_fields;

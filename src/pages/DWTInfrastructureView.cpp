@@ -87,48 +87,38 @@ void DWTInfrastructureView::initializeUI() {
     notificationManager();
 }
 
-// Codes are selected while all encryptions are offered.
+// Codes are selected while all encryptions are offered. A network that was taken over from the list
+// is forgotten: the page shows what was read.
 void DWTInfrastructureView::showDataManager() {
+    mutableDictionary_selectSSID.clear();
+    bool_SSIDfromSelectSSID = false;
     initializeEncryption();
     InterfaceView::showDataManager();
-    selectAuthenticCodeInput();
+    adjustSecurity();
 }
 
-// The printer tells no keys; a network of the list has its own name.
+// The printer tells no keys.
 void DWTInfrastructureView::fill(const Field &field) {
-    const CategoryDictionary &values = mutableDictionary_ViewSettings;
-    if (field.control == popupbutton_InfrastructureSelectWEPKey) {
+    if (field.control == popupbutton_InfrastructureSelectWEPKey)
         popupbutton_InfrastructureSelectWEPKey->setCurrentIndex(0);
-    } else if (field.control == textField_InfrastructurePSK) {
-        const QString told = textValue(values, field.key);
-        textField_InfrastructurePSK->setText(told == unreadable ? QString() : told);
-    } else if (field.control == textField_InfrastructureSSID) {
-        const bool fromList =
-            !bytesValue(values, DWT_SaveData_Infrastructure_SSIDList_SSID).isEmpty();
-        if (!fromList && !values.contains(field.key)) return;
-        const QString name = fromList ? selectedListSSID() : textValue(values, field.key);
-        textField_InfrastructureSSID->setText(name);
-        if (fromList) bool_SSIDfromSelectSSID = true;
-        if (!name.isEmpty()) bool_InfrastructureSSIDInput = true;
-    } else if (field.control != textField_InfrastructureWEPKey) {
+    else if (field.kind == Kind::Text && field.edited)
+        fillText(field, readableText(textValue(mutableDictionary_ViewSettings, field.key)));
+    else
         InterfaceView::fill(field);
-    }
 }
 
 void DWTInfrastructureView::enableAllItems(bool enabled) {
     InterfaceView::enableAllItems(enabled);
     button_InfrastructureSelectSSID->setEnabled(enabled);
-    if (enabled) selectAuthenticCodeInput();
+    if (enabled) adjustSecurity();
 }
 
-// A network that was taken over from the list, or that the printer has now, needs no check: its
-// name may hold characters that cannot be typed here.
+// The name of a network that was taken over from the list needs no check: it may hold characters
+// that cannot be typed here.
 bool DWTInfrastructureView::passes(const Field &field) const {
     if (field.control == textField_InfrastructureWEPKey)
         return itemInputCheckWEPKey(textField_InfrastructureWEPKey, bool_InfrastructureWEPKeyInput);
-    if (field.control == textField_InfrastructureSSID &&
-        (bool_SSIDfromSelectSSID || field.line()->text() == textValue(savedCategory(), field.key)))
-        return true;
+    if (field.control == textField_InfrastructureSSID && bool_SSIDfromSelectSSID) return true;
     return InterfaceView::passes(field);
 }
 
@@ -138,8 +128,7 @@ bool DWTInfrastructureView::itemInputCheckWEPKey(const QLineEdit *field, bool in
 
 void DWTInfrastructureView::markInput(const Field &field, bool ended) {
     if (field.control == textField_InfrastructureSSID) {
-        if (holdsListSSID()) return;
-        bool_SSIDfromSelectSSID = false;
+        if (bool_SSIDfromSelectSSID) return;
     } else if (field.kind == Kind::Text && ended && field.line()->text().isEmpty()) {
         return;  // a key field that was only looked at
     }
@@ -147,17 +136,28 @@ void DWTInfrastructureView::markInput(const Field &field, bool ended) {
 }
 
 bool DWTInfrastructureView::textShouldEndEditing(TextField *control) {
-    if (control != textField_InfrastructureSSID || !holdsListSSID())
+    if (control != textField_InfrastructureSSID || !bool_SSIDfromSelectSSID)
         return InterfaceView::textShouldEndEditing(control);
     sendNotificationSendOK();
     return true;
 }
 
+// A typed name counts from its first change on.
+void DWTInfrastructureView::controlTextDidChange(TextField *control) {
+    if (control == textField_InfrastructureSSID && bool_SSIDfromSelectSSID) {
+        bool_SSIDfromSelectSSID = false;
+        mutableDictionary_ViewSettings.insert(DWT_SaveData_Infrastructure_SSIDList_SSID, QString());
+    }
+    InterfaceView::controlTextDidChange(control);
+}
+
 CategoryDictionary DWTInfrastructureView::shownCategory() const {
     CategoryDictionary category = InterfaceView::shownCategory();
+    const QString &key = DWT_SaveData_Infrastructure_SSIDList_SSID;
     if (bool_SSIDfromSelectSSID)
-        category.insert(DWT_SaveData_Infrastructure_SSIDList_SSID,
-                        bytesValue(mutableDictionary_selectSSID, DWT_SSIDList_SSID));
+        category.insert(key, bytesValue(mutableDictionary_selectSSID, DWT_SSIDList_SSID));
+    else if (category.contains(key))
+        category.insert(key, QString());
     return category;
 }
 
@@ -176,7 +176,8 @@ void DWTInfrastructureView::showSSIDFromSelectSSID(const SSIDEntry &network) {
     mutableDictionary_selectSSID = network;
     mutableDictionary_selectSSID.insert(DWT_SSIDList_Authentic, authentic);
     mutableDictionary_selectSSID.insert(DWT_SSIDList_Encryption, encryption);
-    textField_InfrastructureSSID->setText(selectedListSSID());
+    textField_InfrastructureSSID->setText(
+        readableText(textValue(network, DWT_SSIDList_SSID_String)));
     initializeEncryption();
     CategoryDictionary &settings = mutableDictionary_ViewSettings;
     settings.insert(DWT_SaveData_Infrastructure_Authentic, authentic);
@@ -203,6 +204,13 @@ void DWTInfrastructureView::clearEncryptionKey(bool) {
     if (usable) selectEncryptionCodeInput();
     bool_InfrastructurePSKInput = false;
     bool_InfrastructureWEPKeyInput = false;
+    const CategoryDictionary saved = savedCategory();
+    for (const QString &key : {DWT_SaveData_Infrastructure_PSK, DWT_SaveData_Infrastructure_WEPKey,
+                               DWT_SaveData_Infrastructure_WEPKeyIndex}) {
+        mutableDictionary_ViewSettings.remove(key);
+        if (saved.contains(key)) mutableDictionary_ViewSettings.insert(key, saved.value(key));
+    }
+    handOver(shownCategory());
 }
 
 void DWTInfrastructureView::select_InfrastructureAuthentic() {
@@ -228,6 +236,16 @@ void DWTInfrastructureView::select_InfrastructureSelectWEPKey() {
 
 void DWTInfrastructureView::initializeEncryption() {
     offer(popupbutton_InfrastructureEncryption, array_popUpButton_Encryption);
+}
+
+// A security of which the printer told one half only is not made to fit: that would be sent.
+void DWTInfrastructureView::adjustSecurity() {
+    const auto told = [this](const QString &key) { return !ndm_Object || ndm_Object->isTold(key); };
+    const bool authentic = told(DWT_SaveData_Infrastructure_Authentic);
+    if (authentic == told(DWT_SaveData_Infrastructure_Encryption))
+        selectAuthenticCodeInput();
+    else
+        selectEncryptionCodeInput();
 }
 
 void DWTInfrastructureView::selectAuthenticCodeInput() {
@@ -270,13 +288,4 @@ void DWTInfrastructureView::storeChoice(const QComboBox *popup) {
 
 int DWTInfrastructureView::itemInputCheckInfrastructureEncryption() const {
     return popupbutton_InfrastructureEncryption->currentData().toInt();
-}
-
-QString DWTInfrastructureView::selectedListSSID() const {
-    return textValue(mutableDictionary_selectSSID, DWT_SSIDList_SSID_String);
-}
-
-bool DWTInfrastructureView::holdsListSSID() const {
-    return !mutableDictionary_selectSSID.isEmpty() &&
-           textField_InfrastructureSSID->text() == selectedListSSID();
 }

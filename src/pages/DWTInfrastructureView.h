@@ -20,6 +20,7 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
     void clearEncryptionKey(bool);
 
     bool textShouldEndEditing(TextField *control) override;
+    void controlTextDidChange(TextField *control) override;
 
   Q_SIGNALS:
     // The user asks for the list of networks, the WPS guide.
@@ -45,6 +46,8 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
 
     // Offers all four encryptions.
     void initializeEncryption();
+    // What filling and enabling do with the security that the printer told.
+    void adjustSecurity();
     // Offers the encryptions that go with the chosen authentication, and changes one that does not.
     void selectAuthenticCodeInput();
     // Enables the key fields that the chosen encryption uses.
@@ -70,11 +73,6 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
     bool itemInputCheckInfrastructureGateway() {
         return store(textField_InfrastructureDefaultGateway);
     }
-
-    // The name of the network taken over from the list; empty without one.
-    QString selectedListSSID() const;
-    // Whether a network was taken over from the list, and the field holds its name.
-    bool holdsListSSID() const;
 
     QVariantMap dictionary_itemData;
     QStringList array_textField_WirelessMode;

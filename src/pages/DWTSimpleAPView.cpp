@@ -39,7 +39,8 @@ void DWTSimpleAPView::initializeUI() {
 }
 
 void DWTSimpleAPView::fill(const Field &field) {
-    const QString told = textValue(mutableDictionary_ViewSettings, field.key);
-    if (field.edited && (told.isEmpty() || told == unreadable)) return;
-    DWTBaseView::fill(field);
+    if (field.edited)
+        fillText(field, readableText(textValue(mutableDictionary_ViewSettings, field.key)));
+    else
+        DWTBaseView::fill(field);
 }

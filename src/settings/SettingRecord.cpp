@@ -31,6 +31,14 @@ QByteArray bytesValue(const CategoryDictionary &category, const QString &key) {
     return valueOf<QByteArray>(category, key);
 }
 
+QString readableText(const QString &text) {
+    if (text == unreadable) return {};
+    const QByteArray bytes = text.toLatin1();
+    const QString decoded = QString::fromUtf8(bytes);
+    const bool isBytes = QString::fromLatin1(bytes) == text;
+    return isBytes && decoded.toUtf8() == bytes ? decoded : text;
+}
+
 int integerOf(const QString &text) {
     constexpr qint64 lowest = std::numeric_limits<int>::min();
     constexpr qint64 highest = std::numeric_limits<int>::max();

@@ -60,6 +60,7 @@ TEST_F(Networks, AreListedStrongestFirstAndTakenOver) {
 TEST_F(Networks, NoListOutsideInfrastructureModeAndAnEmptyOneWithoutAPrinter) {
     open(fourNetworks);
     setFaults(R"({"refuseConnection": true})");
+    dialogs.alert("The connection to the printer cannot be used");
     list([](QWidget *dialog, TableView *table) {
         EXPECT_EQ(table->model()->rowCount(), 0);
         EXPECT_FALSE(controlOf(dialog, "button_SelectSSIDWindowOK")->isEnabled());

@@ -28,6 +28,12 @@ class Sending : public PrinterWindow {
     DialogScript &warned() {
         return dialogs.alert("The connection to the printer needs your attention");
     }
+    DialogScript::Answer says(const char *label, const char *part) {
+        return [=](QWidget *dialog) {
+            const QString said = controlOf<QLabel>(dialog, label)->text();
+            EXPECT_TRUE(said.contains(text(part))) << qPrintable(said);
+        };
+    }
     DialogScript::Answer faults(const QByteArray &faults) {
         return [this, faults](QWidget *) { setFaults(faults); };
     }
@@ -117,20 +123,56 @@ TEST_F(Sending, APrinterUnpluggedBeforeTheSendLosesNothing) {
     EXPECT_EQ(held(), QByteArray("new-name"));
 }
 
-TEST_F(Sending, APrinterUnpluggedDuringTheSendKeepsTheTypedValues) {
+TEST_F(Sending, APrinterUnpluggedDuringTheSendLosesNothingAndIsSaidToBeLost) {
     for (const int frames : {1, 2, 3, 6, 9, 12}) {
         SCOPED_TRACE(frames);
         openAndType("{}");
-        warned().confirmAndEnd(
-            faults("{\"closeAfterFrames\": " + QByteArray::number(frames) + "}"));
+        warned()
+            .on("view_SendConfirm",
+                faults("{\"closeAfterFrames\": " + QByteArray::number(frames) + "}"),
+                "button_SendConfirmTransmission")
+            .on("view_SendConnectError", says("textField_SendConnectError", "was lost"),
+                "button_SendConnectErrorOK");
         send();
+        expectUnsent();
         EXPECT_EQ(held(), QByteArray("label-printer")) << "half of a transaction was kept";
-        EXPECT_EQ(name(), text("new-name"));
         setFaults("{}");
-        type("textField_NetworkBonjourService", "desk");
         warned().confirmAndEnd();
         send();
         EXPECT_EQ(held(), QByteArray("new-name"));
+    }
+}
+
+TEST_F(Sending, TheEndNamesWhatThePrinterDidNotTake) {
+    const struct {
+        const char *faults;
+        const char *said;
+    } cases[] = {
+        {R"({"items": {"0x1004": {"result": 5}, "0x2001": {"result": 7}}})",
+         "your entries are kept:\nNames: Bonjour name\nWired network: IP address"},
+        {R"({"items": {"0x3000": {"noReply": true}, "0x1004": {"code": "0x7777"}}})",
+         "choose Read again:\nNames: Bonjour name\nWireless network: Communication mode"},
+        {R"({"items": {"0x1001": {"result": 2}}})", "refused the password, and nothing was sent"},
+        {R"({"items": {"0x1001": {"noReply": true}}})", "did not answer the login"}};
+    for (const auto &c : cases) {
+        openAndType(passwordProfile);
+        choose("Infrastructure");
+        type("textField_InfrastructureSSID", "new network");
+        warned()
+            .login("open123")
+            .on("view_SendConfirm", faults(c.faults), "button_SendConfirmTransmission")
+            .on("view_SendEnd", says("textField_SendEnd", c.said), "button_SendEndOK");
+        send();
+        expectUnsent();
+        setFaults("{}");
+        warned()
+            .login("open123")
+            .on("view_SendConfirm", "button_SendConfirmTransmission")
+            .on("view_SendEnd", says("textField_SendEnd", "The settings have been sent"),
+                "button_SendEndOK");
+        send();
+        EXPECT_EQ(held(), QByteArray("new-name"));
+        EXPECT_FALSE(isEnabled("button_MainSend"));
     }
 }
 

@@ -50,7 +50,7 @@ const struct {
     {a<DWTInfrastructureView>, manual, "textField_InfrastructureDefaultGateway", "Default gateway",
      "Router", "127.0.0.1", "1.2.3"},
     {a<DWTInfrastructureView>, manual, "textField_InfrastructureSSID", "Network name (SSID)",
-     "Infrastructure_SSID", "32*s| |CafÃ©", "33*s|名前|"},  // the printer's own is not checked
+     "Infrastructure_SSID", "32*s| |Café", "33*s|名前|"},  // the printer's own is not checked
     {a<DWTInfrastructureView>, manual, "textField_InfrastructurePSK", "WPA key", "PSK",
      "63*~|8 chars.", "7*k|64*k|schlüssel|"},
     {a<DWTInfrastructureView>, wep, "textField_InfrastructureWEPKey", "WEP key", "WEPKey",

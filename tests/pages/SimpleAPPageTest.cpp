@@ -28,7 +28,7 @@ TEST_F(SimpleAPPage, ShowsWhatThePrinterTellsAndStoresNameAndKey) {
                                  "WPA key of the access point:  > "));
     showNothing();
     EXPECT_EQ(shown("textField_SimpleAPStartIpAddress"), text("0.0.0.0"));
-    EXPECT_EQ(ssid->text() + psk->text(), text("éx"));
+    EXPECT_EQ(ssid->text() + psk->text(), QString());
 }
 
 }  // namespace
