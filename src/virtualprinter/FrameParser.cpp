@@ -36,6 +36,8 @@ Progress parseEscape(QByteArrayView buffer, FrameParser::Frame &frame) {
         if (frame.payload.size() != 2) return Progress::Wrong;
         frame.code = littleEndianAt(frame.payload, 0);
     }
+    const bool startOrEnd = frame.payload.size() == 1 && static_cast<quint8>(frame.payload[0]) <= 1;
+    if (frame.command == 'U' && !startOrEnd) return Progress::Wrong;
     return Progress::Complete;
 }
 

@@ -3,8 +3,8 @@
 #include <QByteArray>
 #include <QList>
 
-// Finds the frames in what a host sends, in whatever pieces it arrives. Frames whose length or
-// checksum is wrong, and bytes between frames, are skipped.
+// Finds the frames in what a host sends, in whatever pieces it arrives. Frames whose length,
+// checksum or parameter is wrong, and bytes between frames, are skipped.
 class FrameParser {
   public:
     struct Frame {

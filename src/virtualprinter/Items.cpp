@@ -16,6 +16,8 @@ using Items::Kind;
 // A setting frame gives an SSID a field of the longest one's width, whatever its length.
 constexpr qsizetype ssidField = longestSsid;
 constexpr qsizetype wepField = 26;
+constexpr int mostWepKeys = 4;      // numbered from 1 on
+constexpr int greatestSetting = 1;  // of an interface: 0 automatic, 1 fixed
 
 QByteArray octets(std::initializer_list<int> values) {
     QByteArray bytes;
@@ -94,7 +96,7 @@ std::optional<QByteArray> addressesFromJson(const Item &item, const QJsonValue &
             problem = QStringLiteral("unknown key \"%1\"").arg(key);
     QByteArray value;
     if (hasSetting) {
-        const auto setting = number(object[u"setting"], 1);
+        const auto setting = number(object[u"setting"], greatestSetting);
         if (!setting) problem = QStringLiteral("\"setting\" is neither 0 nor 1");
         value = littleEndian(setting.value_or(0));
     }
@@ -136,13 +138,16 @@ std::optional<QByteArray> digitsFromJson(const Item &item, QString digits, QStri
 }
 
 // The counted bytes at `offset` of a payload whose field takes the rest; nothing when the count is
-// 0 or greater than `longest`, or the field has another width.
+// 0 or greater than `longest`, the field has another width, or what follows the bytes in it is not
+// zero.
 std::optional<QByteArray> field(const QByteArray &payload, qsizetype offset, qsizetype longest,
                                 qsizetype width) {
     if (payload.size() < offset + 2) return {};
     const int count = littleEndianAt(payload, offset);
     if (count == 0 || count > longest) return {};
     if (payload.size() != offset + 2 + (width == 0 ? count : width)) return {};
+    const QByteArrayView padding = QByteArrayView(payload).sliced(offset + 2 + count);
+    if (padding.count('\0') != padding.size()) return {};
     return payload.mid(offset + 2, count);
 }
 
@@ -198,10 +203,15 @@ std::optional<QByteArray> Items::fromPayload(const Item &item, const QByteArray 
         }
         case Kind::WepKey: {
             const auto bytes = field(payload, 2, item.size, wepField);
-            return bytes ? std::optional(payload.left(2) + counted(*bytes)) : std::nullopt;
+            if (!bytes) return {};
+            const int key = littleEndianAt(payload, 0);
+            if (key < 1 || key > mostWepKeys) return {};
+            return payload.left(2) + counted(*bytes);
         }
-        case Kind::Integer:
         case Kind::Interface:
+            if (payload.size() < 2 || littleEndianAt(payload, 0) > greatestSetting) return {};
+            break;
+        case Kind::Integer:
         case Kind::Mac:
         case Kind::Version:
         case Kind::Addresses:

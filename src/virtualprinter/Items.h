@@ -16,7 +16,7 @@
 //   Version      2 bytes, low byte first; the four nibbles read as H.HHH
 //   Addresses    4 bytes an address
 //   Interface    2 bytes setting (0 automatic, 1 fixed), then address, mask and gateway
-//   WepKey       2 bytes key number, 2 bytes count, then that many bytes
+//   WepKey       2 bytes key number (1 to 4), 2 bytes count, then that many bytes
 
 namespace Items {
 
@@ -43,7 +43,8 @@ const Item *find(quint16 code);
 std::optional<QByteArray> fromJson(const Item &item, const QJsonValue &json, QString &problem);
 
 // The value of an item from the payload of a setting frame; nothing when the payload does not have
-// the layout of the item, or its text is empty or too long.
+// the layout of the item, its text is empty, too long or not followed by zeros to the end of its
+// field, or its interface setting or key number is unknown.
 std::optional<QByteArray> fromPayload(const Item &item, const QByteArray &payload);
 
 }  // namespace Items

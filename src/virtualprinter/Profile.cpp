@@ -127,34 +127,45 @@ void readNetworks(Reader &reader, const QJsonValue &value, Profile &profile) {
 }
 
 ItemFault readItemFault(Reader &reader, const QJsonObject &object, const QString &place) {
+    static const QMap<QString, bool ItemFault::*> flags{
+        {QStringLiteral("noReply"), &ItemFault::noReply},
+        {QStringLiteral("garbage"), &ItemFault::garbage},
+        {QStringLiteral("doubled"), &ItemFault::doubled},
+        {QStringLiteral("closed"), &ItemFault::closed},
+        {QStringLiteral("closeAfterReply"), &ItemFault::closeAfterReply},
+        {QStringLiteral("reset"), &ItemFault::reset}};
+    static const QMap<QString, std::optional<int> ItemFault::*> numbers{
+        {QStringLiteral("truncate"), &ItemFault::truncate},
+        {QStringLiteral("length"), &ItemFault::length},
+        {QStringLiteral("result"), &ItemFault::resultCode}};
     reader.expectKeys(object, place,
-                      {QStringLiteral("noReply"), QStringLiteral("garbage"), QStringLiteral("code"),
-                       QStringLiteral("truncate"), QStringLiteral("length"),
-                       QStringLiteral("result"), QStringLiteral("delay")});
+                      flags.keys() + numbers.keys() +
+                          QStringList{QStringLiteral("code"), QStringLiteral("delay")});
     ItemFault fault;
-    fault.noReply = reader.flag(object, QStringLiteral("noReply"), place);
-    fault.garbage = reader.flag(object, QStringLiteral("garbage"), place);
+    for (auto i = flags.begin(); i != flags.end(); ++i)
+        fault.**i = reader.flag(object, i.key(), place);
+    for (auto i = numbers.begin(); i != numbers.end(); ++i)
+        fault.**i = reader.optionalInteger(object, i.key(), place, 0xFFFF);
     if (object.contains(u"code")) {
         const QByteArray text = reader.text(object, QStringLiteral("code"), place, 6);
         fault.code = reader.code(QString::fromUtf8(text), place + QStringLiteral("code."));
     }
-    fault.truncate = reader.optionalInteger(object, QStringLiteral("truncate"), place, 0xFFFF);
-    fault.length = reader.optionalInteger(object, QStringLiteral("length"), place, 0xFFFF);
-    fault.resultCode = reader.optionalInteger(object, QStringLiteral("result"), place, 0xFFFF);
     fault.delay = reader.integer(object, QStringLiteral("delay"), place, 0, longestDelay);
     return fault;
 }
 
 Faults readFaults(Reader &reader, const QJsonObject &object) {
     const QString place = QStringLiteral("faults.");
-    reader.expectKeys(object, place,
-                      {QStringLiteral("refuseConnection"), QStringLiteral("closeAfterFrames"),
-                       QStringLiteral("delay"), QStringLiteral("items")});
+    reader.expectKeys(
+        object, place,
+        {QStringLiteral("refuseConnection"), QStringLiteral("closeAfterFrames"),
+         QStringLiteral("delay"), QStringLiteral("piecewise"), QStringLiteral("items")});
     Faults faults;
     faults.refuseConnection = reader.flag(object, QStringLiteral("refuseConnection"), place);
     faults.closeAfterFrames =
         reader.integer(object, QStringLiteral("closeAfterFrames"), place, 0, 0xFFFF);
     faults.delay = reader.integer(object, QStringLiteral("delay"), place, 0, longestDelay);
+    faults.piecewise = reader.flag(object, QStringLiteral("piecewise"), place);
     const QString itemsPlace = QStringLiteral("faults.items.");
     const QJsonObject items = reader.object(object, QStringLiteral("items"), place);
     for (const QString &key : items.keys()) {

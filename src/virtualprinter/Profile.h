@@ -15,13 +15,18 @@ inline constexpr int longestPassword = 8;   // bytes
 inline constexpr int longestSsid = 32;      // bytes; frames have a field of this width
 inline constexpr int mostScanPolls = 1000;  // polls answered before a search has finished
 
-// What goes wrong with one item. Unset members go right.
+// What goes wrong with the reply to one item, to a request and to a setting frame alike. Unset
+// members go right. But for resultCode, a setting is taken as if its reply had arrived.
 struct ItemFault {
     bool noReply = false;
     bool garbage = false;           // random-looking bytes instead of a reply
+    bool doubled = false;           // the reply is sent twice
+    bool closed = false;            // the channel closes instead of a reply
+    bool closeAfterReply = false;   // the channel closes once the reply was sent
+    bool reset = false;             // the channel is broken off instead of a reply
     std::optional<int> code;        // another item code in the reply
     std::optional<int> truncate;    // only that many bytes of the reply
-    std::optional<int> length;      // another length in the reply's header
+    std::optional<int> length;      // another length in the reply's header; its bytes as they are
     std::optional<int> resultCode;  // a setting frame is refused with this code
     int delay = 0;                  // ms before the reply, on top of the printer's own
 };
@@ -31,6 +36,8 @@ struct Faults {
     // The channel closes after that many frames; 0: never.
     int closeAfterFrames = 0;
     int delay = 0;  // ms before every reply
+    // Replies come one byte at a time: over TCP in a packet each, as far as the network lets them.
+    bool piecewise = false;
     QMap<quint16, ItemFault> items;
 };
 

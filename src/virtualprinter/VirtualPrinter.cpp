@@ -21,6 +21,7 @@ constexpr quint16 lastBlock = 0x3124;
 
 constexpr qsizetype networksPerBlock = 5;
 // States of the search for networks.
+constexpr int none = 0;
 constexpr int searching = 1;
 constexpr int finished = 2;
 
@@ -40,7 +41,6 @@ QByteArray replyFrame(char kind, quint16 code, const QByteArray &payload) {
 // The bytes of a fault's reply.
 QByteArray spoil(QByteArray bytes, const ItemFault &fault) {
     if (fault.garbage) return QByteArray::fromHex("00ff43437b1b7d3b0aff");
-    if (fault.code) bytes.replace(6, 2, littleEndian(*fault.code));
     if (fault.length) bytes.replace(3, 2, littleEndian(*fault.length));
     if (fault.truncate) bytes.truncate(*fault.truncate);
     return bytes;
@@ -111,7 +111,7 @@ void VirtualPrinter::handle(Channel &channel, const FrameParser::Frame &frame,
         const auto code = static_cast<quint16>(frame.code);
         const auto refused = m_profile.faults.items.value(code).resultCode;
         const int result = refused ? *refused : write(channel, code, frame.payload);
-        reply('R', code, littleEndian(result), replies);
+        reply(channel, 'R', code, littleEndian(result), replies);
     }
     const int last = m_profile.faults.closeAfterFrames;
     if (last > 0 && channel.m_frames >= last) channel.m_open = false;
@@ -119,7 +119,7 @@ void VirtualPrinter::handle(Channel &channel, const FrameParser::Frame &frame,
 
 void VirtualPrinter::handleCommand(Channel &channel, const FrameParser::Frame &frame,
                                    QList<Reply> &replies) {
-    if (frame.command == 'U' && frame.payload.size() == 1) {
+    if (frame.command == 'U') {
         channel.m_started = frame.payload[0] == 1;
         channel.m_loggedIn = false;
         channel.m_staged.clear();
@@ -128,7 +128,7 @@ void VirtualPrinter::handleCommand(Channel &channel, const FrameParser::Frame &f
         apply(channel);
     } else if (frame.command == 'f' && channel.m_started) {
         const auto code = static_cast<quint16>(frame.code);
-        if (const auto value = valueForRequest(code)) reply('F', code, *value, replies);
+        if (const auto value = valueForRequest(code)) reply(channel, 'F', code, *value, replies);
     }
 }
 
@@ -137,8 +137,9 @@ std::optional<QByteArray> VirtualPrinter::valueForRequest(quint16 code) {
     if (code == passwordSet) return littleEndian(m_profile.password.isEmpty() ? 0 : 1);
     if (code == wiredInUse || code == wirelessInUse) return m_profile.items.value(code);
     if (code == scan) {
-        const bool done = m_pollsLeft == 0;
-        if (!done) --m_pollsLeft;
+        if (!m_pollsLeft) return littleEndian(none) + littleEndian(0);
+        const bool done = *m_pollsLeft == 0;
+        if (!done) --*m_pollsLeft;
         const auto count = static_cast<int>(m_profile.networks.size());
         return littleEndian(done ? finished : searching) + littleEndian(done ? count : 0);
     }
@@ -201,13 +202,21 @@ void VirtualPrinter::apply(Channel &channel) {
     channel.m_stagedPassword.reset();
 }
 
-void VirtualPrinter::reply(char kind, quint16 code, const QByteArray &payload,
+void VirtualPrinter::reply(Channel &channel, char kind, quint16 code, const QByteArray &payload,
                            QList<Reply> &replies) {
     const ItemFault fault = m_profile.faults.items.value(code);
-    if (fault.noReply) return;
-    const QByteArray bytes = spoil(replyFrame(kind, code, payload), fault);
-    note(LoggedFrame::Sent, bytes);
-    if (!bytes.isEmpty()) replies.append({bytes, m_profile.faults.delay + fault.delay});
+    channel.m_reset = fault.reset;
+    if (fault.closed || fault.closeAfterReply || fault.reset) channel.m_open = false;
+    if (fault.noReply || fault.closed || fault.reset) return;
+    const auto toldCode = static_cast<quint16>(fault.code.value_or(code));
+    const QByteArray bytes = spoil(replyFrame(kind, toldCode, payload), fault);
+    const int delay = m_profile.faults.delay + fault.delay;
+    for (int i = 0; i < (fault.doubled ? 2 : 1); ++i) {
+        note(LoggedFrame::Sent, bytes);
+        const qsizetype piece = m_profile.faults.piecewise ? 1 : bytes.size();
+        for (qsizetype at = 0; at < bytes.size(); at += piece)
+            replies.append({bytes.mid(at, piece), delay});
+    }
 }
 
 void VirtualPrinter::note(LoggedFrame::Direction direction, const QByteArray &bytes) {

@@ -32,8 +32,8 @@ class VirtualPrinter {
     };
 
     struct Reply {
-        QByteArray bytes;
-        int delay = 0;  // ms to wait before these bytes are sent
+        QByteArray bytes;  // to be sent at once, on their own
+        int delay = 0;     // ms to wait before these bytes are sent
     };
 
     // One connection of a host. Settings written in it are applied by its update frame and dropped
@@ -44,11 +44,16 @@ class VirtualPrinter {
         ~Channel();
 
         // Takes bytes of the host, in any pieces, and gives the replies to the frames that they
-        // complete. A frame that is wrong, or stands outside start and end, has no reply.
+        // complete, in the order in which they are to be sent. A frame that is wrong, or stands
+        // outside start and end, has no reply.
         QList<Reply> receive(const QByteArray &bytes);
 
         // False once the printer has closed the channel.
         bool isOpen() const { return m_open; }
+
+        // True once the printer has broken the channel off, which closes it as well: over TCP, a
+        // reset connection.
+        bool isReset() const { return m_reset; }
 
       private:
         friend class VirtualPrinter;
@@ -57,6 +62,7 @@ class VirtualPrinter {
         VirtualPrinter &m_printer;
         FrameParser m_parser;
         bool m_open = true;
+        bool m_reset = false;
         bool m_started = false;
         bool m_loggedIn = false;
         int m_frames = 0;
@@ -91,12 +97,13 @@ class VirtualPrinter {
     int write(Channel &channel, quint16 code, const QByteArray &payload);
     int writePassword(Channel &channel, quint16 code, const QByteArray &payload);
     void apply(Channel &channel);
-    void reply(char kind, quint16 code, const QByteArray &payload, QList<Reply> &replies);
+    void reply(Channel &channel, char kind, quint16 code, const QByteArray &payload,
+               QList<Reply> &replies);
     void note(LoggedFrame::Direction direction, const QByteArray &bytes);
     void followAddress(quint16 configured, quint16 inUse, const QByteArray &automatic);
 
     mutable std::mutex m_mutex;
     Profile m_profile;
-    int m_pollsLeft = 0;
+    std::optional<int> m_pollsLeft;  // until the search has finished; nothing: there was none
     QList<LoggedFrame> m_log;
 };

@@ -1,9 +1,12 @@
 #include "virtualprinter/VirtualPrinterServer.h"
 
+#include <sys/socket.h>
+
 #include <QDeadlineTimer>
 #include <QTcpSocket>
 #include <QTimer>
-#include <algorithm>
+#include <deque>
+#include <functional>
 
 namespace {
 
@@ -23,24 +26,36 @@ class Connection : public QObject {
   private:
     void read() {
         for (const auto &reply : m_channel->receive(m_socket->readAll())) send(reply);
-        if (!m_channel->isOpen()) afterDelay(0, [this] { m_socket->disconnectFromHost(); });
+        if (!m_channel->isOpen()) afterDelay(0, [this] { close(); });
     }
 
     void send(const VirtualPrinter::Reply &reply) {
-        afterDelay(reply.delay, [this, bytes = reply.bytes] { m_socket->write(bytes); });
+        afterDelay(reply.delay, [this, bytes = reply.bytes] {
+            m_socket->write(bytes);
+            m_socket->flush();
+        });
+    }
+
+    void close() {
+        if (!m_channel->isReset()) return m_socket->disconnectFromHost();
+        const linger dropAll{1, 0};
+        ::setsockopt(static_cast<int>(m_socket->socketDescriptor()), SOL_SOCKET, SO_LINGER,
+                     &dropAll, sizeof dropAll);
+        m_socket->abort();
     }
 
     // Acts `delay` ms from now, but not before what was asked for earlier.
-    template <typename Action>
-    void afterDelay(int delay, Action action) {
+    void afterDelay(int delay, const std::function<void()> &action) {
         const QDeadlineTimer due(delay);
         if (m_last < due) m_last = due;
         const qint64 left = m_last.remainingTime();
-        if (left == 0 && m_waiting == 0) return action();
-        ++m_waiting;
-        QTimer::singleShot(static_cast<int>(left), Qt::PreciseTimer, this, [this, action] {
-            --m_waiting;
-            action();
+        if (left == 0 && m_waiting.empty()) return action();
+        m_waiting.push_back(action);
+        // Timers of the same time may end in any order; whichever ends acts for the first.
+        QTimer::singleShot(static_cast<int>(left), Qt::PreciseTimer, this, [this] {
+            const auto first = m_waiting.front();
+            m_waiting.pop_front();
+            first();
         });
     }
 
@@ -48,7 +63,7 @@ class Connection : public QObject {
     const std::shared_ptr<VirtualPrinter> m_printer;  // the channel refers to it
     const std::unique_ptr<VirtualPrinter::Channel> m_channel;
     QDeadlineTimer m_last{0};
-    int m_waiting = 0;
+    std::deque<std::function<void()>> m_waiting;
 };
 
 }  // namespace
