@@ -1,0 +1,192 @@
+#include "platform/core/MainThread.h"
+#include "platform/core/NotificationCenter.h"
+#include "settings/Rules.h"
+#include "support/DataManagers.h"
+
+// Everything that can go wrong with one reply, in every step of a reading and of a send, over TCP.
+
+namespace {
+
+using Login = SendReport::Login;
+using namespace Qt::StringLiterals;
+
+const QString password = u"abcd1234"_s;  // also the keys
+
+// Short, so that hundreds of silent replies take seconds.
+constexpr int wait = 40;
+
+enum class Effect { None, Silent, Foreign, Closed, ClosedAfter, Refused };
+struct Fault {
+    QByteArray description;
+    Effect effect;
+};
+const Fault faults[] = {{R"("noReply": true)", Effect::Silent},
+                        {R"("delay": 60)", Effect::Silent},
+                        {R"("garbage": true)", Effect::Silent},
+                        {R"("truncate": 7)", Effect::Silent},
+                        {R"("length": 65535)", Effect::Silent},
+                        {R"("length": 0)", Effect::Foreign},
+                        {R"("code": "0x7777")", Effect::Foreign},
+                        {R"("doubled": true)", Effect::None},
+                        {R"("closed": true)", Effect::Closed},
+                        {R"("reset": true)", Effect::Closed},
+                        {R"("closeAfterReply": true)", Effect::ClosedAfter},
+                        {R"("result": 5)", Effect::Refused}};
+
+// A manager on a printer whose values can all be sent, and whose name and settings can be compared
+// with what another manager reads from the same printer.
+class Faults : public testing::Test {
+  protected:
+    Faults()
+        : served(printerOf(R"({"password": "abcd1234", "items": {"0x3103": 3, "0x3104": "Net"}})"),
+                 OnePrinterLibrary::Transport::Tcp, {}, wait) {
+        installLibrary(served.library());
+        manager = DWTDataManager::dataManager(served.entry());
+        stop = NotificationCenter::shared().observe(
+            DWT_DataSend_Stop_Message,
+            [this](const Notification &n) {
+                stopped = n.userInfo.value(MSW_Searching_Value_Current).toInt();
+            },
+            manager.get());
+    }
+    ~Faults() override { installLibrary(nullptr); }
+
+    void setFault(const QByteArray &item, const Fault *fault) {
+        const QByteArray items = fault ? "\"" + item + "\": {" + fault->description + "}" : "";
+        served.printer().setFaults(
+            printerOf("{\"faults\": {\"items\": {" + items + "}}}")->faults());
+    }
+    void change(const QString &viewKey, const CategoryDictionary &values) {
+        auto category = manager->setupDataFromChangeData(viewKey).value_or(CategoryDictionary());
+        category.insert(values);
+        manager->setupDataFromMainView(category, viewKey);
+    }
+    // Enters another value for every item.
+    void changeAll(int encryption) {
+        using Kind = SentItem::Kind;
+        const QString name = u'n' + QString::number(++round);
+        change(DWT_View_Key_Password, {{DWT_SaveData_Password_Change, 1}});
+        for (const SentItem &item : sentItems()) {
+            const bool key =
+                Rules::ruleOf(item.keys.last()) && Rules::ruleOf(item.keys.last())->secret;
+            CategoryDictionary values{{item.keys[0], round % 2 + 1}};
+            if (item.kind == Kind::Text || item.kind == Kind::CountedText)
+                values = {{item.keys[0], key ? password : name}};
+            if (item.kind == Kind::WEPKey) values.insert(item.keys[1], u"abcde"_s);
+            if (item.kind == Kind::Interface)
+                values = {{item.keys[0], 1},
+                          {item.keys[1], QStringList{u"10"_s, QString::number(round / 200), u"0"_s,
+                                                     QString::number(round % 200)}}};
+            if (item.code == 0x3103) values = {{item.keys[0], encryption}};
+            change(item.viewKey, values);
+        }
+    }
+    // Logs in and sends, with a fault in the send.
+    void sendWith(const QByteArray &item, const Fault *fault) {
+        ASSERT_EQ(manager->connectPrinter(), 0);
+        ASSERT_EQ(manager->checkLoginPassword(password), 4);
+        manager->disconnectPrinter();
+        setFault(item, fault);
+        stopped = -1;
+        manager->sendDataToPrinter();
+        MainThread::finishBackgroundWork();
+        setFault({}, nullptr);
+    }
+    // The items in which the saved data differs from what the printer holds.
+    QList<ItemCode> lies() {
+        const auto other = DWTDataManager::dataManager(served.entry());
+        EXPECT_EQ(other->setupDataFromPrinter(0), 0);
+        QList<ItemCode> codes;
+        for (const SentItem &item : sentItems()) {
+            if (!item.told || item.code == 0x3202) continue;
+            const auto saved =
+                manager->setupDataToMainView(item.viewKey).value_or(CategoryDictionary());
+            const auto held = *other->setupDataToMainView(item.viewKey);
+            for (const QString &key : item.keys)
+                if (saved.value(key) != held.value(key) && !codes.contains(item.code))
+                    codes << item.code;
+        }
+        return codes;
+    }
+
+    OnePrinterLibrary served;
+    std::shared_ptr<DWTDataManager> manager;
+    NotificationCenter::Observer stop;
+    int stopped = -1;
+    int round = 0;
+};
+
+TEST_F(Faults, OfOneReplyInASendNeverMakeTheSavedDataLie) {
+    ASSERT_EQ(manager->setupDataFromPrinter(0), 0);
+    const QByteArray steps[] = {"0x1001", "0x1003", "0x1004", "0x1005", "0x1006", "0x2001",
+                                "0x3000", "0x3102", "0x3103", "0x3104", "0x3105", "0x3106",
+                                "0x3108", "0x3201", "0x3202", "0x1007"};
+    for (const QByteArray &step : steps) {
+        const auto code = ItemCode(step.toUInt(nullptr, 16));
+        for (const Fault &fault : faults) {
+            SCOPED_TRACE((step + ' ' + fault.description).constData());
+            changeAll(code == 0x3106 ? 1 : 3);
+            sendWith(step, &fault);
+            const SendReport report = manager->sendReport();
+            const Effect effect = fault.effect;
+            const bool lost = effect == Effect::Closed || effect == Effect::ClosedAfter;
+            const bool unclear = effect == Effect::Silent || effect == Effect::Foreign;
+            EXPECT_EQ(stopped, lost);
+            EXPECT_EQ(report.lost, lost);
+            EXPECT_EQ(report.isComplete(), effect == Effect::None);
+            const bool login = code == 0x1001;
+            EXPECT_EQ(report.login == Login::NoReply,
+                      login && (unclear || effect == Effect::Closed));
+            EXPECT_EQ(report.login == Login::Refused, login && effect == Effect::Refused);
+            EXPECT_EQ(report.unclear, unclear && !login ? QList{code} : QList<ItemCode>());
+            EXPECT_EQ(report.refused.size(), effect == Effect::Refused && !login);
+            for (const ItemCode lie : lies()) EXPECT_TRUE(report.unclear.contains(lie)) << lie;
+            // The next try works, and says so.
+            sendWith({}, nullptr);
+            EXPECT_EQ(stopped, 0);
+            EXPECT_TRUE(manager->sendReport().isComplete());
+            EXPECT_EQ(lies(), QList<ItemCode>());
+        }
+    }
+}
+
+TEST_F(Faults, OfOneReplyInAReadingWriteNothingThatWasNotTold) {
+    ASSERT_EQ(manager->setupDataFromPrinter(0), 0);
+    const QByteArray steps[] = {"0x1006", "0x1004", "0x1005", "0x3000", "0x3100", "0x3200",
+                                "0x3108", "0x3119", "0x3101", "0x3102", "0x3103", "0x3104",
+                                "0x3204", "0x3205", "0x3210", "0x3211", "0x3212", "0x3201",
+                                "0x3202", "0x2001", "0x2002", "0x2000", "0x1008", "0x1007"};
+    for (const QByteArray &step : steps) {
+        const auto code = ItemCode(step.toUInt(nullptr, 16));
+        for (const Fault &fault : faults) {
+            SCOPED_TRACE((step + ' ' + fault.description).constData());
+            QMap<ItemCode, QByteArray> held;
+            for (const SentItem &item : sentItems())
+                held.insert(item.code, served.printer().item(item.code));
+            setFault(step, &fault);
+            const int result = manager->setupDataFromPrinter(0);
+            setFault({}, nullptr);
+            const Effect effect = fault.effect;
+            const bool told = effect == Effect::None || effect == Effect::Refused ||
+                              effect == Effect::ClosedAfter;
+            const bool answered =
+                effect == Effect::ClosedAfter ? code == 0x1007 : told || effect == Effect::Foreign;
+            EXPECT_EQ(result, answered ? 0 : 6);
+            if (sentItem(code)) {
+                EXPECT_EQ(manager->notTold().contains(code), !told);
+            }
+            change(DWT_View_Key_Wireless,
+                   {{DWT_SaveData_Wireless_CommunicateMode, ++round % 2 + 1}});
+            sendWith({}, nullptr);
+            EXPECT_EQ(stopped, 0);
+            served.receivedUntilEnd();
+            held.insert(0x3000, QByteArray(1, char(round % 2 + 1)) + '\0');
+            for (auto i = held.begin(); i != held.end(); ++i)
+                EXPECT_EQ(served.printer().item(i.key()), *i) << std::hex << i.key();
+            EXPECT_EQ(manager->setupDataFromPrinter(0), 0) << "the next reading";
+            EXPECT_EQ(lies(), QList<ItemCode>());
+        }
+    }
+}
+
+}  // namespace
