@@ -122,7 +122,7 @@ bool DWTBaseView::checkAddresses(Alert &alert) const {
     QStringList names, rules;
     for (const Field &field : m_fields) {
         if (!field.rule || field.kind != Kind::Address || !field.control->isEnabled() ||
-            passes(field))
+            isUnknown(field) || passes(field))
             continue;
         if (names.isEmpty()) {
             field.line()->setFocus();
@@ -135,12 +135,8 @@ bool DWTBaseView::checkAddresses(Alert &alert) const {
     return names.isEmpty();
 }
 
-// A number that was neither told nor entered stays what it is.
 void DWTBaseView::forceIntoRange(const Field &number) const {
-    const int shown = integerOf(number.line()->text());
-    if (ndm_Object && !ndm_Object->isTold(number.key) &&
-        shown == integerValue(savedCategory(), number.key))
-        return;
+    if (isUnknown(number)) return;
     const int value = Rules::numberInRange(number.line()->text(), *number.rule);
     number.line()->setText(QString::number(value));
 }
@@ -209,6 +205,13 @@ bool DWTBaseView::isUnchangedText(const Field &field) const {
     const CategoryDictionary saved = savedCategory();
     return field.kind == Kind::Text && !textValue(saved, field.key).isEmpty() &&
            field.line()->text() == textOf(field, saved);
+}
+
+bool DWTBaseView::isUnknown(const Field &field) const {
+    const CategoryDictionary saved = savedCategory();
+    const auto known = saved.constFind(field.key);
+    return ndm_Object && !ndm_Object->isTold(field.key) && known != saved.constEnd() &&
+           valueOf(field) == *known;
 }
 
 QString DWTBaseView::labelOf(const QString &key) const {

@@ -188,6 +188,8 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // A value of a row as a person reads it.
     QString textOf(const Field &field, const CategoryDictionary &category) const;
     bool isUnchangedText(const Field &field) const;
+    // Whether the printer did not tell the value of a row, and nobody entered one.
+    bool isUnknown(const Field &field) const;
     bool checkAddresses(Alert &alert) const;
     void forceIntoRange(const Field &number) const;
     void postSendState(bool unchanged);

@@ -71,6 +71,39 @@ TEST_F(Networks, NoListOutsideInfrastructureModeAndAnEmptyOneWithoutAPrinter) {
     click("button_InfrastructureSelectSSID");
 }
 
+TEST_F(Networks, NamesAboveAsciiAreShownAsTheyAreAndKeepTheirBytes) {
+    open(R"({"items": {"0x3000": 1, "0x3102": 3, "0x3103": 3}, "scanPolls": 0,
+             "networks": [{"ssid": "倉庫", "mode": 2, "authentic": 2, "encryption": 3, "signal": -50}]})");
+    const auto pick = [](QWidget *dialog, TableView *table) {
+        EXPECT_EQ(table->model()->index(0, 0).data().toString(), text("倉庫"));
+        table->selectRow(0);
+        press(dialog, "button_SelectSSIDWindowOK");
+    };
+    const auto sendNow = [this] {
+        dialogs.confirmAndEnd();
+        click("button_MainSend");
+        EXPECT_TRUE(dialogs.isDone());
+        EXPECT_EQ(served->printer().item(0x3104), hex("0600") + QByteArray("倉庫"));
+    };
+    EXPECT_EQ(list(pick), text("倉庫"));
+    sendNow();
+    EXPECT_FALSE(isEnabled("button_MainSend"));
+    click("button_MainNewSetting");  // which would ask about a difference
+    EXPECT_EQ(field("textField_InfrastructureSSID")->text(), text("倉庫"));
+    type("textField_PrintTimeOut", "77");
+    sendNow();
+    list(pick);
+    dialogs.on("view_UpdateChangeCheck", "button_UpdateChangeCheckOK");
+    click("button_MainNewSetting");
+    EXPECT_EQ(field("textField_InfrastructureSSID")->text(), text("倉庫"));
+    type("textField_InfrastructureSSID", "typed");
+    dialogs.confirmAndEnd();
+    click("button_MainSend");
+    EXPECT_EQ(served->printer().item(0x3104), hex("0500") + QByteArray("typed"));
+    click("button_MainCancel");
+    EXPECT_FALSE(isOpen());
+}
+
 TEST_F(Networks, TheWPSGuideLeadsForwardAndOut) {
     open("{}");
     choose("Infrastructure");

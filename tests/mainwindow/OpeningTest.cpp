@@ -4,6 +4,8 @@
 
 namespace {
 
+using namespace Qt::StringLiterals;
+
 const char *const gone = R"({"refuseConnection": true})";
 const char *const silentItem = R"({"items": {"0x2001": {"noReply": true}}})";
 const char *const cannotBeUsed = "The connection to the printer cannot be used";
@@ -56,6 +58,42 @@ TEST_F(Opening, ReadingAgainEndsInItsOwnState) {
         EXPECT_EQ(control("textField_ReadOnly")->isVisible(), !c.editable);
         EXPECT_FALSE(isEnabled("button_MainSend"));
     }
+}
+
+TEST_F(Opening, WhatThePrinterDidNotTellIsNamedAndStaysUnsent) {
+    open(
+        R"({"items": {"0x1004": "desk", "0x1007": 90, "0x3102": 3, "0x3103": 3}, "faults": {"items": {
+             "0x1004": {"code": "0x7777"}, "0x2001": {"length": 7}, "0x1007": {"length": 0},
+             "0x3102": {"code": "0x7777"}}}})");
+    EXPECT_EQ(
+        control<QLabel>("textField_ReadOnly")->text().section(u": "_s, 1),
+        text("Names: Bonjour name; Wired network: IP address; Infrastructure: Authentication; "
+             "Device: Print time-out"));
+    EXPECT_EQ(name(), QString());
+    EXPECT_FALSE(isEnabled("button_MainSend"));
+    setFaults("{}");
+    choose("Device");
+    control("textField_PrintTimeOut")->setFocus();
+    QTest::keyClick(control("textField_PrintTimeOut"), Qt::Key_Tab);
+    EXPECT_FALSE(isEnabled("button_MainSend")) << "a field that was only looked at";
+    const char *const warned = "The connection to the printer needs your attention";
+    type("textField_NetworkBonjourService", "service");
+    dialogs.alert(warned).confirmAndEnd();
+    click("button_MainSend");
+    EXPECT_TRUE(dialogs.isDone());
+    EXPECT_EQ(served->received().remove(u"start ?1000 update end start "_s),
+              u"=1005 =1006 =3000 =3103 =3108 =3201 =3202 update end"_s);
+    dialogs.alert(warned).confirmAndEnd();
+    typeName("desk-2");
+    click("button_MainSend");
+    EXPECT_EQ(held(), QByteArray("desk-2"));
+    click("button_MainCancel");
+    EXPECT_FALSE(isOpen()) << "asked about changes that are not there";
+}
+
+TEST_F(Opening, ASecurityThatHadToBeMadeToFitCanBeSentAtOnce) {
+    open(R"({"items": {"0x3102": 2, "0x3103": 1}})");
+    EXPECT_TRUE(isEnabled("button_MainSend"));
 }
 
 TEST_F(Opening, TheOutlineSwitchesPagesAndStoresTheOneLeft) {

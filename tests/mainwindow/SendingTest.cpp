@@ -65,6 +65,7 @@ TEST_F(Sending, TheLoginIsAskedForUntilItIsRightOrCancelled) {
         return [typed](QWidget *dialog) {
             auto *password = controlOf<QLineEdit>(dialog, "textField_Password");
             EXPECT_EQ(password->text(), text(typed));
+            EXPECT_EQ(password->selectedText().size(), password->text().size());
             EXPECT_EQ(dialog->focusWidget(), password);
         };
     };

@@ -189,4 +189,26 @@ TEST_F(Faults, OfOneReplyInAReadingWriteNothingThatWasNotTold) {
     }
 }
 
+TEST_F(Faults, OfTheConnectionInASearchOrALoginEndThemAtOnce) {
+    manager->setScanInterval(std::chrono::milliseconds(100));
+    for (const char *frames : {"1", "2", "3"}) {
+        SCOPED_TRACE(frames);
+        const auto close =
+            printerOf(QByteArray("{\"faults\": {\"closeAfterFrames\": ") + frames + "}}");
+        served.printer().setFaults(close->faults());
+        const QDeadlineTimer soon(500);
+        EXPECT_EQ(manager->SSIDList(), std::nullopt);
+        EXPECT_FALSE(soon.hasExpired()) << "polled a closed connection";
+        setFault({}, nullptr);
+        EXPECT_TRUE(manager->SSIDList()) << "the next search";
+    }
+    ASSERT_EQ(manager->connectPrinter(), 0);
+    setFault("0x1001", &faults[8]);
+    EXPECT_EQ(manager->checkLoginPassword(password), SettingResult::NoReply);
+    manager->disconnectPrinter();
+    setFault({}, nullptr);
+    sendWith({}, nullptr);
+    EXPECT_EQ(stopped, 0);
+}
+
 }  // namespace

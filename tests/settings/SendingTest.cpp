@@ -178,6 +178,13 @@ TEST_P(Send, LogsInOnceWithTheRememberedPasswordAndARefusedLoginWritesNothing) {
     EXPECT_EQ(send(), u"start =1001 update end"_s);
     EXPECT_EQ(steps, u"Start0 Stop0 "_s);
     EXPECT_EQ(saved(DWT_View_Key_Firmware), "Firmware='1.000' Firmware_Timeout=60");
+    m->setFaults("{}");
+    logIn();
+    m->setFaults(R"({"refuseConnection": true})");
+    m->manager->sendDataToPrinter();
+    MainThread::finishBackgroundWork();
+    m->setFaults("{}");
+    EXPECT_TRUE(send().startsWith(u"start =1004"_s)) << "a password was kept";
 }
 
 TEST_P(Send, OutlivesItsOwnerAndFinishesWhenTheApplicationEnds) {

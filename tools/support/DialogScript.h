@@ -117,9 +117,10 @@ class DialogScript : public QObject {
             m_unanswered.invalidate();
             answer(window);
         } else if (m_unanswered.hasExpired(longestWait)) {
-            scriptFailed(
-                text("unanswered: %1 while waiting for %2")
-                    .arg(window->objectName(), isDone() ? text("nothing") : m_steps.front().view));
+            const auto *alert = qobject_cast<QMessageBox *>(window);
+            scriptFailed(text("unanswered: %1 while waiting for %2")
+                             .arg(alert ? alert->text() : window->objectName(),
+                                  isDone() ? text("nothing") : m_steps.front().view));
             m_steps.clear();
             Modal::stop(window);
             window->hide();
