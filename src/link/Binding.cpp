@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <mutex>
 
+#include "platform/core/Texts.h"
 #include "zmlib/Catalogue.h"
 #include "zmlib/CatalogueLibrary.h"
 
@@ -14,7 +15,7 @@ std::shared_ptr<ZMLib> library;
 std::shared_ptr<ZMLib> libraryOfEnvironment() {
     Catalogue catalogue = catalogueFromEnvironment();
     for (const QString &problem : std::as_const(catalogue.problems))
-        std::fprintf(stderr, "%s\n", qUtf8Printable(problem));
+        std::fprintf(stderr, "%s\n", qUtf8Printable(terminalText(problem)));
     return std::make_shared<CatalogueLibrary>(std::move(catalogue));
 }
 

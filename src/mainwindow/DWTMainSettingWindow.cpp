@@ -162,7 +162,7 @@ bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &ent
     if (entry) {
         if (dictionary_PrinterInfo.isEmpty()) dictionary_PrinterInfo = *entry;
         const QString product = entry->value(PrinterKey::ProductName);
-        textField_SelectPrinterName->setText(product);
+        textField_SelectPrinterName->setText(shownText(product));
         if (!dataManager_Object) {
             dataManager_Object = DWTDataManager::dataManager(dictionary_PrinterInfo);
             for (const auto &page : dictionary_ViewManagement)

@@ -14,6 +14,7 @@
 #include "pages/DWTSimpleAPView.h"
 #include "pages/DWTWirelessView.h"
 #include "platform/core/NotificationCenter.h"
+#include "platform/ui/InertWindow.h"
 #include "platform/ui/OutlineView.h"
 #include "platform/ui/ViewStack.h"
 #include "platform/ui/Window.h"
@@ -146,6 +147,7 @@ class DWTMainSettingWindow : public QObject,
     QVariantMap dictionary_PrinterStatusTable;
     bool bool_usbPrinter = true;
     bool bool_GetDataSuccess = false;
-    bool m_open = false;  // between the first successful reading and the closing
+    std::optional<InertWindow> m_inert;  // while a send runs
+    bool m_open = false;                 // between the first successful reading and the closing
     std::vector<NotificationCenter::Observer> m_observers;
 };

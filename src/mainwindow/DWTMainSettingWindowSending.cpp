@@ -66,11 +66,13 @@ void DWTMainSettingWindow::push_SendLoginOK() {
 }
 
 void DWTMainSettingWindow::push_SendConfirmTransmission() {
+    m_inert.emplace(window_Main);
     window_SendData->showProgress();
     dataManager_Object->sendDataToPrinter();
 }
 
 void DWTMainSettingWindow::sayWhatWasSent() {
+    m_inert.reset();
     const auto text = [](const char *key) { return localized(QLatin1String(key)); };
     const SendReport &report = dataManager_Object->sendReport();
     if (report.lost)

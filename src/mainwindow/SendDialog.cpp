@@ -77,7 +77,7 @@ QString SendDialog::password() const {
 }
 
 void SendDialog::clearPassword() {
-    textField_Password->clear();
+    textField_Password->forget();
 }
 
 void SendDialog::sayInstead(const QString &viewKey, const QString &text) {

@@ -40,7 +40,12 @@ void DWTBaseView::TBV_Dealloc() {
 }
 
 void DWTBaseView::addField(Field field) {
-    if (auto *control = qobject_cast<TextField *>(field.control)) control->setDelegate(this);
+    if (auto *control = qobject_cast<TextField *>(field.control)) {
+        control->setDelegate(this);
+        if (field.rule && field.rule->secret)
+            control->setInputMethodHints(Qt::ImhSensitiveData | Qt::ImhNoPredictiveText |
+                                         Qt::ImhNoAutoUppercase | control->inputMethodHints());
+    }
     m_fields.push_back(std::move(field));
 }
 

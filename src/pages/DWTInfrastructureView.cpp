@@ -192,11 +192,11 @@ void DWTInfrastructureView::showSSIDFromSelectSSID(const SSIDEntry &network) {
 }
 
 void DWTInfrastructureView::clearEncryptionKey(bool) {
-    textField_InfrastructurePSK->clear();
-    textField_InfrastructureWEPKey->clear();
+    textField_InfrastructurePSK->forget();
+    textField_InfrastructureWEPKey->forget();
     popupbutton_InfrastructureSelectWEPKey->setCurrentIndex(0);
     // Enabled, all three follow the encryption.
-    const bool usable = popupbutton_InfrastructureEncryption->isEnabled();
+    const bool usable = popupbutton_InfrastructureEncryption->isEnabledTo(view_Base->window());
     for (QWidget *control : std::initializer_list<QWidget *>{popupbutton_InfrastructureSelectWEPKey,
                                                              textField_InfrastructurePSK,
                                                              textField_InfrastructureWEPKey})

@@ -56,8 +56,8 @@ QList<DWTBaseView::Change> DWTPasswordView::changes() const {
 
 void DWTPasswordView::passwordChangeSetting(bool on) {
     checkbox_PasswordChange->setChecked(on);
-    enableFields(on);
     if (!on) emptyFields();
+    enableFields(on);
     mutableDictionary_ViewSettings.insert(DWT_SaveData_Password_Change, on ? 1 : 0);
     mutableDictionary_ViewSettings.insert(DWT_SaveData_Password_Password, QString());
     handOver(mutableDictionary_ViewSettings);
@@ -93,6 +93,6 @@ void DWTPasswordView::enableFields(bool enabled) {
 }
 
 void DWTPasswordView::emptyFields() {
-    secureTextField_Password->clear();
-    secureTextField_PasswordReinput->clear();
+    secureTextField_Password->forget();
+    secureTextField_PasswordReinput->forget();
 }

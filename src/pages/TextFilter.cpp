@@ -13,5 +13,7 @@ void filterText(TextField *field, const QString &allowed) {
     const auto last = std::find_if(text.crbegin(), text.crend(), foreign).base();
     const qsizetype begin = first - text.cbegin();
     text.remove(begin, last - first);
+    // The change goes from the undo history, too: undoing it would only bring it back.
+    field->takeBack();
     field->replaceText(text, static_cast<int>(begin));
 }

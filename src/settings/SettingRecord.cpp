@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <limits>
 
+#include "platform/core/Texts.h"
+
 namespace {
 
 template <typename T>
@@ -36,7 +38,7 @@ QString readableText(const QString &text) {
     const QByteArray bytes = text.toLatin1();
     const QString decoded = QString::fromUtf8(bytes);
     const bool isBytes = QString::fromLatin1(bytes) == text;
-    return isBytes && decoded.toUtf8() == bytes ? decoded : text;
+    return shownText(isBytes && decoded.toUtf8() == bytes ? decoded : text);
 }
 
 int integerOf(const QString &text) {

@@ -29,7 +29,8 @@ QStringList addressValue(const CategoryDictionary &category, const QString &key)
 QByteArray bytesValue(const CategoryDictionary &category, const QString &key);
 
 // A text of the record as a person reads it: its characters are the bytes that were read, which
-// are shown as UTF-8 where they are that; nothing when it could not be read.
+// are shown as UTF-8 where they are that, and as shownText() does; nothing when it could not be
+// read.
 QString readableText(const QString &text);
 
 // The integer that a typed text stands for: optional leading spaces and sign, then the leading

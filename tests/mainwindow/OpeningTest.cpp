@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QLabel>
 
 #include "PrinterWindow.h"
@@ -10,7 +11,13 @@ const char *const gone = R"({"refuseConnection": true})";
 const char *const silentItem = R"({"items": {"0x2001": {"noReply": true}}})";
 const char *const cannotBeUsed = "The connection to the printer cannot be used";
 
-class Opening : public PrinterWindow {};
+class Opening : public PrinterWindow {
+  protected:
+    void pressByAssistiveTechnology(const char *button) {
+        auto *actions = QAccessible::queryAccessibleInterface(control(button))->actionInterface();
+        actions->doAction(QAccessibleActionInterface::pressAction());
+    }
+};
 
 TEST_F(Opening, EveryReadingResultEndsInItsOwnState) {
     const struct {
@@ -145,11 +152,17 @@ TEST_F(Opening, ASlowPrinterFreezesNothingAndClicksHaveNoEffectMeanwhile) {
         if (!control("progress_Wait")->isVisible()) return;
         ++ticks[served->printer().log().size()];
         click("button_MainCancel");
+        pressByAssistiveTechnology("button_MainCancel");
         QTest::keyClicks(field("textField_NetworkBonjour"), text("x"));
     });
     meanwhile.start(20);
-    click("button_MainNewSetting");
+    field("textField_NetworkPrinterName")->setFocus();
+    field("textField_NetworkPrinterName")->setSelection(2, 3);
+    pressByAssistiveTechnology("button_MainNewSetting");
     meanwhile.stop();
+    EXPECT_TRUE(field("textField_NetworkPrinterName")->hasFocus());
+    EXPECT_EQ(field("textField_NetworkPrinterName")->selectionStart(), 2);
+    EXPECT_EQ(field("textField_NetworkPrinterName")->selectionLength(), 3);
     QApplication::processEvents();
     EXPECT_TRUE(isOpen() && closings.isEmpty());
     EXPECT_EQ(name(), text("label-printer"));

@@ -63,6 +63,11 @@ TEST_P(AddressSetup, TypedAddressesAreFilteredStoredAndCompared) {
     EXPECT_EQ(address()->cursorPosition(), 8);
     EXPECT_EQ(state, DWT_MainDialog_SendNG_Message);
     EXPECT_FALSE(test()->isEnabled()) << "a test while addresses are edited";
+    QTest::keyClicks(address(), text("1x"));
+    EXPECT_EQ(address()->text(), text("10.0.0.51"));
+    for (int i = 0; i < 3; ++i) QTest::keySequence(address(), QKeySequence::Undo);
+    EXPECT_EQ(address()->text(), text("10.0.0.5")) << "undo stops at the filter";
+    address()->end(false);
     QTest::keyClicks(address(), text("0"));
     EXPECT_EQ(state, DWT_MainDialog_SendOK_Message);
     EXPECT_EQ(stored("IPAddress"), text("10.0.0.5")) << "stored before editing has ended";

@@ -122,6 +122,8 @@ TEST_F(InfrastructurePage, ClearedKeysCountAsUntouched) {
     type(psk(), text("short"));
     QTest::keyClick(psk(), Qt::Key_Return);
     page->clearEncryptionKey(true);
+    EXPECT_FALSE(psk()->isUndoAvailable()) << "a key comes back";
+    EXPECT_TRUE(psk()->inputMethodHints() & Qt::ImhSensitiveData);
     EXPECT_TRUE(psk()->text().isEmpty() && psk()->isEnabled() && !wepKey()->isEnabled());
     EXPECT_TRUE(alertsOf(true).isEmpty());
     choose(authentic(), "Open system");

@@ -40,8 +40,14 @@ TEST_F(PasswordPage, TheBoxOpensTheFieldsAndClosingItForgetsThem) {
     page->enableAllItems(false);
     EXPECT_FALSE(password()->isEnabled() || repeated()->isEnabled() || box()->isEnabled());
     page->enableAllItems(true);
-    box()->click();
+    password()->setFocus();
+    state.clear();
+    page->clearPassword(true);
     EXPECT_TRUE(isEmptyAndClosed());
+    EXPECT_EQ(state, QString()) << "clearing a field that has the focus posts";
+    EXPECT_FALSE(password()->isUndoAvailable()) << "a password comes back";
+    box()->click();
+    box()->click();
     EXPECT_EQ(changedNumber(DWT_SaveData_Password_Change), 0);
     EXPECT_EQ(state, DWT_MainDialog_SendNG_Message);
     EXPECT_TRUE(m.manager->isEqualToSaveData() && changeList().isEmpty());

@@ -5,8 +5,46 @@
 #include <QLocale>
 #include <QTranslator>
 
+namespace {
+
+bool isLineSeparator(QChar c) {
+    return c.category() == QChar::Separator_Line || c.category() == QChar::Separator_Paragraph;
+}
+
+// Marks, embeddings, overrides and isolates.
+bool isDirection(QChar c) {
+    const char16_t code = c.unicode();
+    return code == 0x061C || code == 0x200E || code == 0x200F ||
+           (code >= 0x202A && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
+}
+
+}  // namespace
+
 QString localized(const QString &key) {
     return qtTrId(key.toUtf8().constData());
+}
+
+QString shownText(const QString &text) {
+    QString shown;
+    for (const QChar c : text) {
+        const bool separates = c == u'\t' || c == u'\n' || c == u'\r' || isLineSeparator(c);
+        if (separates)
+            shown += u' ';
+        else if (c.category() != QChar::Other_Control && !isDirection(c))
+            shown += c;
+    }
+    return shown;
+}
+
+QString terminalText(const QString &text) {
+    QString escaped;
+    for (const QChar c : text) {
+        if (c.category() == QChar::Other_Control || isLineSeparator(c) || isDirection(c))
+            escaped += QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
+        else
+            escaped += c;
+    }
+    return escaped;
 }
 
 bool installTexts() {

@@ -6,6 +6,13 @@
 // a key without a text shows itself.
 QString localized(const QString &key);
 
+// A text from outside (a printer, a file, the network) as it is shown: on one line, without control
+// characters and without those that change the direction of what follows.
+QString shownText(const QString &text);
+
+// A text from outside as it goes to a terminal: on one line, control characters as \\xHH.
+QString terminalText(const QString &text);
+
 // Installs the texts of the resources (":/texts/network-setting-tool_LANGUAGE.qm") for the system's
 // language, or the English ones when there are none for it. False when neither could be read; the
 // keys then show themselves. Main thread; once.

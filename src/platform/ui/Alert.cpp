@@ -14,5 +14,6 @@ void Alert::runModal(QWidget *parent) const {
     QPushButton *const button = box.addButton(m_buttonTitle, QMessageBox::AcceptRole);
     box.setDefaultButton(button);
     box.setEscapeButton(button);
+    box.setEnabled(true);  // its parent may be inert
     box.exec();
 }

@@ -31,6 +31,7 @@ int Modal::run(QWidget *window) {
     QObject::connect(window, &QObject::destroyed, &current.loop, &QEventLoop::quit);
     window->hide();  // modality changes only while a window is hidden
     window->setWindowModality(Qt::ApplicationModal);
+    window->setEnabled(true);  // its parent may be inert
     window->show();
     window->raise();
     window->activateWindow();

@@ -1,12 +1,16 @@
 #include "platform/ui/TableView.h"
 
 #include <QAbstractTableModel>
+#include <QHash>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTextDocument>
 #include <QToolTip>
+
+#include "platform/core/Texts.h"
 
 // The data source as Qt's model sees it.
 class TableModel : public QAbstractTableModel {
@@ -25,11 +29,18 @@ class TableModel : public QAbstractTableModel {
     }
     QVariant data(const QModelIndex &index, int role) const override {
         if (!source || !index.isValid()) return {};
-        if (role == Qt::DecorationRole)
-            return readable(
-                source->iconForTableColumn(m_table, identifiers[index.column()], index.row()));
+        const QString &column = identifiers[index.column()];
+        if (role == Qt::DecorationRole) {
+            auto icon = m_icons.constFind({index.row(), index.column()});
+            if (icon == m_icons.constEnd())
+                icon = m_icons.insert(
+                    {index.row(), index.column()},
+                    readable(source->iconForTableColumn(m_table, column, index.row())));
+            return *icon;
+        }
         if (role != Qt::DisplayRole) return {};
-        return source->objectValueForTableColumn(m_table, identifiers[index.column()], index.row());
+        return shownText(
+            source->objectValueForTableColumn(m_table, column, index.row()).toString());
     }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
         if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
@@ -47,8 +58,11 @@ class TableModel : public QAbstractTableModel {
         titles[column] = title;
         Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
     }
+    // Makes the icons anew, in the colours of now.
+    void forgetIcons() { m_icons.clear(); }
     void reload() {
         beginResetModel();
+        m_icons.clear();
         m_rows = source ? source->numberOfRowsInTableView(m_table) : 0;
         endResetModel();
     }
@@ -69,6 +83,7 @@ class TableModel : public QAbstractTableModel {
 
     TableView *const m_table;
     int m_rows = 0;
+    mutable QHash<std::pair<int, int>, QVariant> m_icons;  // by row and column
 };
 
 TableView::TableView(QWidget *parent) : QTableView(parent), m_model(new TableModel(this)) {
@@ -141,6 +156,12 @@ void TableView::deselectAll() {
     selectionModel()->clear();
 }
 
+void TableView::changeEvent(QEvent *event) {
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange)
+        m_model->forgetIcons();
+    QTableView::changeEvent(event);
+}
+
 void TableView::mouseDoubleClickEvent(QMouseEvent *event) {
     QTableView::mouseDoubleClickEvent(event);
     if (event->button() == Qt::LeftButton)
@@ -171,7 +192,8 @@ bool TableView::viewportEvent(QEvent *event) {
     const QModelIndex index = indexAt(help->pos());
     const bool cut =
         index.isValid() && sizeHintForIndex(index).width() > columnWidth(index.column());
-    QToolTip::showText(help->globalPos(), cut ? index.data().toString().toHtmlEscaped() : QString(),
+    QToolTip::showText(help->globalPos(),
+                       cut ? Qt::convertFromPlainText(index.data().toString()) : QString(),
                        viewport());
     return true;
 }

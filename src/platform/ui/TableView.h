@@ -62,6 +62,7 @@ class TableView : public QTableView {
     void doubleAction(int clickedRow);
 
   protected:
+    void changeEvent(QEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     bool viewportEvent(QEvent *event) override;

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QSignalBlocker>
+#include <utility>
 
 #include "platform/core/NotificationCenter.h"
 
@@ -23,6 +24,16 @@ void TextField::replaceText(const QString &newText, int caret) {
     m_previous = text();
 }
 
+void TextField::takeBack() {
+    const QSignalBlocker blocker(this);
+    undo();
+}
+
+void TextField::forget() {
+    m_forgotten = hasFocus();
+    setText(QString());
+}
+
 void TextField::textDidChange() {
     const QPointer<TextField> alive(this);
     if (m_delegate) m_delegate->controlTextDidChange(this);
@@ -39,9 +50,9 @@ void TextField::focusInEvent(QFocusEvent *event) {
 void TextField::focusOutEvent(QFocusEvent *event) {
     const QPointer<TextField> alive(this);
     QLineEdit::focusOutEvent(event);
-    const bool stays =
-        event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
-    if (alive && !stays) endEditing();
+    const bool stays = event->reason() == Qt::PopupFocusReason ||
+                       event->reason() == Qt::ActiveWindowFocusReason || !window()->isEnabled();
+    if (alive && !stays && !std::exchange(m_forgotten, false)) endEditing();
 }
 
 void TextField::keyPressEvent(QKeyEvent *event) {
@@ -59,6 +70,7 @@ void TextField::hideEvent(QHideEvent *event) {
 void TextField::userChangedText() {
     const QPointer<TextField> alive(this);
     m_userChange = true;
+    m_forgotten = false;
     if (!m_editing && !beginEditing()) return;
     if (alive) textDidChange();
 }

@@ -33,6 +33,12 @@ class TextField : public QLineEdit {
     // selected. For filters; reports nothing.
     void replaceText(const QString &text, int caret);
 
+    // Undoes the last step that the user made; for filters. Reports nothing.
+    void takeBack();
+    // Empties the field and its undo history, as for a secret that was used; reports nothing, also
+    // when the field then loses the focus.
+    void forget();
+
   protected:
     // Editing begins; text() is the old text. Does nothing by itself.
     virtual void textDidBeginEditing() {}
@@ -54,5 +60,6 @@ class TextField : public QLineEdit {
     TextFieldDelegate *m_delegate = nullptr;
     QString m_previous;  // the text before the change that is being made
     bool m_editing = false;
+    bool m_forgotten = false;   // emptied while it had the focus, and not changed since
     bool m_userChange = false;  // between the two signals of a change that the user made
 };

@@ -1,6 +1,5 @@
 #include "platform/ui/WaitSheet.h"
 
-#include <QApplication>
 #include <QDeadlineTimer>
 #include <QProgressBar>
 #include <QWindow>
@@ -16,7 +15,7 @@ constexpr int longestExposure = 500;
 }  // namespace
 
 WaitSheet::WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator)
-    : m_sheet(sheet), m_indicator(indicator), m_focus(QApplication::focusWidget()) {
+    : m_sheet(sheet), m_indicator(indicator), m_wasActive(parent->isActiveWindow()) {
     indicator->setRange(0, 0);  // busy
     sheet->hide();              // modality changes only while a window is hidden
     sheet->setParent(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
@@ -29,6 +28,7 @@ WaitSheet::WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator)
         return sheet->windowHandle() && sheet->windowHandle()->isExposed();
     };
     waitUntil(exposed, QDeadlineTimer(longestExposure));
+    m_inert.emplace(parent);
     sheet->repaint();
     parent->repaint();
 }
@@ -40,8 +40,8 @@ WaitSheet::~WaitSheet() {
         m_indicator->reset();
     }
     const bool active = m_sheet && m_sheet->isActiveWindow();
+    QWidget *const parent = m_sheet ? m_sheet->parentWidget() : nullptr;
     if (m_sheet) m_sheet->hide();
-    if (!m_focus || !active) return;  // another window was opened meanwhile
-    m_focus->activateWindow();
-    m_focus->setFocus(Qt::OtherFocusReason);
+    if (active && m_wasActive) parent->activateWindow();  // unless another window was opened
+    m_inert.reset();
 }

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <QPointer>
+#include <optional>
+
+#include "platform/ui/InertWindow.h"
 
 class QProgressBar;
-class QWidget;
 
 // Shows a wait window while it lives. Both windows have been painted when the constructor returns;
-// the indicator moves whenever the work calls idle(), and what the user does meanwhile is dropped.
+// the indicator moves whenever the work calls idle(), and what the user does meanwhile is dropped:
+// the parent is inert.
 class WaitSheet {
   public:
     // `sheet` is shown window-modally, centred on `parent`; `indicator` is a bar inside it. The
@@ -20,5 +23,6 @@ class WaitSheet {
   private:
     const QPointer<QWidget> m_sheet;
     const QPointer<QProgressBar> m_indicator;
-    const QPointer<QWidget> m_focus;
+    const bool m_wasActive;
+    std::optional<InertWindow> m_inert;
 };
