@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "virtualprinter/Bytes.h"
+#include "virtualprinter/Description.h"
 #include "virtualprinter/Profile.h"
 
 namespace {
@@ -93,7 +94,7 @@ std::optional<QByteArray> addressesFromJson(const Item &item, const QJsonValue &
     const bool hasSetting = item.kind == Kind::Interface;
     for (const QString &key : object.keys())
         if (!names.contains(key) && !(hasSetting && key == u"setting"))
-            problem = QStringLiteral("unknown key \"%1\"").arg(key);
+            problem = QStringLiteral("unknown key \"%1\"").arg(quotable(key));
     QByteArray value;
     if (hasSetting) {
         const auto setting = number(object[u"setting"], greatestSetting);

@@ -1,10 +1,10 @@
 #include "virtualprinter/Profile.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <cmath>
 
+#include "virtualprinter/Description.h"
 #include "virtualprinter/Items.h"
 
 namespace {
@@ -15,7 +15,7 @@ class Reader {
     QString error;
 
     void fail(const QString &place, const QString &reason) {
-        if (error.isEmpty()) error = place + QStringLiteral(": ") + reason;
+        if (error.isEmpty()) error = quotable(place) + QStringLiteral(": ") + reason;
     }
 
     // Fails for every key that is not among `known`.
@@ -76,8 +76,15 @@ class Reader {
     }
 };
 
+QHash<quint16, QByteArray> initialItems() {
+    QHash<quint16, QByteArray> items;
+    for (const Items::Item &item : Items::all()) items.insert(item.code, item.initial);
+    return items;
+}
+
 void readItems(Reader &reader, const QJsonObject &object, Profile &profile) {
-    for (const Items::Item &item : Items::all()) profile.items.insert(item.code, item.initial);
+    static const QHash<quint16, QByteArray> initial = initialItems();
+    profile.items = initial;
     const QString place = QStringLiteral("items.");
     for (const QString &key : object.keys()) {
         const auto code = reader.code(key, place);
@@ -192,15 +199,14 @@ ProfileResult profileFromJson(const QJsonObject &object) {
                                        mostScanPolls, profile.scanPolls);
     profile.faults = readFaults(reader, reader.object(object, QStringLiteral("faults"), QString()));
     if (!reader.error.isEmpty()) return {{}, reader.error};
-    return {profile, {}};
+    return {std::move(profile), {}};
 }
 
 ProfileResult profileFromFile(const QString &path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {{}, QStringLiteral("%1: %2").arg(path, file.errorString())};
+    const DescriptionText text = readDescription(path);
+    if (!text.bytes) return {{}, QStringLiteral("%1: %2").arg(path, text.error)};
     QJsonParseError parseError;
-    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &parseError);
+    const QJsonDocument document = QJsonDocument::fromJson(*text.bytes, &parseError);
     if (!document.isObject()) {
         const QString reason = parseError.error == QJsonParseError::NoError
                                    ? QStringLiteral("not a JSON object")

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QJsonObject>
 #include <QList>
 #include <QMap>
@@ -51,8 +52,8 @@ struct Network {
 };
 
 struct Profile {
-    QByteArray password;              // at most longestPassword bytes; empty: none
-    QMap<quint16, QByteArray> items;  // every item, in the layout of Items.h
+    QByteArray password;               // at most longestPassword bytes; empty: none
+    QHash<quint16, QByteArray> items;  // every item, in the layout of Items.h
     QList<Network> networks;
     int scanPolls = 1;  // polls answered before the search has finished
     Faults faults;
@@ -67,5 +68,5 @@ struct ProfileResult {
 // Reads a description. Everything in it is checked; what is unknown is refused.
 ProfileResult profileFromJson(const QJsonObject &object);
 
-// Reads a description from a file.
+// Reads a description from a file, which must be a regular one of at most longestDescription bytes.
 ProfileResult profileFromFile(const QString &path);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QList>
-#include <QMap>
 #include <memory>
 #include <mutex>
 
@@ -66,7 +66,7 @@ class VirtualPrinter {
         bool m_started = false;
         bool m_loggedIn = false;
         int m_frames = 0;
-        QMap<quint16, QByteArray> m_staged;
+        QHash<quint16, QByteArray> m_staged;
         std::optional<QByteArray> m_stagedPassword;
     };
 

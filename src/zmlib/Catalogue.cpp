@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "virtualprinter/Description.h"
 #include "virtualprinter/Profile.h"
 #include "virtualprinter/VirtualPrinter.h"
 
@@ -18,7 +19,8 @@ const QString profileKey = QStringLiteral("profile");
 QString problemWithTexts(const QJsonObject &object) {
     for (const QString &key : object.keys()) {
         if (key == profileKey) continue;
-        if (!entryKeys.contains(key)) return QStringLiteral("unknown key \"%1\"").arg(key);
+        if (!entryKeys.contains(key))
+            return QStringLiteral("unknown key \"%1\"").arg(quotable(key));
         if (!object[key].isString()) return QStringLiteral("\"%1\" is not a text").arg(key);
     }
     const QString connection = object[PrinterKey::ConnectionType].toString();
@@ -39,7 +41,8 @@ QString addVirtualPrinter(const QString &uri, const QJsonObject &object, Catalog
         return QStringLiteral("\"profile\" is not an object");
     ProfileResult result = profileFromJson(description.toObject());
     if (!result.profile) return QStringLiteral("profile: %1").arg(result.error);
-    catalogue.virtualPrinters.insert(uri, std::make_shared<VirtualPrinter>(*result.profile));
+    catalogue.virtualPrinters.insert(uri,
+                                     std::make_shared<VirtualPrinter>(std::move(*result.profile)));
     return {};
 }
 
@@ -57,28 +60,33 @@ QString addEntry(const QJsonValue &value, Catalogue &catalogue) {
     const QJsonObject object = value.toObject();
     const QString uri = object[PrinterKey::DeviceURI].toString();
     if (uri.isEmpty()) return QStringLiteral("\"DeviceURI\" is missing");
-    for (const PrinterEntry &entry : std::as_const(catalogue.entries))
-        if (entry[PrinterKey::DeviceURI] == uri)
-            return QStringLiteral("\"%1\" is listed already").arg(uri);
+    if (catalogue.lists(uri)) return QStringLiteral("\"%1\" is listed already").arg(quotable(uri));
     QString problem = problemWithTexts(object);
     if (!problem.isEmpty()) return problem;
 
     const QUrl url(uri, QUrl::StrictMode);
-    problem = QStringLiteral("\"%1\" is neither virtual://name nor tcp://host:port").arg(uri);
     if (url.scheme() == u"virtual" && !url.host().isEmpty())
         problem = addVirtualPrinter(uri, object, catalogue);
     else if (url.scheme() == u"tcp")
         problem = problemWithTcp(url, object);
+    else
+        problem = QStringLiteral("\"%1\" is neither virtual://name nor tcp://host:port")
+                      .arg(quotable(uri));
     if (!problem.isEmpty()) return problem;
 
     PrinterEntry entry;
     for (const QString &key : entryKeys)
         if (object.contains(key)) entry.insert(key, object[key].toString());
-    catalogue.entries.append(entry);
+    catalogue.add(entry);
     return {};
 }
 
 }  // namespace
+
+void Catalogue::add(const PrinterEntry &entry) {
+    entries.append(entry);
+    m_uris.insert(entry[PrinterKey::DeviceURI]);
+}
 
 Catalogue catalogueFromJson(const QByteArray &json, const QString &source) {
     Catalogue catalogue;
@@ -107,11 +115,14 @@ Catalogue catalogueFromJson(const QByteArray &json, const QString &source) {
 Catalogue catalogueFromEnvironment() {
     const QString name = qEnvironmentVariable("ZMLIB_PRINTERS");
     if (name.isEmpty()) return {};
-    QFile file(name == u"demo" ? QStringLiteral(":/zmlib/demo.json") : name);
-    if (!file.open(QIODevice::ReadOnly)) {
-        Catalogue nothing;
-        nothing.problems << QStringLiteral("%1: %2").arg(name, file.errorString());
-        return nothing;
+    if (name == u"demo") {
+        QFile file(QStringLiteral(":/zmlib/demo.json"));
+        file.open(QIODevice::ReadOnly);
+        return catalogueFromJson(file.readAll(), name);
     }
-    return catalogueFromJson(file.readAll(), name);
+    const DescriptionText text = readDescription(name);
+    if (text.bytes) return catalogueFromJson(*text.bytes, name);
+    Catalogue nothing;
+    nothing.problems << QStringLiteral("%1: %2").arg(name, text.error);
+    return nothing;
 }

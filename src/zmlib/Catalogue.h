@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QMap>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -25,11 +26,21 @@ struct Catalogue {
     // What was wrong, one readable line each, naming the source and the entry. Entries named here
     // are not listed; the others are.
     QStringList problems;
+
+    // Appends an entry whose URI is not listed yet.
+    void add(const PrinterEntry &entry);
+
+    // Whether add() has appended an entry of this URI; takes the same time for any number of them.
+    bool lists(const QString &uri) const { return m_uris.contains(uri); }
+
+  private:
+    QSet<QString> m_uris;
 };
 
 // Reads a catalogue from JSON text; `source` names it in the problems.
 Catalogue catalogueFromJson(const QByteArray &json, const QString &source);
 
 // The catalogue named by the environment variable ZMLIB_PRINTERS: the path of a catalogue file, or
-// "demo" for the built-in one. Unset or empty: no printers and no problem.
+// "demo" for the built-in one. Unset or empty: no printers and no problem. The file must be a
+// regular one of at most longestDescription bytes.
 Catalogue catalogueFromEnvironment();

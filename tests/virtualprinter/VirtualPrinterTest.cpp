@@ -35,30 +35,26 @@ TEST(VirtualPrinter, RefusesWhatAPrinterWouldNotUnderstand) {
     const QByteArray key = hex("0500") + "abcde" + zeros.left(21);
     const QByteArray name = frame('F', 0x1006, "Label-Printer");
     const auto spoilt = [](QByteArray bytes) { return bytes.replace(bytes.size() - 1, 1, "x"); };
-    const auto setting = [&](quint16 code, const QByteArray &payload) {
-        return start + frame('F', code, payload);
-    };
-    const auto result = [](quint16 code, char number) {
-        return frame('R', code, QByteArray(1, number) + '\0');
+    const auto setting = [&](quint16 code, const QByteArray &payload, int result) {
+        return std::pair(start + frame('F', code, payload),
+                         frame('R', code, QByteArray(1, static_cast<char>(result)) + '\0'));
     };
     const std::pair<QByteArray, QByteArray> cases[] = {
         {otherThanStartAndEnd + readName, {}},
         {start + otherThanStartAndEnd + readName, name},
         {start + readScan, frame('F', 0x3120, zeros.left(4))},
-        {setting(0x3104, ssid), result(0x3104, 0)},
-        {setting(0x3104, spoilt(ssid)), result(0x3104, 4)},
-        {setting(0x3201, ssid), result(0x3201, 0)},
-        {setting(0x3201, spoilt(ssid)), result(0x3201, 4)},
-        {setting(0x3106, hex("0000") + key), result(0x3106, 4)},
-        {setting(0x3106, hex("0100") + key), result(0x3106, 0)},
-        {setting(0x3106, hex("0400") + key), result(0x3106, 0)},
-        {setting(0x3106, hex("0500") + key), result(0x3106, 4)},
-        {setting(0x3106, hex("0100") + spoilt(key)), result(0x3106, 4)},
-        {setting(0x2001, hex("0100") + zeros.left(12)), result(0x2001, 0)},
-        {setting(0x2001, hex("0200") + zeros.left(12)), result(0x2001, 4)},
-        {setting(0x3108, hex("0001") + zeros.left(12)), result(0x3108, 4)},
-        {setting(0x3108, {}), result(0x3108, 4)},
-    };
+        setting(0x3104, ssid, 0),
+        setting(0x3104, spoilt(ssid), 4),
+        setting(0x3201, spoilt(ssid), 4),
+        setting(0x3106, hex("0000") + key, 4),
+        setting(0x3106, hex("0100") + key, 0),
+        setting(0x3106, hex("0400") + key, 0),
+        setting(0x3106, hex("0500") + key, 4),
+        setting(0x3106, hex("0100") + spoilt(key), 4),
+        setting(0x2001, hex("0100") + zeros.left(12), 0),
+        setting(0x2001, hex("0200") + zeros.left(12), 4),
+        setting(0x3108, hex("0001") + zeros.left(12), 4),
+        setting(0x3108, {}, 4)};
     for (const auto &[bytes, expected] : cases) {
         const auto printer = printerOf("{}");
         QByteArray replies;
@@ -67,44 +63,31 @@ TEST(VirtualPrinter, RefusesWhatAPrinterWouldNotUnderstand) {
     }
 }
 
+// What comes back over loopback, until the connection ends or `enough` bytes are there.
 struct Answer {
     QByteArray bytes;
     std::string end = "open";  // "closed", "reset"
-    qsizetype pieces = 0;
-};
+    qsizetype packets = 0;
 
-Answer answerInProcess(VirtualPrinter &printer, const QByteArray &sent) {
-    const auto channel = printer.openChannel();
-    const auto replies = channel->receive(sent);
-    Answer answer{{}, channel->isReset() ? "reset" : "closed", replies.size()};
-    if (channel->isOpen()) answer.end = "open";
-    for (const auto &reply : replies) answer.bytes += reply.bytes;
-    return answer;
-}
-
-// The same over loopback, until the connection ends or more than `enough` bytes have come.
-Answer answerOverTcp(const std::shared_ptr<VirtualPrinter> &printer, const QByteArray &sent,
-                     qsizetype enough) {
-    const PrinterServerThread server(printer);
-    const int fd = ::socket(AF_INET, SOCK_STREAM, 0);
-    const auto port = static_cast<quint16>(QUrl(server.uri()).port());
-    const sockaddr_in name{AF_INET, htons(port), {htonl(INADDR_LOOPBACK)}, {}};
-    EXPECT_EQ(::connect(fd, reinterpret_cast<const sockaddr *>(&name), sizeof name), 0);
-    EXPECT_EQ(::send(fd, sent.constData(), static_cast<size_t>(sent.size()), 0), sent.size());
-    Answer answer;
-    char buffer[512];
-    while (answer.bytes.size() < enough && answer.end == "open") {
-        const ssize_t n = ::recv(fd, buffer, sizeof buffer, 0);
-        if (n <= 0) answer.end = n == 0 ? "closed" : "reset";
-        answer.bytes.append(buffer, std::max<ssize_t>(n, 0));
+    Answer(const PrinterServerThread &server, const QByteArray &sent, qsizetype enough) {
+        const int fd = ::socket(AF_INET, SOCK_STREAM, 0);
+        const auto port = static_cast<quint16>(QUrl(server.uri()).port());
+        const sockaddr_in name{AF_INET, htons(port), {htonl(INADDR_LOOPBACK)}, {}};
+        EXPECT_EQ(::connect(fd, reinterpret_cast<const sockaddr *>(&name), sizeof name), 0);
+        EXPECT_EQ(::send(fd, sent.constData(), static_cast<size_t>(sent.size()), 0), sent.size());
+        char buffer[512];
+        while (bytes.size() < enough && end == "open") {
+            const ssize_t n = ::recv(fd, buffer, sizeof buffer, 0);
+            if (n <= 0) end = n == 0 ? "closed" : "reset";
+            bytes.append(buffer, std::max<ssize_t>(n, 0));
+        }
+        tcp_info info{};
+        socklen_t size = sizeof info;
+        EXPECT_EQ(::getsockopt(fd, IPPROTO_TCP, TCP_INFO, &info, &size), 0);
+        packets = info.tcpi_data_segs_in;
+        ::close(fd);
     }
-    tcp_info info{};
-    socklen_t size = sizeof info;
-    EXPECT_EQ(::getsockopt(fd, IPPROTO_TCP, TCP_INFO, &info, &size), 0);
-    answer.pieces = info.tcpi_data_segs_in;
-    ::close(fd);
-    return answer;
-}
+};
 
 TEST(VirtualPrinter, FaultsSpoilTheReplyTheyAreSaidToSpoil) {
     const QByteArray name = frame('F', 0x1006, "AB");
@@ -134,22 +117,20 @@ TEST(VirtualPrinter, FaultsSpoilTheReplyTheyAreSaidToSpoil) {
         {R"("piecewise": true, "delay": 9)", name + taken, "open", 45, 9, true},
     };
     for (const auto &c : cases) {
-        for (const bool tcp : {false, true}) {
-            SCOPED_TRACE(c.faults + std::string(tcp ? " over TCP" : " in the process"));
-            const QByteArray profile = R"({"items": {"0x1006": "AB"}, "faults": {)";
-            const auto printer = printerOf(profile + c.faults + "}}");
-            const QByteArray sent = start + readName + frame('F', 0x1007, hex("2d00")) + update;
-            QElapsedTimer clock;
-            clock.start();
-            const bool ends = qstrcmp(c.end, "open") != 0;
-            const Answer answer = tcp ? answerOverTcp(printer, sent, c.replies.size() + ends)
-                                      : answerInProcess(*printer, sent);
-            EXPECT_EQ(answer.bytes.toHex(), c.replies.toHex());
-            EXPECT_EQ(answer.end, c.end);
-            EXPECT_EQ(answer.pieces > 4, c.piecewise);
-            EXPECT_GE(clock.elapsed(), tcp ? c.delay : 0);
-            EXPECT_EQ(printer->item(0x1007)[0], c.timeout);
-        }
+        SCOPED_TRACE(c.faults);
+        const QByteArray profile = R"({"items": {"0x1006": "AB"}, "faults": {)";
+        const auto printer = printerOf(profile + c.faults + "}}");
+        const PrinterServerThread server(printer);
+        const QByteArray sent = start + readName + frame('F', 0x1007, hex("2d00")) + update;
+        QElapsedTimer clock;
+        clock.start();
+        const bool ends = qstrcmp(c.end, "open") != 0;
+        const Answer answer(server, sent, c.replies.size() + ends);
+        EXPECT_EQ(answer.bytes.toHex(), c.replies.toHex());
+        EXPECT_EQ(answer.end, c.end);
+        EXPECT_EQ(answer.packets > 4, c.piecewise);
+        EXPECT_GE(clock.elapsed(), c.delay);
+        EXPECT_EQ(printer->item(0x1007)[0], c.timeout);
     }
 }
 
