@@ -88,8 +88,9 @@ bool DWTPasswordView::fieldsAgree() const {
 }
 
 void DWTPasswordView::enableFields(bool enabled) {
-    secureTextField_Password->setEnabled(enabled);
+    // The second first, so that the first does not hand it the focus.
     secureTextField_PasswordReinput->setEnabled(enabled);
+    secureTextField_Password->setEnabled(enabled);
 }
 
 void DWTPasswordView::emptyFields() {

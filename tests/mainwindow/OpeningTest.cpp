@@ -159,8 +159,10 @@ TEST_F(Opening, ASlowPrinterFreezesNothingAndClicksHaveNoEffectMeanwhile) {
     field("textField_NetworkPrinterName")->setFocus();
     field("textField_NetworkPrinterName")->setSelection(2, 3);
     pressByAssistiveTechnology("button_MainNewSetting");
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return ticks.size() > 5 && isEnabled("button_MainCancel"); }));
     meanwhile.stop();
-    EXPECT_TRUE(field("textField_NetworkPrinterName")->hasFocus());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return field("textField_NetworkPrinterName")->hasFocus(); }));
     EXPECT_EQ(field("textField_NetworkPrinterName")->selectionStart(), 2);
     EXPECT_EQ(field("textField_NetworkPrinterName")->selectionLength(), 3);
     QApplication::processEvents();

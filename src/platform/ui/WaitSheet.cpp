@@ -19,6 +19,8 @@ WaitSheet::WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator)
     indicator->setRange(0, 0);  // busy
     sheet->hide();              // modality changes only while a window is hidden
     sheet->setParent(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    m_inert.emplace(parent);
+    sheet->setEnabled(true);
     sheet->setWindowModality(Qt::WindowModal);
     sheet->adjustSize();
     const QRect area(parent->mapToGlobal(QPoint(0, 0)), parent->size());
@@ -28,7 +30,6 @@ WaitSheet::WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator)
         return sheet->windowHandle() && sheet->windowHandle()->isExposed();
     };
     waitUntil(exposed, QDeadlineTimer(longestExposure));
-    m_inert.emplace(parent);
     sheet->repaint();
     parent->repaint();
 }
