@@ -444,6 +444,9 @@
     <message id="DWT_Localize_App_Name">
         <translation>Network Setting Tool</translation>
     </message>
+    <message id="DWT_Localize_App_Hangs">
+        <translation>Das Programm läuft bereits, antwortet aber nicht. Beenden Sie es und starten Sie es dann erneut.</translation>
+    </message>
     <message id="DWT_Localize_Wait_TextField">
         <translation>Bitte warten…</translation>
     </message>

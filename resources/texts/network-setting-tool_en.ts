@@ -444,6 +444,9 @@
     <message id="DWT_Localize_App_Name">
         <translation>Network Setting Tool</translation>
     </message>
+    <message id="DWT_Localize_App_Hangs">
+        <translation>The tool is running already, but does not answer. End it, then start it again.</translation>
+    </message>
     <message id="DWT_Localize_Wait_TextField">
         <translation>Please wait…</translation>
     </message>

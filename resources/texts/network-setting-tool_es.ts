@@ -444,6 +444,9 @@
     <message id="DWT_Localize_App_Name">
         <translation>Network Setting Tool</translation>
     </message>
+    <message id="DWT_Localize_App_Hangs">
+        <translation>El programa ya se está ejecutando, pero no responde. Ciérrelo y vuelva a iniciarlo.</translation>
+    </message>
     <message id="DWT_Localize_Wait_TextField">
         <translation>Espere…</translation>
     </message>

@@ -444,6 +444,9 @@
     <message id="DWT_Localize_App_Name">
         <translation>Network Setting Tool</translation>
     </message>
+    <message id="DWT_Localize_App_Hangs">
+        <translation>Le programme est déjà lancé, mais ne répond pas. Arrêtez-le, puis relancez-le.</translation>
+    </message>
     <message id="DWT_Localize_Wait_TextField">
         <translation>Veuillez patienter…</translation>
     </message>

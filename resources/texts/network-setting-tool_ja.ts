@@ -444,6 +444,9 @@
     <message id="DWT_Localize_App_Name">
         <translation>Network Setting Tool</translation>
     </message>
+    <message id="DWT_Localize_App_Hangs">
+        <translation>このツールはすでに起動していますが、応答がありません。終了してからもう一度起動してください。</translation>
+    </message>
     <message id="DWT_Localize_Wait_TextField">
         <translation>お待ちください…</translation>
     </message>

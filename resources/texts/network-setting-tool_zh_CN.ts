@@ -444,6 +444,9 @@
     <message id="DWT_Localize_App_Name">
         <translation>Network Setting Tool</translation>
     </message>
+    <message id="DWT_Localize_App_Hangs">
+        <translation>此工具已在运行，但没有响应。请先结束它，然后重新启动。</translation>
+    </message>
     <message id="DWT_Localize_Wait_TextField">
         <translation>请稍候…</translation>
     </message>

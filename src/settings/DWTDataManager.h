@@ -84,10 +84,10 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // Writes the change data to the printer on a thread of its own, which keeps this object alive,
     // and returns at once. Reports by the notifications DWT_DataSend_Start_Message (0),
     // DWT_DataSend_Progress_Message (16, 33, 50, 66, 85, 100) and DWT_DataSend_Stop_Message (0; 1
-    // when the printer could not be connected, or the connection was lost before anything was
-    // applied), each handled on the main thread before the send goes on, with this object as sender
-    // and the MSW_Searching_Value_ numbers. The saved data then holds what the printer accepted.
-    // Not to be called again before the stop.
+    // when no thread or the printer could not be had, or the connection was lost before anything
+    // was applied), each handled on the main thread before the send goes on, with this object as
+    // sender and the MSW_Searching_Value_ numbers. The saved data then holds what the printer
+    // accepted. Not to be called again before the stop.
     void sendDataToPrinter();
     // What happened in the last send; written until its stop.
     const SendReport &sendReport() const { return m_report; }

@@ -47,8 +47,11 @@ bool SendReport::isClean(ItemCode code) const {
 }
 
 void DWTDataManager::sendDataToPrinter() {
-    MainThread::startBackgroundWork(
-        [self = shared_from_this()] { self->NDM_SendDataToPrinterThread(); });
+    const auto work = [self = shared_from_this()] { self->NDM_SendDataToPrinterThread(); };
+    if (MainThread::startBackgroundWork(work)) return;
+    m_report = {};
+    wipe(loginPassword_String);
+    NDM_ProgressSetting(DWT_DataSend_Stop_Message, 1);
 }
 
 int DWTDataManager::NDM_ResultDataToInteger(const std::optional<QByteArray> &reply, ItemCode code) {

@@ -126,8 +126,10 @@ QList<QHostAddress> addressesOf(const QString &host, const QDeadlineTimer &deadl
     if (const QHostAddress address(host); !address.isNull()) return {address};
     const auto promise = std::make_shared<std::promise<QList<QHostAddress>>>();
     auto found = promise->get_future();
-    MainThread::startBackgroundWork(
-        [host, promise] { promise->set_value(QHostInfo::fromName(host).addresses()); });
+    const auto lookUp = [host, promise] {
+        promise->set_value(QHostInfo::fromName(host).addresses());
+    };
+    if (!MainThread::startBackgroundWork(lookUp)) return {};
     const auto ready = [&] {
         return found.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
     };

@@ -207,6 +207,9 @@ TEST(Start, PrintsItsHelpAndVersionAndOtherwiseReopensTheInstanceThatRuns) {
         for (const char *starts : {"-Installer", "--helpful", "help", ""})
             EXPECT_EQ(printed(starts), QString()) << starts;
         EXPECT_TRUE(QTest::qWaitFor([&] { return reopened == 4; }));
+        const SingleInstance second(50);  // while no event loop runs here
+        EXPECT_FALSE(second.isFirst() || second.isAnswered())
+            << "a first that hangs goes unnoticed";
     }
     const SingleInstance next;
     EXPECT_TRUE(next.isFirst()) << "the first has gone";

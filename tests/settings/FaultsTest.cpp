@@ -118,11 +118,10 @@ class Faults : public testing::Test {
 
 TEST_F(Faults, OfOneReplyInASendNeverMakeTheSavedDataLie) {
     ASSERT_EQ(manager->setupDataFromPrinter(0), 0);
-    const QByteArray steps[] = {"0x1001", "0x1003", "0x1004", "0x1005", "0x1006", "0x2001",
-                                "0x3000", "0x3102", "0x3103", "0x3104", "0x3105", "0x3106",
-                                "0x3108", "0x3201", "0x3202", "0x1007"};
-    for (const QByteArray &step : steps) {
-        const auto code = ItemCode(step.toUInt(nullptr, 16));
+    QList<ItemCode> steps{0x1001};
+    for (const SentItem &item : sentItems()) steps << item.code;
+    for (const ItemCode code : steps) {
+        const QByteArray step = "0x" + QByteArray::number(code, 16);
         for (const Fault &fault : faults) {
             SCOPED_TRACE((step + ' ' + fault.description).constData());
             changeAll(code == 0x3106 ? 1 : 3);
@@ -152,12 +151,11 @@ TEST_F(Faults, OfOneReplyInASendNeverMakeTheSavedDataLie) {
 
 TEST_F(Faults, OfOneReplyInAReadingWriteNothingThatWasNotTold) {
     ASSERT_EQ(manager->setupDataFromPrinter(0), 0);
-    const QByteArray steps[] = {"0x1006", "0x1004", "0x1005", "0x3000", "0x3100", "0x3200",
-                                "0x3108", "0x3119", "0x3101", "0x3102", "0x3103", "0x3104",
-                                "0x3204", "0x3205", "0x3210", "0x3211", "0x3212", "0x3201",
-                                "0x3202", "0x2001", "0x2002", "0x2000", "0x1008", "0x1007"};
-    for (const QByteArray &step : steps) {
-        const auto code = ItemCode(step.toUInt(nullptr, 16));
+    const ItemCode steps[] = {0x1006, 0x1004, 0x1005, 0x3000, 0x3100, 0x3200, 0x3108, 0x3119,
+                              0x3101, 0x3102, 0x3103, 0x3104, 0x3204, 0x3205, 0x3210, 0x3211,
+                              0x3212, 0x3201, 0x3202, 0x2001, 0x2002, 0x2000, 0x1008, 0x1007};
+    for (const ItemCode code : steps) {
+        const QByteArray step = "0x" + QByteArray::number(code, 16);
         for (const Fault &fault : faults) {
             SCOPED_TRACE((step + ' ' + fault.description).constData());
             QMap<ItemCode, QByteArray> held;

@@ -1,3 +1,5 @@
+#include <pthread.h>
+
 #include "platform/core/MainThread.h"
 #include "platform/core/NotificationCenter.h"
 #include "support/DataManagers.h"
@@ -197,6 +199,19 @@ TEST_P(Send, OutlivesItsOwnerAndFinishesWhenTheApplicationEnds) {
     EXPECT_TRUE(manager.expired());
     EXPECT_TRUE(m->served.receivedUntilEnd().endsWith(u"=1007 update end"_s)) << "the end was lost";
     EXPECT_EQ(m->printer().item(0x1007), hex("2d00"));
+}
+
+TEST_P(Send, WithoutAThreadStopsAtOnceAndLetsTheApplicationEnd) {
+    read("{}");
+    pthread_attr_t usual, huge;
+    ASSERT_EQ(pthread_getattr_default_np(&usual), 0);
+    huge = usual;
+    ASSERT_EQ(pthread_attr_setstacksize(&huge, size_t{1} << 46), 0);
+    ASSERT_EQ(pthread_setattr_default_np(&huge), 0);
+    m->manager->sendDataToPrinter();
+    pthread_setattr_default_np(&usual);
+    EXPECT_EQ(steps, u"Stop1 "_s);
+    MainThread::finishBackgroundWork();
 }
 
 }  // namespace

@@ -1,12 +1,3 @@
-#include <linux/tcp.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
-#include <unistd.h>
-
-#include <QElapsedTimer>
-#include <QUrl>
-
-#include "support/PrinterServerThread.h"
 #include "support/Profiles.h"
 
 namespace {
@@ -60,77 +51,6 @@ TEST(VirtualPrinter, RefusesWhatAPrinterWouldNotUnderstand) {
         QByteArray replies;
         for (const auto &reply : printer->openChannel()->receive(bytes)) replies += reply.bytes;
         EXPECT_EQ(replies.toHex(), expected.toHex()) << bytes.toHex().constData();
-    }
-}
-
-// What comes back over loopback, until the connection ends or `enough` bytes are there.
-struct Answer {
-    QByteArray bytes;
-    std::string end = "open";  // "closed", "reset"
-    qsizetype packets = 0;
-
-    Answer(const PrinterServerThread &server, const QByteArray &sent, qsizetype enough) {
-        const int fd = ::socket(AF_INET, SOCK_STREAM, 0);
-        const auto port = static_cast<quint16>(QUrl(server.uri()).port());
-        const sockaddr_in name{AF_INET, htons(port), {htonl(INADDR_LOOPBACK)}, {}};
-        EXPECT_EQ(::connect(fd, reinterpret_cast<const sockaddr *>(&name), sizeof name), 0);
-        EXPECT_EQ(::send(fd, sent.constData(), static_cast<size_t>(sent.size()), 0), sent.size());
-        char buffer[512];
-        while (bytes.size() < enough && end == "open") {
-            const ssize_t n = ::recv(fd, buffer, sizeof buffer, 0);
-            if (n <= 0) end = n == 0 ? "closed" : "reset";
-            bytes.append(buffer, std::max<ssize_t>(n, 0));
-        }
-        tcp_info info{};
-        socklen_t size = sizeof info;
-        EXPECT_EQ(::getsockopt(fd, IPPROTO_TCP, TCP_INFO, &info, &size), 0);
-        packets = info.tcpi_data_segs_in;
-        ::close(fd);
-    }
-};
-
-TEST(VirtualPrinter, FaultsSpoilTheReplyTheyAreSaidToSpoil) {
-    const QByteArray name = frame('F', 0x1006, "AB");
-    const QByteArray taken = frame('R', 0x1007, hex("0000"));
-    const QByteArray refused = frame('R', 0x1007, hex("0900"));
-    QByteArray length = name;
-    length.replace(3, 2, "\xff\xff");
-    const struct {
-        const char *faults;
-        QByteArray replies;
-        const char *end;
-        int timeout;  // which the printer holds at the end: 60 s, or 45 when the change was made
-        int delay = 0;
-        bool piecewise = false;
-    } cases[] = {
-        {R"("items": {"0x1006": {"doubled": true}})", name + name + taken, "open", 45},
-        {R"("items": {"0x1006": {"delay": 20}})", name + taken, "open", 45, 20},
-        {R"("items": {"0x1006": {"code": "0x0077"}})", frame('F', 0x77, "AB") + taken, "open", 45},
-        {R"("items": {"0x1006": {"truncate": 3}})", name.left(3) + taken, "open", 45},
-        {R"("items": {"0x1006": {"length": 65535}})", length + taken, "open", 45},
-        {R"("items": {"0x1006": {"closed": true}})", "", "closed", 60},
-        {R"("items": {"0x1006": {"reset": true}})", "", "reset", 60},
-        {R"("items": {"0x1006": {"closeAfterReply": true, "delay": 9}})", name, "closed", 60, 9},
-        {R"("items": {"0x1007": {"result": 9}})", name + refused, "open", 60},
-        {R"("items": {"0x1007": {"noReply": true}})", name, "open", 45},
-        {R"("items": {"0x1007": {"closed": true}})", name, "closed", 60},
-        {R"("piecewise": true, "delay": 9)", name + taken, "open", 45, 9, true},
-    };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.faults);
-        const QByteArray profile = R"({"items": {"0x1006": "AB"}, "faults": {)";
-        const auto printer = printerOf(profile + c.faults + "}}");
-        const PrinterServerThread server(printer);
-        const QByteArray sent = start + readName + frame('F', 0x1007, hex("2d00")) + update;
-        QElapsedTimer clock;
-        clock.start();
-        const bool ends = qstrcmp(c.end, "open") != 0;
-        const Answer answer(server, sent, c.replies.size() + ends);
-        EXPECT_EQ(answer.bytes.toHex(), c.replies.toHex());
-        EXPECT_EQ(answer.end, c.end);
-        EXPECT_EQ(answer.packets > 4, c.piecewise);
-        EXPECT_GE(clock.elapsed(), c.delay);
-        EXPECT_EQ(printer->item(0x1007)[0], c.timeout);
     }
 }
 

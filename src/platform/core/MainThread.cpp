@@ -5,6 +5,7 @@
 #include <condition_variable>
 #include <deque>
 #include <mutex>
+#include <system_error>
 #include <thread>
 
 namespace {
@@ -75,19 +76,25 @@ bool MainThread::callAndWait(const std::function<void()> &work) {
     return true;
 }
 
-void MainThread::startBackgroundWork(std::function<void()> work) {
+bool MainThread::startBackgroundWork(std::function<void()> work) {
     finishWithApplication();
-    {
+    const auto count = [](int change) {
         const std::lock_guard lock(state().mutex);
-        ++state().running;
-    }
-    std::thread([work = std::move(work)]() mutable {
-        work();
-        work = nullptr;  // what it holds goes before the application is told that it ended
-        const std::lock_guard lock(state().mutex);
-        --state().running;
+        state().running += change;
         state().changed.notify_all();
-    }).detach();
+    };
+    count(1);
+    try {
+        std::thread([work = std::move(work), count]() mutable {
+            work();
+            work = nullptr;  // what it holds goes before the application is told that it ended
+            count(-1);
+        }).detach();
+    } catch (const std::system_error &) {
+        count(-1);
+        return false;
+    }
+    return true;
 }
 
 void MainThread::finishBackgroundWork() {

@@ -15,7 +15,8 @@ bool callAndWait(const std::function<void()> &work);
 
 // Starts `work` on a new detached thread. It may use callAndWait(). The application object waits
 // for it before it goes (see finishBackgroundWork()), so work that was started is always finished.
-void startBackgroundWork(std::function<void()> work);
+// False when the system has no thread for it; the work is then not done.
+[[nodiscard]] bool startBackgroundWork(std::function<void()> work);
 
 // Waits on the main thread until no background work is left, running what it hands to the main
 // thread meanwhile. Runs by itself when the application object is destroyed.

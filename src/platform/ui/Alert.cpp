@@ -3,10 +3,14 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 void Alert::runModal(QWidget *parent) const {
-    QMessageBox box(parent ? parent : QApplication::activeWindow());
+    // It goes with its parent, which may happen while it is up.
+    const QPointer<QMessageBox> shown(
+        new QMessageBox(parent ? parent : QApplication::activeWindow()));
+    QMessageBox &box = *shown;
     box.setIcon(m_style == Style::Critical ? QMessageBox::Critical : QMessageBox::Warning);
     box.setText(m_messageText);
     box.setInformativeText(m_informativeText);
@@ -16,4 +20,5 @@ void Alert::runModal(QWidget *parent) const {
     box.setEscapeButton(button);
     box.setEnabled(true);  // its parent may be inert
     box.exec();
+    delete shown;
 }

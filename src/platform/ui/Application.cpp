@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <algorithm>
+#include <cstdio>
 
 #include "platform/core/Texts.h"
 #include "platform/ui/OutlinedStyle.h"
@@ -37,8 +38,13 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv) {
 int Application::main(int argc, char **argv, const MakeDelegate &makeDelegate) {
     Application application(argc, argv);
     SingleInstance instance;
-    if (!instance.isFirst()) return 0;
     installTexts();
+    if (!instance.isFirst()) {
+        if (instance.isAnswered()) return 0;
+        const QString hangs = localized(QStringLiteral("DWT_Localize_App_Hangs"));
+        std::fprintf(stderr, "%s\n", qUtf8Printable(hangs));
+        return 1;
+    }
     const auto delegate = makeDelegate();
     if (!delegate) return 1;
     application.setDelegate(delegate.get());

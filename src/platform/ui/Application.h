@@ -34,7 +34,7 @@ class Application : public QApplication {
 
     // Makes the application with its texts and its delegate, and runs it until it terminates. When
     // it runs already, tells that instance of the new start instead. Result: the exit status of the
-    // process, 0 unless the delegate could not be made.
+    // process, 0 unless the delegate could not be made, or the running instance does not answer.
     static int main(int argc, char **argv, const MakeDelegate &makeDelegate);
 
     // Asks the delegate to quit, and ends the event loop when it agrees. False when it does not, or

@@ -7,8 +7,6 @@
 
 namespace {
 
-// How long the process that was first may take to answer, in milliseconds.
-constexpr int longestAnswer = 5000;
 // Between two tries, in milliseconds.
 constexpr int retryPause = 50;
 
@@ -19,15 +17,18 @@ QString pathOf(const QString &suffix) {
 
 }  // namespace
 
-SingleInstance::SingleInstance() : m_lock(pathOf(QStringLiteral(".lock"))) {
+SingleInstance::SingleInstance(int longestAnswer) : m_lock(pathOf(QStringLiteral(".lock"))) {
     m_lock.setStaleLockTime(0);  // stale only when its process is gone
     const QString socket = pathOf(QStringLiteral(".socket"));
     // The first process may be on its way in (no socket yet) or out (no lock any more). A folder in
-    // which nothing can be locked, or a first process that does not answer, keeps nobody out.
+    // which nothing can be locked, or a first process without a socket, keeps nobody out.
     const QDeadlineTimer deadline(longestAnswer);
     while (!m_lock.tryLock(retryPause) && m_lock.error() == QLockFile::LockFailedError) {
-        if (tellFirst(socket)) {
+        QLocalSocket first;
+        first.connectToServer(socket);
+        if (first.waitForConnected(retryPause)) {
             m_first = false;
+            m_answered = first.waitForReadyRead(longestAnswer);
             return;
         }
         if (deadline.hasExpired()) return;
@@ -35,15 +36,12 @@ SingleInstance::SingleInstance() : m_lock(pathOf(QStringLiteral(".lock"))) {
     if (!m_lock.isLocked()) return;
     QLocalServer::removeServer(socket);  // left by a process that died
     connect(&m_server, &QLocalServer::newConnection, this, [this] {
-        delete m_server.nextPendingConnection();
+        QLocalSocket *const again = m_server.nextPendingConnection();
+        connect(again, &QLocalSocket::disconnected, again, &QObject::deleteLater);
+        again->write("!");  // any byte will do
+        again->flush();
         Q_EMIT startedAgain();
     });
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     m_server.listen(socket);
-}
-
-bool SingleInstance::tellFirst(const QString &socket) {
-    QLocalSocket first;
-    first.connectToServer(socket);
-    return first.waitForConnected(retryPause);
 }

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QTest>
 #include <QTimer>
 
+#include "platform/ui/Alert.h"
 #include "platform/ui/Modal.h"
 #include "platform/ui/ModalWindow.h"
 
@@ -43,6 +45,13 @@ TEST(Modal, StopsTheRunOfTheWindowAndNoOther) {
     });
     EXPECT_EQ(outcomes, (QList<int>{Modal::stoppedOutcome, 4}));
     EXPECT_NE(Modal::stoppedOutcome, 0);
+}
+
+TEST(Alert, EndsWithItsParent) {
+    auto *const parent = new QWidget;
+    QTimer::singleShot(0, parent, [parent] { delete parent; });
+    Alert(Alert::Style::Warning).runModal(parent);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 }  // namespace
