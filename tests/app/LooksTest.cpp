@@ -95,6 +95,8 @@ TEST_P(Looks, NoTextIsCutAndEveryControlHasANameForAScreenReader) {
     lookAtEach(walk->selector->window(), "view_PrinterSelector");
     walk->selector->applicationDidFinishLaunching();
     ASSERT_TRUE(walk->open(text("Packing-Desk")));
+    EXPECT_EQ(controlOf<QLineEdit>(walk->main(), "textField_InfrastructureSSID")->text(),
+              text("倉庫"));
     auto *outline = controlOf<OutlineView>(walk->main(), "outlineView_Main");
     outline->setFocus();
     QTest::keyClick(outline, Qt::Key_Up);

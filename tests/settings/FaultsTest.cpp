@@ -69,14 +69,15 @@ class Faults : public testing::Test {
         for (const SentItem &item : sentItems()) {
             const bool key =
                 Rules::ruleOf(item.keys.last()) && Rules::ruleOf(item.keys.last())->secret;
-            CategoryDictionary values{{item.keys[0], round % 2 + 1}};
+            CategoryDictionary values{
+                {item.keys[0], item.kind == Kind::Interface ? 1 : round % 2 + 1}};
             if (item.kind == Kind::Text || item.kind == Kind::CountedText)
                 values = {{item.keys[0], key ? password : name}};
             if (item.kind == Kind::WEPKey) values.insert(item.keys[1], u"abcde"_s);
-            if (item.kind == Kind::Interface)
-                values = {{item.keys[0], 1},
-                          {item.keys[1], QStringList{u"10"_s, QString::number(round / 200), u"0"_s,
-                                                     QString::number(round % 200)}}};
+            for (int i = 1; item.kind == Kind::Interface && i < 4; ++i)
+                values.insert(item.keys[i],
+                              QStringList{u"10"_s, QString::number(i), QString::number(round / 200),
+                                          QString::number(round % 200)});
             if (item.code == 0x3103) values = {{item.keys[0], encryption}};
             change(item.viewKey, values);
         }

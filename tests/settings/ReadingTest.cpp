@@ -95,7 +95,6 @@ TEST_P(Reading, AForeignReplyLeavesOneDefaultAndEndsItsCategory) {
         const char *values;
     } cases[] = {{"0x3108", DWT_View_Key_Infrastructure, ""},
                  {"0x2001", DWT_View_Key_Ethernet, "Ethernet_MACAddress='02004C000101'"},
-                 {"0x3205", DWT_View_Key_SimpleAP, "SimpleAP_WirelessMode=4"},
                  {"0x1005", DWT_View_Key_Network,
                   "Network_Bonjour='desk' Network_BonjourService=' ' Network_Printer='Desk'"},
                  {"0x3201", DWT_View_Key_SimpleAP,

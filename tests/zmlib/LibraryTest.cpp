@@ -10,8 +10,6 @@ using Transport = OnePrinterLibrary::Transport;
 
 const QList<QByteArray> commands{hex("1b7b045501567d"), hex("1b7b0377777d"), hex("1b7b045500557d")};
 const QByteArray readName = hex("1b7b056606107c7d");
-const QByteArray readBonjour = hex("1b7b056604107a7d");
-const QByteArray bonjourC = hex("43463b07003b04103b433b08");
 const QByteArray nameAB = hex("43463b08003b06103b41423b4a");
 const QByteArray writeAB = hex("43463b09003b06103b4142003b4a");
 const QByteArray accepted = hex("43523b08003b06103b00003bc7");
@@ -36,10 +34,10 @@ class Library : public testing::TestWithParam<Transport> {
         return library().ZMEndCommandAndEngageDisConnect(served->uri(), commands, 20, limit);
     }
     // The reply in hexadecimal digits, or the library's result.
-    std::string get(int area = ZMLib::replyArea, const QByteArray &request = readName) {
+    std::string get(int area = ZMLib::replyArea) {
         QByteArray reply;
         const int result =
-            library().ZMGetSettingData(served->uri(), area, request, reply, commands, limit);
+            library().ZMGetSettingData(served->uri(), area, readName, reply, commands, limit);
         EXPECT_EQ(result == 0, !reply.isEmpty());
         return result == 0 ? reply.toHex().toStdString() : std::to_string(result);
     }
@@ -74,28 +72,6 @@ TEST_P(Library, ATransactionPutsExactlyItsFramesOnTheWire) {
     EXPECT_EQ(finish(), 0);
     EXPECT_EQ(served->receivedUntilEnd(),
               QStringLiteral("start start =1006 update end start ?1006 ?1006 update end"));
-}
-
-TEST_P(Library, ABadReplyIsTheFailureOfOneExchange) {
-    const struct {
-        const char *faults;
-        int result;
-    } cases[] = {{R"({"items": {"0x1006": {"noReply": true}}})", ZMLib::TimedOut},
-                 {R"({"items": {"0x1006": {"delay": 130}}})", ZMLib::TimedOut},
-                 {R"({"items": {"0x1006": {"truncate": 3}}})", ZMLib::TimedOut},
-                 {R"({"items": {"0x1006": {"length": 65535}}})", ZMLib::TimedOut},
-                 {R"({"items": {"0x1006": {"garbage": true}}})", ZMLib::NotAReply}};
-    serve(
-        R"({"items": {"0x1006": "AB", "0x1004": "C"}, "faults": {"items": {"0x1004": {"delay": 60}}}})");
-    for (const auto &c : cases) {
-        ASSERT_EQ(engage(), 0) << c.faults;
-        setFaults(c.faults);
-        EXPECT_EQ(get(), std::to_string(c.result)) << c.faults;
-        setFaults(R"({"items": {"0x1004": {"delay": 60}}})");
-        EXPECT_EQ(get(ZMLib::replyArea, readBonjour), bonjourC.toHex().toStdString()) << c.faults;
-        EXPECT_EQ(get(), nameAB.toHex().toStdString()) << c.faults;
-        EXPECT_EQ(finish(), 0);
-    }
 }
 
 TEST_P(Library, TheConnectionOfTheStatusIsTheOneThatIsEngaged) {
