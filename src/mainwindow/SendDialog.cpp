@@ -53,6 +53,7 @@ void SendDialog::connectButtons() {
 
 int SendDialog::runOn(const QString &viewKey) {
     for (QLabel *label : std::as_const(m_saying)) label->setText(m_usualTexts.value(label));
+    adjustSize();
     MSW_SendUISelector(viewKey);
     return Modal::run(this);
 }
@@ -65,6 +66,9 @@ void SendDialog::closeDialog(int outcome) {
 void SendDialog::MSW_SendUISelector(const QString &viewKey) {
     dictionary_SendViewManagement->select(viewKey);
     dictionary_SendViewManagement->focusFirstControl();
+    // What is said instead of the usual may be longer.
+    const int needed = layout()->totalHeightForWidth(width());
+    if (needed > height()) resize(width(), needed);
 }
 
 void SendDialog::showProgress() {

@@ -32,6 +32,11 @@ class Sending : public PrinterWindow {
         return [=](QWidget *dialog) {
             const QString said = controlOf<QLabel>(dialog, label)->text();
             EXPECT_TRUE(said.contains(text(part))) << qPrintable(said);
+            const auto *shown = controlOf<QLabel>(dialog, label);
+            const auto fits = [=] {
+                return shown->heightForWidth(shown->width()) <= shown->height();
+            };
+            EXPECT_TRUE(QTest::qWaitFor(fits)) << "cut";
         };
     }
     DialogScript::Answer faults(const QByteArray &faults) {

@@ -15,7 +15,7 @@ constexpr int longestExposure = 500;
 }  // namespace
 
 WaitSheet::WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator)
-    : m_sheet(sheet), m_indicator(indicator), m_wasActive(parent->isActiveWindow()) {
+    : m_sheet(sheet), m_indicator(indicator) {
     indicator->setRange(0, 0);  // busy
     sheet->hide();              // modality changes only while a window is hidden
     sheet->setParent(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
@@ -43,6 +43,6 @@ WaitSheet::~WaitSheet() {
     const bool active = m_sheet && m_sheet->isActiveWindow();
     QWidget *const parent = m_sheet ? m_sheet->parentWidget() : nullptr;
     if (m_sheet) m_sheet->hide();
-    if (active && m_wasActive) parent->activateWindow();  // unless another window was opened
+    if (active) parent->activateWindow();  // unless another window was opened
     m_inert.reset();
 }

@@ -23,6 +23,5 @@ class WaitSheet {
   private:
     const QPointer<QWidget> m_sheet;
     const QPointer<QProgressBar> m_indicator;
-    const bool m_wasActive;
     std::optional<InertWindow> m_inert;
 };
