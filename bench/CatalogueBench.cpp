@@ -1,5 +1,7 @@
 #include <benchmark/benchmark.h>
 
+#include "link/Binding.h"
+#include "settings/DWTDataManager.h"
 #include "virtualprinter/VirtualPrinter.h"
 #include "zmlib/CatalogueLibrary.h"
 
@@ -37,11 +39,19 @@ void loadCatalogue(benchmark::State &state) {
 }
 BENCHMARK(loadCatalogue)->Unit(benchmark::kMillisecond);
 
+// The list as the tool makes it: every printer is connected and asked for its name.
 void listCatalogue(benchmark::State &state) {
-    CatalogueLibrary library(catalogueFromJson(catalogueText(), QStringLiteral("bench")));
+    Catalogue catalogue = catalogueFromJson(catalogueText(), QStringLiteral("bench"));
+    for (PrinterEntry &entry : catalogue.entries) {
+        entry[PrinterKey::ConnectionType] = PrinterConnection::USB;
+        entry.remove(PrinterKey::BonjourServiceName);
+    }
+    installLibrary(std::make_shared<CatalogueLibrary>(std::move(catalogue)));
+    const auto manager = make<DWTDataManager>();
     for (auto _ : state)
-        if (library.ZMCreatePrinterURI().value_or(QList<PrinterEntry>()).size() != printers)
+        if (manager->printerList().value_or(QList<PrinterEntry>()).size() != printers)
             state.SkipWithError("a printer is missing");
+    installLibrary(nullptr);
 }
 BENCHMARK(listCatalogue)->Unit(benchmark::kMillisecond);
 

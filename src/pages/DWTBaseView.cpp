@@ -344,10 +344,6 @@ void DWTBaseView::notificationManager() {
         });
 }
 
-QStringList DWTBaseView::itemList(const QVariantMap &lists, const char *key) {
-    return lists.value(QLatin1String(key)).toStringList();
-}
-
 void DWTBaseView::offer(QComboBox *popup, const QStringList &keys, int firstCode) {
     popup->clear();
     for (const QString &key : keys) popup->addItem(localized(key), firstCode + popup->count());

@@ -169,7 +169,9 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     void sendNotificationSendOK();
 
     // The lists of localisation keys of a property list of items, by their keys there.
-    static QStringList itemList(const QVariantMap &lists, const char *key);
+    static QStringList itemList(const QVariantMap &lists, const char *key) {
+        return lists.value(QLatin1String(key)).toStringList();
+    }
     // Makes `keys` the items of a pop-up; the first has the code `firstCode`.
     static void offer(QComboBox *popup, const QStringList &keys, int firstCode = 0);
 

@@ -1,12 +1,9 @@
 #include "zmlib/CatalogueLibrary.h"
 
-#include <QCoreApplication>
 #include <QHostAddress>
 #include <QStringList>
-#include <QTimer>
+#include <QThread>
 #include <algorithm>
-
-#include "platform/core/MainThread.h"
 
 namespace {
 
@@ -18,7 +15,13 @@ constexpr qsizetype endFrame = 2;
 }  // namespace
 
 CatalogueLibrary::CatalogueLibrary(Catalogue catalogue, int longestWait)
-    : m_catalogue(std::move(catalogue)), m_longestWait(longestWait) {}
+    : m_catalogue(std::move(catalogue)), m_longestWait(longestWait) {
+    for (const PrinterEntry &entry : m_catalogue.entries)
+        m_listed.insert(entry[PrinterKey::DeviceURI]);
+    m_closing.setSingleShot(true);
+    m_closing.setTimerType(Qt::PreciseTimer);  // not before what it closes has expired
+    m_closing.callOnTimeout([this] { closeExpired(); });
+}
 
 std::optional<QList<PrinterEntry>> CatalogueLibrary::ZMCreatePrinterURI() {
     return m_catalogue.entries;
@@ -100,9 +103,7 @@ QDeadlineTimer CatalogueLibrary::deadlineFor(int timeout) const {
 }
 
 bool CatalogueLibrary::isListed(const QString &uri) const {
-    return std::any_of(
-        m_catalogue.entries.begin(), m_catalogue.entries.end(),
-        [&](const PrinterEntry &entry) { return entry[PrinterKey::DeviceURI] == uri; });
+    return m_listed.contains(uri);
 }
 
 bool CatalogueLibrary::isOpen(const QString &uri) {
@@ -128,30 +129,27 @@ std::optional<Channel> CatalogueLibrary::open(const QString &uri, const QDeadlin
     return Channel(std::move(transport));
 }
 
-// A timer closes what nobody takes; on a thread without one the next status or engage does.
+// A timer closes what nobody takes; on another thread than the library's the next status does.
 void CatalogueLibrary::letWait(const QString &uri, Channel channel) {
     const auto wait = std::min(engageWait, std::chrono::milliseconds(m_longestWait));
-    const auto waiting = std::make_shared<Waiting>();
-    waiting->channel = std::move(channel);
-    waiting->until.setRemainingTime(wait);
-    if (MainThread::isCurrent())
-        QTimer::singleShot(wait, QCoreApplication::instance(), [waiting] {
-            const std::lock_guard lock(waiting->mutex);
-            waiting->channel.reset();
-        });
-    const std::lock_guard lock(m_mutex);
-    m_waiting[uri] = waiting;
+    closeExpired();
+    {
+        const std::lock_guard lock(m_mutex);
+        m_waiting.insert_or_assign(uri, Waiting{std::move(channel), {wait, Qt::PreciseTimer}});
+    }
+    if (QThread::currentThread() == m_closing.thread()) m_closing.start(wait);
 }
 
 std::optional<Channel> CatalogueLibrary::takeWaiting(const QString &uri) {
-    std::shared_ptr<Waiting> waiting;
-    {
-        const std::lock_guard lock(m_mutex);
-        waiting = std::exchange(m_waiting[uri], nullptr);
-    }
-    if (!waiting || waiting->until.hasExpired()) return {};
-    const std::lock_guard lock(waiting->mutex);
-    return std::exchange(waiting->channel, std::nullopt);
+    closeExpired();
+    const std::lock_guard lock(m_mutex);
+    auto taken = m_waiting.extract(uri);
+    return taken ? std::optional(std::move(taken.mapped().channel)) : std::nullopt;
+}
+
+void CatalogueLibrary::closeExpired() {
+    const std::lock_guard lock(m_mutex);
+    std::erase_if(m_waiting, [](const auto &entry) { return entry.second.until.hasExpired(); });
 }
 
 // Claims the channel for one exchange. It stays open until its printer has closed it.

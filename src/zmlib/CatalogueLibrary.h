@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QDeadlineTimer>
+#include <QSet>
+#include <QTimer>
 #include <chrono>
 #include <functional>
 #include <limits>
@@ -49,10 +51,9 @@ class CatalogueLibrary : public ZMLib {
         Channel channel;
         bool busy = false;
     };
-    // A channel that was opened and not yet engaged; empty once it was, or when it waited too long.
+    // A channel that was opened and not yet engaged.
     struct Waiting {
-        std::mutex mutex;
-        std::optional<Channel> channel;
+        Channel channel;
         QDeadlineTimer until;
     };
     using Exchange = std::function<int(Channel &, const QDeadlineTimer &)>;
@@ -64,12 +65,15 @@ class CatalogueLibrary : public ZMLib {
     std::optional<Channel> open(const QString &uri, const QDeadlineTimer &deadline);
     void letWait(const QString &uri, Channel channel);
     std::optional<Channel> takeWaiting(const QString &uri);
+    void closeExpired();
     int useChannel(const QString &uri, int timeout, const Exchange &exchange);
     bool answersAt(const QString &uri, const QString &address, const QDeadlineTimer &deadline);
 
     const Catalogue m_catalogue;
+    QSet<QString> m_listed;  // the URIs of the catalogue
     const int m_longestWait;
     std::mutex m_mutex;  // guards what follows; never held while a call waits
     std::map<QString, OpenChannel> m_channels;
-    std::map<QString, std::shared_ptr<Waiting>> m_waiting;
+    std::map<QString, Waiting> m_waiting;
+    QTimer m_closing;  // of channels that waited too long; runs on the thread of the library
 };
