@@ -93,7 +93,14 @@ TEST_F(Selector, EveryStepOfTheGuideLeadsToItsView) {
 }
 
 TEST_F(Selector, TheListShowsPrintersAndStaysWithoutAWindow) {
+    bool waited = false;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout,
+                     [&] { waited |= controlOf(window(), "progress_Wait")->isVisible(); });
+    look.start(0);
     walk.launch();
+    look.stop();
+    EXPECT_TRUE(waited) << "the first listing does not wait like the later ones";
     EXPECT_EQ(visibleView(), text("view_Printerlist"));
     const QString all = listed();
     EXPECT_TRUE(all.startsWith(text("Packing-Desk|USB|"))) << qPrintable(all);

@@ -118,6 +118,11 @@ TEST_F(Sending, APrinterUnpluggedBeforeTheSendLosesNothing) {
     warned()
         .on("view_SendLogin", faults(gone))
         .login("open123")
+        .on("view_SendLogin", says("textField_SendLogin", "cannot be reached"))
+        .on("view_SendLogin", faults(R"({"items": {"0x1001": {"noReply": true}}})"),
+            "button_SendLoginOK")
+        .on("view_SendLoginError", says("textField_SendLoginError", "cannot be reached"),
+            "button_SendLoginErrorOK")
         .on("view_SendLogin", faults("{}"), "button_SendLoginOK")
         .on("view_SendConfirm", faults(gone), "button_SendConfirmTransmission")
         .on("view_SendConnectError", "button_SendConnectErrorOK");
