@@ -29,9 +29,7 @@ class Fields : public testing::Test, public TextFieldDelegate {
     }
     bool textShouldBeginEditing(TextField *f) override { return note("begin:", f); }
     bool textShouldEndEditing(TextField *f) override { return note("end:", f); }
-    void controlTextDidChange(TextField *f) override {
-        note("change:", f);
-    }
+    void controlTextDidChange(TextField *f) override { note("change:", f); }
     bool note(const char *call, TextField *f) {
         calls << QLatin1String(call) + f->text();
         return true;
