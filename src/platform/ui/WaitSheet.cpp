@@ -3,19 +3,34 @@
 #include <QDeadlineTimer>
 #include <QProgressBar>
 #include <QWindow>
+#include <thread>
 
 #include "platform/core/Waiting.h"
 
 namespace {
 
-// How long the window system may take to show the sheet, in milliseconds; after that the work
-// starts all the same.
+// How long the window system may take to show a window, in milliseconds; after that the work starts
+// all the same.
 constexpr int longestExposure = 500;
+
+// Waits until the window system shows a window, which it does within a few milliseconds.
+void waitForExposure(const QWidget *window) {
+    const auto exposed = [window] {
+        return window->windowHandle() && window->windowHandle()->isExposed();
+    };
+    const auto pause = [](std::chrono::milliseconds) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    };
+    waitUntil(exposed, QDeadlineTimer(longestExposure), pause);
+}
 
 }  // namespace
 
 WaitSheet::WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator)
     : m_sheet(sheet), m_indicator(indicator) {
+    // A window that was only just shown is painted first, since making another one takes time.
+    waitForExposure(parent);
+    parent->repaint();
     indicator->setRange(0, 0);  // busy
     sheet->hide();              // modality changes only while a window is hidden
     sheet->setParent(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
@@ -26,10 +41,7 @@ WaitSheet::WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator)
     const QRect area(parent->mapToGlobal(QPoint(0, 0)), parent->size());
     sheet->move(area.center() - sheet->rect().center());
     sheet->show();
-    const auto exposed = [sheet] {
-        return sheet->windowHandle() && sheet->windowHandle()->isExposed();
-    };
-    waitUntil(exposed, QDeadlineTimer(longestExposure));
+    waitForExposure(sheet);
     sheet->repaint();
     parent->repaint();
 }
