@@ -3,7 +3,7 @@
 #include "link/Binding.h"
 #include "settings/DWTDataManager.h"
 #include "virtualprinter/VirtualPrinter.h"
-#include "zmlib/CatalogueLibrary.h"
+#include "zmlib/CatalogueSource.h"
 
 namespace {
 
@@ -46,7 +46,7 @@ void listCatalogue(benchmark::State &state) {
         entry[PrinterKey::ConnectionType] = PrinterConnection::USB;
         entry.remove(PrinterKey::BonjourServiceName);
     }
-    installLibrary(std::make_shared<CatalogueLibrary>(std::move(catalogue)));
+    installLibrary(catalogueLibrary(std::move(catalogue)));
     const auto manager = make<DWTDataManager>();
     for (auto _ : state)
         if (manager->printerList().value_or(QList<PrinterEntry>()).size() != printers)

@@ -120,7 +120,7 @@ void longReplies(benchmark::State &state) {
     const LongReplyPeer peer;
     Catalogue catalogue;
     catalogue.entries = {{{QStringLiteral("DeviceURI"), peer.uri()}}};
-    installLibrary(std::make_shared<CatalogueLibrary>(catalogue));
+    installLibrary(catalogueLibrary(catalogue));
     {
         const auto link = connected(catalogue.entries.first());
         const QByteArray frame = Frames::requestFrame(0x1006);

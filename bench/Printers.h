@@ -6,7 +6,7 @@
 #include "link/Binding.h"
 #include "support/PrinterServerThread.h"
 #include "virtualprinter/VirtualPrinter.h"
-#include "zmlib/CatalogueLibrary.h"
+#include "zmlib/CatalogueSource.h"
 
 // A virtual printer with every default, installed as the library's only one: inside the process, or
 // served over loopback on a thread of its own.
@@ -26,7 +26,7 @@ class BenchPrinter {
                  {QStringLiteral("ConnectionType"), QStringLiteral("USB")},
                  {QStringLiteral("ProductName"), QStringLiteral("Larkfield L200")}};
         catalogue.entries = {entry};
-        installLibrary(std::make_shared<CatalogueLibrary>(std::move(catalogue)));
+        installLibrary(catalogueLibrary(std::move(catalogue)));
     }
     ~BenchPrinter() { installLibrary(nullptr); }
 

@@ -73,7 +73,7 @@ void listNetworkPrinters(benchmark::State &state) {
             {QStringLiteral("ConnectionType"), QStringLiteral("Network")},
             {QStringLiteral("ProductName"), QStringLiteral("Larkfield L400")},
             {QStringLiteral("BonjourServiceName"), QStringLiteral("Printer %1").arg(i)}};
-    installLibrary(std::make_shared<CatalogueLibrary>(std::move(catalogue)));
+    installLibrary(catalogueLibrary(std::move(catalogue)));
     const auto manager = make<DWTDataManager>();
     for (auto _ : state)
         if (manager->printerList()->size() != 1000) state.SkipWithError("printers are missing");

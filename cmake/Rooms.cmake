@@ -21,15 +21,22 @@ function(nst_room name)
 endfunction()
 
 # nst_test(ROOM SOURCES ... USES ...): the tests of one room, run on Qt's offscreen platform.
-# The label is the room's name, so that `ctest -L settings` runs them alone.
+# The label is the room's name, so that `ctest -L settings` runs them alone. With USB they run on an
+# emulated USB (tests/support/UsbEmulator.h); not under the thread sanitizer, which cannot bear it.
 function(nst_test room)
-  cmake_parse_arguments(TEST "" "" "SOURCES;USES" ${ARGN})
+  cmake_parse_arguments(TEST "USB" "" "SOURCES;USES" ${ARGN})
   add_executable(${room}-tests ${TEST_SOURCES})
   target_include_directories(${room}-tests PRIVATE ${PROJECT_SOURCE_DIR}/tests
                              ${PROJECT_SOURCE_DIR}/tools)
-  target_link_libraries(${room}-tests PRIVATE ${room} ${TEST_USES} GTest::gtest GTest::gtest_main Qt6::Test)
+  target_link_libraries(${room}-tests PRIVATE ${room} ${TEST_USES} usb-emulator
+                        GTest::gtest GTest::gtest_main Qt6::Test)
   nst_flags(${room}-tests)
+  set(environment QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8)
+  if(TEST_USB AND NOT NST_SANITIZE MATCHES thread)
+    list(APPEND environment LD_PRELOAD=libumockdev-preload.so.0 ASAN_OPTIONS=verify_asan_link_order=0)
+  endif()
+  string(REPLACE ";" "\\;" environment "${environment}")  # one value, although a list
   gtest_discover_tests(${room}-tests DISCOVERY_TIMEOUT 60
     PROPERTIES TIMEOUT 120 LABELS ${room}
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+    ENVIRONMENT "${environment}")
 endfunction()

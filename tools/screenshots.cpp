@@ -12,7 +12,7 @@
 #include "support/Arguments.h"
 #include "support/DialogScript.h"
 #include "virtualprinter/VirtualPrinter.h"
-#include "zmlib/CatalogueLibrary.h"
+#include "zmlib/CatalogueSource.h"
 
 char **programArguments = nullptr;
 
@@ -84,12 +84,12 @@ void shootSelector() {
     selector->applicationDidFinishLaunching();
     controlOf<TableView>(window, "tableView_Printerlist")->selectRow(1);
     shoot(window, "printers");
-    installLibrary(std::make_shared<CatalogueLibrary>(Catalogue()));
+    installLibrary(catalogueLibrary(Catalogue()));
     const auto nothing = make<DWTPrinterSelector>();
     nothing->awakeFromNib();
     nothing->applicationDidFinishLaunching();
     shoot(nothing->window(), "printers-none");
-    installLibrary(std::make_shared<CatalogueLibrary>(demo()));
+    installLibrary(catalogueLibrary(demo()));
 }
 
 void shootPages() {
@@ -208,7 +208,7 @@ int main(int argc, char **argv) {
     wanted.removeAll(QStringLiteral("dark"));
     wanted.removeAll(QStringLiteral("light"));
     installTexts();
-    installLibrary(std::make_shared<CatalogueLibrary>(demo()));
+    installLibrary(catalogueLibrary(demo()));
     folder = arguments[1];
     QDir().mkpath(folder);
     shootSelector();

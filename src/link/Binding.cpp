@@ -4,8 +4,8 @@
 #include <mutex>
 
 #include "platform/core/Texts.h"
-#include "zmlib/Catalogue.h"
-#include "zmlib/CatalogueLibrary.h"
+#include "zmlib/CatalogueSource.h"
+#include "zmlib/UsbSource.h"
 
 namespace {
 
@@ -13,10 +13,15 @@ std::mutex mutex;
 std::shared_ptr<ZMLib> library;
 
 std::shared_ptr<ZMLib> libraryOfEnvironment() {
+    if (qEnvironmentVariable("ZMLIB_PRINTERS").isEmpty()) {
+        std::vector<std::unique_ptr<PrinterSource>> sources;
+        sources.push_back(std::make_unique<UsbSource>());
+        return std::make_shared<PrinterLibrary>(std::move(sources));
+    }
     Catalogue catalogue = catalogueFromEnvironment();
     for (const QString &problem : std::as_const(catalogue.problems))
         std::fprintf(stderr, "%s\n", qUtf8Printable(terminalText(problem)));
-    return std::make_shared<CatalogueLibrary>(std::move(catalogue));
+    return catalogueLibrary(std::move(catalogue));
 }
 
 }  // namespace

@@ -41,6 +41,6 @@ struct Catalogue {
 Catalogue catalogueFromJson(const QByteArray &json, const QString &source);
 
 // The catalogue named by the environment variable ZMLIB_PRINTERS: the path of a catalogue file, or
-// "demo" for the built-in one. Unset or empty: no printers and no problem. The file must be a
-// regular one of at most longestDescription bytes.
+// "demo" for the built-in one. Unset or empty: no catalogue, so no printers and no problem. The
+// file must be a regular one of at most longestDescription bytes.
 Catalogue catalogueFromEnvironment();

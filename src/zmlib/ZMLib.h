@@ -27,6 +27,18 @@ inline const QString USB = QStringLiteral("USB");
 inline const QString Network = QStringLiteral("Network");
 }  // namespace PrinterConnection
 
+// Why a printer is not listed or cannot be used, for who looks for it.
+struct PrinterProblem {
+    enum Kind {
+        NoPermission,  // the user may not open the printer's device
+        InUse,         // another program has it
+        BadFile        // a file with printers or models cannot be used, or not all of it
+    };
+    Kind kind;
+    QString subject;  // the printer as a user knows it, or the file and what is wrong with it
+    bool operator==(const PrinterProblem &) const = default;
+};
+
 // The printer-communication library: it finds printers, opens and closes a printer's command
 // channel and carries byte frames to and from it. It never looks into a setting.
 //
@@ -43,8 +55,10 @@ class ZMLib {
         UnknownPrinter = -1,  // no printer of that URI, or it cannot be reached
         NotOpen = -2,         // the printer's channel is not open, or in use by another call
         TimedOut = -3,
-        Closed = -4,    // the printer closed the channel, which is then closed here, too
-        NotAReply = -5  // what came back is no reply frame
+        Closed = -4,        // the printer closed the channel, which is then closed here, too
+        NotAReply = -5,     // what came back is no reply frame
+        NoPermission = -6,  // the user may not open the printer's device
+        InUse = -7          // another program has the printer
     };
 
     // Size of the area in which a reply is examined, in bytes.
@@ -59,9 +73,15 @@ class ZMLib {
     // The printers that can be listed at this moment; nothing when there is no list at all.
     virtual std::optional<QList<PrinterEntry>> ZMCreatePrinterURI() = 0;
 
+    // What was wrong with the last list, and the printers that could not be opened since.
+    virtual QList<PrinterProblem> problems() { return {}; }
+
+    // Whether printers came or went since the last list. Opens none; takes no noticeable time.
+    virtual bool hasListChanged() { return false; }
+
     // 1: the channel is closed and the printer can be reached; 0: this process holds the channel
-    // open; negative: the printer cannot be reached or is unknown. The connection with which that
-    // was found out is kept a short while for the engage.
+    // open; a negative Result: the printer cannot be reached, or not be used. The connection with
+    // which that was found out is kept a short while for the engage.
     virtual int ZMGetEngageStatusSub(const QString &uri, int timeout) = 0;
 
     // Sends the start frame on the open channel; the printer does not answer it.

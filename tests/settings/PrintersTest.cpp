@@ -59,7 +59,7 @@ TEST_F(Printers, ListsSupportedModelsAndAsksOnlyUsbPrintersForTheirName) {
             {PrinterKey::ProductName, u"Larkfield "_s + QLatin1String(p.model)}};
         catalogue.virtualPrinters.insert(QLatin1String(p.uri), printerOf(p.profile));
     }
-    const auto listed = std::make_shared<CatalogueLibrary>(catalogue, 100);
+    const auto listed = catalogueLibrary(catalogue, 100);
     installLibrary(listed);
     EXPECT_EQ(list(), u"net= usb=Desk last=Last"_s);
     for (const auto &p : printers) {

@@ -2,17 +2,20 @@
 
 #include <QByteArray>
 #include <QTest>
+#include <array>
 #include <memory>
 
 #include "support/PrinterServerThread.h"
 #include "support/Profiles.h"
-#include "zmlib/CatalogueLibrary.h"
+#include "support/UsbEmulator.h"
+#include "zmlib/CatalogueSource.h"
+#include "zmlib/UsbSource.h"
 
-// A library with the one printer `printer`, reached inside the process ("virtual://printer") or
-// over loopback. Silent printers are given up after `wait` ms.
+// A library with the one printer `printer`, reached inside the process ("virtual://printer"), over
+// loopback or over an emulated USB. Silent printers are given up after `wait` ms.
 class OnePrinterLibrary {
   public:
-    enum class Transport { Virtual, Tcp };
+    enum class Transport { Virtual, Tcp, Usb };
     static constexpr int longestWait = 200;
 
     OnePrinterLibrary(std::shared_ptr<VirtualPrinter> printer, Transport transport,
@@ -28,15 +31,25 @@ class OnePrinterLibrary {
         } else {
             catalogue.virtualPrinters.insert(uri(), m_printer);
         }
+        if (transport == Transport::Usb) {
+            m_bed = std::make_unique<UsbBed>();
+            m_usb = std::make_unique<UsbEmulator>(*m_bed, m_printer);
+            m_entry[PrinterKey::DeviceURI] = QStringLiteral("usb:///Larkfield/L200?serial=0001");
+            std::vector<std::unique_ptr<PrinterSource>> sources;
+            sources.push_back(std::make_unique<UsbSource>());
+            m_library = std::make_shared<PrinterLibrary>(std::move(sources), wait);
+            return;
+        }
         m_entry.insert(more);
         catalogue.entries = {m_entry};
-        m_library = std::make_shared<CatalogueLibrary>(std::move(catalogue), wait);
+        m_library = catalogueLibrary(std::move(catalogue), wait);
     }
 
-    std::shared_ptr<CatalogueLibrary> library() const { return m_library; }
+    std::shared_ptr<PrinterLibrary> library() const { return m_library; }
     VirtualPrinter &printer() const { return *m_printer; }
     QString uri() const { return m_entry[PrinterKey::DeviceURI]; }
     const PrinterEntry &entry() const { return m_entry; }
+    UsbEmulator &usb() const { return *m_usb; }
 
     // What the printer received since the last call, as text: "start", "update", "end", "?1006" for
     // a request, "=1006" for a setting frame.
@@ -70,9 +83,22 @@ class OnePrinterLibrary {
     std::shared_ptr<VirtualPrinter> m_printer;
     PrinterEntry m_entry;
     std::unique_ptr<PrinterServerThread> m_server;
-    std::shared_ptr<CatalogueLibrary> m_library;
+    std::unique_ptr<UsbBed> m_bed;
+    std::unique_ptr<UsbEmulator> m_usb;
+    std::shared_ptr<PrinterLibrary> m_library;
 };
 
+inline const auto allTransports =
+    testing::Values(OnePrinterLibrary::Transport::Virtual, OnePrinterLibrary::Transport::Tcp,
+                    OnePrinterLibrary::Transport::Usb);
+
 inline std::string nameOf(OnePrinterLibrary::Transport transport) {
-    return transport == OnePrinterLibrary::Transport::Tcp ? "Tcp" : "Virtual";
+    return std::array{"Virtual", "Tcp", "Usb"}[static_cast<size_t>(transport)];
+}
+
+// Whether this run has what the transport needs; the thread sanitizer's has no USB.
+inline bool isThere(OnePrinterLibrary::Transport transport) {
+    if (transport != OnePrinterLibrary::Transport::Usb) return true;
+    const UsbBed bed;
+    return UsbBed::isThere();
 }

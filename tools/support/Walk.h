@@ -4,7 +4,7 @@
 #include "link/Binding.h"
 #include "support/DialogScript.h"
 #include "virtualprinter/VirtualPrinter.h"
-#include "zmlib/CatalogueLibrary.h"
+#include "zmlib/CatalogueSource.h"
 
 // One change through the real windows, from the printer list to what the printer holds afterwards.
 class Walk {
@@ -15,7 +15,7 @@ class Walk {
     explicit Walk(
         const Catalogue &catalogue, Report report = [](const QString &, QWidget *) {})
         : m_catalogue(catalogue), m_report(std::move(report)) {
-        installLibrary(std::make_shared<CatalogueLibrary>(catalogue));
+        installLibrary(catalogueLibrary(catalogue));
         selector = make<DWTPrinterSelector>();
         selector->awakeFromNib();
     }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDeadlineTimer>
-#include <QSet>
 #include <QTimer>
 #include <chrono>
 #include <functional>
@@ -10,14 +9,16 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <variant>
+#include <vector>
 
-#include "zmlib/Catalogue.h"
 #include "zmlib/Channel.h"
+#include "zmlib/PrinterSource.h"
 #include "zmlib/ZMLib.h"
 
-// The library that ships: the printers of a catalogue, each over the transport of its URI.
-// Callable from several threads; a channel serves one call at a time.
-class CatalogueLibrary : public ZMLib {
+// The library that ships: the printers of its sources, in the order of these. Callable from several
+// threads; a channel serves one call at a time.
+class PrinterLibrary : public ZMLib {
   public:
     // How long one printer may take to tell its addresses, so that a silent one does not use up the
     // time of those after it.
@@ -26,8 +27,8 @@ class CatalogueLibrary : public ZMLib {
     static constexpr std::chrono::milliseconds engageWait{2000};
 
     // `longestWait` (milliseconds) caps the time-out of every call, for tests of silent printers.
-    explicit CatalogueLibrary(Catalogue catalogue,
-                              int longestWait = std::numeric_limits<int>::max());
+    explicit PrinterLibrary(std::vector<std::unique_ptr<PrinterSource>> sources,
+                            int longestWait = std::numeric_limits<int>::max());
 
     std::optional<QList<PrinterEntry>> ZMCreatePrinterURI() override;
     int ZMGetEngageStatusSub(const QString &uri, int timeout) override;
@@ -45,6 +46,8 @@ class CatalogueLibrary : public ZMLib {
                           int timeout) override;
     int ZMIOOpenForUDP(const QString &target, const QString &address, int statusLength,
                        int timeout) override;
+    QList<PrinterProblem> problems() override;
+    bool hasListChanged() override;
 
   private:
     struct OpenChannel {
@@ -61,18 +64,21 @@ class CatalogueLibrary : public ZMLib {
     QDeadlineTimer deadlineFor(int timeout) const;
     bool isListed(const QString &uri) const;
     bool isOpen(const QString &uri);
-    bool mayHave(const QString &uri, const QString &address) const;
-    std::optional<Channel> open(const QString &uri, const QDeadlineTimer &deadline);
+    QStringList openChannels();
+    // The channel, or a negative Result.
+    std::variant<Channel, int> open(const QString &uri, const QDeadlineTimer &deadline);
+    void noteOpened(const QString &uri, int result);
     void letWait(const QString &uri, Channel channel);
     std::optional<Channel> takeWaiting(const QString &uri);
     void closeExpired();
     int useChannel(const QString &uri, int timeout, const Exchange &exchange);
     bool answersAt(const QString &uri, const QString &address, const QDeadlineTimer &deadline);
 
-    const Catalogue m_catalogue;
-    QSet<QString> m_listed;  // the URIs of the catalogue
+    const std::vector<std::unique_ptr<PrinterSource>> m_sources;
     const int m_longestWait;
     std::mutex m_mutex;  // guards what follows; never held while a call waits
+    Listing m_listing;   // the last one
+    std::map<QString, PrinterProblem> m_refused;  // printers that could not be opened since
     std::map<QString, OpenChannel> m_channels;
     std::map<QString, Waiting> m_waiting;
     QTimer m_closing;  // of channels that waited too long; runs on the thread of the library

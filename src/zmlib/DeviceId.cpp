@@ -1,0 +1,28 @@
+#include "zmlib/DeviceId.h"
+
+#include <QList>
+
+Model modelOfDeviceId(const QByteArray &id) {
+    Model model;
+    for (const QByteArray &field : id.split(';')) {
+        const qsizetype colon = field.indexOf(':');
+        const QByteArray key = field.left(colon).trimmed().toUpper();
+        const QString value = QString::fromUtf8(field.mid(colon + 1)).simplified();
+        if (colon < 0 || value.isEmpty()) continue;
+        if (model.maker.isEmpty() && (key == "MFG" || key == "MANUFACTURER")) model.maker = value;
+        if (model.name.isEmpty() && (key == "MDL" || key == "MODEL")) model.name = value;
+    }
+    return model;
+}
+
+Model modelOf(const QByteArray &deviceId, const QString &manufacturer, const QString &product) {
+    const Model model = modelOfDeviceId(deviceId);
+    if (!model.maker.isEmpty() && !model.name.isEmpty()) return model;
+    return {manufacturer.simplified(), product.simplified()};
+}
+
+QString productName(const Model &model) {
+    const QString both = (model.maker + u' ' + model.name).simplified();
+    const bool doubled = (model.name + u' ').startsWith(model.maker + u' ', Qt::CaseInsensitive);
+    return doubled ? model.name : both;
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QDeadlineTimer>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <memory>
+
+#include "zmlib/Transport.h"
+#include "zmlib/ZMLib.h"
+
+// What a source finds at one moment.
+struct Listing {
+    QList<PrinterEntry> entries;
+    QList<PrinterProblem> problems;
+};
+
+// A stream to a printer, or why there is none.
+struct Opened {
+    std::unique_ptr<Transport> transport;
+    int result = ZMLib::UnknownPrinter;  // a negative ZMLib::Result, when there is no transport
+};
+
+// Where printers come from. Callable from several threads.
+class PrinterSource {
+  public:
+    virtual ~PrinterSource() = default;
+
+    // The printers of this moment; opens none of them.
+    virtual Listing list() = 0;
+
+    // Whether the printers differ from those of the last list(); opens none of them.
+    virtual bool hasChanged() { return false; }
+
+    // Whether a printer of this URI is there.
+    virtual bool lists(const QString &uri) = 0;
+
+    // Opens the printer of a URI; ZMLib::UnknownPrinter for one that is not of this source.
+    virtual Opened open(const QString &uri, const QDeadlineTimer &deadline) = 0;
+
+    // The printers, by URI, that may be asked whether `address` (dotted IPv4) is theirs.
+    virtual QStringList mayHave(const QString &address) {
+        Q_UNUSED(address)
+        return {};
+    }
+};

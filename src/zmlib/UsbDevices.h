@@ -1,0 +1,41 @@
+#pragma once
+
+#include <libusb.h>
+
+#include <QList>
+#include <QString>
+#include <memory>
+
+#include "zmlib/ZMLib.h"
+
+// The printers on the USB, found without opening a device and so without any permission.
+
+// A printer interface: class 7, subclass 1, protocol 2 (both ways), with a bulk endpoint each way.
+struct UsbPrinter {
+    std::shared_ptr<libusb_device> device;
+    int address = 0;  // changes whenever the device is plugged in
+    QString port;     // where it is plugged in, as the system names it: "1-2.4"
+    quint8 configuration = 0;
+    quint8 interface = 0;
+    quint8 alternate = 0;
+    quint8 in = 0;  // endpoint addresses
+    quint8 out = 0;
+    int packetSize = 0;   // bytes, of the endpoint `in`
+    QString serial;       // empty without one
+    QString productName;  // empty when the device says nothing of itself
+    QString uri;          // "usb:///MAKER/MODEL?serial=..." or "?port=...", "&interface=" unless 0
+};
+
+// The printers, sorted by port. Those that share maker, model and serial number are told apart by
+// their ports.
+QList<UsbPrinter> usbPrinters(libusb_context *context);
+
+// The printer of a URI that usbPrinters() gave now or earlier: a maker or a model that is told
+// otherwise since, with the same serial number or port, does not matter. Null when there is none.
+const UsbPrinter *findPrinter(const QList<UsbPrinter> &printers, const QString &uri);
+
+// The device file of the kernel's own printer driver while it has the interface ("/dev/usb/lp0");
+// empty when it has not.
+QString kernelPrinterFile(const UsbPrinter &printer);
+
+PrinterEntry entryOf(const UsbPrinter &printer);
