@@ -2,11 +2,9 @@
 
 #include <sys/socket.h>
 
-#include <QDeadlineTimer>
 #include <QTcpSocket>
-#include <QTimer>
-#include <deque>
-#include <functional>
+
+#include "virtualprinter/DelayedActions.h"
 
 namespace {
 
@@ -26,11 +24,11 @@ class Connection : public QObject {
   private:
     void read() {
         for (const auto &reply : m_channel->receive(m_socket->readAll())) send(reply);
-        if (!m_channel->isOpen()) afterDelay(0, [this] { close(); });
+        if (!m_channel->isOpen()) m_later.after(0, [this] { close(); });
     }
 
     void send(const VirtualPrinter::Reply &reply) {
-        afterDelay(reply.delay, [this, bytes = reply.bytes] {
+        m_later.after(reply.delay, [this, bytes = reply.bytes] {
             m_socket->write(bytes);
             m_socket->flush();
         });
@@ -44,26 +42,10 @@ class Connection : public QObject {
         m_socket->abort();
     }
 
-    // Acts `delay` ms from now, but not before what was asked for earlier.
-    void afterDelay(int delay, const std::function<void()> &action) {
-        const QDeadlineTimer due(delay);
-        if (m_last < due) m_last = due;
-        const qint64 left = m_last.remainingTime();
-        if (left == 0 && m_waiting.empty()) return action();
-        m_waiting.push_back(action);
-        // Timers of the same time may end in any order; whichever ends acts for the first.
-        QTimer::singleShot(static_cast<int>(left), Qt::PreciseTimer, this, [this] {
-            const auto first = m_waiting.front();
-            m_waiting.pop_front();
-            first();
-        });
-    }
-
     QTcpSocket *const m_socket;
     const std::shared_ptr<VirtualPrinter> m_printer;  // the channel refers to it
     const std::unique_ptr<VirtualPrinter::Channel> m_channel;
-    QDeadlineTimer m_last{0};
-    std::deque<std::function<void()>> m_waiting;
+    DelayedActions m_later;
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstdio>
 
+#include "virtualprinter/VirtualPrinterDevice.h"
 #include "virtualprinter/VirtualPrinterServer.h"
 
 namespace {
@@ -44,31 +45,47 @@ int main(int argc, char **argv) {
     quitOnSignals(app);
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Serves a label printer in software."));
+    parser.setApplicationDescription(
+        QStringLiteral("Serves a label printer in software, on a TCP port or a device file."));
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption listen(QStringLiteral("listen"),
                                     QStringLiteral("Address and port to listen on."),
                                     QStringLiteral("address:port"));
+    const QCommandLineOption device(
+        QStringLiteral("device"),
+        QStringLiteral(
+            "Character device to serve, such as /dev/g_printer0 of a USB printer gadget."),
+        QStringLiteral("device"));
     const QCommandLineOption profile(QStringLiteral("profile"),
                                      QStringLiteral("Description of the printer (JSON)."),
                                      QStringLiteral("file"));
-    parser.addOptions({listen, profile});
+    parser.addOptions({listen, device, profile});
     parser.process(app);
     if (!parser.positionalArguments().isEmpty())
         return fail(QStringLiteral("unexpected \"%1\"").arg(parser.positionalArguments().first()));
 
+    if (parser.isSet(listen) == parser.isSet(device))
+        return fail(QStringLiteral("wants one of --listen and --device"));
     QHostAddress address;
     quint16 port = 0;
-    if (!splitListen(parser.value(listen), address, port))
+    if (parser.isSet(listen) && !splitListen(parser.value(listen), address, port))
         return fail(QStringLiteral("--listen wants ADDRESS:PORT, such as 127.0.0.1:9100"));
     const ProfileResult result = profileFromFile(parser.value(profile));
     if (!result.profile) return fail(result.error);
+    const auto printer = std::make_shared<VirtualPrinter>(*result.profile);
 
-    VirtualPrinterServer server(std::make_shared<VirtualPrinter>(*result.profile));
-    if (!server.listen(address, port))
-        return fail(QStringLiteral("%1: %2").arg(parser.value(listen), server.errorString()));
-    std::printf("listening on %s:%d\n", qUtf8Printable(address.toString()), server.port());
+    VirtualPrinterServer server(printer);
+    VirtualPrinterDevice served(printer, parser.value(device));
+    if (parser.isSet(device)) {
+        if (!served.open())
+            return fail(QStringLiteral("%1: %2").arg(parser.value(device), served.errorString()));
+        std::printf("serving %s\n", qUtf8Printable(parser.value(device)));
+    } else {
+        if (!server.listen(address, port))
+            return fail(QStringLiteral("%1: %2").arg(parser.value(listen), server.errorString()));
+        std::printf("listening on %s:%d\n", qUtf8Printable(address.toString()), server.port());
+    }
     std::fflush(stdout);
     return QCoreApplication::exec();
 }
