@@ -4,8 +4,25 @@ set(NST_NAME network-setting-tool)
 install(TARGETS ${NST_NAME} DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES packaging/${NST_NAME}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/${NST_NAME}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-install(FILES packaging/${NST_NAME}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+# Always in lib, wherever the libraries go: that is where udev looks.
+install(FILES packaging/70-${NST_NAME}.rules DESTINATION lib/udev/rules.d)
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
+# Documents that the system keeps compressed.
+foreach(document ${NST_NAME}.1 debian/changelog)
+  cmake_path(GET document FILENAME name)
+  set(compressed ${PROJECT_BINARY_DIR}/${name}.gz)
+  add_custom_command(OUTPUT ${compressed} DEPENDS packaging/${document} VERBATIM
+    COMMAND gzip -9nc ${PROJECT_SOURCE_DIR}/packaging/${document} > ${compressed})
+  list(APPEND NST_DOCUMENTS ${compressed})
+endforeach()
+add_custom_target(documents DEPENDS ${NST_DOCUMENTS})
+add_dependencies(${NST_NAME} documents)
+install(FILES ${PROJECT_BINARY_DIR}/${NST_NAME}.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${PROJECT_BINARY_DIR}/changelog.gz DESTINATION ${CMAKE_INSTALL_DOCDIR})
+file(STRINGS packaging/debian/changelog release LIMIT_COUNT 1)
+if(NOT release MATCHES "^${NST_NAME} \\(${PROJECT_VERSION}\\)")
+  message(FATAL_ERROR "packaging/debian/changelog does not begin with version ${PROJECT_VERSION}")
+endif()
 set(NST_ICONS ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
 install(FILES resources/icons/${NST_NAME}.svg DESTINATION ${NST_ICONS}/scalable/apps)
 foreach(size 16 24 32 48 64 128 256 512)
@@ -17,11 +34,19 @@ set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME ${NST_NAME})
 set(CPACK_PACKAGE_CONTACT "Network Setting Tool developers <developers@networksettingtool.invalid>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "read and change the network settings of label printers")
+set(CPACK_PACKAGE_DESCRIPTION
+  "Lists the label printers that are reachable over USB or the network, reads all
+network settings of one, shows them on seven pages, checks what is typed, and
+writes everything back in one transaction, after a login where the printer has
+an administrator password. Only a printer connected over USB can be changed.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/debian/postinst
+  ${PROJECT_SOURCE_DIR}/packaging/debian/postrm)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 # Plugins, which no library dependency shows: pictures.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS libqt6svg6)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-translations-l10n)
