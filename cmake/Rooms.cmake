@@ -35,8 +35,7 @@ function(nst_test room)
   if(TEST_USB AND NOT NST_SANITIZE MATCHES thread)
     list(APPEND environment LD_PRELOAD=libumockdev-preload.so.0 ASAN_OPTIONS=verify_asan_link_order=0)
   endif()
-  string(REPLACE ";" "\\;" environment "${environment}")  # one value, although a list
-  gtest_discover_tests(${room}-tests DISCOVERY_TIMEOUT 60
-    PROPERTIES TIMEOUT 120 LABELS ${room}
-    ENVIRONMENT "${environment}")
+  # The property ENVIRONMENT of discovered tests takes one variable only.
+  set_target_properties(${room}-tests PROPERTIES CROSSCOMPILING_EMULATOR "env;${environment}")
+  gtest_discover_tests(${room}-tests DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 LABELS ${room})
 endfunction()
