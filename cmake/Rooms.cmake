@@ -22,7 +22,7 @@ endfunction()
 
 # nst_test(ROOM SOURCES ... USES ...): the tests of one room, run on Qt's offscreen platform.
 # The label is the room's name, so that `ctest -L settings` runs them alone. With USB they run on an
-# emulated USB (tests/support/UsbEmulator.h); not under the thread sanitizer, which cannot bear it.
+# emulated USB (tools/support/UsbEmulator.h); not under the thread sanitizer, which cannot bear it.
 function(nst_test room)
   cmake_parse_arguments(TEST "USB" "" "SOURCES;USES" ${ARGN})
   add_executable(${room}-tests ${TEST_SOURCES})

@@ -11,6 +11,7 @@
 #include "platform/core/Texts.h"
 #include "support/Arguments.h"
 #include "support/DialogScript.h"
+#include "support/PluggedSource.h"
 #include "virtualprinter/VirtualPrinter.h"
 #include "zmlib/CatalogueSource.h"
 
@@ -84,6 +85,10 @@ void shootSelector() {
     selector->applicationDidFinishLaunching();
     controlOf<TableView>(window, "tableView_Printerlist")->selectRow(1);
     shoot(window, "printers");
+    PluggedSource::State withoutPermission;
+    installLibrary(libraryWith(demo(), withoutPermission));
+    selector->applicationDidFinishLaunching();
+    shoot(window, "printers-no-permission");
     installLibrary(catalogueLibrary(Catalogue()));
     const auto nothing = make<DWTPrinterSelector>();
     nothing->awakeFromNib();

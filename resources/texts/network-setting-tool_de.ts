@@ -770,12 +770,22 @@
     <message id="DWT_Localize_PrinterList_Searching">
         <translation>Drucker werden gesucht…</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_NoPermission">
+        <translation>%1 ist angeschlossen, aber Sie haben keine Berechtigung dafür. Melden Sie sich an diesem Computer selbst an, oder bitten Sie den Administrator, die USB-Regel dieses Programms zu installieren; schließen Sie den Drucker danach neu an.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_InUse">
+        <translation>%1 wird von einem anderen Programm verwendet. Beenden Sie dieses Programm, und wählen Sie dann „Erneut suchen“.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_BadFile">
+        <translation>Diese Datei ist nicht oder nicht ganz verwendbar: %1</translation>
+    </message>
     <message id="DWT_Localize_CommandLine_Help">
         <translation>Zeigt und ändert die Netzwerkeinstellungen von Etikettendruckern.
 
-Aufruf: %1 [-Installer] [--help] [--version]
+Aufruf: %1 [-Installer] [--demo] [--help] [--version]
 
   -Installer  mit einer Anleitung zum Anschließen beginnen; nur USB-Drucker auflisten
+  --demo      die Demodrucker auflisten, die im Programm leben
   --help      diesen Text anzeigen und beenden
   --version   die Version anzeigen und beenden</translation>
     </message>

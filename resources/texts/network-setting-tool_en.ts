@@ -770,12 +770,22 @@
     <message id="DWT_Localize_PrinterList_Searching">
         <translation>Looking for printers…</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_NoPermission">
+        <translation>%1 is connected, but you have no permission to use it. Log in at this computer itself, or ask its administrator to install the USB rule of this tool; then plug the printer in again.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_InUse">
+        <translation>%1 is in use by another program. Close that program, then choose Look again.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_BadFile">
+        <translation>This file cannot be used, at least not all of it: %1</translation>
+    </message>
     <message id="DWT_Localize_CommandLine_Help">
         <translation>Reads and changes the network settings of label printers.
 
-Usage: %1 [-Installer] [--help] [--version]
+Usage: %1 [-Installer] [--demo] [--help] [--version]
 
   -Installer  begin with a guide to connecting a printer; list USB printers only
+  --demo      list the demo printers, which live inside the program
   --help      show this text and end
   --version   show the version and end</translation>
     </message>

@@ -770,12 +770,22 @@
     <message id="DWT_Localize_PrinterList_Searching">
         <translation>Buscando impresoras…</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_NoPermission">
+        <translation>%1 está conectada, pero usted no tiene permiso para usarla. Inicie sesión en este mismo equipo o pida al administrador que instale la regla USB de esta herramienta; después, vuelva a conectar la impresora.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_InUse">
+        <translation>Otro programa está usando %1. Cierre ese programa y, después, elija «Buscar de nuevo».</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_BadFile">
+        <translation>Este archivo no se puede usar, al menos no por completo: %1</translation>
+    </message>
     <message id="DWT_Localize_CommandLine_Help">
         <translation>Muestra y cambia los ajustes de red de impresoras de etiquetas.
 
-Uso: %1 [-Installer] [--help] [--version]
+Uso: %1 [-Installer] [--demo] [--help] [--version]
 
   -Installer  empezar con una guía de conexión; mostrar solo impresoras USB
+  --demo      mostrar las impresoras de demostración, internas al programa
   --help      mostrar este texto y terminar
   --version   mostrar la versión y terminar</translation>
     </message>

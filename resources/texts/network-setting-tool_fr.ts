@@ -770,12 +770,22 @@
     <message id="DWT_Localize_PrinterList_Searching">
         <translation>Recherche d’imprimantes…</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_NoPermission">
+        <translation>%1 est connectée, mais vous n’avez pas l’autorisation de l’utiliser. Ouvrez une session sur cet ordinateur même, ou demandez à l’administrateur d’installer la règle USB de cet outil ; rebranchez ensuite l’imprimante.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_InUse">
+        <translation>%1 est utilisée par un autre programme. Fermez ce programme, puis choisissez « Rechercher ».</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_BadFile">
+        <translation>Ce fichier est inutilisable, au moins en partie : %1</translation>
+    </message>
     <message id="DWT_Localize_CommandLine_Help">
         <translation>Affiche et modifie les réglages réseau des imprimantes d’étiquettes.
 
-Usage : %1 [-Installer] [--help] [--version]
+Usage : %1 [-Installer] [--demo] [--help] [--version]
 
   -Installer  commencer par un guide de connexion ; ne lister que les imprimantes USB
+  --demo      lister les imprimantes de démonstration, internes au programme
   --help      afficher ce texte et terminer
   --version   afficher la version et terminer</translation>
     </message>

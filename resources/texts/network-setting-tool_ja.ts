@@ -770,12 +770,22 @@
     <message id="DWT_Localize_PrinterList_Searching">
         <translation>プリンターを検索しています…</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_NoPermission">
+        <translation>%1 は接続されていますが、使用する権限がありません。このコンピューターに直接ログインするか、このツールの USB ルールのインストールを管理者に依頼してから、プリンターを接続し直してください。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_InUse">
+        <translation>%1 は別のプログラムで使用中です。そのプログラムを終了してから、「再検索」を選択してください。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_BadFile">
+        <translation>このファイルの全部または一部を使用できません: %1</translation>
+    </message>
     <message id="DWT_Localize_CommandLine_Help">
         <translation>ラベルプリンターのネットワーク設定を表示・変更します。
 
-使い方: %1 [-Installer] [--help] [--version]
+使い方: %1 [-Installer] [--demo] [--help] [--version]
 
   -Installer  接続ガイドから始め、USB プリンターだけを一覧に表示する
+  --demo      プログラム内のデモ用プリンターを一覧に表示する
   --help      この説明を表示して終了する
   --version   バージョンを表示して終了する</translation>
     </message>

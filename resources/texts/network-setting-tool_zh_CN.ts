@@ -770,12 +770,22 @@
     <message id="DWT_Localize_PrinterList_Searching">
         <translation>正在查找打印机…</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_NoPermission">
+        <translation>%1 已连接，但您没有使用权限。请直接在此计算机上登录，或请管理员安装本工具的 USB 规则，然后重新插入打印机。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_InUse">
+        <translation>%1 正被其他程序使用。请关闭该程序，然后选择“重新搜索”。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_BadFile">
+        <translation>此文件全部或部分无法使用：%1</translation>
+    </message>
     <message id="DWT_Localize_CommandLine_Help">
         <translation>查看和更改标签打印机的网络设置。
 
-用法：%1 [-Installer] [--help] [--version]
+用法：%1 [-Installer] [--demo] [--help] [--version]
 
   -Installer  从连接指南开始；仅列出 USB 打印机
+  --demo      列出程序内置的演示打印机
   --help      显示此说明并退出
   --version   显示版本并退出</translation>
     </message>

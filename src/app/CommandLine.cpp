@@ -17,3 +17,8 @@ std::optional<QString> commandLineAnswer(int argc, char **argv) {
     }
     return std::nullopt;
 }
+
+void applyOptions(int argc, char **argv) {
+    for (int i = 1; i < argc; ++i)
+        if (std::strcmp(argv[i], "--demo") == 0) qputenv("ZMLIB_PRINTERS", "demo");
+}

@@ -6,3 +6,6 @@
 // What the program prints instead of starting: its help for "--help", its name and version for
 // "--version". Nothing when it starts. Needs no application object, and no display.
 std::optional<QString> commandLineAnswer(int argc, char **argv);
+
+// Takes up what else is asked for: "--demo" lists the demo printers, as ZMLIB_PRINTERS=demo does.
+void applyOptions(int argc, char **argv);

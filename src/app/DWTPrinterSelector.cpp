@@ -1,5 +1,8 @@
 #include "app/DWTPrinterSelector.h"
 
+#include <QStyle>
+#include <algorithm>
+
 #include "app/MainMenu.h"
 #include "mainwindow/WPSGuide.h"
 #include "mainwindow/WaitWindow.h"
@@ -23,6 +26,28 @@ const QString _SERVICE_NAME_ = QStringLiteral("_SERVICE_NAME_");
 // Tags of the two ways to connect.
 constexpr int connectByUSB = 0;
 constexpr int connectByWPS = 1;
+
+// How often is looked for printers that came or went.
+constexpr std::chrono::milliseconds lookInterval{1000};
+
+// So many problems are told in words; there is no room for more.
+constexpr qsizetype shownProblems = 4;
+
+QString wordsOf(const PrinterProblem &problem) {
+    QString text;
+    switch (problem.kind) {
+        case PrinterProblem::NoPermission:
+            text = localized(QStringLiteral("DWT_Localize_PrinterList_Problem_NoPermission"));
+            break;
+        case PrinterProblem::InUse:
+            text = localized(QStringLiteral("DWT_Localize_PrinterList_Problem_InUse"));
+            break;
+        case PrinterProblem::BadFile:
+            text = localized(QStringLiteral("DWT_Localize_PrinterList_Problem_BadFile"));
+            break;
+    }
+    return text.arg(shownText(problem.subject));
+}
 
 }  // namespace
 
@@ -84,6 +109,12 @@ void DWTPrinterSelector::DWT_UIInitialize() {
         localized(QStringLiteral("DWT_Localize_PrinterList_TableView_Service_Column")));
     table.setTableDataSource(this);
     table.setTableDelegate(this);
+    const int iconSize = window_PrinterSelector->style()->pixelMetric(QStyle::PM_SmallIconSize);
+    icon_Problems->setPixmap(window_PrinterSelector->style()
+                                 ->standardIcon(QStyle::SP_MessageBoxWarning)
+                                 .pixmap(iconSize));
+    view_Problems->hide();
+    m_looking.callOnTimeout([this] { followPrinters(); });
     connectButtons(guide);
     window_PrinterSelector->setShouldClose([this] {
         windowWillClose();
@@ -141,7 +172,10 @@ void DWTPrinterSelector::DWT_UISelector(const QString &viewKey) {
     button_PrinterlistOK->setEnabled(false);
 }
 
+// The selected printer stays selected while it is there.
 void DWTPrinterSelector::DWT_UpdatePrinterList() {
+    const QString selected =
+        array_PrinterList.value(tableView_Printerlist->selectedRow()).value(PrinterKey::DeviceURI);
     const WaitSheet waiting = window_Wait->over(window_PrinterSelector);
     if (!ndm_Object) ndm_Object = make<DWTDataManager>();
     array_PrinterList.clear();
@@ -152,6 +186,31 @@ void DWTPrinterSelector::DWT_UpdatePrinterList() {
     tableView_Printerlist->setEmptyText(
         localized(QStringLiteral("DWT_Localize_PrinterList_Empty")));
     tableView_Printerlist->reloadData();
+    for (int row = 0; row < array_PrinterList.size() && !selected.isEmpty(); ++row)
+        if (array_PrinterList[row].value(PrinterKey::DeviceURI) == selected)
+            tableView_Printerlist->selectRow(row);
+    button_PrinterlistOK->setEnabled(tableView_Printerlist->selectedRow() >= 0);
+    showProblems();
+    m_looking.start(lookInterval);
+}
+
+void DWTPrinterSelector::showProblems() {
+    const QList<PrinterProblem> problems = ndm_Object->printerProblems();
+    QStringList lines;
+    for (const PrinterProblem &problem : problems.first(std::min(shownProblems, problems.size())))
+        lines << wordsOf(problem);
+    if (problems.size() > shownProblems)
+        lines << QStringLiteral("… (+%1)").arg(problems.size() - shownProblems);
+    textField_Problems->setText(lines.join(u'\n'));
+    view_Problems->setVisible(!lines.isEmpty());
+    window_PrinterSelector->fitToScreen();
+}
+
+void DWTPrinterSelector::followPrinters() {
+    const bool idle = view_Printerlist->isVisible() && !window_PrinterSelector->isMinimized() &&
+                      !window_Wait->isVisible() && !QApplication::activeModalWidget() &&
+                      !QApplication::activePopupWidget();
+    if (idle && ndm_Object && ndm_Object->hasPrinterListChanged()) DWT_UpdatePrinterList();
 }
 
 void DWTPrinterSelector::DWT_DoubleAction(int clickedRow) {

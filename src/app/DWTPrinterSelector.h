@@ -2,6 +2,7 @@
 
 #include <QMenuBar>
 #include <QPointer>
+#include <QTimer>
 
 #include "app/base/DWTBaseClass.h"
 #include "mainwindow/DWTMainSettingWindow.h"
@@ -51,6 +52,10 @@ class DWTPrinterSelector : public DWTBaseClass,
     // Shows the view and hides the others; the printer list is fetched anew.
     void DWT_UISelector(const QString &viewKey);
     void DWT_UpdatePrinterList();
+    // Fetches the list again when printers came or went, unless the user is busy elsewhere.
+    void followPrinters();
+    // Says below the list why printers may be missing.
+    void showProblems();
     void DWT_DoubleAction(int clickedRow);
     void DWT_CloseMainDialog(const Notification &notification);
     void DWT_ShowMainSettingWindow();
@@ -81,4 +86,5 @@ class DWTPrinterSelector : public DWTBaseClass,
     std::shared_ptr<DWTMainSettingWindow> msw_Object;
     bool show_mainDialog = false;
     NotificationCenter::Observer m_closings;
+    QTimer m_looking;  // for printers that come or go
 };

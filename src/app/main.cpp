@@ -8,5 +8,6 @@ int main(int argc, char **argv) {
         std::puts(answer->toLocal8Bit().constData());
         return 0;
     }
+    applyOptions(argc, argv);
     return Application::main(argc, argv, [] { return make<DWTPrinterSelector>(); });
 }

@@ -47,6 +47,14 @@ std::optional<QList<PrinterEntry>> DWTCommunicationControl::printerList() {
     return installedLibrary()->ZMCreatePrinterURI();
 }
 
+QList<PrinterProblem> DWTCommunicationControl::printerProblems() {
+    return installedLibrary()->problems();
+}
+
+bool DWTCommunicationControl::hasPrinterListChanged() {
+    return installedLibrary()->hasListChanged();
+}
+
 int DWTCommunicationControl::connectPrinter(int) {
     const auto library = installedLibrary();
     const QString uri = deviceURI();

@@ -44,6 +44,13 @@ class DWTCommunicationControl : public DWTBaseClass {
     // The printers that the library can reach; nothing when it gives no list. Needs no connection.
     std::optional<QList<PrinterEntry>> printerList();
 
+    // What was wrong with the last printerList(), and the printers that could not be connected
+    // since. Needs no connection.
+    QList<PrinterProblem> printerProblems();
+
+    // Whether printers came or went since the last printerList(). Needs no connection.
+    bool hasPrinterListChanged();
+
     // Opens the printer's channel unless it is open, and starts a transaction. The argument is not
     // used. Result: 0 connected; 1 the library answered an engage status other than 0 and 1;
     // otherwise the library's.

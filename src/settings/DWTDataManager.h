@@ -98,6 +98,10 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // PrinterKey::MachineName; only USB printers in installer mode. Nothing when no link can be
     // made.
     std::optional<QList<PrinterEntry>> printerList();
+    // Why printers may be missing from the last printerList(), unusable lists of models included.
+    QList<PrinterProblem> printerProblems();
+    // Whether printers came or went since the last printerList(). Asks no printer.
+    bool hasPrinterListChanged();
     // The name of the printer of `entry`, asked through `link`; " " when it cannot be read.
     QString printerName(const std::shared_ptr<DWTCommunicationControl> &link,
                         const PrinterEntry &entry);

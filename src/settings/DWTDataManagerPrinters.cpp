@@ -31,6 +31,17 @@ std::optional<QList<PrinterEntry>> DWTDataManager::printerList() {
     return supported;
 }
 
+QList<PrinterProblem> DWTDataManager::printerProblems() {
+    QList<PrinterProblem> problems = make<DWTCommunicationControl>()->printerProblems();
+    for (const QString &file : PropertyList::unusable())
+        problems.append({PrinterProblem::BadFile, file});
+    return problems;
+}
+
+bool DWTDataManager::hasPrinterListChanged() {
+    return make<DWTCommunicationControl>()->hasPrinterListChanged();
+}
+
 QString DWTDataManager::printerName(const std::shared_ptr<DWTCommunicationControl> &link,
                                     const PrinterEntry &entry) {
     NDM_InitMemberToPrinterList(link, entry);  // the name is asked for whatever it says

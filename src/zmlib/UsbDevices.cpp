@@ -49,7 +49,9 @@ bool takeEndpoints(UsbPrinter &printer, const libusb_interface_descriptor &setti
     if (setting.bInterfaceClass != LIBUSB_CLASS_PRINTER ||
         setting.bInterfaceSubClass != printerSubclass || setting.bInterfaceProtocol != bothWays)
         return false;
-    for (int i = 0; i < setting.bNumEndpoints; ++i) {
+    // A descriptor that ends early leaves the number of endpoints without the endpoints.
+    const int endpoints = setting.endpoint ? setting.bNumEndpoints : 0;
+    for (int i = 0; i < endpoints; ++i) {
         const libusb_endpoint_descriptor &end = setting.endpoint[i];
         if ((end.bmAttributes & LIBUSB_TRANSFER_TYPE_MASK) != LIBUSB_TRANSFER_TYPE_BULK) continue;
         if (end.bEndpointAddress & LIBUSB_ENDPOINT_IN) {

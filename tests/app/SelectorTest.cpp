@@ -1,12 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QLabel>
 #include <QProcess>
 #include <QRadioButton>
 #include <QTemporaryDir>
 
 #include "platform/ui/SingleInstance.h"
 #include "support/Arguments.h"
+#include "support/PluggedSource.h"
 #include "support/Walk.h"
 
 namespace {
@@ -117,6 +119,34 @@ TEST_F(Selector, TheListShowsPrintersAndStaysWithoutAWindow) {
     EXPECT_TRUE(isListed());
     EXPECT_FALSE(quits([&] { window()->close(); }));
     EXPECT_FALSE(isListed());
+}
+
+TEST_F(Selector, TheListFollowsPrintersAndNamesThoseThatCannotBeUsed) {
+    PluggedSource::State state;
+    installLibrary(libraryWith(catalogue, state));
+    walk.launch();
+    const auto *told = controlOf<QLabel>(window(), "textField_Problems");
+    const auto tells = [&](const char *words) {
+        return told->isVisible() && told->text().contains(QLatin1String(words));
+    };
+    EXPECT_TRUE(tells("Larkfield L400 (A0017) is connected, but you have no permission"))
+        << qPrintable(told->text());
+    walk.list()->selectRow(1);
+    const QString selected = listed();
+    state.plugged = false;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !told->isVisible(); }, 2000)) << "still told";
+    EXPECT_EQ(walk.list()->selectedRow(), 1);
+    EXPECT_TRUE(canOpen());
+    EXPECT_EQ(listed(), selected);
+    state.plugged = true;
+    state.result = ZMLib::InUse;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tells("is in use by another program"); }, 2000));
+    const int openings = state.openings;
+    EXPECT_TRUE(walk.open(text("Packing-Desk")));
+    state.plugged = false;
+    QTest::qWait(1200);  // longer than the list takes to follow
+    EXPECT_EQ(state.openings, openings) << "looked for while a printer is open";
+    EXPECT_TRUE(walk.main()->isVisible());
 }
 
 TEST_F(Selector, ReopeningBringsBackTheWindowInUse) {

@@ -74,9 +74,37 @@ TEST_F(Printers, ListsSupportedModelsAndAsksOnlyUsbPrintersForTheirName) {
     }
     const ArgumentOverride installer("-installer");
     EXPECT_EQ(list(), u"usb=Desk last=Last"_s) << "installer mode lists USB printers only";
+}
+
+TEST_F(Printers, AnAdministratorAddsAModelAndIsToldOfAFileThatCannotBeUsed) {
+    Catalogue catalogue;
+    for (const char *model : {"L200", "New"})
+        catalogue.entries << PrinterEntry{
+            {PrinterKey::DeviceURI, QLatin1String(model)},
+            {PrinterKey::ConnectionType, PrinterConnection::Network},
+            {PrinterKey::ProductName, u"Larkfield "_s + QLatin1String(model)}};
+    installLibrary(catalogueLibrary(catalogue, 100));
     const QTemporaryDir folder;
-    const PropertyList::FolderOverride withoutTable(folder.path());
-    EXPECT_EQ(list(), QString());
+    const PropertyList::FolderOverride administrators(folder.path());
+    const QString path = folder.filePath(u"ZMPrinterStatusTable.plist"_s);
+    const QByteArray table = R"(<?xml version="1.0"?><plist version="1.0"><dict>
+        <key>Larkfield New</key><dict/></dict></plist>)";
+    const struct {
+        QByteArray contents;
+        qsizetype listed;
+        bool problem;
+    } cases[] = {{table, 2, false},
+                 {"<plist><array/></plist>", 1, true},
+                 {table + QByteArray(PropertyList::longestFile, ' '), 1, true},
+                 {"", 1, true}};
+    for (const auto &c : cases) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(c.contents) == c.contents.size());
+        file.close();
+        EXPECT_EQ(manager->printerList()->size(), c.listed) << c.contents.left(30).constData();
+        const auto problems = manager->printerProblems();
+        EXPECT_EQ(problems.value(0).subject, c.problem ? path : QString());
+    }
 }
 
 TEST_F(Printers, AnAddressOfFourPartsIsChecked) {

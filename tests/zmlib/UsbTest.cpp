@@ -1,1 +1,219 @@
+#include <sys/fsuid.h>
+#include <sys/stat.h>
+
+#include <QElapsedTimer>
+
 #include "support/Catalogues.h"
+#include "zmlib/DeviceId.h"
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const QList<QByteArray> commands{hex("1b7b045501567d"), hex("1b7b0377777d"), hex("1b7b045500557d")};
+const QByteArray readName = hex("1b7b056606107c7d");
+constexpr int limit = 300;
+
+TEST(DeviceId, NamesTheProductAsTheTableOfModelsDoes) {
+    const struct {
+        QByteArray id;
+        const char *manufacturer, *product, *name;
+    } cases[] = {
+        {"MFG:Larkfield;MDL:L200;CLS:PRINTER;SN:1;", "M", "P", "Larkfield L200"},
+        {"MODEL: L200 ; manufacturer:Larkfield", "M", "P", "Larkfield L200"},
+        {"MFG:Larkfield;MDL:LARKFIELD L200;", "", "", "LARKFIELD L200"},
+        {"MFG:Lark;MDL:Larkfield L200;", "", "", "Lark Larkfield L200"},
+        {"MFG:One;MFG:Two;MDL:A:B;", "", "", "One A:B"},
+        {"MFG:Larkfield;CMD:X;", "Larkfield", "L300", "Larkfield L300"},
+        {"MFG:;MDL:L200;", " Larkfield ", "L300\n", "Larkfield L300"},
+        {"MFG:Lark\0field;MDL", "", "L300", "L300"},
+        {";;:;:::;MFG", "Larkfield", "", "Larkfield"},
+        {QByteArray(65536, ';'), "", "", ""},
+        {"MFG:" + QByteArray(65536, 'x'), "M", "P", "M P"},
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(
+            productName(modelOf(c.id, QLatin1String(c.manufacturer), QLatin1String(c.product))),
+            QLatin1String(c.name))
+            << c.id.left(40).constData();
+}
+
+class Usb : public testing::Test {
+  protected:
+    void SetUp() override {
+        if (!UsbBed::isThere()) GTEST_SKIP();
+    }
+    UsbEmulator &plug(const UsbEmulator::Description &description,
+                      const QByteArray &profile = "{}") {
+        printers.push_back(printerOf(profile));
+        usb.push_back(std::make_unique<UsbEmulator>(bed, printers.back(), description));
+        return *usb.back();
+    }
+    ZMLib &library() {
+        if (!m_library) {
+            std::vector<std::unique_ptr<PrinterSource>> sources;
+            sources.push_back(std::make_unique<UsbSource>());
+            m_library = std::make_shared<PrinterLibrary>(std::move(sources), limit);
+        }
+        return *m_library;
+    }
+    QString listed() {
+        QStringList lines;
+        for (const PrinterEntry &entry : library().ZMCreatePrinterURI().value())
+            lines << entry[PrinterKey::DeviceURI] + u' ' + entry[PrinterKey::ProductName];
+        return lines.join(u'\n');
+    }
+    int status() { return library().ZMGetEngageStatusSub(uri, limit); }
+    int engage() { return library().ZMEngageConnectAndStartCommand(uri, commands, 20, limit); }
+    int get() {
+        QByteArray reply;
+        return library().ZMGetSettingData(uri, 512, readName, reply, commands, limit);
+    }
+    int finish() { return library().ZMEndCommandAndEngageDisConnect(uri, commands, 20, limit); }
+    // The problems, as the number of the kind and the subject.
+    QString problems() {
+        QStringList lines;
+        for (const PrinterProblem &problem : library().problems())
+            lines << QString::number(problem.kind) + problem.subject;
+        return lines.join(u'|');
+    }
+
+    const QString uri = u"usb:///Larkfield/L200?serial=0001"_s;
+    const UsbBed bed;
+    std::vector<std::shared_ptr<VirtualPrinter>> printers;
+    std::vector<std::unique_ptr<UsbEmulator>> usb;
+
+  private:
+    std::shared_ptr<PrinterLibrary> m_library;
+};
+
+TEST_F(Usb, ListsPrintersByPortWithoutOpeningOne) {
+    plug({.port = "1-10", .address = 1, .product = "L400", .serial = "a/b 1"});
+    plug({.port = "1-2", .address = 2, .serial = ""});
+    plug({.port = "1-9", .address = 3, .product = "X", .deviceId = "MFG:Larkfield;MDL:L300;"});
+    plug({.port = "1-3", .address = 4, .serial = "7"});
+    plug({.port = "1-4", .address = 5, .serial = "7"});
+    plug({.port = "1-5", .address = 6, .interface = "090400000207010400"});  // another protocol
+    plug({.port = "1-6", .address = 7, .interface = "090400000007010200", .endpoints = ""});
+    plug({.port = "1-7", .address = 8, .endpoints = "0705810200"});          // cut
+    plug({.port = "1-8", .address = 9, .interface = "0904000002ff010200"});  // no printer
+    plug({.port = "1-1", .address = 10, .interface = "090402000207010200"});
+    EXPECT_EQ(listed(),
+              u"usb:///Larkfield/L200?serial=0001&interface=2 Larkfield L200\n"
+              "usb:///Larkfield/L200?port=1-2 Larkfield L200\n"
+              "usb:///Larkfield/L200?port=1-3 Larkfield L200\n"
+              "usb:///Larkfield/L200?port=1-4 Larkfield L200\n"
+              "usb:///Larkfield/L300?serial=0001 Larkfield L300\n"
+              "usb:///Larkfield/L400?serial=a%2Fb%201 Larkfield L400"_s);
+    for (const auto &one : usb) EXPECT_EQ(one->opens, 0);
+    EXPECT_EQ(library().ZMGetEngageStatusSub(u"usb:///Other/X?port=1-4"_s, limit), 1)
+        << "named otherwise since";
+    EXPECT_EQ(usb[4]->claims, 1);
+    EXPECT_LT(library().ZMGetEngageStatusSub(u"usb:///Larkfield/L200?port=1-5"_s, limit), 0);
+}
+
+TEST_F(Usb, ATransactionClaimsTheInterfaceOnceAndGivesItBackToTheKernel) {
+    UsbEmulator &printer = plug({}, R"({"items": {"0x1006": "AB"}})");
+    printer.setDriver("usblp");
+    printer.leave(hex("43463b08003b06103b58583b4a"));  // asked for by a host that is gone
+    printer.packet = 1;
+    ASSERT_EQ(status(), 1);
+    ASSERT_EQ(engage(), 0);
+    QByteArray reply;
+    EXPECT_EQ(library().ZMGetSettingData(uri, 512, readName, reply, commands, limit), 0);
+    EXPECT_EQ(reply, hex("43463b08003b06103b41423b4a")) << "what was left over, or not whole";
+    EXPECT_EQ(finish(), 0);
+    EXPECT_EQ(printer.claims, 1);
+    EXPECT_EQ(printer.releases, 1);
+    EXPECT_EQ(printer.driver(), "usblp");
+}
+
+TEST_F(Usb, WhoMayNotOrCannotOpenAPrinterIsTold) {
+    UsbEmulator &printer = plug({});
+    listed();
+    printer.setDriver("usbfs");
+    EXPECT_EQ(status(), ZMLib::InUse);
+    EXPECT_EQ(problems(), u"1Larkfield L200 (0001)"_s);
+    printer.setDriver("");
+    EXPECT_EQ(status(), 1);
+    EXPECT_EQ(problems(), QString()) << "told although it can be opened now";
+    EXPECT_EQ(engage(), 0);
+    finish();
+    const std::unique_ptr<char, decltype(&g_free)> root(umockdev_testbed_get_root_dir(bed.get()),
+                                                        g_free);
+    ::chmod(root.get(), 0755);
+    ::chmod((root.get() + ("/ioctl" + printer.node())).constData(), 0777);
+    ::chmod(printer.node().constData(), 0600);
+    ::setfsuid(65534);
+    EXPECT_EQ(status(), ZMLib::NoPermission);
+    ::setfsuid(0);
+    EXPECT_EQ(problems(), u"0Larkfield L200 (0001)"_s);
+    listed();
+    EXPECT_EQ(problems(), QString()) << "kept beyond the next list";
+}
+
+TEST_F(Usb, APrinterThatMisbehavesGivesAResultInTime) {
+    UsbEmulator &printer = plug({}, R"({"faults": {"items": {"0x1006": {"noReply": true}}}})");
+    ASSERT_EQ(engage(), 0);
+    for (const bool empty : {false, true}) {
+        printer.emptyPackets = empty;
+        QElapsedTimer time;
+        time.start();
+        EXPECT_EQ(get(), ZMLib::TimedOut);
+        EXPECT_LT(time.elapsed(), 2 * limit);
+    }
+    printer.emptyPackets = false;
+    printers[0]->setFaults({});
+    EXPECT_EQ(get(), 0) << "the channel did not stay open";
+    printer.stallOut = true;
+    EXPECT_EQ(get(), ZMLib::Closed);
+    EXPECT_FALSE(printer.stallOut) << "left stalled";
+    printer.stallIn = true;
+    EXPECT_EQ(engage(), 0) << "a stall of before";
+    printer.stallIn = true;
+    EXPECT_EQ(get(), ZMLib::Closed);
+    EXPECT_EQ(printer.claims, printer.releases);
+}
+
+TEST_F(Usb, APulledCableIsNoticedAtEveryStep) {
+    UsbEmulator &printer = plug({});
+    for (int frames = 1; frames <= 5; ++frames) {
+        Faults pulled;
+        pulled.closeAfterFrames = frames;
+        printers[0]->setFaults(pulled);
+        ASSERT_EQ(engage(), 0) << frames;
+        int result = 0;
+        for (int i = 0; i < 5 && result == 0; ++i) result = get();
+        EXPECT_EQ(result, ZMLib::Closed) << frames;
+        EXPECT_EQ(finish(), ZMLib::NotOpen) << frames;
+    }
+    printers[0]->setFaults(
+        printerOf(R"({"faults": {"items": {"0x1006": {"noReply": true}}}})")->faults());
+    ASSERT_EQ(engage(), 0);
+    std::thread puller([&] {
+        QThread::msleep(50);  // until the read waits
+        printer.unplug();
+    });
+    EXPECT_EQ(get(), ZMLib::Closed);
+    puller.join();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return status() == ZMLib::UnknownPrinter; }));
+}
+
+TEST_F(Usb, PluggingAndReplacingAPrinterChangeTheList) {
+    UsbEmulator &printer = plug({});
+    EXPECT_FALSE(listed().isEmpty());
+    const auto changed = [&] { return library().hasListChanged(); };
+    EXPECT_FALSE(changed());
+    printer.unplug();
+    EXPECT_TRUE(QTest::qWaitFor(changed));
+    EXPECT_EQ(listed(), QString());
+    printer.plug();
+    EXPECT_TRUE(QTest::qWaitFor(changed));
+    EXPECT_FALSE(listed().isEmpty());
+    printer.unplug();
+    plug({.address = 8});
+    EXPECT_TRUE(QTest::qWaitFor(changed)) << "another printer of the same name";
+    EXPECT_EQ(usb[0]->opens + usb[1]->opens, 0);
+}
+
+}  // namespace

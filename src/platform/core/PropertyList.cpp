@@ -2,18 +2,17 @@
 
 #include <plist/plist.h>
 
+#include <QDir>
 #include <QFile>
 #include <QVariant>
 #include <cstdlib>
-#include <limits>
 #include <memory>
+#include <optional>
 
 namespace {
 
-const QString resourceFolder = QStringLiteral(":/plists");
-
-QString &folder() {
-    static QString current = resourceFolder;
+QString &administrator() {
+    static QString current = PropertyList::administratorFolder;
     return current;
 }
 
@@ -65,13 +64,14 @@ QVariant valueOf(plist_t node) {
     }
 }
 
-}  // namespace
-
-QVariantMap PropertyList::dictionary(const QString &name, const QString &type) {
-    QFile file(QStringLiteral("%1/%2.%3").arg(folder(), name, type));
-    if (!file.open(QIODevice::ReadOnly)) return {};
-    const QByteArray bytes = file.readAll();
-    if (bytes.isEmpty() || bytes.size() > std::numeric_limits<int>::max()) return {};
+// The dictionary in a file; nothing when it cannot be used.
+std::optional<QVariantMap> read(const QString &path) {
+    const QFileInfo info(path);
+    QFile file(path);
+    if (!info.isFile() || info.size() > PropertyList::longestFile ||
+        !file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray bytes = file.read(PropertyList::longestFile);
     plist_t root = nullptr;
     plist_from_memory(bytes.constData(), static_cast<uint32_t>(bytes.size()), &root);
     const std::unique_ptr<void, decltype(&plist_free)> owner(root, plist_free);
@@ -79,10 +79,28 @@ QVariantMap PropertyList::dictionary(const QString &name, const QString &type) {
     return dictionaryOf(root);
 }
 
+}  // namespace
+
+QVariantMap PropertyList::dictionary(const QString &name, const QString &type) {
+    QVariantMap list;
+    for (const QString &folder : {QStringLiteral(":/plists"), administrator()})
+        list.insert(
+            read(QStringLiteral("%1/%2.%3").arg(folder, name, type)).value_or(QVariantMap()));
+    return list;
+}
+
+QStringList PropertyList::unusable() {
+    QStringList files;
+    for (const QFileInfo &file :
+         QDir(administrator()).entryInfoList({QStringLiteral("*.plist")}, QDir::AllEntries))
+        if (!read(file.filePath())) files << file.filePath();
+    return files;
+}
+
 PropertyList::FolderOverride::FolderOverride(const QString &path) {
-    folder() = path;
+    administrator() = path;
 }
 
 PropertyList::FolderOverride::~FolderOverride() {
-    folder() = resourceFolder;
+    administrator() = administratorFolder;
 }

@@ -36,7 +36,7 @@ class UsbEmulator {
         QByteArray port = "1-2";
         int address = 7;
         // Attributes that the kernel tells of the device; empty ones are missing.
-        QByteArray manufacturer = "Larkfield", product = "L200", serial = "0001", deviceId;
+        QByteArray manufacturer = "Larkfield", product = "L200", serial = "0001", deviceId = {};
         // Of the interface and its endpoints, in hexadecimal digits.
         QByteArray interface = "090400000207010200";
         QByteArray endpoints =
