@@ -16,7 +16,7 @@ Model modelOfDeviceId(const QByteArray &id) {
 }
 
 Model modelOf(const QByteArray &deviceId, const QString &manufacturer, const QString &product) {
-    const Model model = modelOfDeviceId(deviceId);
+    Model model = modelOfDeviceId(deviceId);
     if (!model.maker.isEmpty() && !model.name.isEmpty()) return model;
     return {manufacturer.simplified(), product.simplified()};
 }

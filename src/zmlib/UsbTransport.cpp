@@ -112,7 +112,7 @@ class UsbTransport : public Transport {
           m_in(m_claimed->context(), m_claimed->handle(), printer.in),
           m_out(m_claimed->context(), m_claimed->handle(), printer.out) {
         const int packet = std::max(printer.packetSize, smallestPacket);
-        m_buffer.resize(static_cast<size_t>(readSize / packet * packet));
+        m_buffer.resize(static_cast<size_t>(readSize - readSize % packet));
     }
 
     Outcome write(const QByteArray &bytes, const QDeadlineTimer &deadline) override {

@@ -50,8 +50,7 @@ class Reading : public testing::TestWithParam<Transport> {
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(, Reading, allTransports,
-                         [](const auto &p) { return nameOf(p.param); });
+INSTANTIATE_TEST_SUITE_P(, Reading, allTransports, [](const auto &p) { return nameOf(p.param); });
 
 TEST_P(Reading, FillsBothRecordsInTheOrderOfTheWire) {
     ServedManager m(profile, GetParam());

@@ -64,8 +64,7 @@ class Send : public testing::TestWithParam<Transport> {
     QString steps;
 };
 
-INSTANTIATE_TEST_SUITE_P(, Send, allTransports,
-                         [](const auto &p) { return nameOf(p.param); });
+INSTANTIATE_TEST_SUITE_P(, Send, allTransports, [](const auto &p) { return nameOf(p.param); });
 
 const QString everyStep =
     u"Start0 Progress16 Progress33 Progress50 Progress66 Progress85 Progress100 Stop0 "_s;
