@@ -239,7 +239,8 @@ TEST(Start, PrintsItsHelpAndVersionAndOtherwiseReopensTheInstanceThatRuns) {
         EXPECT_EQ(printed("--version"), text("network-setting-tool " NST_VERSION));
         const QString help = printed("--help");
         EXPECT_TRUE(help.startsWith(text("Reads and changes the network settings of label")));
-        EXPECT_TRUE(help.contains(text("network-setting-tool [-Installer] [--help] [--version]")));
+        EXPECT_TRUE(
+            help.contains(text("network-setting-tool [-Installer] [--demo] [--help] [--version]")));
         EXPECT_EQ(reopened, 0);
         for (const char *starts : {"-Installer", "--helpful", "help", ""})
             EXPECT_EQ(printed(starts), QString()) << starts;
