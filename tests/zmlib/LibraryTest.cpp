@@ -51,8 +51,7 @@ class Library : public testing::TestWithParam<Transport> {
     std::unique_ptr<OnePrinterLibrary> served;
 };
 
-INSTANTIATE_TEST_SUITE_P(, Library, allTransports,
-                         [](const auto &p) { return nameOf(p.param); });
+INSTANTIATE_TEST_SUITE_P(, Library, allTransports, [](const auto &p) { return nameOf(p.param); });
 
 TEST_P(Library, ATransactionPutsExactlyItsFramesOnTheWire) {
     serve("{}");
