@@ -168,8 +168,7 @@ void DWTPrinterSelector::DWT_UISelector(const QString &viewKey) {
     dictionary_ViewManagement->select(viewKey);
     dictionary_ViewManagement->focusFirstControl();
     if (viewKey != DWT_View_Key_Printerlist) return;
-    DWT_UpdatePrinterList();
-    button_PrinterlistOK->setEnabled(false);
+    push_PrinterListReload();
 }
 
 // The selected printer stays selected while it is there.
