@@ -1,10 +1,13 @@
 #include "zmlib/PrinterLibrary.h"
 
+#include <QHostAddress>
 #include <QStringList>
 #include <QThread>
 #include <QUrl>
 #include <QUrlQuery>
 #include <algorithm>
+
+#include "zmlib/AddressProbe.h"
 
 namespace {
 
@@ -100,13 +103,15 @@ int PrinterLibrary::ZMIOOpenForUDP(const QString &target, const QString &address
                                    int timeout) {
     if (target != anyPrinter && !isListed(target)) return UnknownPrinter;
     const QDeadlineTimer deadline = deadlineFor(timeout);
-    QStringList printers = openChannels();
+    QStringList printers;
     for (const auto &source : m_sources) printers += source->mayHave(address);
-    printers.removeDuplicates();
-    const bool answers = std::any_of(printers.begin(), printers.end(), [&](const QString &uri) {
-        return answersAt(uri, address, deadline);
-    });
-    return answers ? Success : UnknownPrinter;
+    const auto isOnThisNetwork = [](const auto &source) { return source->isOnThisNetwork(); };
+    const auto answers = [&](const QString &uri) { return answersAt(uri, address, deadline); };
+    return std::any_of(printers.begin(), printers.end(), answers) ||
+                   (std::any_of(m_sources.begin(), m_sources.end(), isOnThisNetwork) &&
+                    answersAtAddress(QHostAddress(address), deadline))
+               ? Success
+               : UnknownPrinter;
 }
 
 QList<PrinterProblem> PrinterLibrary::problems() {
@@ -133,13 +138,6 @@ bool PrinterLibrary::isListed(const QString &uri) const {
 bool PrinterLibrary::isOpen(const QString &uri) {
     const std::lock_guard lock(m_mutex);
     return m_channels.contains(uri);
-}
-
-QStringList PrinterLibrary::openChannels() {
-    const std::lock_guard lock(m_mutex);
-    QStringList uris;
-    for (const auto &[uri, channel] : m_channels) uris << uri;
-    return uris;
 }
 
 std::variant<Channel, int> PrinterLibrary::open(const QString &uri,

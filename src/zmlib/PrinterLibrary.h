@@ -64,7 +64,6 @@ class PrinterLibrary : public ZMLib {
     QDeadlineTimer deadlineFor(int timeout) const;
     bool isListed(const QString &uri) const;
     bool isOpen(const QString &uri);
-    QStringList openChannels();
     // The channel, or a negative Result.
     std::variant<Channel, int> open(const QString &uri, const QDeadlineTimer &deadline);
     void noteOpened(const QString &uri, int result);

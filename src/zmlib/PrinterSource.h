@@ -38,7 +38,11 @@ class PrinterSource {
     // Opens the printer of a URI; ZMLib::UnknownPrinter for one that is not of this source.
     virtual Opened open(const QString &uri, const QDeadlineTimer &deadline) = 0;
 
-    // The printers, by URI, that may be asked whether `address` (dotted IPv4) is theirs.
+    // Whether the addresses of its printers are those of the network that this machine is on, so
+    // that an address itself can be asked whether it answers.
+    virtual bool isOnThisNetwork() const { return false; }
+
+    // Otherwise: the printers, by URI, that may be asked whether `address` (dotted IPv4) is theirs.
     virtual QStringList mayHave(const QString &address) {
         Q_UNUSED(address)
         return {};

@@ -1,10 +1,7 @@
-#include <fcntl.h>
-#include <net/if.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <poll.h>
 #include <sys/socket.h>
-#include <unistd.h>
 
 #include <QHostAddress>
 #include <QHostInfo>
@@ -18,40 +15,11 @@
 #include "platform/core/MainThread.h"
 #include "platform/core/Waiting.h"
 #include "zmlib/Replies.h"
+#include "zmlib/Socket.h"
 #include "zmlib/Transport.h"
 #include "zmlib/ZMLib.h"
 
 namespace {
-
-// Sockets are used directly, since a wait has to be interrupted every few milliseconds on whatever
-// thread it runs, and a QTcpSocket gives up a connection whose wait is interrupted.
-class Socket {
-  public:
-    explicit Socket(int family)
-        : m_fd(::socket(family, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0)) {}
-    ~Socket() {
-        if (m_fd >= 0) ::close(m_fd);
-    }
-    Socket(Socket &&other) noexcept : m_fd(std::exchange(other.m_fd, -1)) {}
-    Socket(const Socket &) = delete;
-    Socket &operator=(const Socket &) = delete;
-    Socket &operator=(Socket &&) = delete;
-
-    int fd() const { return m_fd; }
-
-    // Waits until the socket can be read or written (POLLIN, POLLOUT); false after the deadline.
-    bool waitFor(short events, const QDeadlineTimer &deadline) const {
-        bool ready = false;
-        const auto poll = [&](std::chrono::milliseconds slice) {
-            pollfd entry{m_fd, events, 0};
-            ready = ::poll(&entry, 1, static_cast<int>(slice.count())) > 0;
-        };
-        return waitUntil([&] { return ready; }, deadline, poll);
-    }
-
-  private:
-    int m_fd;
-};
 
 class TcpTransport : public Transport {
   public:
@@ -137,40 +105,10 @@ QList<QHostAddress> addressesOf(const QString &host, const QDeadlineTimer &deadl
     return waitUntil(ready, deadline, pause) ? found.get() : QList<QHostAddress>();
 }
 
-// The number of the interface that the scope of an address names, by its name or number; 0: none.
-quint32 scopeOf(const QHostAddress &address) {
-    const QByteArray scope = address.scopeId().toLocal8Bit();
-    const quint32 named = scope.isEmpty() ? 0 : ::if_nametoindex(scope.constData());
-    return named != 0 ? named : scope.toUInt();
-}
-
-bool startConnecting(const Socket &socket, const QHostAddress &address, quint16 port) {
-    int result = -1;
-    if (address.protocol() == QAbstractSocket::IPv6Protocol) {
-        sockaddr_in6 name{};
-        name.sin6_family = AF_INET6;
-        name.sin6_port = htons(port);
-        name.sin6_scope_id = scopeOf(address);
-        const Q_IPV6ADDR bytes = address.toIPv6Address();
-        std::copy(std::begin(bytes.c), std::end(bytes.c), std::begin(name.sin6_addr.s6_addr));
-        result = ::connect(socket.fd(), reinterpret_cast<const sockaddr *>(&name), sizeof name);
-    } else {
-        sockaddr_in name{};
-        name.sin_family = AF_INET;
-        name.sin_port = htons(port);
-        name.sin_addr.s_addr = htonl(address.toIPv4Address());
-        result = ::connect(socket.fd(), reinterpret_cast<const sockaddr *>(&name), sizeof name);
-    }
-    return result == 0 || errno == EINPROGRESS;
-}
-
 bool connectSocket(const Socket &socket, const QHostAddress &address, quint16 port,
                    const QDeadlineTimer &deadline) {
-    if (socket.fd() < 0 || !startConnecting(socket, address, port)) return false;
-    if (!socket.waitFor(POLLOUT, deadline)) return false;
-    int error = 0;
-    socklen_t size = sizeof error;
-    return ::getsockopt(socket.fd(), SOL_SOCKET, SO_ERROR, &error, &size) == 0 && error == 0;
+    return socket.startConnecting(address, port) && socket.waitFor(POLLOUT, deadline) &&
+           socket.connectionError() == 0;
 }
 
 }  // namespace
@@ -179,8 +117,7 @@ std::unique_ptr<Transport> openTcpTransport(const QString &host, quint16 port,
                                             const QDeadlineTimer &deadline) {
     const QList<QHostAddress> addresses = addressesOf(host, deadline);
     for (qsizetype i = 0; i < addresses.size(); ++i) {
-        const bool v6 = addresses[i].protocol() == QAbstractSocket::IPv6Protocol;
-        Socket socket(v6 ? AF_INET6 : AF_INET);
+        Socket socket(addresses[i].protocol(), SOCK_STREAM);
         const QDeadlineTimer share(deadline.remainingTimeAsDuration() / (addresses.size() - i));
         if (connectSocket(socket, addresses[i], port, share))
             return std::make_unique<TcpTransport>(std::move(socket));

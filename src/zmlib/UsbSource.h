@@ -15,6 +15,7 @@ class UsbSource : public PrinterSource {
     bool hasChanged() override;
     bool lists(const QString &uri) override;
     Opened open(const QString &uri, const QDeadlineTimer &deadline) override;
+    bool isOnThisNetwork() const override { return true; }
 
   private:
     // Made when it is first needed; null while the system does not let it be made.
