@@ -59,7 +59,8 @@ class Usb : public testing::Test {
     }
     QString listed() {
         QStringList lines;
-        for (const PrinterEntry &entry : library().ZMCreatePrinterURI().value())
+        const auto entries = library().ZMCreatePrinterURI().value_or(QList<PrinterEntry>());
+        for (const PrinterEntry &entry : entries)
             lines << entry[PrinterKey::DeviceURI] + u' ' + entry[PrinterKey::ProductName];
         return lines.join(u'\n');
     }
