@@ -144,7 +144,7 @@ TEST_F(Usb, WhoMayNotOrCannotOpenAPrinterIsTold) {
                                                         g_free);
     ::chmod(root.get(), 0755);
     ::chmod((root.get() + ("/ioctl" + printer.node())).constData(), 0777);
-    ::chmod(printer.node().constData(), 0600);
+    ::chmod(printer.node().constData(), 0);  // for its owner as well
     ::setfsuid(65534);
     EXPECT_EQ(status(), ZMLib::NoPermission);
     ::setfsuid(0);
