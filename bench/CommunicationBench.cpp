@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
-#include <QFile>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QThread>
@@ -17,13 +16,6 @@
 #include "Printers.h"
 #include "link/DWTCommunicationControl.h"
 #include "settings/Frames.h"
-
-double residentKiB() {
-    QFile file(QStringLiteral("/proc/self/statm"));
-    if (!file.open(QIODevice::ReadOnly)) return 0;
-    return file.readAll().split(' ')[1].toDouble() * static_cast<double>(sysconf(_SC_PAGESIZE)) /
-           1024;
-}
 
 namespace {
 

@@ -3,6 +3,7 @@
 #include <QJsonDocument>
 #include <memory>
 
+#include "Resident.h"
 #include "link/Binding.h"
 #include "support/PrinterServerThread.h"
 #include "virtualprinter/VirtualPrinter.h"
@@ -36,6 +37,3 @@ class BenchPrinter {
   private:
     std::unique_ptr<PrinterServerThread> m_server;
 };
-
-// Resident memory of the process in KiB.
-double residentKiB();

@@ -3,11 +3,10 @@
 
 #include <benchmark/benchmark.h>
 #include <libusb.h>
-#include <unistd.h>
 
 #include <QCoreApplication>
-#include <QFile>
 
+#include "Resident.h"
 #include "support/UsbEmulator.h"
 #include "zmlib/UsbSource.h"
 
@@ -16,13 +15,6 @@ namespace {
 const QByteArray start = QByteArray::fromHex("1b7b045501567d");
 const QByteArray request = QByteArray::fromHex("1b7b056606107c7d");
 const QString uri = QStringLiteral("usb:///Larkfield/L200?serial=0001");
-
-double residentKiB() {
-    QFile file(QStringLiteral("/proc/self/statm"));
-    if (!file.open(QIODevice::ReadOnly)) return 0;
-    return file.readAll().split(' ')[1].toDouble() * static_cast<double>(sysconf(_SC_PAGESIZE)) /
-           1024;
-}
 
 std::shared_ptr<VirtualPrinter> printer() {
     return std::make_shared<VirtualPrinter>(*profileFromJson({}).profile);
