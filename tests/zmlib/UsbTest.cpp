@@ -161,7 +161,7 @@ TEST_F(Usb, APrinterThatMisbehavesGivesAResultInTime) {
         QElapsedTimer time;
         time.start();
         EXPECT_EQ(get(), ZMLib::TimedOut);
-        EXPECT_LT(time.elapsed(), 2 * limit);
+        EXPECT_LT(time.elapsed(), 5 * limit);
     }
     printer.emptyPackets = false;
     printers[0]->setFaults({});
