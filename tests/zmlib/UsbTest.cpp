@@ -116,13 +116,18 @@ TEST_F(Usb, ListsPrintersByPortWithoutOpeningOne) {
 TEST_F(Usb, ATransactionClaimsTheInterfaceOnceAndGivesItBackToTheKernel) {
     UsbEmulator &printer = plug({}, R"({"items": {"0x1006": "AB"}})");
     printer.setDriver("usblp");
-    printer.leave(hex("43463b08003b06103b58583b4a"));  // asked for by a host that is gone
+    const QByteArray stale = hex("43463b08003b06103b58583b4a");
+    printer.leave(stale);  // asked for by a host that is gone
     printer.packet = 1;
     ASSERT_EQ(status(), 1);
     ASSERT_EQ(engage(), 0);
-    QByteArray reply;
-    EXPECT_EQ(library().ZMGetSettingData(uri, 512, readName, reply, commands, limit), 0);
-    EXPECT_EQ(reply, hex("43463b08003b06103b41423b4a")) << "what was left over, or not whole";
+    for (int i = 0; i < 2; ++i) {
+        QByteArray reply;
+        EXPECT_EQ(library().ZMGetSettingData(uri, 512, readName, reply, commands, limit), 0);
+        EXPECT_EQ(reply, hex("43463b08003b06103b41423b4a")) << i << ": left over, or not whole";
+        printer.packet = 512;
+        printer.leave(stale);  // comes between the exchanges
+    }
     EXPECT_EQ(finish(), 0);
     EXPECT_EQ(printer.claims, 1);
     EXPECT_EQ(printer.releases, 1);
