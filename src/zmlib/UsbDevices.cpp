@@ -6,7 +6,6 @@
 #include <QUrl>
 #include <algorithm>
 #include <array>
-#include <compare>
 
 #include "zmlib/DeviceId.h"
 
@@ -135,17 +134,6 @@ QList<UsbPrinter> usbPrinters(libusb_context *context) {
     for (qsizetype i = 0; i < printers.size(); ++i)
         if (sharing[printers[i].uri] > 1) printers[i].uri = uriOf(printers[i], models[i], false);
     return printers;
-}
-
-const UsbPrinter *findPrinter(const QList<UsbPrinter> &printers, const QString &uri) {
-    const auto same = [&](const UsbPrinter &printer) { return printer.uri == uri; };
-    const auto query = [](const QString &of) { return QUrl(of).query(QUrl::FullyEncoded); };
-    const auto sameQuery = [&](const UsbPrinter &printer) {
-        return uri.startsWith(u"usb:") && query(printer.uri) == query(uri);
-    };
-    auto found = std::find_if(printers.begin(), printers.end(), same);
-    if (found == printers.end()) found = std::find_if(printers.begin(), printers.end(), sameQuery);
-    return found == printers.end() ? nullptr : &*found;
 }
 
 QString kernelPrinterFile(const UsbPrinter &printer) {

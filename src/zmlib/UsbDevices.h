@@ -30,10 +30,6 @@ struct UsbPrinter {
 // their ports.
 QList<UsbPrinter> usbPrinters(libusb_context *context);
 
-// The printer of a URI that usbPrinters() gave now or earlier: a maker or a model that is told
-// otherwise since, with the same serial number or port, does not matter. Null when there is none.
-const UsbPrinter *findPrinter(const QList<UsbPrinter> &printers, const QString &uri);
-
 // The device file of the kernel's own printer driver while it has the interface ("/dev/usb/lp0");
 // empty when it has not.
 QString kernelPrinterFile(const UsbPrinter &printer);

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QList>
-#include <QPair>
 #include <memory>
 #include <mutex>
+#include <optional>
 
 #include "zmlib/PrinterSource.h"
 #include "zmlib/UsbDevices.h"
@@ -22,7 +22,19 @@ class UsbSource : public PrinterSource {
     std::shared_ptr<libusb_context> context();
     QList<UsbPrinter> find();
 
-    using Plugged = QPair<QString, int>;  // URI and address of a printer
+    // The printer of a URI: one that is called so, or the very device that the last list called so,
+    // since the kernel's driver may have read its name only now. A device in its place is another.
+    std::optional<UsbPrinter> find(const QString &uri);
+
+    // A printer as it was listed.
+    struct Plugged {
+        QString uri;
+        QString port;
+        int address;
+        quint8 interface;
+        bool operator==(const Plugged &) const = default;
+    };
+    static QList<Plugged> pluggedOf(const QList<UsbPrinter> &printers);
 
     std::mutex m_mutex;  // guards what follows
     std::shared_ptr<libusb_context> m_context;

@@ -107,9 +107,15 @@ TEST_F(Usb, ListsPrintersByPortWithoutOpeningOne) {
               "usb:///Larkfield/L300?serial=0001 Larkfield L300\n"
               "usb:///Larkfield/L400?serial=a%2Fb%201 Larkfield L400"_s);
     for (const auto &one : usb) EXPECT_EQ(one->opens, 0);
-    EXPECT_EQ(library().ZMGetEngageStatusSub(u"usb:///Other/X?port=1-4"_s, limit), 1)
-        << "named otherwise since";
+    umockdev_testbed_set_attribute(bed.get(), "/sys/devices/usb1/1-4", "product", "L500");
+    const QString called = u"usb:///Larkfield/L200?port=1-4"_s;
+    EXPECT_EQ(library().ZMGetEngageStatusSub(called, limit), 1) << "named otherwise since";
     EXPECT_EQ(usb[4]->claims, 1);
+    usb[4]->unplug();
+    plug({.port = "1-4", .address = 11, .product = "L500", .serial = ""});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return library().hasListChanged(); }));
+    EXPECT_EQ(library().ZMGetEngageStatusSub(called, limit), ZMLib::UnknownPrinter)
+        << "another printer on the same port";
     EXPECT_LT(library().ZMGetEngageStatusSub(u"usb:///Larkfield/L200?port=1-5"_s, limit), 0);
 }
 

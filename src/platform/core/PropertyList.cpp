@@ -90,9 +90,13 @@ QVariantMap PropertyList::dictionary(const QString &name, const QString &type) {
 }
 
 QStringList PropertyList::unusable() {
+    const QFileInfo folder(administrator());
+    if (folder.exists() && !(folder.isReadable() && folder.isExecutable()))
+        return {administrator()};
     QStringList files;
     for (const QFileInfo &file :
-         QDir(administrator()).entryInfoList({QStringLiteral("*.plist")}, QDir::AllEntries))
+         QDir(administrator())
+             .entryInfoList({QStringLiteral("*.plist")}, QDir::AllEntries | QDir::System))
         if (!read(file.filePath())) files << file.filePath();
     return files;
 }

@@ -20,7 +20,7 @@ inline constexpr qint64 longestFile = qint64{1024} * 1024;
 QVariantMap dictionary(const QString &name, const QString &type);
 
 // The administrator's lists that cannot be used: no regular file of at most longestFile bytes that
-// can be read and holds a dictionary.
+// can be read and holds a dictionary; or their folder, when it cannot be read.
 QStringList unusable();
 
 // While it lives, `folder` is where an administrator's lists are. One at a time; for tests, which
