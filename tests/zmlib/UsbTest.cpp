@@ -211,6 +211,30 @@ TEST_F(Usb, APulledCableIsNoticedAtEveryStep) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return status() == ZMLib::UnknownPrinter; }));
 }
 
+TEST_F(Usb, APrinterThatVanishesAtAnyRequestIsReadyAgainAndAppliedOnlyWhatWasToldSo) {
+    UsbEmulator &printer = plug({});
+    const QByteArray update = commands[1];
+    int failed = 0;
+    for (int requests = 1; printer.requestsLeft == 0; ++requests) {
+        ASSERT_LT(requests, 200);
+        printers[0]->clearLog();
+        printer.requestsLeft = requests;
+        const bool done = status() == 1 && engage() == 0 && get() == 0 && finish() == 0;
+        finish();
+        const auto log = printers[0]->log();
+        const bool applied = std::any_of(log.begin(), log.end(),
+                                         [&](const auto &frame) { return frame.bytes == update; });
+        EXPECT_EQ(done, applied) << requests;
+        failed += done ? 0 : 1;
+    }
+    EXPECT_GT(failed, 6) << "open, claim, start, request, reply, update";
+    printer.requestsLeft = 0;
+    printer.unplug();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return status() == ZMLib::UnknownPrinter; }));
+    printer.plug();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return status() == 1 && engage() == 0 && get() == 0; }));
+}
+
 TEST_F(Usb, PluggingAndReplacingAPrinterChangeTheList) {
     UsbEmulator &printer = plug({});
     EXPECT_FALSE(listed().isEmpty());

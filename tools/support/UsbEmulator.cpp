@@ -153,6 +153,7 @@ int UsbEmulator::control(unsigned long request, void *argument) {
     }
     if (request == USBDEVFS_GET_CAPABILITIES)  // opened: what closed its channel can be back again
         m_gone = !m_plugged || m_printer->faults().refuseConnection;
+    if (requestsLeft > 0 && --requestsLeft == 0) vanish();
     if (m_gone) return -ENODEV;
     switch (request) {
         case USBDEVFS_GET_CAPABILITIES:

@@ -12,7 +12,7 @@
 #include "virtualprinter/VirtualPrinter.h"
 
 // The kernel's side of a USB without any: what is plugged in exists for this process only. It
-// needs libumockdev-preload (see nst_test()); isThere() tells.
+// needs libumockdev-preload (see nst_test()); isThere() tells, once there is a bed.
 class UsbBed {
   public:
     UsbBed() : m_bed(umockdev_testbed_new()) {}
@@ -20,7 +20,12 @@ class UsbBed {
     UsbBed(const UsbBed &) = delete;
     UsbBed &operator=(const UsbBed &) = delete;
 
-    static bool isThere() { return umockdev_in_mock_environment(); }
+    static bool isThere() {
+        const bool there = umockdev_in_mock_environment();
+        if (!there && qEnvironmentVariable("LD_PRELOAD").contains(QLatin1String("umockdev")))
+            qFatal("LD_PRELOAD names a library that is not there");
+        return there;
+    }
     UMockdevTestbed *get() const { return m_bed; }
 
   private:
@@ -55,7 +60,8 @@ class UsbEmulator {
     QByteArray node() const;
 
     std::atomic<bool> stallIn = false, stallOut = false, emptyPackets = false;
-    std::atomic<int> packet = 512;  // bytes of the longest packet to the host
+    std::atomic<int> packet = 512;      // bytes of the longest packet to the host
+    std::atomic<int> requestsLeft = 0;  // before it vanishes; 0: no limit
     std::atomic<int> claims = 0, releases = 0, opens = 0;
     // Who has the interface: nobody, "usblp" (the kernel's driver) or "usbfs" (another program).
     QByteArray driver() const;
