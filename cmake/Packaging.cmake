@@ -49,5 +49,5 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/debian/po
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 # Plugins, which no library dependency shows: pictures.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS libqt6svg6)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-translations-l10n)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "avahi-daemon, qt6-translations-l10n")
 include(CPack)

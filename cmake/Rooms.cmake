@@ -28,7 +28,7 @@ function(nst_test room)
   add_executable(${room}-tests ${TEST_SOURCES})
   target_include_directories(${room}-tests PRIVATE ${PROJECT_SOURCE_DIR}/tests
                              ${PROJECT_SOURCE_DIR}/tools)
-  target_link_libraries(${room}-tests PRIVATE ${room} ${TEST_USES} usb-emulator
+  target_link_libraries(${room}-tests PRIVATE ${room} ${TEST_USES} beds
                         GTest::gtest GTest::gtest_main Qt6::Test)
   nst_flags(${room}-tests)
   set(environment QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8)

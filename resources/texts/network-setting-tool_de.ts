@@ -779,6 +779,15 @@
     <message id="DWT_Localize_PrinterList_Problem_BadFile">
         <translation>Diese Datei ist nicht oder nicht ganz verwendbar: %1</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_NoNetworkService">
+        <translation>Drucker im Netzwerk werden nicht gefunden: Der Suchdienst (Avahi) dieses Computers läuft nicht.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_SerialNumber">
+        <translation>Seriennummer %1</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Port">
+        <translation>USB-Anschluss %1</translation>
+    </message>
     <message id="DWT_Localize_CommandLine_Help">
         <translation>Zeigt und ändert die Netzwerkeinstellungen von Etikettendruckern.
 

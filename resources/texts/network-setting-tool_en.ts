@@ -779,6 +779,15 @@
     <message id="DWT_Localize_PrinterList_Problem_BadFile">
         <translation>This file cannot be used, at least not all of it: %1</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_NoNetworkService">
+        <translation>Printers on the network are not found: the discovery service (Avahi) of this computer is not running.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_SerialNumber">
+        <translation>serial number %1</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Port">
+        <translation>USB port %1</translation>
+    </message>
     <message id="DWT_Localize_CommandLine_Help">
         <translation>Reads and changes the network settings of label printers.
 

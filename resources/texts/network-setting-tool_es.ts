@@ -779,6 +779,15 @@
     <message id="DWT_Localize_PrinterList_Problem_BadFile">
         <translation>Este archivo no se puede usar, al menos no por completo: %1</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_NoNetworkService">
+        <translation>No se encuentran las impresoras de la red: el servicio de detección (Avahi) de este equipo no está en marcha.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_SerialNumber">
+        <translation>número de serie %1</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Port">
+        <translation>puerto USB %1</translation>
+    </message>
     <message id="DWT_Localize_CommandLine_Help">
         <translation>Muestra y cambia los ajustes de red de impresoras de etiquetas.
 

@@ -779,6 +779,15 @@
     <message id="DWT_Localize_PrinterList_Problem_BadFile">
         <translation>Ce fichier est inutilisable, au moins en partie : %1</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_NoNetworkService">
+        <translation>Les imprimantes du réseau ne sont pas trouvées : le service de découverte (Avahi) de cet ordinateur n’est pas en marche.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_SerialNumber">
+        <translation>numéro de série %1</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Port">
+        <translation>port USB %1</translation>
+    </message>
     <message id="DWT_Localize_CommandLine_Help">
         <translation>Affiche et modifie les réglages réseau des imprimantes d’étiquettes.
 

@@ -779,6 +779,15 @@
     <message id="DWT_Localize_PrinterList_Problem_BadFile">
         <translation>このファイルの全部または一部を使用できません: %1</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_NoNetworkService">
+        <translation>ネットワーク上のプリンターを検索できません。このコンピューターの検出サービス (Avahi) が動作していません。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_SerialNumber">
+        <translation>シリアル番号 %1</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Port">
+        <translation>USB ポート %1</translation>
+    </message>
     <message id="DWT_Localize_CommandLine_Help">
         <translation>ラベルプリンターのネットワーク設定を表示・変更します。
 

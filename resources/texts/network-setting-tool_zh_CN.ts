@@ -779,6 +779,15 @@
     <message id="DWT_Localize_PrinterList_Problem_BadFile">
         <translation>此文件全部或部分无法使用：%1</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_NoNetworkService">
+        <translation>找不到网络上的打印机：此计算机的发现服务 (Avahi) 未运行。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_SerialNumber">
+        <translation>序列号 %1</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Port">
+        <translation>USB 端口 %1</translation>
+    </message>
     <message id="DWT_Localize_CommandLine_Help">
         <translation>查看和更改标签打印机的网络设置。
 

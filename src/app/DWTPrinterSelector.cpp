@@ -36,6 +36,8 @@ constexpr qsizetype shownProblems = 4;
 QString wordsOf(const PrinterProblem &problem) {
     QString text;
     switch (problem.kind) {
+        case PrinterProblem::NoNetworkService:
+            return localized(QStringLiteral("DWT_Localize_PrinterList_Problem_NoNetworkService"));
         case PrinterProblem::NoPermission:
             text = localized(QStringLiteral("DWT_Localize_PrinterList_Problem_NoPermission"));
             break;
@@ -47,6 +49,17 @@ QString wordsOf(const PrinterProblem &problem) {
             break;
     }
     return text.arg(shownText(problem.subject));
+}
+
+// What tells a printer from others of its model, as far as the library knows it.
+QString whereaboutsOf(const PrinterEntry &entry) {
+    if (entry.contains(PrinterKey::SerialNumber))
+        return localized(QStringLiteral("DWT_Localize_PrinterList_SerialNumber"))
+            .arg(entry[PrinterKey::SerialNumber]);
+    if (entry.contains(PrinterKey::Port))
+        return localized(QStringLiteral("DWT_Localize_PrinterList_Port"))
+            .arg(entry[PrinterKey::Port]);
+    return entry.value(PrinterKey::Address);
 }
 
 }  // namespace
@@ -102,6 +115,7 @@ void DWTPrinterSelector::DWT_UIInitialize() {
     TableView &table = *tableView_Printerlist;
     table.addColumn(_MODEL_NAME_);
     table.addColumn(_SERVICE_NAME_);
+    table.setHasDetails();
     table.setHeaderTitle(
         _MODEL_NAME_, localized(QStringLiteral("DWT_Localize_PrinterList_TableView_Name_Column")));
     table.setHeaderTitle(
@@ -202,7 +216,6 @@ void DWTPrinterSelector::showProblems() {
         lines << QStringLiteral("… (+%1)").arg(problems.size() - shownProblems);
     textField_Problems->setText(lines.join(u'\n'));
     view_Problems->setVisible(!lines.isEmpty());
-    window_PrinterSelector->fitToScreen();
 }
 
 void DWTPrinterSelector::followPrinters() {
@@ -262,6 +275,14 @@ QVariant DWTPrinterSelector::objectValueForTableColumn(TableView *, const QStrin
         return localized(network ? QStringLiteral("DWT_Localize_PrinterList_BonjourService_Network")
                                  : QStringLiteral("DWT_Localize_PrinterList_BonjourService_USB"));
     return {};
+}
+
+QString DWTPrinterSelector::detailForTableColumn(TableView *, const QString &column, int row) {
+    if (column != _MODEL_NAME_) return {};
+    const PrinterEntry entry = array_PrinterList.value(row);
+    QStringList parts{entry.value(PrinterKey::ProductName), whereaboutsOf(entry)};
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(" · "));
 }
 
 QIcon DWTPrinterSelector::iconForTableColumn(TableView *, const QString &column, int row) {

@@ -37,6 +37,7 @@ class DWTPrinterSelector : public DWTBaseClass,
 
     int numberOfRowsInTableView(TableView *table) override;
     QVariant objectValueForTableColumn(TableView *table, const QString &column, int row) override;
+    QString detailForTableColumn(TableView *table, const QString &column, int row) override;
     QIcon iconForTableColumn(TableView *table, const QString &column, int row) override;
     bool selectionShouldChangeInTableView(TableView *table) override;
     void tableViewSelectionDidChange(TableView *table) override;

@@ -5,6 +5,7 @@
 
 #include "platform/core/Texts.h"
 #include "zmlib/CatalogueSource.h"
+#include "zmlib/NetworkSource.h"
 #include "zmlib/UsbSource.h"
 
 namespace {
@@ -16,6 +17,7 @@ std::shared_ptr<ZMLib> libraryOfEnvironment() {
     if (qEnvironmentVariable("ZMLIB_PRINTERS").isEmpty()) {
         std::vector<std::unique_ptr<PrinterSource>> sources;
         sources.push_back(std::make_unique<UsbSource>());
+        sources.push_back(std::make_unique<NetworkSource>());
         return std::make_shared<PrinterLibrary>(std::move(sources));
     }
     Catalogue catalogue = catalogueFromEnvironment();

@@ -11,8 +11,10 @@
 
 namespace {
 
-const QStringList entryKeys{PrinterKey::DeviceURI, PrinterKey::ConnectionType,
-                            PrinterKey::ProductName, PrinterKey::BonjourServiceName};
+const QStringList entryKeys{PrinterKey::DeviceURI,   PrinterKey::ConnectionType,
+                            PrinterKey::ProductName, PrinterKey::BonjourServiceName,
+                            PrinterKey::Address,     PrinterKey::SerialNumber,
+                            PrinterKey::Port};
 const QString profileKey = QStringLiteral("profile");
 
 // The problem with the texts of an entry, or an empty text.

@@ -17,7 +17,8 @@ class VirtualPrinter;
 //
 // A catalogue is a JSON object {"printers": [entry, ...]}. An entry is an object of texts under
 // "DeviceURI" ("virtual://name" or "tcp://host:port"), "ConnectionType", "ProductName" and, for a
-// network printer, "BonjourServiceName"; a virtual printer has its description
+// network printer, "BonjourServiceName"; what the list tells beside may stand under "Address",
+// "SerialNumber" and "Port". A virtual printer has its description
 // (docs/virtual-printer.md) as an object under "profile".
 struct Catalogue {
     QList<PrinterEntry> entries;

@@ -26,3 +26,15 @@ QString productName(const Model &model) {
     const bool doubled = (model.name + u' ').startsWith(model.maker + u' ', Qt::CaseInsensitive);
     return doubled ? model.name : both;
 }
+
+QString productName(const AnnouncedTexts &texts) {
+    const auto text = [&](const char *key) {
+        return QString::fromUtf8(texts.value(key)).simplified();
+    };
+    const Model model{text("usb_mfg"), text("usb_mdl")};
+    if (!model.maker.isEmpty() && !model.name.isEmpty()) return productName(model);
+    if (const QString type = text("ty"); !type.isEmpty()) return type;
+    const QString product = text("product");
+    const bool inBrackets = product.startsWith(u'(') && product.endsWith(u')');
+    return inBrackets ? product.mid(1, product.size() - 2).simplified() : product;
+}

@@ -1,9 +1,10 @@
 #pragma once
 
 #include <QByteArray>
+#include <QMap>
 #include <QString>
 
-// What a printer on USB says of itself.
+// What a printer says of itself, over USB or in its announcement on the network.
 
 // A maker and a model.
 struct Model {
@@ -24,3 +25,10 @@ Model modelOf(const QByteArray &deviceId, const QString &manufacturer, const QSt
 // Maker and model as one name; a maker with which the model begins already is not doubled. It must
 // equal a name of the table of models exactly.
 QString productName(const Model &model);
+
+// The texts of an announcement (DNS-SD TXT record) by their keys in small letters.
+using AnnouncedTexts = QMap<QByteArray, QByteArray>;
+
+// What an announced printer is called: by usb_MFG and usb_MDL where it has both, otherwise by "ty",
+// otherwise by "product" without its brackets. Takes any bytes.
+QString productName(const AnnouncedTexts &texts);

@@ -3,11 +3,7 @@
 #include <QHostAddress>
 #include <QStringList>
 #include <QThread>
-#include <QUrl>
-#include <QUrlQuery>
 #include <algorithm>
-
-#include "zmlib/AddressProbe.h"
 
 namespace {
 
@@ -18,8 +14,9 @@ constexpr qsizetype endFrame = 2;
 
 }  // namespace
 
-PrinterLibrary::PrinterLibrary(std::vector<std::unique_ptr<PrinterSource>> sources, int longestWait)
-    : m_sources(std::move(sources)), m_longestWait(longestWait) {
+PrinterLibrary::PrinterLibrary(std::vector<std::unique_ptr<PrinterSource>> sources, int longestWait,
+                               ProbePorts ports)
+    : m_sources(std::move(sources)), m_longestWait(longestWait), m_ports(ports) {
     m_closing.setSingleShot(true);
     m_closing.setTimerType(Qt::PreciseTimer);  // not before what it closes has expired
     m_closing.callOnTimeout([this] { closeExpired(); });
@@ -103,13 +100,19 @@ int PrinterLibrary::ZMIOOpenForUDP(const QString &target, const QString &address
                                    int timeout) {
     if (target != anyPrinter && !isListed(target)) return UnknownPrinter;
     const QDeadlineTimer deadline = deadlineFor(timeout);
+    const QHostAddress host(address);
+    for (const auto &source : m_sources)
+        if (const auto own = source->addressesOf(target, deadline))
+            return own->contains(host) && answersAtAddress(host, deadline, m_ports)
+                       ? Success
+                       : UnknownPrinter;
     QStringList printers;
     for (const auto &source : m_sources) printers += source->mayHave(address);
     const auto isOnThisNetwork = [](const auto &source) { return source->isOnThisNetwork(); };
     const auto answers = [&](const QString &uri) { return answersAt(uri, address, deadline); };
     return std::any_of(printers.begin(), printers.end(), answers) ||
                    (std::any_of(m_sources.begin(), m_sources.end(), isOnThisNetwork) &&
-                    answersAtAddress(QHostAddress(address), deadline))
+                    answersAtAddress(host, deadline, m_ports))
                ? Success
                : UnknownPrinter;
 }
@@ -159,12 +162,10 @@ void PrinterLibrary::noteOpened(const QString &uri, int result) {
     if (result != NoPermission && result != InUse) return;
     QString name = uri;
     for (const PrinterEntry &entry : std::as_const(m_listing.entries))
-        if (entry[PrinterKey::DeviceURI] == uri) name = entry[PrinterKey::ProductName];
-    const QUrlQuery query{QUrl(uri)};
-    for (const char *key : {"serial", "port"})
-        if (const QString value = query.queryItemValue(QLatin1String(key), QUrl::FullyDecoded);
-            !value.isEmpty())
-            name += QStringLiteral(" (%1)").arg(value);
+        if (entry[PrinterKey::DeviceURI] == uri)
+            name = QStringLiteral("%1 (%2)").arg(
+                entry[PrinterKey::ProductName],
+                entry.value(PrinterKey::SerialNumber, entry.value(PrinterKey::Port)));
     const auto kind = result == InUse ? PrinterProblem::InUse : PrinterProblem::NoPermission;
     m_refused.insert_or_assign(uri, PrinterProblem{kind, name});
 }

@@ -12,6 +12,7 @@
 #include <variant>
 #include <vector>
 
+#include "zmlib/AddressProbe.h"
 #include "zmlib/Channel.h"
 #include "zmlib/PrinterSource.h"
 #include "zmlib/ZMLib.h"
@@ -26,9 +27,11 @@ class PrinterLibrary : public ZMLib {
     // How long a channel that the engage status opened waits for the engage that uses it.
     static constexpr std::chrono::milliseconds engageWait{2000};
 
-    // `longestWait` (milliseconds) caps the time-out of every call, for tests of silent printers.
+    // For tests: `longestWait` (milliseconds) caps the time-out of every call, `ports` are those at
+    // which an address is asked whether it answers.
     explicit PrinterLibrary(std::vector<std::unique_ptr<PrinterSource>> sources,
-                            int longestWait = std::numeric_limits<int>::max());
+                            int longestWait = std::numeric_limits<int>::max(),
+                            ProbePorts ports = {});
 
     std::optional<QList<PrinterEntry>> ZMCreatePrinterURI() override;
     int ZMGetEngageStatusSub(const QString &uri, int timeout) override;
@@ -75,6 +78,7 @@ class PrinterLibrary : public ZMLib {
 
     const std::vector<std::unique_ptr<PrinterSource>> m_sources;
     const int m_longestWait;
+    const ProbePorts m_ports;
     std::mutex m_mutex;  // guards what follows; never held while a call waits
     Listing m_listing;   // the last one
     std::map<QString, PrinterProblem> m_refused;  // printers that could not be opened since

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QDeadlineTimer>
+#include <QHostAddress>
 #include <QList>
 #include <QString>
 #include <QStringList>
 #include <memory>
+#include <optional>
 
 #include "zmlib/Transport.h"
 #include "zmlib/ZMLib.h"
@@ -13,6 +15,7 @@
 struct Listing {
     QList<PrinterEntry> entries;
     QList<PrinterProblem> problems;
+    bool operator==(const Listing &) const = default;
 };
 
 // A stream to a printer, or why there is none.
@@ -29,7 +32,7 @@ class PrinterSource {
     // The printers of this moment; opens none of them.
     virtual Listing list() = 0;
 
-    // Whether the printers differ from those of the last list(); opens none of them.
+    // Whether list() would give something else than the last time; opens no printer.
     virtual bool hasChanged() { return false; }
 
     // Whether a printer of this URI is there.
@@ -42,9 +45,19 @@ class PrinterSource {
     // that an address itself can be asked whether it answers.
     virtual bool isOnThisNetwork() const { return false; }
 
-    // Otherwise: the printers, by URI, that may be asked whether `address` (dotted IPv4) is theirs.
+    // The printers, by URI, of a source that is not: those to ask whether `address` (dotted IPv4)
+    // is theirs.
     virtual QStringList mayHave(const QString &address) {
         Q_UNUSED(address)
+        return {};
+    }
+
+    // The addresses at which the printer of a URI says that it is, asked at this moment; nothing
+    // for a printer that does not say so.
+    virtual std::optional<QList<QHostAddress>> addressesOf(const QString &uri,
+                                                           const QDeadlineTimer &deadline) {
+        Q_UNUSED(uri)
+        Q_UNUSED(deadline)
         return {};
     }
 };

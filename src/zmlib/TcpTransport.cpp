@@ -105,22 +105,28 @@ QList<QHostAddress> addressesOf(const QString &host, const QDeadlineTimer &deadl
     return waitUntil(ready, deadline, pause) ? found.get() : QList<QHostAddress>();
 }
 
-bool connectSocket(const Socket &socket, const QHostAddress &address, quint16 port,
-                   const QDeadlineTimer &deadline) {
-    return socket.startConnecting(address, port) && socket.waitFor(POLLOUT, deadline) &&
-           socket.connectionError() == 0;
+bool connectSocket(const Socket &socket, const Endpoint &endpoint, const QDeadlineTimer &deadline) {
+    return socket.startConnecting(endpoint.address, endpoint.port) &&
+           socket.waitFor(POLLOUT, deadline) && socket.connectionError() == 0;
 }
 
 }  // namespace
 
-std::unique_ptr<Transport> openTcpTransport(const QString &host, quint16 port,
+std::unique_ptr<Transport> openTcpTransport(const QList<Endpoint> &endpoints,
                                             const QDeadlineTimer &deadline) {
-    const QList<QHostAddress> addresses = addressesOf(host, deadline);
-    for (qsizetype i = 0; i < addresses.size(); ++i) {
-        Socket socket(addresses[i].protocol(), SOCK_STREAM);
-        const QDeadlineTimer share(deadline.remainingTimeAsDuration() / (addresses.size() - i));
-        if (connectSocket(socket, addresses[i], port, share))
+    for (qsizetype i = 0; i < endpoints.size(); ++i) {
+        Socket socket(endpoints[i].address.protocol(), SOCK_STREAM);
+        const QDeadlineTimer share(deadline.remainingTimeAsDuration() / (endpoints.size() - i));
+        if (connectSocket(socket, endpoints[i], share))
             return std::make_unique<TcpTransport>(std::move(socket));
     }
     return nullptr;
+}
+
+std::unique_ptr<Transport> openTcpTransport(const QString &host, quint16 port,
+                                            const QDeadlineTimer &deadline) {
+    QList<Endpoint> endpoints;
+    for (const QHostAddress &address : addressesOf(host, deadline))
+        endpoints.append({address, port});
+    return openTcpTransport(endpoints, deadline);
 }

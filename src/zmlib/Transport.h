@@ -2,6 +2,8 @@
 
 #include <QByteArray>
 #include <QDeadlineTimer>
+#include <QHostAddress>
+#include <QList>
 #include <QString>
 #include <chrono>
 #include <memory>
@@ -31,9 +33,20 @@ class Transport {
 // answers sooner than a sleeping thread is woken.
 inline constexpr std::chrono::microseconds nearAnswer{100};
 
+// Where a printer listens. An IPv6 address has a scope where it needs one.
+struct Endpoint {
+    QHostAddress address;
+    quint16 port;
+    bool operator==(const Endpoint &) const = default;
+};
+
+// Opens the stream to the first of the endpoints that accepts it, each with an equal share of the
+// time that is left; a null pointer when none does before the deadline.
+std::unique_ptr<Transport> openTcpTransport(const QList<Endpoint> &endpoints,
+                                            const QDeadlineTimer &deadline);
+
 // Opens the stream to `host` (a name, or an IPv4 or IPv6 address, the latter with a scope where it
-// needs one: "fe80::1%eth0") and `port`; a null pointer when it cannot be opened before the
-// deadline. Each address of a name gets an equal share of the time that is left.
+// needs one: "fe80::1%eth0") and `port`, under each address of a name as above.
 std::unique_ptr<Transport> openTcpTransport(const QString &host, quint16 port,
                                             const QDeadlineTimer &deadline);
 

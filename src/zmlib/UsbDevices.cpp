@@ -144,7 +144,12 @@ QString kernelPrinterFile(const UsbPrinter &printer) {
 }
 
 PrinterEntry entryOf(const UsbPrinter &printer) {
-    return {{PrinterKey::DeviceURI, printer.uri},
-            {PrinterKey::ConnectionType, PrinterConnection::USB},
-            {PrinterKey::ProductName, printer.productName}};
+    PrinterEntry entry{{PrinterKey::DeviceURI, printer.uri},
+                       {PrinterKey::ConnectionType, PrinterConnection::USB},
+                       {PrinterKey::ProductName, printer.productName}};
+    if (printer.serial.isEmpty())
+        entry.insert(PrinterKey::Port, printer.port);
+    else
+        entry.insert(PrinterKey::SerialNumber, printer.serial);
+    return entry;
 }

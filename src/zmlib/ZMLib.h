@@ -17,6 +17,11 @@ inline const QString ConnectionType = QStringLiteral("ConnectionType");
 inline const QString ProductName = QStringLiteral("ProductName");
 // Of a printer found on the network.
 inline const QString BonjourServiceName = QStringLiteral("BonjourServiceName");
+// Of a network printer: its address. Of a printer on USB: its serial number, or without one the
+// port, as the system calls it. Each may be missing.
+inline const QString Address = QStringLiteral("Address");
+inline const QString SerialNumber = QStringLiteral("SerialNumber");
+inline const QString Port = QStringLiteral("Port");
 // The printer's own name; not from the library, added by who asked the printer for it.
 inline const QString MachineName = QStringLiteral("MachineName");
 }  // namespace PrinterKey
@@ -30,12 +35,14 @@ inline const QString Network = QStringLiteral("Network");
 // Why a printer is not listed or cannot be used, for who looks for it.
 struct PrinterProblem {
     enum Kind {
-        NoPermission,  // the user may not open the printer's device
-        InUse,         // another program has it
-        BadFile        // a file with printers or models cannot be used, or not all of it
+        NoPermission,     // the user may not open the printer's device
+        InUse,            // another program has it
+        BadFile,          // a file with printers or models cannot be used, or not all of it
+        NoNetworkService  // the system does not tell which printers are on the network
     };
     Kind kind;
-    QString subject;  // the printer as a user knows it, or the file and what is wrong with it
+    QString
+        subject;  // the printer as a user knows it, or the file and what is wrong with it, if any
     bool operator==(const PrinterProblem &) const = default;
 };
 
@@ -76,7 +83,8 @@ class ZMLib {
     // What was wrong with the last list, and the printers that could not be opened since.
     virtual QList<PrinterProblem> problems() { return {}; }
 
-    // Whether printers came or went since the last list. Opens none; takes no noticeable time.
+    // Whether printers, or what is wrong with the list, came or went since the last one. Opens no
+    // printer; takes no noticeable time.
     virtual bool hasListChanged() { return false; }
 
     // 1: the channel is closed and the printer can be reached; 0: this process holds the channel

@@ -107,6 +107,12 @@ TEST_F(Selector, TheListShowsPrintersAndStaysWithoutAWindow) {
     const QString all = listed();
     EXPECT_TRUE(all.startsWith(text("Packing-Desk|USB|"))) << qPrintable(all);
     EXPECT_TRUE(all.endsWith(text("|Goods in (first floor)|Network"))) << qPrintable(all);
+    const auto detail = [&](int row) {
+        return walk.list()->model()->index(row, 0).data(Qt::AccessibleDescriptionRole).toString();
+    };
+    EXPECT_EQ(detail(0), QString::fromUtf8("Larkfield L200 · serial number A2E0117"));
+    EXPECT_EQ(detail(2), QString::fromUtf8("Larkfield L200 · USB port 1-2"));
+    EXPECT_EQ(detail(3), QString::fromUtf8("Larkfield L400 · 192.168.20.47"));
     EXPECT_FALSE(canOpen());
     walk.list()->selectRow(1);
     EXPECT_TRUE(canOpen());
@@ -133,9 +139,12 @@ TEST_F(Selector, TheListFollowsPrintersAndNamesThoseThatCannotBeUsed) {
         << qPrintable(told->text());
     walk.list()->selectRow(1);
     const QString selected = listed();
+    const QSize chosen(700, 500);
+    window()->resize(chosen);
     state.plugged = false;
     EXPECT_TRUE(QTest::qWaitFor([&] { return !told->isVisible(); }, 2000)) << "still told";
     EXPECT_EQ(walk.list()->selectedRow(), 1);
+    EXPECT_EQ(window()->size(), chosen);
     EXPECT_TRUE(canOpen());
     EXPECT_EQ(listed(), selected);
     state.plugged = true;

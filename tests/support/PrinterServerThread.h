@@ -11,12 +11,14 @@
 // the thread sanitizer cannot see what Debian's Qt does to synchronize its own.
 class PrinterServerThread {
   public:
-    explicit PrinterServerThread(const std::shared_ptr<VirtualPrinter> &printer) {
+    explicit PrinterServerThread(const std::shared_ptr<VirtualPrinter> &printer,
+                                 const QHostAddress &address = QHostAddress::LocalHost,
+                                 quint16 port = 0) {
         std::promise<void> listening;
-        m_thread = std::thread([this, printer, &listening] {
+        m_thread = std::thread([this, printer, address, port, &listening] {
             VirtualPrinterServer server(printer);
             QEventLoop loop;
-            if (server.listen(QHostAddress::LocalHost, 0)) m_port = server.port();
+            if (server.listen(address, port)) m_port = server.port();
             m_loop = &loop;
             listening.set_value();
             loop.exec();
@@ -28,6 +30,7 @@ class PrinterServerThread {
         m_thread.join();
     }
 
+    quint16 port() const { return m_port; }
     QString uri() const { return QStringLiteral("tcp://127.0.0.1:%1").arg(m_port); }
 
   private:

@@ -19,7 +19,8 @@ class PluggedSource : public PrinterSource {
         if (!m_listed) return {};
         return {{{{PrinterKey::DeviceURI, uri},
                   {PrinterKey::ConnectionType, PrinterConnection::USB},
-                  {PrinterKey::ProductName, QStringLiteral("Larkfield L400")}}},
+                  {PrinterKey::ProductName, QStringLiteral("Larkfield L400")},
+                  {PrinterKey::SerialNumber, QStringLiteral("A0017")}}},
                 {}};
     }
     bool hasChanged() override { return m_listed != m_state.plugged; }

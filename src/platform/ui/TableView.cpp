@@ -7,10 +7,74 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyledItemDelegate>
 #include <QTextDocument>
 #include <QToolTip>
+#include <utility>
 
 #include "platform/core/Texts.h"
+
+namespace {
+
+constexpr int DetailRole = Qt::UserRole;
+
+// How much of its colour the text of a second line keeps, in hundredths: quieter than the first,
+// and still with a contrast of more than 4.5 to 1.
+constexpr int quiet = 70;
+
+QColor mixed(const QColor &text, const QColor &base) {
+    const auto part = [](int one, int other) {
+        return (one * quiet + other * (100 - quiet)) / 100;
+    };
+    return {part(text.red(), base.red()), part(text.green(), base.green()),
+            part(text.blue(), base.blue())};
+}
+
+// Draws a cell with a second line.
+class DetailDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override {
+        const QSize first = QStyledItemDelegate::sizeHint(option, index);
+        const QFontMetrics metrics(option.font);
+        const int sides = first.width() - metrics.horizontalAdvance(index.data().toString());
+        const int second = metrics.horizontalAdvance(index.data(DetailRole).toString()) + sides;
+        return {std::max(first.width(), second), first.height() + metrics.height()};
+    }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &cell,
+               const QModelIndex &index) const override {
+        const QString detail = index.data(DetailRole).toString();
+        if (detail.isEmpty()) return QStyledItemDelegate::paint(painter, cell, index);
+        QStyleOptionViewItem option = cell;
+        initStyleOption(&option, index);
+        const QStyle *const style = option.widget->style();
+        const QString text = std::exchange(option.text, {});
+        style->drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
+        const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
+        const QRect room = option.rect.adjusted(margin, 0, -margin, 0);
+        const bool selected = option.state.testFlag(QStyle::State_Selected);
+        const QColor colour =
+            option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
+        const QFontMetrics &metrics = option.fontMetrics;
+        const int top = room.top() + (room.height() - 2 * metrics.height()) / 2;
+        const auto draw = [&](const QString &line, int number, const QColor &in) {
+            painter->setPen(in);
+            painter->drawText(
+                QRect(room.left(), top + number * metrics.height(), room.width(), metrics.height()),
+                Qt::AlignLeft | Qt::AlignVCenter,
+                metrics.elidedText(line, Qt::ElideRight, room.width()));
+        };
+        painter->save();
+        painter->setFont(option.font);
+        draw(text, 0, colour);
+        draw(detail, 1, selected ? colour : mixed(colour, option.palette.color(QPalette::Base)));
+        painter->restore();
+    }
+};
+
+}  // namespace
 
 // The data source as Qt's model sees it.
 class TableModel : public QAbstractTableModel {
@@ -38,6 +102,8 @@ class TableModel : public QAbstractTableModel {
                     readable(source->iconForTableColumn(m_table, column, index.row())));
             return *icon;
         }
+        if (role == DetailRole || role == Qt::AccessibleDescriptionRole)
+            return shownText(source->detailForTableColumn(m_table, column, index.row()));
         if (role != Qt::DisplayRole) return {};
         return shownText(
             source->objectValueForTableColumn(m_table, column, index.row()).toString());
@@ -120,6 +186,12 @@ void TableView::setHeaderTitle(const QString &identifier, const QString &title) 
     m_model->setTitle(identifier, title);
 }
 
+void TableView::setHasDetails() {
+    setItemDelegate(new DetailDelegate(this));
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(5 * fontMetrics().height() / 2);
+}
+
 void TableView::reloadData() {
     const int row = selectedRow();
     m_model->reload();
@@ -185,6 +257,12 @@ void TableView::paintEvent(QPaintEvent *event) {
                      Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
 }
 
+QString TableView::wholeTextOf(const QModelIndex &index) {
+    QStringList lines{index.data().toString(), index.data(DetailRole).toString()};
+    lines.removeAll(QString());
+    return lines.join(u'\n');
+}
+
 // A text that its column cuts is shown whole, as plain text.
 bool TableView::viewportEvent(QEvent *event) {
     if (event->type() != QEvent::ToolTip) return QTableView::viewportEvent(event);
@@ -193,8 +271,7 @@ bool TableView::viewportEvent(QEvent *event) {
     const bool cut =
         index.isValid() && sizeHintForIndex(index).width() > columnWidth(index.column());
     QToolTip::showText(help->globalPos(),
-                       cut ? Qt::convertFromPlainText(index.data().toString()) : QString(),
-                       viewport());
+                       cut ? Qt::convertFromPlainText(wholeTextOf(index)) : QString(), viewport());
     return true;
 }
 

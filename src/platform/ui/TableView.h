@@ -14,6 +14,9 @@ class TableDataSource {
     // What the cell shows; nothing for a column that the source does not know.
     virtual QVariant objectValueForTableColumn(TableView *table, const QString &column,
                                                int row) = 0;
+    // A second, quieter line below the cell's text, in a table that has room for it; none by
+    // default.
+    virtual QString detailForTableColumn(TableView *, const QString &, int) { return {}; }
     // The picture before the cell's text; none by default.
     virtual QIcon iconForTableColumn(TableView *, const QString &, int) { return {}; }
 };
@@ -41,6 +44,9 @@ class TableView : public QTableView {
     // the room that the others, as wide as their contents, leave.
     void addColumn(const QString &identifier);
     void setHeaderTitle(const QString &identifier, const QString &title);
+
+    // Gives every row room for a second line.
+    void setHasDetails();
 
     // Fetches everything anew. The selection stays while its row remains.
     void reloadData();
@@ -71,6 +77,8 @@ class TableView : public QTableView {
                                                          const QEvent *event) const override;
 
   private:
+    static QString wholeTextOf(const QModelIndex &index);
+
     TableModel *const m_model;
     TableDelegate *m_delegate = nullptr;
     QString m_emptyText;

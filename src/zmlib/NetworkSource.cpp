@@ -1,0 +1,56 @@
+#include "zmlib/NetworkSource.h"
+
+#include "platform/core/Waiting.h"
+
+namespace {
+
+constexpr int partOfTheTime = 2;  // that finding out where a printer is may take of an opening
+
+}  // namespace
+
+Listing NetworkSource::list() {
+    waitUntil([this] { return m_browser.isSettled(); }, m_firstLook,
+              [this](std::chrono::milliseconds slice) { m_browser.wait(slice); });
+    m_browser.refresh();
+    Listing listing = announced();
+    const std::lock_guard lock(m_mutex);
+    m_listed = listing;
+    return listing;
+}
+
+bool NetworkSource::hasChanged() {
+    const Listing listing = announced();
+    const std::lock_guard lock(m_mutex);
+    return listing != m_listed;
+}
+
+bool NetworkSource::lists(const QString &uri) {
+    return m_browser.isAnnounced(uri);
+}
+
+Opened NetworkSource::open(const QString &uri, const QDeadlineTimer &deadline) {
+    const QDeadlineTimer asking(deadline.remainingTimeAsDuration() / partOfTheTime);
+    return {openTcpTransport(m_browser.resolve(uri, asking), deadline)};
+}
+
+std::optional<QList<QHostAddress>> NetworkSource::addressesOf(const QString &uri,
+                                                              const QDeadlineTimer &deadline) {
+    if (!lists(uri)) return {};
+    QList<QHostAddress> addresses;
+    for (const Endpoint &endpoint : m_browser.resolve(uri, deadline))
+        addresses.append(endpoint.address);
+    return addresses;
+}
+
+Listing NetworkSource::announced() const {
+    if (m_browser.isMissing()) return {{}, {{PrinterProblem::NoNetworkService, {}}}};
+    Listing listing;
+    for (const AnnouncedPrinter &printer : m_browser.printers())
+        listing.entries.append(
+            {{PrinterKey::DeviceURI, printer.uri},
+             {PrinterKey::ConnectionType, PrinterConnection::Network},
+             {PrinterKey::ProductName, printer.productName},
+             {PrinterKey::BonjourServiceName, printer.name},
+             {PrinterKey::Address, printer.endpoints.first().address.toString()}});
+    return listing;
+}

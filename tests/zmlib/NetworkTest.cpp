@@ -1,0 +1,160 @@
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QTcpServer>
+#include <QTest>
+
+#include "support/NetworkBed.h"
+#include "support/PrinterServerThread.h"
+#include "support/Profiles.h"
+#include "zmlib/NetworkSource.h"
+#include "zmlib/PrinterLibrary.h"
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const QList<QByteArray> commands{hex("1b7b045501567d"), hex("1b7b0377777d"), hex("1b7b045500557d")};
+const QByteArray readName = hex("1b7b056606107c7d");
+constexpr int limit = 3000;
+
+class Network : public testing::Test {
+  protected:
+    void startAll() {
+        ASSERT_TRUE(bed.startBus());
+        ASSERT_TRUE(bed.startDaemon());
+    }
+    PrinterLibrary &library() {
+        if (!m_library) {
+            std::vector<std::unique_ptr<PrinterSource>> sources;
+            sources.push_back(std::make_unique<NetworkSource>());
+            m_library = std::make_shared<PrinterLibrary>(std::move(sources), limit, ports);
+        }
+        return *m_library;
+    }
+    // The list in a line each, and a number for each problem.
+    QString listed() {
+        QStringList lines;
+        for (const PrinterEntry &entry : library().ZMCreatePrinterURI().value())
+            lines << QStringList(entry.values()).join(u'|');
+        for (const PrinterProblem &problem : library().problems())
+            lines << QString::number(problem.kind);
+        return lines.join(u'\n');
+    }
+    bool comesToList(const QString &lines) {
+        return QTest::qWaitFor([&] { return library().hasListChanged() && listed() == lines; },
+                               3000);
+    }
+
+    NetworkBed bed;
+    ProbePorts ports;
+
+  private:
+    std::shared_ptr<PrinterLibrary> m_library;
+};
+
+TEST_F(Network, PrintersAreFoundReadWhereTheyAreNowAndFollowed) {
+    startAll();
+    const auto printer = printerOf(R"({"items": {"0x1006": "AB"}})");
+    const bool isThereIPv6 = QTcpServer().listen(QHostAddress::LocalHostIPv6);
+    const PrinterServerThread here(printer),
+        there(printer, isThereIPv6 ? QHostAddress::LocalHostIPv6 : QHostAddress::LocalHost);
+    const QByteArray name = "Goods in / 50% & \xe5\x80\x89 #1";
+    const QString uri =
+        u"dnssd:///Goods%20in%20%2F%2050%25%20%26%20%E5%80%89%20%231"
+        "?type=_pdl-datastream._tcp&domain=local"_s;
+    const QString line = u"127.0.0.1|Goods in / 50% & 倉 #1|Network|%1|Larkfield L400"_s.arg(uri);
+    const QList<QByteArray> texts{"usb_MFG=Larkfield", "usb_MDL=L400", "ty=Another"};
+    ASSERT_TRUE(bed.announce("it", {{.name = name, .port = here.port(), .texts = texts}}));
+    EXPECT_EQ(listed(), line);
+    EXPECT_FALSE(library().hasListChanged());
+
+    const auto reads = [&] {
+        QByteArray reply;
+        EXPECT_EQ(library().ZMGetEngageStatusSub(uri, limit), 1);
+        EXPECT_EQ(library().ZMEngageConnectAndStartCommand(uri, commands, 20, limit), 0);
+        EXPECT_EQ(library().ZMGetSettingData(uri, 512, readName, reply, commands, limit), 0);
+        EXPECT_EQ(library().ZMEndCommandAndEngageDisConnect(uri, commands, 20, limit), 0);
+        return reply;
+    };
+    EXPECT_EQ(reads(), hex("43463b08003b06103b41423b4a"));
+    bed.withdraw("it");
+    EXPECT_TRUE(comesToList({}));
+    EXPECT_EQ(library().ZMGetEngageStatusSub(uri, limit), ZMLib::UnknownPrinter);
+    ASSERT_TRUE(bed.announce("it", {{.name = name, .port = there.port(), .texts = texts}}));
+    EXPECT_TRUE(comesToList(line));
+    EXPECT_EQ(reads(), hex("43463b08003b06103b41423b4a"));
+    bed.withdraw("it");
+    ASSERT_TRUE(bed.announce("it", {{.name = "Goods out", .texts = {"ty=Larkfield L200"}}}));
+    EXPECT_TRUE(
+        comesToList(u"127.0.0.1|Goods out|Network|dnssd:///Goods%20out"
+                    "?type=_pdl-datastream._tcp&domain=local|Larkfield L200"_s));
+}
+
+TEST_F(Network, TheServiceThatTellsMayComeAndGo) {
+    const QString missing = QString::number(PrinterProblem::NoNetworkService);
+    QElapsedTimer time;
+    time.start();
+    EXPECT_EQ(listed(), missing) << "without a bus";
+    ASSERT_TRUE(bed.startBus());
+    EXPECT_EQ(listed(), missing) << "without a service";
+    EXPECT_LT(time.elapsed(), 500) << "waited for what does not come";
+    for (int i = 0; i < 2; ++i) {
+        ASSERT_TRUE(bed.startDaemon());
+        EXPECT_TRUE(comesToList({})) << i;
+        ASSERT_TRUE(bed.announce("it", {{.name = "A", .texts = {"ty=B"}}}));
+        EXPECT_TRUE(
+            comesToList(u"127.0.0.1|A|Network|dnssd:///A"
+                        "?type=_pdl-datastream._tcp&domain=local|B"_s))
+            << i;
+        bed.stopDaemon();
+        EXPECT_TRUE(comesToList(missing)) << i;
+    }
+}
+
+TEST_F(Network, OddAndManyAnnouncementsAreListedAsFarAsTheyCanBeReached) {
+    startAll();
+    const QByteArray longest = QByteArray("\xe5\x80\x89").repeated(21);  // bytes: 63
+    ASSERT_TRUE(bed.announce(
+        "odd", {{.name = "B", .texts = {QByteArray("\0\xff=\0", 4), "=", "TY=(x)", "ty=y"}},
+                {.name = longest, .texts = {"product=(Larkfield L200)", QByteArray(255, 'x')}},
+                {.name = "nobody", .texts = {"ty=z"}, .host = "nobody.local"}}));
+    QList<NetworkBed::Announcement> many;
+    for (int i = 0; i < 600; ++i) many.append({.name = "C" + QByteArray::number(1000 + i)});
+    ASSERT_TRUE(bed.announce("many", many));
+    QStringList lines;
+    const auto areThere = [&] {
+        lines = listed().split(u'\n');
+        return lines.size() == 602;
+    };
+    ASSERT_TRUE(QTest::qWaitFor(areThere, 20000)) << lines.size();
+    const auto line = [](const QString &name, const QString &product) {
+        return u"127.0.0.1|%1|Network|dnssd:///%1?type=_pdl-datastream._tcp&domain=local|%2"_s.arg(
+            name, product);
+    };
+    EXPECT_EQ(lines[0], line(u"B"_s, u"(x)"_s));
+    EXPECT_EQ(lines[1], line(u"C1000"_s, {}));
+    EXPECT_TRUE(lines[601].endsWith(u"|Larkfield L200"_s)) << qPrintable(lines[601]);
+}
+
+TEST_F(Network, OnlyThePrinterOfTheTargetMayAnswerAtAnAddress) {
+    startAll();
+    QTcpServer printer, other;
+    ASSERT_TRUE(printer.listen(QHostAddress::LocalHost));
+    ASSERT_TRUE(other.listen(QHostAddress(u"127.0.0.2"_s), printer.serverPort()));
+    ports = {1, printer.serverPort()};
+    ASSERT_TRUE(bed.announce("it", {{.name = "A"}}));
+    const QString uri = u"dnssd:///A?type=_pdl-datastream._tcp&domain=local"_s;
+    EXPECT_TRUE(comesToList(u"127.0.0.1|A|Network|"_s + uri + u'|'));
+    const auto answers = [&](const QString &target, const QString &address) {
+        return library().ZMIOOpenForUDP(target, address, 20, limit) == 0;
+    };
+    EXPECT_TRUE(answers(uri, u"127.0.0.1"_s));
+    EXPECT_FALSE(answers(uri, u"127.0.0.2"_s));
+    EXPECT_TRUE(answers(ZMLib::anyPrinter, u"127.0.0.2"_s));
+    printer.close();
+    EXPECT_FALSE(answers(uri, u"127.0.0.1"_s));
+    EXPECT_FALSE(answers(u"dnssd:///B"_s, u"127.0.0.2"_s));
+}
+
+}  // namespace

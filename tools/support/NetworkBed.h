@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QLockFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <map>
+#include <memory>
+
+// A network of which this process alone knows: a system bus of its own, and on it an avahi-daemon
+// that sees the loopback interface only. There is one at a time on a machine, whoever asks first.
+class NetworkBed {
+  public:
+    // Prepares the bus; neither it nor the daemon runs yet. Before anything asks for a system bus:
+    // a process looks up its address once.
+    NetworkBed();
+    ~NetworkBed();
+    NetworkBed(const NetworkBed &) = delete;
+    NetworkBed &operator=(const NetworkBed &) = delete;
+
+    // True when they run and answer.
+    bool startBus();
+    bool startDaemon();
+    void stopDaemon();
+
+    struct Announcement {
+        QByteArray name;
+        quint16 port = 9100;
+        QList<QByteArray> texts = {};
+        QByteArray host = {};  // empty: this machine
+        int protocol = -1;     // of AVAHI_PROTO_*; -1: all
+    };
+    // Announces printers until they are withdrawn, as one, or the daemon stops. False when the
+    // daemon takes one of them not.
+    bool announce(const QByteArray &as, const QList<Announcement> &printers);
+    void withdraw(const QByteArray &as);
+
+  private:
+    static const QTemporaryDir &folder();
+    bool start(QProcess &process, const QString &program, const QStringList &arguments);
+
+    QLockFile m_turn;
+    QProcess m_bus, m_daemon;
+    struct Announced;
+    std::map<QByteArray, std::unique_ptr<Announced>> m_announced;
+};
