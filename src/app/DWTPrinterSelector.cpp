@@ -215,7 +215,9 @@ void DWTPrinterSelector::showProblems() {
     if (problems.size() > shownProblems)
         lines << QStringLiteral("… (+%1)").arg(problems.size() - shownProblems);
     textField_Problems->setText(lines.join(u'\n'));
+    const bool isNew = view_Problems->isHidden() && !lines.isEmpty();
     view_Problems->setVisible(!lines.isEmpty());
+    if (isNew) window_PrinterSelector->growToContents();
 }
 
 void DWTPrinterSelector::followPrinters() {

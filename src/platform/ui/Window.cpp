@@ -11,6 +11,10 @@ void Window::fitToScreen() {
     move(room.center() - rect().center());
 }
 
+void Window::growToContents() {
+    resize(size().expandedTo(sizeHint().boundedTo(screen()->availableGeometry().size())));
+}
+
 void Window::bringToFront() {
     if (isMinimized()) showNormal();
     show();

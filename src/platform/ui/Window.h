@@ -20,6 +20,9 @@ class Window : public QWidget {
     // Makes the window as large as its contents wish, where the screen has the room, and centres
     // it there.
     void fitToScreen();
+
+    // Makes the window larger where its contents need it and the screen has room; never smaller.
+    void growToContents();
     // Shows the window in front of all others, with the keyboard.
     void bringToFront();
 
