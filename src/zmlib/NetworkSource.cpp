@@ -11,7 +11,6 @@ constexpr int partOfTheTime = 2;  // that finding out where a printer is may tak
 Listing NetworkSource::list() {
     waitUntil([this] { return m_browser.isSettled(); }, m_firstLook,
               [this](std::chrono::milliseconds slice) { m_browser.wait(slice); });
-    m_browser.refresh();
     Listing listing = announced();
     const std::lock_guard lock(m_mutex);
     m_listed = listing;
@@ -19,6 +18,7 @@ Listing NetworkSource::list() {
 }
 
 bool NetworkSource::hasChanged() {
+    m_browser.refresh();
     const Listing listing = announced();
     const std::lock_guard lock(m_mutex);
     return listing != m_listed;

@@ -35,6 +35,9 @@ constexpr std::size_t questionsAtOnce = 500;
 // The records of an address live for 120 s; half of that is taken as sure.
 constexpr std::chrono::seconds sureFor{60};
 
+// How long after a question without an answer it is asked again.
+constexpr std::chrono::seconds askAgainAfter{10};
+
 // How long after the first answer the others are waited for.
 constexpr std::chrono::milliseconds moreAnswers{100};
 
@@ -48,7 +51,6 @@ struct Release {
 using Poll = std::unique_ptr<AvahiThreadedPoll, Release<avahi_threaded_poll_free>>;
 using Client = std::unique_ptr<AvahiClient, Release<avahi_client_free>>;
 using Browser = std::unique_ptr<AvahiServiceBrowser, Release<avahi_service_browser_free>>;
-using Resolver = std::unique_ptr<AvahiServiceResolver, Release<avahi_service_resolver_free>>;
 
 // Where a service was seen, and which kind of address is asked for there.
 struct Place {
@@ -66,12 +68,12 @@ using Places = std::array<Place, 2>;
 struct Answer {
     Endpoint endpoint;
     QString productName;
-    Clock::time_point when;
 };
 
 struct Sighting {
-    bool isAsked = false;  // a question is queued or under way
-    std::optional<Answer> answer;
+    bool isAsked = false;               // a question is queued or under way
+    Clock::time_point asked = {};       // when the last question ended
+    std::optional<Answer> answer = {};  // to it
 };
 
 struct Service {
@@ -168,8 +170,6 @@ class ServiceBrowser::Worker {
     void queue(const QString &uri, const Place &place, Sighting &sighting, bool isUrgent);
     Sighting *find(const Question &question);
 
-    void wake() const { ::eventfd_write(m_wake, 1); }
-
     const Poll m_poll{avahi_threaded_poll_new()};
     const AvahiPoll *const m_api = avahi_threaded_poll_get(m_poll.get());
     const int m_wake = ::eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC);  // readable: there are questions
@@ -248,26 +248,19 @@ bool ServiceBrowser::Worker::isAnnounced(const QString &uri) const {
 }
 
 void ServiceBrowser::Worker::askWhatIsUnsure() {
-    const Clock::time_point sure = Clock::now() - sureFor;
-    {
-        const std::lock_guard lock(m_mutex);
-        for (auto &[uri, service] : m_services)
-            for (auto &[place, sighting] : service.sightings)
-                if (place.isSure() && !sighting.isAsked &&
-                    (!sighting.answer || sighting.answer->when < sure))
-                    queue(uri, place, sighting, false);
-    }
-    wake();
+    const Clock::time_point now = Clock::now();
+    const std::lock_guard lock(m_mutex);
+    for (auto &[uri, service] : m_services)
+        for (auto &[place, sighting] : service.sightings)
+            if (place.isSure() && !sighting.isAsked &&
+                now - sighting.asked > (sighting.answer ? sureFor : askAgainAfter))
+                queue(uri, place, sighting, false);
 }
 
 void ServiceBrowser::Worker::askFirst(const QString &uri) {
-    {
-        const std::lock_guard lock(m_mutex);
-        if (const auto found = m_services.find(uri); found != m_services.end())
-            for (auto &[place, sighting] : found->second.sightings)
-                queue(uri, place, sighting, true);
-    }
-    wake();
+    const std::lock_guard lock(m_mutex);
+    if (const auto found = m_services.find(uri); found != m_services.end())
+        for (auto &[place, sighting] : found->second.sightings) queue(uri, place, sighting, true);
 }
 
 QList<Endpoint> ServiceBrowser::Worker::answersSince(const QString &uri, Clock::time_point then,
@@ -279,7 +272,7 @@ QList<Endpoint> ServiceBrowser::Worker::answersSince(const QString &uri, Clock::
         for (const auto &[place, sighting] : found->second.sightings) {
             if (sighting.isAsked)
                 areAll = false;
-            else if (sighting.answer && sighting.answer->when >= then)
+            else if (sighting.answer && sighting.asked >= then)
                 add(sighting.answer->endpoint, endpoints);
         }
     return endpoints;
@@ -346,28 +339,24 @@ void ServiceBrowser::Worker::tell(AvahiClient *client, AvahiClientState state) {
 void ServiceBrowser::Worker::browse(const Places &places, AvahiBrowserEvent event, const char *name,
                                     const char *domain) {
     if (event == AVAHI_BROWSER_FAILURE) connectLater();
-    {
-        const std::lock_guard lock(m_mutex);
-        if (event == AVAHI_BROWSER_ALL_FOR_NOW) m_isAllForNow = true;
-        if (event == AVAHI_BROWSER_NEW) {
-            const QString uri = uriOf(name, domain);
-            Service &service = m_services[uri];
-            service.name = name;
-            service.domain = domain;
-            for (const Place &place : places) {
-                Sighting &sighting = service.sightings[place];
-                if (place.isSure()) queue(uri, place, sighting, false);
-            }
+    const std::lock_guard lock(m_mutex);
+    if (event == AVAHI_BROWSER_ALL_FOR_NOW) m_isAllForNow = true;
+    if (event == AVAHI_BROWSER_NEW) {
+        const QString uri = uriOf(name, domain);
+        Service &service = m_services[uri];
+        service.name = name;
+        service.domain = domain;
+        for (const Place &place : places) {
+            Sighting &sighting = service.sightings[place];
+            if (place.isSure()) queue(uri, place, sighting, false);
         }
-        if (event == AVAHI_BROWSER_REMOVE)
-            if (const auto found = m_services.find(uriOf(name, domain));
-                found != m_services.end()) {
-                for (const Place &place : places) found->second.sightings.erase(place);
-                if (found->second.sightings.empty()) m_services.erase(found);
-            }
-        m_news.notify_all();
     }
-    askNext();
+    if (event == AVAHI_BROWSER_REMOVE)
+        if (const auto found = m_services.find(uriOf(name, domain)); found != m_services.end()) {
+            for (const Place &place : places) found->second.sightings.erase(place);
+            if (found->second.sightings.empty()) m_services.erase(found);
+        }
+    m_news.notify_all();
 }
 
 void ServiceBrowser::Worker::askNext() {
@@ -383,7 +372,7 @@ void ServiceBrowser::Worker::askNext() {
         if (resolver)
             m_asked.emplace(resolver, question);
         else if (Sighting *const sighting = find(question))
-            *sighting = {};
+            *sighting = {false, Clock::now(), {}};
     }
     m_news.notify_all();
 }
@@ -395,8 +384,7 @@ AvahiServiceResolver *ServiceBrowser::Worker::ask(const Service &service, const 
                          AvahiStringList *txt, AvahiLookupResultFlags, void *self) {
         std::optional<Answer> answer;
         if (event == AVAHI_RESOLVER_FOUND)
-            answer = Answer{
-                {addressOf(*address, interface), port}, ::productName(textsOf(txt)), Clock::now()};
+            answer = Answer{{addressOf(*address, interface), port}, ::productName(textsOf(txt))};
         static_cast<Worker *>(self)->end(resolver, std::move(answer));
     };
     return avahi_service_resolver_new(
@@ -408,7 +396,8 @@ void ServiceBrowser::Worker::end(AvahiServiceResolver *resolver, std::optional<A
     {
         const std::lock_guard lock(m_mutex);
         const auto asked = m_asked.extract(resolver);
-        if (Sighting *const sighting = find(asked.mapped())) *sighting = {false, std::move(answer)};
+        if (Sighting *const sighting = find(asked.mapped()))
+            *sighting = {false, Clock::now(), std::move(answer)};
     }
     avahi_service_resolver_free(resolver);
     askNext();
@@ -424,6 +413,7 @@ void ServiceBrowser::Worker::queue(const QString &uri, const Place &place, Sight
         m_queue.push_front({uri, place, true});
     else
         m_queue.push_back({uri, place, false});
+    ::eventfd_write(m_wake, 1);
 }
 
 Sighting *ServiceBrowser::Worker::find(const Question &question) {

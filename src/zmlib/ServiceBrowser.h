@@ -40,8 +40,8 @@ class ServiceBrowser {
     QList<AnnouncedPrinter> printers() const;
     bool isAnnounced(const QString &uri) const;
 
-    // Asks in the background where those printers are of which that is not known, or not any more
-    // for sure.
+    // Asks in the background where those printers are of which that is not known, or not for sure
+    // any more. To be called now and then.
     void refresh();
 
     // Asks where a printer is at this moment, which may have changed since it was announced: IPv4
