@@ -33,7 +33,7 @@ QString productName(const AnnouncedTexts &texts) {
     };
     const Model model{text("usb_mfg"), text("usb_mdl")};
     if (!model.maker.isEmpty() && !model.name.isEmpty()) return productName(model);
-    if (const QString type = text("ty"); !type.isEmpty()) return type;
+    if (QString type = text("ty"); !type.isEmpty()) return type;
     const QString product = text("product");
     const bool inBrackets = product.startsWith(u'(') && product.endsWith(u')');
     return inBrackets ? product.mid(1, product.size() - 2).simplified() : product;

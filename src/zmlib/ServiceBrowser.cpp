@@ -11,11 +11,11 @@
 #include <QtEndian>
 #include <algorithm>
 #include <array>
-#include <compare>
 #include <condition_variable>
 #include <deque>
 #include <map>
 #include <mutex>
+#include <tuple>
 
 #include "platform/core/Waiting.h"
 #include "zmlib/DeviceId.h"
@@ -59,7 +59,11 @@ struct Place {
     AvahiProtocol wanted;
     // Whoever is seen with a version of IP has an address of it; of the other it may have none.
     bool isSure() const { return wanted == protocol; }
-    auto operator<=>(const Place &) const = default;
+    bool operator==(const Place &) const = default;
+    bool operator<(const Place &other) const {
+        return std::tie(interface, protocol, wanted) <
+               std::tie(other.interface, other.protocol, other.wanted);
+    }
 };
 
 // Those of one sight.
