@@ -35,7 +35,8 @@ class Network : public testing::Test {
     // The list in a line each, and a number for each problem.
     QString listed() {
         QStringList lines;
-        for (const PrinterEntry &entry : library().ZMCreatePrinterURI().value())
+        const auto list = library().ZMCreatePrinterURI();
+        for (const PrinterEntry &entry : list.value())
             lines << QStringList(entry.values()).join(u'|');
         for (const PrinterProblem &problem : library().problems())
             lines << QString::number(problem.kind);
