@@ -798,5 +798,50 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
   --help      diesen Text anzeigen und beenden
   --version   die Version anzeigen und beenden</translation>
     </message>
+    <message id="DWT_Localize_Outline_Fault">
+        <translation>Ein Wert auf dieser Seite ist nicht verwendbar</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Changed">
+        <translation>Geändert, noch nicht gesendet</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_NotUsed">
+        <translation>In der Betriebsart, die auf der Seite „WLAN“ gewählt ist, verwendet der Drucker diese Einstellungen nicht.</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Range_Label">
+        <translation>höchstens 8 Zeichen</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Changes">
+        <translation>Was sich ändert</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_NewSecret">
+        <translation>neu</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_RemovedSecret">
+        <translation>wird entfernt</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Empty">
+        <translation>(leer)</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_KeyKept">
+        <translation>Das Netzwerk „%1“ ist geschützt, es wurde aber kein Schlüssel eingegeben. Der Drucker behält seinen alten Schlüssel.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_NotAMask">
+        <translation>%1 ist keine übliche Subnetzmaske. Computer erreichen den Drucker möglicherweise nicht.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_GatewayOutside">
+        <translation>Das Standardgateway %1 liegt außerhalb des Subnetzes des Druckers. Andere Netzwerke erreichen den Drucker möglicherweise nicht.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_AddressUnreachable">
+        <translation>In dieser Betriebsart ist der Drucker unter seiner jetzigen Adresse %1 nicht mehr erreichbar.</translation>
+    </message>
+    <message id="DWT_Localize_Key_Unchanged">
+        <translation>unverändert</translation>
+    </message>
+    <message id="DWT_Localize_Key_OfNetwork">
+        <translation>Schlüssel von „%1“</translation>
+    </message>
+    <message id="DWT_Localize_Key_Show">
+        <translation>Schlüssel anzeigen</translation>
+    </message>
 </context>
 </TS>

@@ -798,5 +798,50 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
   --help      show this text and end
   --version   show the version and end</translation>
     </message>
+    <message id="DWT_Localize_Outline_Fault">
+        <translation>A value on this page cannot be used</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Changed">
+        <translation>Changed, not sent yet</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_NotUsed">
+        <translation>The printer does not use these settings in the communication mode that is chosen on the “Wireless network” page.</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Range_Label">
+        <translation>at most 8 characters</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Changes">
+        <translation>What will change</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_NewSecret">
+        <translation>new</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_RemovedSecret">
+        <translation>removed</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Empty">
+        <translation>(empty)</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_KeyKept">
+        <translation>The network “%1” is protected, but no key was entered. The printer keeps its old key.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_NotAMask">
+        <translation>%1 is not a usual subnet mask. Computers may not reach the printer.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_GatewayOutside">
+        <translation>The default gateway %1 is outside the printer’s subnet. Other networks may not reach the printer.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_AddressUnreachable">
+        <translation>In this communication mode, the printer can no longer be reached at its current address %1.</translation>
+    </message>
+    <message id="DWT_Localize_Key_Unchanged">
+        <translation>unchanged</translation>
+    </message>
+    <message id="DWT_Localize_Key_OfNetwork">
+        <translation>Key of “%1”</translation>
+    </message>
+    <message id="DWT_Localize_Key_Show">
+        <translation>Show the key</translation>
+    </message>
 </context>
 </TS>

@@ -798,5 +798,50 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
   --help      mostrar este texto y terminar
   --version   mostrar la versión y terminar</translation>
     </message>
+    <message id="DWT_Localize_Outline_Fault">
+        <translation>Un valor de esta página no se puede usar</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Changed">
+        <translation>Modificado, aún sin enviar</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_NotUsed">
+        <translation>La impresora no usa estos ajustes en el modo de comunicación elegido en la página «Red Wi-Fi».</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Range_Label">
+        <translation>8 caracteres como máximo</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Changes">
+        <translation>Qué cambiará</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_NewSecret">
+        <translation>nueva</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_RemovedSecret">
+        <translation>se quita</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Empty">
+        <translation>(vacío)</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_KeyKept">
+        <translation>La red «%1» está protegida, pero no se ha escrito ninguna clave. La impresora conserva su clave anterior.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_NotAMask">
+        <translation>%1 no es una máscara de subred habitual. Es posible que los equipos no puedan acceder a la impresora.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_GatewayOutside">
+        <translation>La puerta de enlace %1 está fuera de la subred de la impresora. Es posible que otras redes no puedan acceder a la impresora.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_AddressUnreachable">
+        <translation>En este modo de comunicación ya no se podrá acceder a la impresora en su dirección actual %1.</translation>
+    </message>
+    <message id="DWT_Localize_Key_Unchanged">
+        <translation>sin cambios</translation>
+    </message>
+    <message id="DWT_Localize_Key_OfNetwork">
+        <translation>Clave de «%1»</translation>
+    </message>
+    <message id="DWT_Localize_Key_Show">
+        <translation>Mostrar la clave</translation>
+    </message>
 </context>
 </TS>

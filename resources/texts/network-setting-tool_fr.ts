@@ -798,5 +798,50 @@ Usage : %1 [-Installer] [--demo] [--help] [--version]
   --help      afficher ce texte et terminer
   --version   afficher la version et terminer</translation>
     </message>
+    <message id="DWT_Localize_Outline_Fault">
+        <translation>Une valeur de cette page est inutilisable</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Changed">
+        <translation>Modifié, pas encore envoyé</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_NotUsed">
+        <translation>L’imprimante n’utilise pas ces paramètres dans le mode de communication choisi sur la page « Réseau Wi-Fi ».</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Range_Label">
+        <translation>8 caractères au plus</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Changes">
+        <translation>Ce qui change</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_NewSecret">
+        <translation>nouveau</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_RemovedSecret">
+        <translation>supprimé</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Empty">
+        <translation>(vide)</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_KeyKept">
+        <translation>Le réseau « %1 » est protégé, mais aucune clé n’a été saisie. L’imprimante garde son ancienne clé.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_NotAMask">
+        <translation>%1 n’est pas un masque de sous-réseau habituel. Les ordinateurs risquent de ne pas joindre l’imprimante.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_GatewayOutside">
+        <translation>La passerelle par défaut %1 est hors du sous-réseau de l’imprimante. Les autres réseaux risquent de ne pas joindre l’imprimante.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_AddressUnreachable">
+        <translation>Dans ce mode de communication, l’imprimante n’est plus joignable à son adresse actuelle %1.</translation>
+    </message>
+    <message id="DWT_Localize_Key_Unchanged">
+        <translation>inchangée</translation>
+    </message>
+    <message id="DWT_Localize_Key_OfNetwork">
+        <translation>Clé de « %1 »</translation>
+    </message>
+    <message id="DWT_Localize_Key_Show">
+        <translation>Afficher la clé</translation>
+    </message>
 </context>
 </TS>

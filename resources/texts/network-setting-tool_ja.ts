@@ -798,5 +798,50 @@
   --help      この説明を表示して終了する
   --version   バージョンを表示して終了する</translation>
     </message>
+    <message id="DWT_Localize_Outline_Fault">
+        <translation>このページに使用できない値があります</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Changed">
+        <translation>変更あり (未送信)</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_NotUsed">
+        <translation>「無線 LAN」ページで選択された通信モードでは、プリンターはこれらの設定を使用しません。</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Range_Label">
+        <translation>8 文字まで</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Changes">
+        <translation>変更内容</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_NewSecret">
+        <translation>新規</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_RemovedSecret">
+        <translation>削除</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Empty">
+        <translation>(なし)</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_KeyKept">
+        <translation>ネットワーク「%1」は保護されていますが、キーが入力されていません。プリンターは以前のキーをそのまま使用します。</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_NotAMask">
+        <translation>%1 は一般的なサブネットマスクではありません。コンピューターからプリンターに接続できない可能性があります。</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_GatewayOutside">
+        <translation>デフォルトゲートウェイ %1 はプリンターのサブネットの外にあります。他のネットワークからプリンターに接続できない可能性があります。</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_AddressUnreachable">
+        <translation>この通信モードでは、現在のアドレス %1 でプリンターに接続できなくなります。</translation>
+    </message>
+    <message id="DWT_Localize_Key_Unchanged">
+        <translation>変更なし</translation>
+    </message>
+    <message id="DWT_Localize_Key_OfNetwork">
+        <translation>「%1」のキー</translation>
+    </message>
+    <message id="DWT_Localize_Key_Show">
+        <translation>キーを表示</translation>
+    </message>
 </context>
 </TS>

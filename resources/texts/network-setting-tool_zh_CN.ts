@@ -798,5 +798,50 @@
   --help      显示此说明并退出
   --version   显示版本并退出</translation>
     </message>
+    <message id="DWT_Localize_Outline_Fault">
+        <translation>此页面上有无法使用的值</translation>
+    </message>
+    <message id="DWT_Localize_Outline_Changed">
+        <translation>已更改，尚未发送</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_NotUsed">
+        <translation>在“无线网络”页面上选择的通信模式下，打印机不使用这些设置。</translation>
+    </message>
+    <message id="DWT_Localize_Password_Text_Range_Label">
+        <translation>最多 8 个字符</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Changes">
+        <translation>将要更改的内容</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_NewSecret">
+        <translation>新</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_RemovedSecret">
+        <translation>删除</translation>
+    </message>
+    <message id="DWT_Localize_Send_Confirm_Empty">
+        <translation>（空）</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_KeyKept">
+        <translation>网络“%1”受保护，但未输入密钥。打印机将保留原来的密钥。</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_NotAMask">
+        <translation>%1 不是常用的子网掩码。计算机可能无法访问打印机。</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_GatewayOutside">
+        <translation>默认网关 %1 不在打印机的子网内。其他网络可能无法访问打印机。</translation>
+    </message>
+    <message id="DWT_Localize_Send_Warning_AddressUnreachable">
+        <translation>在此通信模式下，将无法再通过打印机的当前地址 %1 访问它。</translation>
+    </message>
+    <message id="DWT_Localize_Key_Unchanged">
+        <translation>不更改</translation>
+    </message>
+    <message id="DWT_Localize_Key_OfNetwork">
+        <translation>“%1”的密钥</translation>
+    </message>
+    <message id="DWT_Localize_Key_Show">
+        <translation>显示密钥</translation>
+    </message>
 </context>
 </TS>

@@ -1,5 +1,7 @@
 #include "mainwindow/DWTMainSettingWindow.h"
 
+#include <QStyle>
+
 #include "mainwindow/NetworkList.h"
 #include "mainwindow/SendDialog.h"
 #include "mainwindow/WPSGuideWindow.h"
@@ -10,21 +12,13 @@
 
 namespace {
 
-// The Network page in the outline, with every node expanded.
-constexpr int networkRow = 2;
-
 QString text(const char *key) {
     return localized(QLatin1String(key));
 }
 
-// The name, in an outline, of the page with a view key.
-QString pageNameIn(const QVariantMap &node, const QString &viewKey) {
-    if (node.value(QStringLiteral("viewID")) == viewKey)
-        return localized(node.value(QStringLiteral("name")).toString());
-    QString name;
-    for (const QVariant &child : node.value(QStringLiteral("child")).toList())
-        if (name.isEmpty()) name = pageNameIn(child.toMap(), viewKey);
-    return name;
+// Marks a page with unsent changes.
+QIcon changeSign() {
+    return QIcon(QStringLiteral(":/pictures/changed.svg"));
 }
 
 }  // namespace
@@ -66,6 +60,9 @@ void DWTMainSettingWindow::awakeFromNib() {
                                          [this](const Notification &) { MSW_SendButtonEnable(); }));
     m_observers.push_back(center.observe(
         DWT_MainDialog_SendNG_Message, [this](const Notification &) { MSW_SendButtonDisable(); }));
+    for (const QString &edit : {DWT_MainDialog_SendOK_Message, DWT_MainDialog_SendNG_Message})
+        m_observers.push_back(
+            center.observe(edit, [this](const Notification &) { followEdits(); }));
 }
 
 void DWTMainSettingWindow::MSW_UIInitialize() {
@@ -127,6 +124,10 @@ void DWTMainSettingWindow::makeDialogs() {
 void DWTMainSettingWindow::loadOutline() {
     dictionary_OutlineView =
         PropertyList::dictionary(QStringLiteral("OutlineData"), QStringLiteral("plist"));
+    m_pageItems = pageItemsIn(dictionary_OutlineView);
+    for (const QVariantMap &item : std::as_const(m_pageItems))
+        if (const auto page = dictionary_ViewManagement.value(viewKeyOf(item)))
+            page->setPageName(localized(item.value(QStringLiteral("name")).toString()));
     outlineView_Main->setColumn(QStringLiteral("name"));
     outlineView_Main->setOutlineDataSource(this);
     outlineView_Main->setOutlineDelegate(this);
@@ -156,6 +157,18 @@ void DWTMainSettingWindow::connectButtons() {
     asks(&SendDialog::loginPushed, &Self::push_SendLoginOK);
     asks(&SendDialog::stopped, &Self::sayWhatWasSent);
     asks(&SendDialog::endPushed, &Self::push_SendEndOK);
+}
+
+QString DWTMainSettingWindow::viewKeyOf(const QVariantMap &item) {
+    return item.value(QStringLiteral("viewID")).toString();
+}
+
+QList<QVariantMap> DWTMainSettingWindow::pageItemsIn(const QVariantMap &item) {
+    QList<QVariantMap> items;
+    if (!viewKeyOf(item).isEmpty()) items << item;
+    for (const QVariant &child : item.value(QStringLiteral("child")).toList())
+        items << pageItemsIn(child.toMap());
+    return items;
 }
 
 bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &entry) {
@@ -189,9 +202,10 @@ bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &ent
     if (reached && entry) MSW_SendButtonDisable();
     enableAllViews(bool_GetDataSuccess);
     showReadState();
+    showOwnName();
+    followEdits();
     if (reached && entry) {
-        outlineView_Main->selectRow(networkRow);
-        MSW_UISelector(DWT_View_Key_Network);
+        goToPage(DWT_View_Key_Network);
         m_open = true;
         window_Main->fitToScreen();
         window_Main->bringToFront();
@@ -225,9 +239,8 @@ QString DWTMainSettingWindow::nameOf(ItemCode code) const {
     const SentItem &item = *sentItem(code);
     const bool isInterface = item.kind == SentItem::Kind::Interface;
     const QString &key = isInterface ? item.keys[1] : item.keys.last();
-    return QStringLiteral("%1: %2").arg(
-        pageNameIn(dictionary_OutlineView, item.viewKey),
-        dictionary_ViewManagement.value(item.viewKey)->labelOf(key));
+    const auto page = dictionary_ViewManagement.value(item.viewKey);
+    return QStringLiteral("%1: %2").arg(page->pageName(), page->labelOf(key));
 }
 
 QString DWTMainSettingWindow::namesOf(const QList<ItemCode> &codes,
@@ -237,8 +250,31 @@ QString DWTMainSettingWindow::namesOf(const QList<ItemCode> &codes,
     return names.join(separator);
 }
 
+void DWTMainSettingWindow::showOwnName() {
+    if (!dataManager_Object) return;
+    const auto names = dataManager_Object->setupDataToMainView(DWT_View_Key_Network);
+    const QString own =
+        readableText(textValue(names.value_or(CategoryDictionary()), DWT_SaveData_Network_Printer));
+    textField_PrinterOwnName->setText(own.isEmpty() ? QString() : QStringLiteral("· %1").arg(own));
+}
+
+void DWTMainSettingWindow::followEdits() {
+    const int mode = wireless_ViewObject->wirelessCommunicateMode();
+    infrastructure_ViewObject->showIsUsed(mode == CommunicationMode::Infrastructure);
+    simpleAP_ViewObject->showIsUsed(mode == CommunicationMode::AccessPoint);
+    outlineView_Main->reloadMarks();
+}
+
+void DWTMainSettingWindow::goToPage(const QString &viewKey) {
+    for (const QVariantMap &item : std::as_const(m_pageItems))
+        if (viewKeyOf(item) == viewKey) outlineView_Main->pickItem(item);
+}
+
 void DWTMainSettingWindow::enableAllViews(bool enabled) {
-    for (const auto &page : dictionary_ViewManagement) page->enableAllItems(enabled);
+    for (const auto &page : dictionary_ViewManagement) {
+        page->enableAllItems(enabled);
+        page->showForReading(!enabled);
+    }
     if (!enabled) button_MainSend->setEnabled(false);
 }
 
@@ -272,11 +308,23 @@ QVariant DWTMainSettingWindow::objectValueForTableColumn(OutlineView *, const QS
     return localized(item.value(QStringLiteral("name")).toString());
 }
 
+DWTMainSettingWindow::Mark DWTMainSettingWindow::markOfItem(OutlineView *,
+                                                            const QVariantMap &item) {
+    const auto page = dictionary_ViewManagement.value(viewKeyOf(item));
+    if (!page || !bool_GetDataSuccess) return {};
+    if (page->hasFault())
+        return {window_Main->style()->standardIcon(QStyle::SP_MessageBoxWarning),
+                text("DWT_Localize_Outline_Fault")};
+    if (!page->itemCheckDifferentToDataManager())
+        return {changeSign(), text("DWT_Localize_Outline_Changed")};
+    return {};
+}
+
 // Leaving a page stores its values, whatever they are; they are checked when they are sent.
 bool DWTMainSettingWindow::shouldSelectItem(OutlineView *, const QVariantMap &item) {
     if (!item.value(QStringLiteral("select")).toBool()) return false;
     if (!item.contains(QStringLiteral("viewID"))) return true;
-    const QString viewKey = item.value(QStringLiteral("viewID")).toString();
+    const QString viewKey = viewKeyOf(item);
     const std::optional<QString> shown = MSW_SelectedUIString();
     if (viewKey == shown) return false;
     if (bool_usbPrinter && shown) dictionary_ViewManagement[*shown]->itemSetToDataManager();

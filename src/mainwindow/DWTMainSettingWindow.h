@@ -61,6 +61,7 @@ class DWTMainSettingWindow : public QObject,
     bool isItemExpandable(OutlineView *outline, const QVariantMap &item) override;
     QVariant objectValueForTableColumn(OutlineView *outline, const QString &column,
                                        const QVariantMap &item) override;
+    Mark markOfItem(OutlineView *outline, const QVariantMap &item) override;
     bool shouldSelectItem(OutlineView *outline, const QVariantMap &item) override;
 
     // --- Closing (DWTMainSettingWindowClosing.cpp) ---
@@ -78,11 +79,20 @@ class DWTMainSettingWindow : public QObject,
     void makePages();
     void makeDialogs();
     void loadOutline();
+    // The view key of an item of the outline; empty when it stands for no page.
+    static QString viewKeyOf(const QVariantMap &item);
+    // The items of pages at and below an item, in the outline's order.
+    static QList<QVariantMap> pageItemsIn(const QVariantMap &item);
     void connectButtons();
     void push_MainHelp() {}
     void push_MainSetupIsChanged() {}
     int statusLengthOf(const QString &productName);
     void showReadState();
+    void showOwnName();
+    // Follows an edit on a page: the marks of the outline, and which pages the printer uses.
+    void followEdits();
+    // Brings the page forward as a pick in the outline does.
+    void goToPage(const QString &viewKey);
     // What a page calls the value of an item, with the page's name before it.
     QString nameOf(ItemCode code) const;
     QString namesOf(const QList<ItemCode> &codes, const QString &separator) const;
@@ -94,7 +104,11 @@ class DWTMainSettingWindow : public QObject,
     // Sending (DWTMainSettingWindowSending.cpp).
     void push_MainSend();
     bool checkAndStorePages();
+    void goToFirstFault();
     void warnOfChangedConnection();
+    QStringList linesOfChanges() const;
+    QStringList linesOfWarnings() const;
+    void askToSend();
     QString sendViewAskingPassword();
     void push_SendConfirmTransmission();
     void push_SendLoginOK();
@@ -142,6 +156,7 @@ class DWTMainSettingWindow : public QObject,
     QMap<QString, std::shared_ptr<DWTBaseView>> dictionary_ViewManagement;
 
     QVariantMap dictionary_OutlineView;
+    QList<QVariantMap> m_pageItems;  // the outline's items of pages, in its order
     std::shared_ptr<DWTDataManager> dataManager_Object;
     PrinterEntry dictionary_PrinterInfo;
     QVariantMap dictionary_PrinterStatusTable;

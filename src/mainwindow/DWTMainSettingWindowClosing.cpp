@@ -51,7 +51,7 @@ void DWTMainSettingWindow::closeMainWindow(const QVariantMap &userInfo) {
 
 void DWTMainSettingWindow::push_SendChangeCheckReflect() {
     window_SendData->closeDialog();
-    if (checkAndStorePages()) window_SendData->runOn(sendViewAskingPassword());
+    if (checkAndStorePages()) askToSend();
 }
 
 void DWTMainSettingWindow::push_SendChangeCheckNoReflect() {
@@ -81,4 +81,5 @@ void DWTMainSettingWindow::readAgain() {
     initializeData(std::nullopt);
     MSW_ClearTextField();
     MSW_SendButtonDisable();
+    followEdits();
 }

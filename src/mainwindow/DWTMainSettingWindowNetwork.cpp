@@ -27,6 +27,8 @@ void DWTMainSettingWindow::push_InfrastructureSelectSSID() {
     if (!picked) return;
     infrastructure_ViewObject->showSSIDFromSelectSSID(*picked);
     MSW_SendButtonEnable();
+    followEdits();
+    infrastructure_ViewObject->focusKey();
 }
 
 void DWTMainSettingWindow::push_InfrastructureWPSGuide() {

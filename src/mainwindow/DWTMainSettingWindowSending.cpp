@@ -10,6 +10,11 @@ using namespace Qt::StringLiterals;
 void DWTMainSettingWindow::push_MainSend() {
     if (!checkAndStorePages()) return;
     warnOfChangedConnection();
+    askToSend();
+}
+
+void DWTMainSettingWindow::askToSend() {
+    window_SendData->setChanges(linesOfChanges(), linesOfWarnings());
     window_SendData->runOn(sendViewAskingPassword());
 }
 
@@ -17,9 +22,54 @@ void DWTMainSettingWindow::push_MainSend() {
 bool DWTMainSettingWindow::checkAndStorePages() {
     bool passed = true;
     for (const auto &page : dictionary_ViewManagement) passed &= page->itemInputCheck();
-    if (!passed) return false;
+    if (!passed) {
+        goToFirstFault();
+        return false;
+    }
     for (const auto &page : dictionary_ViewManagement) page->itemSetToDataManager();
     return true;
+}
+
+void DWTMainSettingWindow::goToFirstFault() {
+    followEdits();
+    for (const QVariantMap &item : std::as_const(m_pageItems)) {
+        const auto page = dictionary_ViewManagement.value(viewKeyOf(item));
+        if (!page || !page->hasFault()) continue;
+        outlineView_Main->pickItem(item);
+        return page->focusFirstFault();
+    }
+}
+
+// The name of each page that changes, and below it a line for each of its changes.
+QStringList DWTMainSettingWindow::linesOfChanges() const {
+    const auto orEmpty = [](const QString &text) {
+        return text.isEmpty() ? localized(u"DWT_Localize_Send_Confirm_Empty"_s) : text;
+    };
+    QStringList lines;
+    for (const QVariantMap &item : m_pageItems) {
+        const auto page = dictionary_ViewManagement.value(viewKeyOf(item));
+        const auto changes = page ? page->changes() : QList<DWTBaseView::Change>();
+        if (!changes.isEmpty()) lines << page->pageName();
+        for (const DWTBaseView::Change &change : changes)
+            lines << u"    %1: %2"_s.arg(
+                change.label, change.isSecret ? change.newText
+                                              : u"%1 → %2"_s.arg(orEmpty(change.oldText),
+                                                                 orEmpty(change.newText)));
+    }
+    return lines;
+}
+
+QStringList DWTMainSettingWindow::linesOfWarnings() const {
+    const QMap<SendWarning::Kind, const char *> keys{
+        {SendWarning::KeyKept, "DWT_Localize_Send_Warning_KeyKept"},
+        {SendWarning::NotAMask, "DWT_Localize_Send_Warning_NotAMask"},
+        {SendWarning::GatewayOutside, "DWT_Localize_Send_Warning_GatewayOutside"},
+        {SendWarning::AddressUnreachable, "DWT_Localize_Send_Warning_AddressUnreachable"}};
+    QStringList lines;
+    for (const SendWarning &warning : dataManager_Object->warnings())
+        lines << u"%1: %2"_s.arg(dictionary_ViewManagement.value(warning.viewKey)->pageName(),
+                                 localized(QLatin1String(keys[warning.kind])).arg(warning.subject));
+    return lines;
 }
 
 void DWTMainSettingWindow::warnOfChangedConnection() {
@@ -103,10 +153,12 @@ void DWTMainSettingWindow::push_SendEndOK() {
         password_ViewObject->clearPassword(bool_usbPrinter);
         password_ViewObject->passwordChangeSetting(false);
     }
+    showOwnName();
     if (report.isComplete())
         MSW_SendButtonDisable();
     else
         MSW_SendButtonEnable();
+    followEdits();
 }
 
 void DWTMainSettingWindow::MSW_SendButtonEnable() {

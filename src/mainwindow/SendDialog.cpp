@@ -1,7 +1,17 @@
 #include "mainwindow/SendDialog.h"
 
+#include <QStyle>
+#include <algorithm>
+
 #include "platform/ui/FieldLooks.h"
 #include "settings/SettingKeys.h"
+
+namespace {
+
+// So many lines of changes are shown without scrolling, unless the user makes the dialog larger.
+constexpr int shownLines = 12;
+
+}  // namespace
 
 SendDialog::SendDialog(QWidget *parent) : ModalWindow(parent) {
     setupUi(this);
@@ -21,6 +31,10 @@ SendDialog::SendDialog(QWidget *parent) : ModalWindow(parent) {
                 {DWT_View_Key_Send_ConnectError, textField_SendConnectError}};
     for (QLabel *label : std::as_const(m_saying)) m_usualTexts.insert(label, label->text());
     fitWidth(textField_Password, QStringLiteral("00000000"));
+    const int iconSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    icon_SendWarnings->setPixmap(
+        style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(iconSize));
+    showChanges(false);
     connectButtons();
     const auto observe = [this](const QString &name,
                                 void (SendDialog::*operation)(const Notification &)) {
@@ -53,6 +67,7 @@ void SendDialog::connectButtons() {
 
 int SendDialog::runOn(const QString &viewKey) {
     for (QLabel *label : std::as_const(m_saying)) label->setText(m_usualTexts.value(label));
+    showChanges(false);
     adjustSize();
     MSW_SendUISelector(viewKey);
     return Modal::run(this);
@@ -63,7 +78,24 @@ void SendDialog::closeDialog(int outcome) {
     hide();
 }
 
+void SendDialog::setChanges(const QStringList &changes, const QStringList &warnings) {
+    textView_SendConfirm->setPlainText(changes.join(u'\n'));
+    const int lines = std::clamp(int(changes.size()), 3, shownLines);
+    const int frame = 2 * (textView_SendConfirm->frameWidth() +
+                           qRound(textView_SendConfirm->document()->documentMargin()));
+    textView_SendConfirm->setMinimumHeight(
+        lines * textView_SendConfirm->fontMetrics().lineSpacing() + frame);
+    textField_SendWarnings->setText(warnings.join(u'\n'));
+}
+
+// Hidden, they take no room, so that the other views stay as small as they are.
+void SendDialog::showChanges(bool shown) {
+    textView_SendConfirm->setVisible(shown && !textView_SendConfirm->toPlainText().isEmpty());
+    view_SendWarnings->setVisible(shown && !textField_SendWarnings->text().isEmpty());
+}
+
 void SendDialog::MSW_SendUISelector(const QString &viewKey) {
+    showChanges(viewKey == DWT_View_Key_Send_Confirm);
     dictionary_SendViewManagement->select(viewKey);
     dictionary_SendViewManagement->focusFirstControl();
     // What is said instead of the usual may be longer.

@@ -39,6 +39,8 @@ class SendDialog : public ModalWindow, private Ui::SendDialog {
     int runOn(const QString &viewKey);
     // Ends the run with the outcome and hides the dialog.
     void closeDialog(int outcome = Modal::stoppedOutcome);
+    // What the confirmation lists, in lines, and what it warns of; until others are given.
+    void setChanges(const QStringList &changes, const QStringList &warnings);
     // Shows the view of the key and hides the others.
     void MSW_SendUISelector(const QString &viewKey);
     // Shows the progress of a send that is about to start.
@@ -69,6 +71,7 @@ class SendDialog : public ModalWindow, private Ui::SendDialog {
 
   private:
     void connectButtons();
+    void showChanges(bool shown);
     void push_SendChangeCheckCancel();
     void push_UpdateChangeCheckCancel();
     void push_SendConfirmCancel();

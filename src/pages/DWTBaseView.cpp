@@ -1,6 +1,7 @@
 #include "pages/DWTBaseView.h"
 
 #include <QCheckBox>
+#include <QLabel>
 #include <algorithm>
 
 #include "pages/TextFilter.h"
@@ -15,12 +16,17 @@ QString text(const char *key) {
 }
 
 // A label without what marks it as one: the mnemonic and the colon at its end.
-QString nameOf(const char *key) {
-    QString name = text(key).remove(u'&');
+QString nameIn(const QString &label) {
+    QString name = label;
+    name.remove(u'&');
     while (!name.isEmpty() &&
            (name.back().isSpace() || name.back() == u':' || name.back() == u'：'))
         name.chop(1);
     return name;
+}
+
+QString nameOf(const char *key) {
+    return nameIn(text(key));
 }
 
 }  // namespace
@@ -42,6 +48,7 @@ void DWTBaseView::TBV_Dealloc() {
 void DWTBaseView::addField(Field field) {
     if (auto *control = qobject_cast<TextField *>(field.control)) {
         control->setDelegate(this);
+        QObject::connect(control, &QLineEdit::textChanged, this, [this] { updateMarks(); });
         if (field.rule && field.rule->secret)
             control->setInputMethodHints(Qt::ImhSensitiveData | Qt::ImhNoPredictiveText |
                                          Qt::ImhNoAutoUppercase | control->inputMethodHints());
@@ -108,36 +115,85 @@ void DWTBaseView::enableAllItems(bool enabled) {
         if (field.edited) field.control->setEnabled(enabled);
 }
 
+void DWTBaseView::showForReading(bool reading) {
+    keepLegible(view_Base, reading);
+    for (const Field &field : m_fields) {
+        if (!field.edited || !field.isText() || (field.rule && field.rule->secret)) continue;
+        showAsValue(field.line(), reading);
+        if (reading) field.control->setEnabled(true);
+    }
+}
+
 bool DWTBaseView::itemInputCheck() {
     Alert alert(alertStyle());
+    updateMarks(true);
     bool passed = checkAddresses(alert);
     for (const Field &field : m_fields) {
-        if (!field.rule || field.kind == Kind::Address || !field.control->isEnabled()) continue;
-        if (field.kind == Kind::Number) {
+        if (field.kind == Kind::Address) continue;
+        if (field.kind == Kind::Number && field.edited && field.control->isEnabled())
             forceIntoRange(field);
-        } else if (!isUnchangedText(field) && !passes(field)) {
-            showInputError(alert, text(field.nameKey), text(field.rule->ruleKey));
-            passed = false;
-        }
+        const QString rule = brokenRuleOf(field);
+        if (rule.isEmpty()) continue;
+        showInputError(alert, text(field.nameKey), rule);
+        passed = false;
     }
     return passed;
+}
+
+QString DWTBaseView::brokenRuleOf(const Field &field) const {
+    const bool counts = field.rule && field.kind != Kind::Number && field.control->isEnabled();
+    if (!counts || isUnchangedText(field) || (field.kind == Kind::Address && isUnknown(field)) ||
+        passes(field))
+        return {};
+    return text(field.rule->ruleKey);
+}
+
+QString DWTBaseView::faultOf(const Field &field) const {
+    return brokenRuleOf(field);
+}
+
+void DWTBaseView::updateMarks(bool all) {
+    for (const Field &field : m_fields) {
+        auto *const control = qobject_cast<TextField *>(field.control);
+        if (control && (all || !control->problem().isEmpty())) control->setProblem(faultOf(field));
+    }
+}
+
+bool DWTBaseView::hasFault() const {
+    return firstFault() != nullptr;
+}
+
+void DWTBaseView::focusFirstFault() {
+    TextField *const fault = firstFault();
+    if (!fault) return;
+    fault->setFocus(Qt::OtherFocusReason);
+    fault->selectAll();
+}
+
+TextField *DWTBaseView::firstFault() const {
+    for (const Field &field : m_fields) {
+        auto *const control = qobject_cast<TextField *>(field.control);
+        if (control && !control->problem().isEmpty()) return control;
+    }
+    return nullptr;
 }
 
 bool DWTBaseView::checkAddresses(Alert &alert) const {
     QStringList names, rules;
     for (const Field &field : m_fields) {
-        if (!field.rule || field.kind != Kind::Address || !field.control->isEnabled() ||
-            isUnknown(field) || passes(field))
-            continue;
+        const QString rule = brokenRuleOf(field);
+        if (field.kind != Kind::Address || rule.isEmpty()) continue;
         if (names.isEmpty()) {
             field.line()->setFocus();
             field.line()->selectAll();
         }
         names << text(field.nameKey);
-        rules << text(field.rule->ruleKey);
+        rules << rule;
     }
-    if (!names.isEmpty()) showInputError(alert, names.join(u'\n'), rules.join(u'\n'));
-    return names.isEmpty();
+    if (names.isEmpty()) return true;
+    if (!m_pageName.isEmpty()) rules.prepend(m_pageName);
+    showInputError(alert, names.join(u'\n'), rules.join(u'\n'));
+    return false;
 }
 
 void DWTBaseView::forceIntoRange(const Field &number) const {
@@ -170,14 +226,29 @@ QList<DWTBaseView::Change> DWTBaseView::changes() const {
         if (!field.nameKey || !shown.contains(field.key)) continue;
         const auto old = saved.constFind(field.key);
         if (old != saved.constEnd() && *old == shown.value(field.key)) continue;
-        Change change{nameOf(field.nameKey), {}, {}};
-        if (!field.rule || !field.rule->secret) {
-            change.oldText = textOf(field, saved);
-            change.newText = textOf(field, shown);
-        }
-        list << change;
+        const bool secret = field.rule && field.rule->secret;
+        list << Change{nameOf(field.nameKey), secret ? QString() : textOf(field, saved),
+                       secret ? text("DWT_Localize_Send_Confirm_NewSecret") : textOf(field, shown),
+                       secret};
     }
     return list;
+}
+
+QList<DWTBaseView::Value> DWTBaseView::values() const {
+    const CategoryDictionary shown = shownCategory();
+    QList<Value> list;
+    for (const Field &field : m_fields)
+        if (!field.rule || !field.rule->secret)
+            list << Value{labelOf(field),
+                          field.isText() ? field.line()->text() : textOf(field, shown)};
+    return list;
+}
+
+QString DWTBaseView::labelOf(const Field &field) const {
+    if (field.nameKey) return nameOf(field.nameKey);
+    for (const QLabel *label : view_Base->findChildren<QLabel *>())
+        if (label->buddy() == field.control) return nameIn(label->text());
+    return {};
 }
 
 std::optional<SettingValue> DWTBaseView::valueOf(const Field &field) const {
@@ -254,6 +325,7 @@ bool DWTBaseView::textShouldEndEditing(TextField *control) {
             field->store();
         else
             store(control);
+        control->setProblem(faultOf(*field));
     }
     sendNotificationSendOK();
     return true;
@@ -330,7 +402,9 @@ void DWTBaseView::sendNotificationSendOK() {
     postSendState(ndm_Object && ndm_Object->isEqualToSaveData());
 }
 
+// A choice may have changed which fields count.
 void DWTBaseView::postSendState(bool unchanged) {
+    updateMarks();
     NotificationCenter::shared().post(
         unchanged ? DWT_MainDialog_SendNG_Message : DWT_MainDialog_SendOK_Message, this);
 }

@@ -42,6 +42,9 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // The page's category in the record, and its name in the window.
     void SetViewKey(const QString &key) { string_ViewKey = key; }
     QString viewKey() const { return string_ViewKey; }
+    // What the window calls the page; named in alerts about fields that other pages have as well.
+    void setPageName(const QString &name) { m_pageName = name; }
+    QString pageName() const { return m_pageName; }
 
     // --- Page protocol ---
 
@@ -51,10 +54,19 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // Fills the controls from the saved data; called after every reading of the printer.
     virtual void showDataManager();
     virtual void enableAllItems(bool enabled);
+    // Of a page whose controls are all disabled, lets the values be selected, copied and read well;
+    // off, the fields can be typed into again. Secrets stay as they are.
+    void showForReading(bool reading);
     // Checks what is typed and shows an alert for what is wrong: one for all addresses, of which
     // the first wrong one is selected, then one for every other field. Numbers are forced into
-    // their range. Disabled fields are not checked. False when something is wrong.
+    // their range. Disabled fields are not checked. False when something is wrong; every wrong
+    // field is marked then.
     virtual bool itemInputCheck();
+    // Whether a field is marked as wrong. A field is marked when its editing has ended, or the
+    // check has failed, until it holds what can be used.
+    bool hasFault() const;
+    // Gives the focus to the first field that is marked, selected.
+    void focusFirstFault();
     // Writes the controls' values to the change data.
     void itemSetToDataManager() { handOver(shownCategory()); }
     // False when the change alters the address or name by which the printer is reached.
@@ -62,14 +74,23 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // True when the controls' values equal the saved data.
     bool itemCheckDifferentToDataManager() { return shownCategory() == savedCategory(); }
 
-    // A value that differs from the saved one, in the words of the page. A secret has no texts.
+    // A value that differs from the saved one, in the words of the page. A secret has no old text,
+    // and of the new one only says that there is one.
     struct Change {
         QString label;
         QString oldText;
         QString newText;
+        bool isSecret = false;
     };
     // What differs, in the order of the page; empty when nothing does.
     virtual QList<Change> changes() const;
+
+    // A value as the page shows it. Secrets are left out.
+    struct Value {
+        QString label;
+        QString text;
+    };
+    QList<Value> values() const;
 
     // The name of the value of a record's key, in the words of the page; empty for a key that is
     // not the page's.
@@ -145,6 +166,8 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     virtual bool isUsed(const Field &) const { return true; }
     // Whether what a field holds keeps its rule.
     virtual bool passes(const Field &field) const;
+    // Why what a field holds cannot be used, in words; empty when it can, or does not count.
+    virtual QString faultOf(const Field &field) const;
     // The user begins to edit, or `ended` to edit, a field.
     virtual void markInput(const Field &field, bool ended);
     // The saved category with what the page shows now. A code that no choice stands for stays.
@@ -187,15 +210,23 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     std::optional<SettingValue> valueOf(const Field &field) const;
     // Whether a row shows what it shows when its value is missing.
     bool showsNothing(const Field &field) const;
+    // What a row is called, in the words of the page.
+    QString labelOf(const Field &field) const;
     // A value of a row as a person reads it.
     QString textOf(const Field &field, const CategoryDictionary &category) const;
+    // The localised rule that what a field holds breaks; empty when it breaks none.
+    QString brokenRuleOf(const Field &field) const;
     bool isUnchangedText(const Field &field) const;
     // Whether the printer did not tell the value of a row, and nobody entered one.
     bool isUnknown(const Field &field) const;
     bool checkAddresses(Alert &alert) const;
+    // Marks what is wrong among the fields that are marked already, or among all.
+    void updateMarks(bool all = false);
+    TextField *firstFault() const;
     void forceIntoRange(const Field &number) const;
     void postSendState(bool unchanged);
 
     std::vector<Field> m_fields;
+    QString m_pageName;
     NotificationCenter::Observer m_textChanges;
 };

@@ -92,6 +92,7 @@ void DWTInfrastructureView::initializeUI() {
 void DWTInfrastructureView::showDataManager() {
     mutableDictionary_selectSSID.clear();
     bool_SSIDfromSelectSSID = false;
+    sayKeyOf({});
     initializeEncryption();
     InterfaceView::showDataManager();
     adjustSecurity();
@@ -146,6 +147,7 @@ bool DWTInfrastructureView::textShouldEndEditing(TextField *control) {
 void DWTInfrastructureView::controlTextDidChange(TextField *control) {
     if (control == textField_InfrastructureSSID && bool_SSIDfromSelectSSID) {
         bool_SSIDfromSelectSSID = false;
+        sayKeyOf({});
         mutableDictionary_ViewSettings.insert(DWT_SaveData_Infrastructure_SSIDList_SSID, QString());
     }
     InterfaceView::controlTextDidChange(control);
@@ -189,11 +191,27 @@ void DWTInfrastructureView::showSSIDFromSelectSSID(const SSIDEntry &network) {
     bool_SSIDfromSelectSSID = true;
     handOver(settings);
     selectAuthenticCodeInput();
+    sayKeyOf(textField_InfrastructureSSID->text());
+}
+
+void DWTInfrastructureView::focusKey() {
+    for (TextField *key : std::initializer_list<TextField *>{textField_InfrastructurePSK,
+                                                             textField_InfrastructureWEPKey})
+        if (key->isEnabled()) key->setFocus(Qt::OtherFocusReason);
+}
+
+void DWTInfrastructureView::sayKeyOf(const QString &network) {
+    const QString said = network.isEmpty()
+                             ? localized(QStringLiteral("DWT_Localize_Key_Unchanged"))
+                             : localized(QStringLiteral("DWT_Localize_Key_OfNetwork")).arg(network);
+    textField_InfrastructurePSK->setPlaceholderText(said);
+    textField_InfrastructureWEPKey->setPlaceholderText(said);
 }
 
 void DWTInfrastructureView::clearEncryptionKey(bool) {
     textField_InfrastructurePSK->forget();
     textField_InfrastructureWEPKey->forget();
+    sayKeyOf({});
     popupbutton_InfrastructureSelectWEPKey->setCurrentIndex(0);
     // Enabled, all three follow the encryption.
     const bool usable = popupbutton_InfrastructureEncryption->isEnabledTo(view_Base->window());

@@ -14,8 +14,13 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
     void showDataManager() override;
     void enableAllItems(bool enabled) override;
 
+    // Says above the settings when the printer's communication mode does not use them.
+    void showIsUsed(bool used) { textField_InfrastructureNotUsed->setHidden(used); }
+
     // Takes a network over that the user picked in the list of those that the printer sees.
     void showSSIDFromSelectSSID(const SSIDEntry &network);
+    // Gives the focus to the key field that the chosen encryption uses, if any.
+    void focusKey();
     // Empties the key fields. The argument is not used.
     void clearEncryptionKey(bool);
 
@@ -53,6 +58,9 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
     // Enables the key fields that the chosen encryption uses.
     void selectEncryptionCodeInput();
     void offerEncryptions(int first, int preferred);
+    // Says in the empty key fields whose key belongs there; without a network, that an empty one
+    // leaves the printer's key unchanged.
+    void sayKeyOf(const QString &network);
     // Stores the choice of a pop-up, and posts the record's state.
     void storeChoice(const QComboBox *popup);
     // The code of the chosen encryption; 0 when none is chosen.

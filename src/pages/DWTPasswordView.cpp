@@ -51,7 +51,21 @@ bool DWTPasswordView::itemInputCheck() {
 // A new password is one change, also when it is none.
 QList<DWTBaseView::Change> DWTPasswordView::changes() const {
     if (shownCategory() == savedCategory()) return {};
-    return {{passwordName(), {}, {}}};
+    const bool removed = secureTextField_Password->text().isEmpty();
+    return {{passwordName(),
+             {},
+             localized(removed ? QStringLiteral("DWT_Localize_Send_Confirm_RemovedSecret")
+                               : QStringLiteral("DWT_Localize_Send_Confirm_NewSecret")),
+             true}};
+}
+
+// The two fields are compared where the password is confirmed.
+QString DWTPasswordView::faultOf(const Field &field) const {
+    const QString broken = DWTBaseView::faultOf(field);
+    if (!broken.isEmpty() || field.control != secureTextField_PasswordReinput ||
+        !field.control->isEnabled() || fieldsAgree())
+        return broken;
+    return localized(QStringLiteral("DWT_Localize_Alert_InfoText_Password_MatchingErr"));
 }
 
 void DWTPasswordView::passwordChangeSetting(bool on) {

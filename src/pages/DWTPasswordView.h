@@ -24,6 +24,7 @@ class DWTPasswordView : public DWTBaseView, private Ui::PasswordPage {
   protected:
     // The printer tells no password: reading changes no control.
     void fill(const Field &) override {}
+    QString faultOf(const Field &field) const override;
 
   private:
     // The check box's action.

@@ -9,6 +9,8 @@ class DWTSimpleAPView : public DWTBaseView, private Ui::SimpleAPPage {
 
   public:
     void initializeUI() override;
+    // Says above the settings when the printer's communication mode does not use them.
+    void showIsUsed(bool used) { textField_SimpleAPNotUsed->setHidden(used); }
 
   protected:
     // A name or key that the printer does not tell leaves its field as it is.

@@ -13,6 +13,7 @@ void InterfaceView::addAddress(TextField *field, const QString &key, const QStri
 
 void InterfaceView::setControls(const Controls &controls) {
     m_controls = controls;
+    m_untested = controls.state->text();
     QObject::connect(controls.connect, &QAbstractButton::clicked, this,
                      &InterfaceView::connectRequested);
 }
@@ -46,6 +47,16 @@ bool InterfaceView::textShouldBeginEditing(TextField *control) {
     return DWTBaseView::textShouldBeginEditing(control);
 }
 
+void InterfaceView::controlTextDidChange(TextField *control) {
+    const Field *const field = fieldOf(control);
+    if (field && field->kind == Kind::Address) forgetConnectResult();
+    DWTBaseView::controlTextDidChange(control);
+}
+
+void InterfaceView::forgetConnectResult() {
+    m_controls.state->setText(m_untested);
+}
+
 void InterfaceView::showConnectResult(bool online) {
     m_controls.state->setText(
         localized(QLatin1String(online ? m_controls.online : m_controls.offline)));
@@ -60,7 +71,8 @@ QStringList InterfaceView::getipAddressArray() const {
 }
 
 void InterfaceView::chooseAddressSetup() {
-    // First, since a field that is disabled while it has the focus stores what was typed.
+    forgetConnectResult();
+    // Before the rest, since a field that is disabled while it has the focus stores what was typed.
     selectAddressSettingInput();
     const CategoryDictionary saved = savedCategory();
     CategoryDictionary &settings = mutableDictionary_ViewSettings;

@@ -17,6 +17,8 @@ class InterfaceView : public DWTBaseView {
     void enableAllItems(bool enabled) override;
     bool itemConnectChangeCheck() override;
     bool textShouldBeginEditing(TextField *control) override;
+    // The result of a test does not hold for another address.
+    void controlTextDidChange(TextField *control) override;
 
     // Shows whether a printer answered at the address that the window tested.
     void showConnectResult(bool online);
@@ -61,6 +63,9 @@ class InterfaceView : public DWTBaseView {
         return m_controls.choice->selectedTag() == AddressSetting::Automatic;
     }
 
+    void forgetConnectResult();
+
     Controls m_controls{};
+    QString m_untested;                  // what the state says before a test
     QMap<QString, QString> m_keysInUse;  // by the configured address's key
 };

@@ -49,6 +49,11 @@ bool DWTDataManager::isEqualToSaveData() const {
     });
 }
 
+QList<SendWarning> DWTDataManager::warnings() const {
+    if (!dictionary_SaveData || !mutableDictionary_ChangeData) return {};
+    return warningsOf(*dictionary_SaveData, *mutableDictionary_ChangeData);
+}
+
 bool DWTDataManager::NDM_Init() {
     dictionary_SaveData.reset();
     mutableDictionary_ChangeData.reset();

@@ -12,6 +12,7 @@
 #include "app/base/DWTBaseClass.h"
 #include "link/DWTCommunicationControl.h"
 #include "settings/ItemCodec.h"
+#include "settings/SendWarnings.h"
 #include "settings/SentItems.h"
 #include "settings/SettingKeys.h"
 #include "settings/SettingRecord.h"
@@ -57,6 +58,8 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     int setupDataFromMainView(const CategoryDictionary &category, const QString &viewKey);
     // True when all seven categories are present in both records and equal.
     bool isEqualToSaveData() const;
+    // What a person should know before the change data is sent; nothing without a record.
+    QList<SendWarning> warnings() const;
 
     // --- Reading (DWTDataManagerReading.cpp) ---
 

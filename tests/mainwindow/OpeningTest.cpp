@@ -1,5 +1,7 @@
 #include <QAccessible>
+#include <QClipboard>
 #include <QLabel>
+#include <QRadioButton>
 
 #include "PrinterWindow.h"
 
@@ -13,6 +15,7 @@ const char *const cannotBeUsed = "The connection to the printer cannot be used";
 
 class Opening : public PrinterWindow {
   protected:
+    bool canBeTyped(const char *name) { return isEnabled(name) && !field(name)->isReadOnly(); }
     void pressByAssistiveTechnology(const char *button) {
         auto *actions = QAccessible::queryAccessibleInterface(control(button))->actionInterface();
         actions->doAction(QAccessibleActionInterface::pressAction());
@@ -38,7 +41,7 @@ TEST_F(Opening, EveryReadingResultEndsInItsOwnState) {
         EXPECT_FALSE(isEnabled("button_MainSend"));
         if (!c.opens) continue;
         EXPECT_EQ(name(), text("desk"));
-        EXPECT_EQ(isEnabled("textField_NetworkBonjour"), c.editable);
+        EXPECT_EQ(canBeTyped("textField_NetworkBonjour"), c.editable);
         EXPECT_EQ(isEnabled("radioButton_InfrastructureIPAddressSetting"), c.editable);
         EXPECT_EQ(control("textField_ReadOnly")->isVisible(), !c.editable);
         EXPECT_EQ(selectedCategory(), text("Names"));
@@ -61,10 +64,43 @@ TEST_F(Opening, ReadingAgainEndsInItsOwnState) {
         click("button_MainNewSetting");
         EXPECT_TRUE(isOpen() && closings.isEmpty() && dialogs.isDone());
         EXPECT_EQ(name(), text("label-printer"));
-        EXPECT_EQ(isEnabled("textField_NetworkBonjour"), c.editable);
+        EXPECT_EQ(canBeTyped("textField_NetworkBonjour"), c.editable);
         EXPECT_EQ(control("textField_ReadOnly")->isVisible(), !c.editable);
         EXPECT_FALSE(isEnabled("button_MainSend"));
     }
+}
+
+TEST_F(Opening, ValuesThatCannotBeChangedCanBeCopiedAndReadWell) {
+    open(R"({"items": {"0x1004": "desk", "0x1007": 5}})", overNetwork);
+    choose("Device");
+    auto *const seconds = field("textField_PrintTimeOut");
+    seconds->setFocus();
+    QTest::keyClicks(seconds, text("9"));
+    QTest::keySequence(seconds, QKeySequence::SelectAll);
+    QTest::keySequence(seconds, QKeySequence::Copy);
+    QTest::keyClick(seconds, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::clipboard()->text(), text("5"));
+    EXPECT_EQ(seconds->text(), text("5")) << "a value out of its range was put right";
+    EXPECT_FALSE(isEnabled("textField_InfrastructurePSK") || isEnabled("button_MainSend"));
+    const QPalette &colours = control("radioButton_InfrastructureIPAddressSetting")->palette();
+    EXPECT_EQ(colours.color(QPalette::Disabled, QPalette::WindowText),
+              colours.color(QPalette::Active, QPalette::WindowText));
+}
+
+TEST_F(Opening, PagesThatTheCommunicationModeDoesNotUseSaySo) {
+    open(R"({"items": {"0x3000": 1, "0x1004": "desk"}})");
+    const auto unused = [this] {
+        return QStringList{control("textField_InfrastructureNotUsed")->isHidden() ? u""_s : u"I"_s,
+                           control("textField_SimpleAPNotUsed")->isHidden() ? u""_s : u"A"_s}
+            .join(QString());
+    };
+    EXPECT_EQ(unused(), text("A"));
+    choose("Wireless network");
+    control<QRadioButton>("buttonCell_WirelessSimpleA")->click();
+    EXPECT_EQ(unused(), text("I"));
+    control<QRadioButton>("buttonCell_WirelessWifiNothing")->click();
+    EXPECT_EQ(unused(), text("IA"));
+    EXPECT_EQ(control<QLabel>("textField_PrinterOwnName")->text(), text("· Label-Printer"));
 }
 
 TEST_F(Opening, WhatThePrinterDidNotTellIsNamedAndStaysUnsent) {

@@ -57,6 +57,21 @@ class PrinterWindow : public testing::Test {
         QTest::mouseClick(outline->viewport(), Qt::LeftButton, {},
                           outline->visualRect(found.first()).center());
     }
+    // What the sign beside a category in the outline says.
+    QString markOf(const char *category) {
+        const auto *model = control<OutlineView>("outlineView_Main")->model();
+        const auto found = model->match(model->index(0, 0), Qt::DisplayRole, text(category), 1,
+                                        Qt::MatchRecursive);
+        const QString meaning = found.value(0).data(Qt::AccessibleDescriptionRole).toString();
+        EXPECT_EQ(found.value(0).data(Qt::DecorationRole).value<QIcon>().isNull(),
+                  meaning.isEmpty());
+        return meaning;
+    }
+    // Types into a pop-up what its item begins with.
+    void pickItem(const char *popup, const char *beginning) {
+        control(popup)->setFocus();
+        QTest::keyClicks(control(popup), text(beginning));
+    }
     QString selectedCategory() {
         return control<OutlineView>("outlineView_Main")->currentIndex().data().toString();
     }

@@ -1,4 +1,5 @@
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QRadioButton>
 
@@ -97,15 +98,69 @@ TEST_F(Sending, TheLoginIsAskedForUntilItIsRightOrCancelled) {
     EXPECT_EQ(held(), QByteArray("new-name"));
 }
 
-TEST_F(Sending, WrongInputOnTwoPagesShowsBothAlertsAndSendsNothing) {
+TEST_F(Sending, WrongInputOnTwoPagesIsToldAndLeadsToTheFirstFieldToMend) {
     open("{}");
+    EXPECT_EQ(markOf("Names"), QString());
     typeName("new name");
+    EXPECT_EQ(markOf("Names"), text("Changed, not sent yet"));
     choose("Wired network");
+    EXPECT_EQ(markOf("Names"), text("A value on this page cannot be used"));
     press(control("radioButton_EthernetIPAddressSetting"), "buttonCell_Manual");
     type("textField_EthernetIpAddress", "1.2.3");
-    dialogs.alert("IP address cannot be used").alert("Bonjour name cannot be used");
+    dialogs
+        .on("",
+            [](QWidget *alert) {
+                const auto *box = static_cast<QMessageBox *>(alert);
+                EXPECT_EQ(box->windowTitle(), text("Network Setting Tool"));
+                EXPECT_TRUE(box->informativeText().startsWith(text("Wired network\nEnter the IP")));
+                QTest::keyClick(alert, Qt::Key_Return);
+            })
+        .alert("Bonjour name cannot be used");
     send();
     EXPECT_TRUE(served->printer().log().empty());
+    EXPECT_EQ(selectedCategory(), text("Names"));
+    auto *const wrong = field("textField_NetworkBonjour");
+    EXPECT_TRUE(main->window()->focusWidget() == wrong && wrong->isVisible());
+    EXPECT_EQ(wrong->selectedText(), text("new name"));
+    QTest::keyClicks(wrong, text("new-name"));
+    EXPECT_EQ(markOf("Names"), text("Changed, not sent yet"));
+    dialogs.alert("IP address cannot be used");
+    send();
+    EXPECT_EQ(selectedCategory(), text("Wired network"));
+    EXPECT_EQ(main->window()->focusWidget(), field("textField_EthernetIpAddress"));
+}
+
+TEST_F(Sending, WhatWillChangeIsListedAndWarnedOfBeforeItIsSent) {
+    open(R"({"items": {"0x3000": 1, "0x3102": 0, "0x3103": 0, "0x1004": "desk", "0x3104": "Old",
+         "0x2001": {"setting": 1, "address": "10.0.0.5", "mask": "255.0.0.0", "gateway": "10.0.0.1"}}})");
+    typeName("desk-2");
+    choose("Wired network");
+    type("textField_EthernetSubnetMask", "255.0.255.0");
+    choose("Infrastructure");
+    type("textField_InfrastructureSSID", "New");
+    pickItem("popupbutton_InfrastructureAuthentic", "WPA2");
+    const auto reads = [](QWidget *dialog) {
+        auto *list = controlOf<QPlainTextEdit>(dialog, "textView_SendConfirm");
+        EXPECT_EQ(list->toPlainText(),
+                  text("Names\n    Bonjour name: desk → desk-2\nWired network\n"
+                       "    Subnet mask: 255.0.0.0 → 255.0.255.0\nInfrastructure\n"
+                       "    Network name (SSID): Old → New\n"
+                       "    Authentication: Open system → WPA2 personal\n"
+                       "    Encryption: None → AES"));
+        EXPECT_TRUE(list->isVisible() && dialog->focusWidget() == list);
+        EXPECT_EQ(list->accessibleName(), text("What will change"));
+        const auto *warnings = controlOf<QLabel>(dialog, "textField_SendWarnings");
+        EXPECT_TRUE(warnings->isVisible());
+        EXPECT_EQ(warnings->text(),
+                  text("Wired network: 255.0.255.0 is not a usual subnet mask. Computers may not "
+                       "reach the printer.\nInfrastructure: The network “New” is protected, but "
+                       "no key was entered. The printer keeps its old key."));
+        QTest::keyClick(list, Qt::Key_Return);
+    };
+    warned().on("view_SendConfirm", reads).on("view_SendEnd", "button_SendEndOK");
+    send();
+    EXPECT_EQ(held(), QByteArray("desk-2"));
+    EXPECT_EQ(markOf("Names") + markOf("Infrastructure"), QString());
 }
 
 TEST_F(Sending, APrinterUnpluggedBeforeTheSendLosesNothing) {

@@ -1,5 +1,6 @@
 #include <QLabel>
 #include <QPushButton>
+#include <QToolButton>
 
 #include "PageInWindow.h"
 #include "pages/DWTEthernetView.h"
@@ -20,6 +21,7 @@ class AddressSetup : public testing::TestWithParam<Interface>, protected PageInW
     TextField *address() { return control(named("textField_%1IpAddress")); }
     TextField *mask() { return control(named("textField_%1SubnetMask")); }
     TextField *gateway() { return control(named("textField_%1DefaultGateway")); }
+    QLabel *connection() { return control<QLabel>(named("textField_%1Connection")); }
     QPushButton *test() { return control<QPushButton>(named("button_%1Connect")); }
     QString stored(const char *value) {
         return changedAddress(text("DWT_SaveData_%1_%2").arg(text(GetParam().name), text(value)));
@@ -96,6 +98,23 @@ TEST_P(AddressSetup, OnlyAnotherAddressChangesHowThePrinterIsReached) {
         EXPECT_FALSE(reached(field, "10.0.0.66")) << qPrintable(field->objectName());
 }
 
+TEST_P(AddressSetup, AWrongAddressIsMarkedFromTheEndOfItsEditingUntilItIsRight) {
+    const auto icons = [this] { return address()->findChildren<QToolButton *>(); };
+    page->showConnectResult(true);
+    type(address(), text("10.0.0."));
+    EXPECT_EQ(connection()->text(), text("Not tested yet")) << "the result of another address";
+    EXPECT_FALSE(page->hasFault()) << "marked while it is typed";
+    QTest::keyClick(address(), Qt::Key_Tab);
+    EXPECT_TRUE(page->hasFault());
+    ASSERT_EQ(icons().size(), 1);
+    EXPECT_TRUE(icons()[0]->isVisible());
+    EXPECT_EQ(icons()[0]->text(), address()->accessibleDescription());
+    EXPECT_TRUE(address()->accessibleDescription().startsWith(text("Enter the IP address as")));
+    QTest::keyClick(address(), Qt::Key_End);
+    QTest::keyClicks(address(), text("9"));
+    EXPECT_FALSE(page->hasFault() || icons()[0]->isVisible());
+}
+
 TEST_P(AddressSetup, OneAlertNamesEveryWrongAddressAndSelectsTheFirst) {
     type(mask(), text("0.0.0.0"));
     type(gateway(), text("1.2.3"));
@@ -103,6 +122,9 @@ TEST_P(AddressSetup, OneAlertNamesEveryWrongAddressAndSelectsTheFirst) {
     EXPECT_EQ(explanation.count(u'\n'), 1);
     EXPECT_EQ(window.focusWidget(), mask());
     EXPECT_EQ(mask()->selectedText(), text("0.0.0.0"));
+    EXPECT_TRUE(!mask()->problem().isEmpty() && address()->problem().isEmpty());
+    pick("buttonCell_Auto");
+    EXPECT_FALSE(page->hasFault()) << "addresses that do not count";
 }
 
 TEST_P(AddressSetup, SwitchingTheSetupTakesTheMatchingAddresses) {

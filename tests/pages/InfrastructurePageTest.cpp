@@ -147,15 +147,22 @@ TEST_F(InfrastructurePage, NameAndKeysAreStoredWhenEditingEnds) {
     EXPECT_FALSE(control<QPushButton>("button_InfrastructureConnect")->isEnabled());
     QTest::keyClick(ssid(), Qt::Key_Return);
     EXPECT_EQ(changedText(DWT_SaveData_Infrastructure_SSID), QString());
+    EXPECT_EQ(psk()->placeholderText(), text("unchanged"));
     type(psk(), text("k\n\te y😀"));
     EXPECT_EQ(alertsOf(false).join(u'|'),
               text("Network name (SSID) cannot be used|WPA key cannot be used"));
     QTest::keyClick(psk(), Qt::Key_Return);
+    EXPECT_NE(psk()->displayText(), psk()->text()) << "a key is shown to everybody";
+    psk()->setFocus();
+    QTest::keyClick(psk(), Qt::Key_Tab);
+    EXPECT_EQ(window.focusWidget()->accessibleName(), text("Show the key"));
+    QTest::keyClick(window.focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(psk()->displayText(), psk()->text());
     EXPECT_EQ(changedText(DWT_SaveData_Infrastructure_PSK), psk()->text());
     choose(authentic(), "Shared key");
     EXPECT_EQ(changeList(),
               text("Network name (SSID): Café > |Authentication: WPA2 personal > Shared key|"
-                   "Encryption: AES > WEP|WPA key:  > "));
+                   "Encryption: AES > WEP|WPA key:  > new"));
     type(wepKey(), text("abcde"));
     QTest::keyClick(wepKey(), Qt::Key_Return);
     EXPECT_EQ(changedText(DWT_SaveData_Infrastructure_WEPKey), text("abcde"));

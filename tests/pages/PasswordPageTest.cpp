@@ -34,7 +34,13 @@ TEST_F(PasswordPage, TheBoxOpensTheFieldsAndClosingItForgetsThem) {
     typeBoth("abcd", "abc");
     EXPECT_EQ(changedText(DWT_SaveData_Password_Password), text("abc")) << "they differ";
     EXPECT_FALSE(page->itemCheckDifferentToDataManager());
-    EXPECT_EQ(changeList(), text("New password:  > ")) << "a password is shown";
+    EXPECT_EQ(changeList(), text("New password:  > new")) << "a password is shown";
+    EXPECT_TRUE(password()->problem().isEmpty());
+    EXPECT_EQ(repeated()->problem(), text("The two passwords differ. Type the same password in "
+                                          "both fields."));
+    typeBoth("", "");
+    EXPECT_EQ(changeList(), text("New password:  > removed"));
+    EXPECT_TRUE(repeated()->problem().isEmpty());
     page->enableAllItems(true);
     EXPECT_TRUE(password()->isEnabled() && repeated()->isEnabled());
     page->enableAllItems(false);

@@ -25,7 +25,7 @@ TEST_F(SimpleAPPage, ShowsWhatThePrinterTellsAndStoresNameAndKey) {
     EXPECT_EQ(changedText(DWT_SaveData_SimpleAP_SSID), text("é"));
     EXPECT_EQ(changedText(DWT_SaveData_SimpleAP_PSK), text("x"));
     EXPECT_EQ(changeList(), text("Network name (SSID) of the access point: Desk > é|"
-                                 "WPA key of the access point:  > "));
+                                 "WPA key of the access point:  > new"));
     showNothing();
     EXPECT_EQ(shown("textField_SimpleAPStartIpAddress"), text("0.0.0.0"));
     EXPECT_EQ(ssid->text() + psk->text(), QString());

@@ -8,9 +8,11 @@
 
 void Alert::runModal(QWidget *parent) const {
     // It goes with its parent, which may happen while it is up.
-    const QPointer<QMessageBox> shown(
-        new QMessageBox(parent ? parent : QApplication::activeWindow()));
+    QWidget *const over = parent ? parent : QApplication::activeWindow();
+    const QPointer<QMessageBox> shown(new QMessageBox(over));
     QMessageBox &box = *shown;
+    box.setWindowTitle(over ? over->window()->windowTitle()
+                            : QGuiApplication::applicationDisplayName());
     box.setIcon(m_style == Style::Critical ? QMessageBox::Critical : QMessageBox::Warning);
     box.setText(m_messageText);
     box.setInformativeText(m_informativeText);

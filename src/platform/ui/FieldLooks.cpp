@@ -21,12 +21,20 @@ void fitWidth(QLineEdit *field, const QString &sample) {
     field->setFixedWidth(size.width());
 }
 
-void showAsValue(QLineEdit *field) {
-    field->setReadOnly(true);
-    field->setFrame(false);
-    QPalette palette = field->palette();
-    palette.setBrush(QPalette::Base, Qt::transparent);
+void showAsValue(QLineEdit *field, bool on) {
+    field->setReadOnly(on);
+    field->setFrame(!on);
+    QPalette palette;
+    if (on) palette.setBrush(QPalette::Base, Qt::transparent);
     field->setPalette(palette);
+}
+
+void keepLegible(QWidget *panel, bool on) {
+    QPalette palette;
+    if (on)
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            palette.setBrush(QPalette::Disabled, role, palette.brush(QPalette::Active, role));
+    panel->setPalette(palette);
 }
 
 void showAsDigits(QLineEdit *field) {

@@ -3,6 +3,7 @@
 #include <QAbstractItemModel>
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <memory>
 #include <vector>
 
@@ -35,8 +36,34 @@ class OutlineModel : public QAbstractItemModel {
     }
     int columnCount(const QModelIndex &) const override { return 1; }
     QVariant data(const QModelIndex &index, int role) const override {
-        if (role != Qt::DisplayRole || !source || !index.isValid()) return {};
-        return source->objectValueForTableColumn(m_outline, column, node(index)->item);
+        if (!source || !index.isValid()) return {};
+        const QVariantMap &item = node(index)->item;
+        switch (role) {
+            case Qt::DisplayRole:
+                return source->objectValueForTableColumn(m_outline, column, item);
+            case Qt::DecorationRole:
+                return source->markOfItem(m_outline, item).sign;
+            case Qt::ToolTipRole:
+            case Qt::AccessibleDescriptionRole:
+                return source->markOfItem(m_outline, item).meaning;
+            default:
+                return {};
+        }
+    }
+    // The index of an item at or below another; an invalid one when it is not there.
+    QModelIndex find(const QVariantMap &item, const QModelIndex &top = {}) const {
+        if (top.isValid() && node(top)->item == item) return top;
+        for (int row = 0; row < rowCount(top); ++row)
+            if (const QModelIndex found = find(item, index(row, 0, top)); found.isValid())
+                return found;
+        return {};
+    }
+    void reloadMarks(const QModelIndex &top = {}) {
+        const int rows = rowCount(top);
+        if (rows == 0) return;
+        Q_EMIT dataChanged(index(0, 0, top), index(rows - 1, 0, top),
+                           {Qt::DecorationRole, Qt::ToolTipRole, Qt::AccessibleDescriptionRole});
+        for (int row = 0; row < rows; ++row) reloadMarks(index(row, 0, top));
     }
 
   private:
@@ -69,6 +96,18 @@ class OutlineModel : public QAbstractItemModel {
 };
 
 namespace {
+
+// Draws the mark of an item after its text.
+class MarkDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->decorationPosition = QStyleOptionViewItem::Right;
+    }
+};
 
 // Asks before the user's selection moves. Selection and current item move together or not at all.
 class AskingSelection : public QItemSelectionModel {
@@ -122,6 +161,7 @@ OutlineView::OutlineView(QWidget *parent) : QTreeView(parent), m_model(new Outli
     QItemSelectionModel *const plain = selectionModel();
     setSelectionModel(new AskingSelection(m_model, this));
     delete plain;
+    setItemDelegate(new MarkDelegate(this));
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
     setHeaderHidden(true);
@@ -169,9 +209,19 @@ void OutlineView::selectRow(int row) {
     selection->asks = true;
 }
 
+void OutlineView::pickItem(const QVariantMap &item) {
+    setCurrentIndex(m_model->find(item));
+}
+
+void OutlineView::reloadMarks() {
+    m_model->reloadMarks();
+}
+
 void OutlineView::fitWidthToContents() {
     const int scrollBar = verticalScrollBar()->sizeHint().width();
-    setFixedWidth(sizeHintForColumn(0) + 2 * frameWidth() + scrollBar);
+    const int mark = style()->pixelMetric(QStyle::PM_SmallIconSize) +
+                     2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+    setFixedWidth(sizeHintForColumn(0) + mark + 2 * frameWidth() + scrollBar);
 }
 
 // A view without a current item takes its first one when it gets the focus; here that would be a

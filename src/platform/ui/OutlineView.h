@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QTreeView>
 #include <QVariantMap>
 
@@ -16,6 +17,12 @@ class OutlineDataSource {
     // What the cell shows; nothing for a column that the source does not know.
     virtual QVariant objectValueForTableColumn(OutlineView *outline, const QString &column,
                                                const QVariantMap &item) = 0;
+    // A sign after the cell's text, and what it means; none by default.
+    struct Mark {
+        QIcon sign;
+        QString meaning;
+    };
+    virtual Mark markOfItem(OutlineView *, const QVariantMap &) { return {}; }
 };
 
 // Asked before the user moves the selection. Collapsing is always allowed, so that nobody is asked
@@ -50,8 +57,14 @@ class OutlineView : public QTreeView {
     void expandRow(int row);
     // Selects from code, without asking the delegate.
     void selectRow(int row);
+    // Selects the item as the user does: the delegate is asked. What is collapsed above it is
+    // expanded.
+    void pickItem(const QVariantMap &item);
+    // Fetches the marks of all items anew.
+    void reloadMarks();
 
-    // Makes the outline as wide as its widest item, as it is expanded now, and keeps it there.
+    // Makes the outline as wide as its widest item, as it is expanded now, and a mark after it, and
+    // keeps it there.
     void fitWidthToContents();
 
   protected:

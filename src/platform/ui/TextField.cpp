@@ -1,9 +1,11 @@
 #include "platform/ui/TextField.h"
 
+#include <QAction>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <utility>
 
 #include "platform/core/NotificationCenter.h"
@@ -32,6 +34,16 @@ void TextField::takeBack() {
 void TextField::forget() {
     m_forgotten = hasFocus();
     setText(QString());
+}
+
+void TextField::setProblem(const QString &why) {
+    if (why == problem()) return;
+    if (!m_mark)
+        m_mark = addAction(style()->standardIcon(QStyle::SP_MessageBoxWarning), TrailingPosition);
+    m_mark->setText(why);
+    m_mark->setToolTip(Qt::convertFromPlainText(why));
+    m_mark->setVisible(!why.isEmpty());
+    setAccessibleDescription(why);
 }
 
 void TextField::textDidChange() {
@@ -103,6 +115,7 @@ bool TextField::beginEditing() {
 
 // False when the end is refused, or the field went away.
 bool TextField::endEditing() {
+    if (isReadOnly()) return true;
     const QPointer<TextField> alive(this);
     m_editing = false;
     const bool ends = !m_delegate || m_delegate->textShouldEndEditing(this);

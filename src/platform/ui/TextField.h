@@ -20,7 +20,8 @@ class TextFieldDelegate {
 
 // A line edit that reports editing as begin, change and end, however the user changes the text.
 // Text set by the program reports nothing, and the user's next change begins editing anew. A focus
-// that goes to a menu, or to another window, does not end editing.
+// that goes to a menu, or to another window, does not end editing. A read-only field reports
+// nothing.
 class TextField : public QLineEdit {
     Q_OBJECT
   public:
@@ -38,6 +39,12 @@ class TextField : public QLineEdit {
     // Empties the field and its undo history, as for a secret that was used; reports nothing, also
     // when the field then loses the focus.
     void forget();
+
+    // Marks the text as one that cannot be used: by an icon inside the field, with `why` as its
+    // tool tip and as the field's accessible description. An empty text takes the mark away.
+    void setProblem(const QString &why);
+    // Why the text cannot be used; empty while the field is not marked.
+    QString problem() const { return accessibleDescription(); }
 
   protected:
     // Editing begins; text() is the old text. Does nothing by itself.
@@ -58,7 +65,8 @@ class TextField : public QLineEdit {
     bool endEditing();
 
     TextFieldDelegate *m_delegate = nullptr;
-    QString m_previous;  // the text before the change that is being made
+    QAction *m_mark = nullptr;  // the icon of a problem; made for the first one
+    QString m_previous;         // the text before the change that is being made
     bool m_editing = false;
     bool m_forgotten = false;   // emptied while it had the focus, and not changed since
     bool m_userChange = false;  // between the two signals of a change that the user made

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/ui/TextField.h"
+
+class QToolButton;
+
+// A text field that masks its text until the user presses the button inside it. Hidden, it masks
+// its text again.
+class MaskedField : public TextField {
+    Q_OBJECT
+    // What the button does, as its tool tip and accessible name.
+    Q_PROPERTY(QString revealTitle READ revealTitle WRITE setRevealTitle)
+  public:
+    explicit MaskedField(QWidget *parent = nullptr);
+
+    QString revealTitle() const;
+    void setRevealTitle(const QString &title);
+
+  protected:
+    void hideEvent(QHideEvent *event) override;
+
+  private:
+    QToolButton *const m_reveal;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QList>
+
+#include "settings/SettingRecord.h"
+
+// What a person should know before a record is sent, beyond the rules that its values must keep: it
+// can be sent, and may still not be what was meant.
+struct SendWarning {
+    enum Kind {
+        KeyKept,            // `subject`, a protected network, is new, and no key was entered for it
+        NotAMask,           // the subnet mask `subject` has zeros before ones
+        GatewayOutside,     // the gateway `subject` is not in the subnet of the address
+        AddressUnreachable  // with another communication mode, `subject` is not reached any more
+    };
+    Kind kind;
+    QString viewKey;  // the category, and page, that it is about
+    QString subject;  // a network's name as it is shown, or an address
+};
+
+// The warnings about sending `changed` to a printer that holds `saved`. A category that did not
+// change has none.
+QList<SendWarning> warningsOf(const SettingRecord &saved, const SettingRecord &changed);
