@@ -25,7 +25,7 @@
         <translation>Bonjour-Dienstname</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
-        <translation>Geben Sie 1 bis 31 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Sonderzeichen einer US-Tastatur. Umlaute und Akzente sind nicht möglich.</translation>
+        <translation>Geben Sie 1 bis 31 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Sonderzeichen einer US-Tastatur. Umlaute, ß und Buchstaben mit Akzent sind nicht möglich.</translation>
     </message>
     <message id="DWT_Localize_Network_Box_PrinterName">
         <translation>Druckername</translation>
@@ -43,13 +43,13 @@
         <translation>.local</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
-        <translation>Der Name, unter dem Computer im Netzwerk den Drucker erreichen: 1 bis 25 Buchstaben, Ziffern und Bindestriche.</translation>
+        <translation>Der Name, unter dem Computer im Netzwerk den Drucker erreichen. 1 bis 25 Zeichen: Buchstaben, Ziffern, Bindestriche.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
-        <translation>Der Name, den Druckerlisten anzeigen: 1 bis 31 Buchstaben, Ziffern, Leerzeichen und Sonderzeichen.</translation>
+        <translation>Der Name, den Druckerlisten anzeigen. 1 bis 31 Zeichen: Buchstaben, Ziffern, Leerzeichen, Sonderzeichen.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkHostName">
-        <translation>Der eigene Name des Druckers: 1 bis 31 Buchstaben, Ziffern und Bindestriche.</translation>
+        <translation>Der eigene Name des Druckers. 1 bis 31 Zeichen: Buchstaben, Ziffern, Bindestriche.</translation>
     </message>
     <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
         <translation>WLAN</translation>
@@ -61,7 +61,7 @@
         <translation>Infrastruktur: einem vorhandenen WLAN beitreten</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
-        <translation>Zugangspunkt: Computer treten dem Netz des Druckers bei</translation>
+        <translation>Zugangspunkt: Computer treten dem Netzwerk des Druckers bei</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
         <translation>Aus: kein WLAN</translation>
@@ -79,46 +79,46 @@
         <translation>Firmware-Version:</translation>
     </message>
     <message id="DWT_Localize_Firmware_Box_PrintTimeOut">
-        <translation>Druck-Zeitlimit</translation>
+        <translation>Zeitlimit beim Drucken</translation>
     </message>
     <message id="DWT_Localize_Firmware_Text_Second_Label">
         <translation>Sekunden (30 bis 300)</translation>
     </message>
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
-        <translation>Neues Administratorkennwort festlegen</translation>
+        <translation>Neues Administratorpasswort festlegen</translation>
     </message>
     <message id="DWT_Localize_Password_Box_AdministratorPassword">
-        <translation>Administratorkennwort</translation>
+        <translation>Administratorpasswort</translation>
     </message>
     <message id="DWT_Localize_Password_Text_Password_Label">
-        <translation>Neues Kennwort:</translation>
+        <translation>Neues Passwort:</translation>
     </message>
     <message id="DWT_Localize_Password_Text_Reinput_Label">
-        <translation>Wiederholen:</translation>
+        <translation>Passwort bestätigen:</translation>
     </message>
     <message id="DWT_Localize_Password_Text_PasswordInfomation">
-        <translation>Mit einem Administratorkennwort lassen sich Einstellungen nur nach einer Anmeldung ändern.</translation>
+        <translation>Ist ein Administratorpasswort festgelegt, lassen sich Einstellungen erst nach der Anmeldung ändern.</translation>
     </message>
     <message id="DWT_Localize_Password_Text_Cautions_Label">
-        <translation>Lassen Sie beide Felder leer, um das Kennwort zu entfernen. Notieren Sie ein neues Kennwort: Es kann nicht aus dem Drucker gelesen werden.</translation>
+        <translation>Lassen Sie beide Felder leer, um das Passwort zu entfernen. Notieren Sie ein neues Passwort: Es kann nicht aus dem Drucker gelesen werden.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
-        <translation>Bis zu 8 Buchstaben, Ziffern und Sonderzeichen; keine Leerzeichen.</translation>
+        <translation>Bis zu 8 Zeichen ohne Leerzeichen: Buchstaben, Ziffern, Sonderzeichen.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Reinput">
-        <translation>Noch einmal dasselbe Kennwort.</translation>
+        <translation>Noch einmal dasselbe Passwort.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Password_Password">
-        <translation>Neues Kennwort</translation>
+        <translation>Neues Passwort</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Password_Reinput">
-        <translation>Wiederholtes Kennwort</translation>
+        <translation>Passwortbestätigung</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
-        <translation>Geben Sie höchstens 8 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern und ! &quot; # $ % &amp; ' ( ) * + , - . / { | } ~ , ohne Leerzeichen.</translation>
+        <translation>Geben Sie höchstens 8 Zeichen ohne Leerzeichen ein: Buchstaben A bis Z und a bis z, Ziffern und ! &quot; # $ % &amp; ' ( ) * + , - . / { | } ~</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
-        <translation>Die beiden Kennwörter sind verschieden. Geben Sie in beiden Feldern dasselbe Kennwort ein.</translation>
+        <translation>Die Passwörter stimmen nicht überein. Geben Sie in beiden Feldern dasselbe Passwort ein.</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
         <translation>Noch nicht geprüft</translation>
@@ -133,13 +133,13 @@
         <translation>Verbindung prüfen</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
-        <translation>Verbindung</translation>
+        <translation>LAN-Verbindung</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Label">
-        <translation>Verbindung:</translation>
+        <translation>Status:</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredLANMACAddress">
-        <translation>Kabelanschluss</translation>
+        <translation>LAN-Anschluss</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_WiredMACAddress_Label">
         <translation>MAC-Adresse:</translation>
@@ -193,7 +193,7 @@
         <translation>WLAN-Verbindung</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Label">
-        <translation>Verbindung:</translation>
+        <translation>Status:</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Nolook">
         <translation>Noch nicht geprüft</translation>
@@ -295,22 +295,22 @@
         <translation>Schlüssel 4</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
-        <translation>Über WPS…</translation>
+        <translation>WPS-Anleitung</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
         <translation>Netzwerkname (SSID):</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SSID">
-        <translation>Der Name des WLANs: 1 bis 32 Buchstaben, Ziffern, Leerzeichen und Sonderzeichen.</translation>
+        <translation>Der Name des WLANs. 1 bis 32 Zeichen: Buchstaben, Ziffern, Leerzeichen, Sonderzeichen.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
-        <translation>Auswählen…</translation>
+        <translation>Auswählen …</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_PSK_Label">
         <translation>WPA-Schlüssel:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_PSK">
-        <translation>Der Netzwerkschlüssel (Kennwort): 8 bis 63 Buchstaben, Ziffern, Leerzeichen und Sonderzeichen.</translation>
+        <translation>Der Netzwerkschlüssel (Passwort). 8 bis 63 Zeichen: Buchstaben, Ziffern, Leerzeichen, Sonderzeichen.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
         <translation>WEP-Schlüssel:</translation>
@@ -364,7 +364,7 @@
         <translation>IEEE 802.11b/g/n</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_DHCPSetup">
-        <translation>Adressen der Computer</translation>
+        <translation>Adressvergabe</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_DHCPServer_Label">
         <translation>DHCP-Server:</translation>
@@ -427,10 +427,10 @@
         <translation>WPA-Schlüssel:</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_SSID">
-        <translation>Was im Namen des Netzwerks auf DIRECT- folgt: 1 bis 25 Buchstaben, Ziffern, Leerzeichen und Sonderzeichen.</translation>
+        <translation>Der Teil des Netzwerknamens nach „DIRECT-“. 1 bis 25 Zeichen: Buchstaben, Ziffern, Leerzeichen, Sonderzeichen.</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_PSK">
-        <translation>Der Schlüssel (Kennwort), mit dem Computer beitreten: 8 bis 63 Buchstaben, Ziffern, Leerzeichen und Sonderzeichen.</translation>
+        <translation>Der Schlüssel (Passwort), mit dem Computer beitreten. 8 bis 63 Zeichen: Buchstaben, Ziffern, Leerzeichen, Sonderzeichen.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
         <translation>Netzwerkname (SSID) des Zugangspunkts</translation>
@@ -442,22 +442,22 @@
         <translation>WPA-Schlüssel des Zugangspunkts</translation>
     </message>
     <message id="DWT_Localize_App_Name">
-        <translation>Network Setting Tool</translation>
+        <translation>Netzwerkeinstellungen für Drucker</translation>
     </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>Das Programm läuft bereits, antwortet aber nicht. Beenden Sie es und starten Sie es dann erneut.</translation>
     </message>
     <message id="DWT_Localize_Wait_TextField">
-        <translation>Bitte warten…</translation>
+        <translation>Bitte warten …</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Send">
-        <translation>An Drucker senden…</translation>
+        <translation>An Drucker senden …</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Cancel">
         <translation>Schließen</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_NewSetting">
-        <translation>Neu lesen</translation>
+        <translation>Neu einlesen</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Help">
         <translation>Hilfe</translation>
@@ -466,10 +466,10 @@
         <translation>Drucker:</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_Network">
-        <translation>Dieser Drucker wird über das Netzwerk erreicht. Seine Einstellungen werden angezeigt; um sie zu ändern, schließen Sie ihn über USB an.</translation>
+        <translation>Dieser Drucker ist über das Netzwerk verbunden; seine Einstellungen können nur angezeigt werden. Um sie zu ändern, schließen Sie den Drucker über USB an.</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
-        <translation>Nicht alle Einstellungen konnten gelesen werden, daher lässt sich nichts ändern. Prüfen Sie, ob der Drucker eingeschaltet und angeschlossen ist, und wählen Sie dann „Neu lesen“.</translation>
+        <translation>Nicht alle Einstellungen konnten gelesen werden, daher lässt sich nichts ändern. Prüfen Sie, ob der Drucker eingeschaltet und angeschlossen ist, und wählen Sie dann „Neu einlesen“.</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotTold">
         <translation>Diese Einstellungen hat der Drucker nicht mitgeteilt; sie werden erst gesendet, wenn Sie etwas dafür eingeben: %1</translation>
@@ -487,7 +487,7 @@
         <translation>Namen</translation>
     </message>
     <message id="DWT_Localize_Outline_Ethernet">
-        <translation>Kabelnetzwerk</translation>
+        <translation>LAN (Kabel)</translation>
     </message>
     <message id="DWT_Localize_Outline_Wireless">
         <translation>WLAN</translation>
@@ -499,7 +499,7 @@
         <translation>Zugangspunkt</translation>
     </message>
     <message id="DWT_Localize_Outline_Password">
-        <translation>Kennwort</translation>
+        <translation>Passwort</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Dowline">
         <translation>Verbindung zum Drucker</translation>
@@ -508,7 +508,7 @@
         <translation>– bitte beachten</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Printer_ConnectErr">
-        <translation>Der Drucker konnte nicht gelesen werden. Prüfen Sie, ob er eingeschaltet ist, ob sein Kabel steckt und ob kein anderes Programm ihn verwendet, und versuchen Sie es dann erneut.</translation>
+        <translation>Die Einstellungen des Druckers konnten nicht gelesen werden. Prüfen Sie, ob der Drucker eingeschaltet ist, ob sein Kabel eingesteckt ist und ob kein anderes Programm ihn verwendet, und versuchen Sie es dann erneut.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_ChangeSetting_Warning">
         <translation>Sie haben einen Namen oder eine Adresse geändert, unter der der Drucker erreichbar ist. Nach dem Senden der Einstellungen finden Computer, die noch die alten Angaben verwenden, den Drucker nicht mehr.</translation>
@@ -532,16 +532,16 @@
         <translation>Abbrechen</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
-        <translation>Einige Änderungen wurden noch nicht an den Drucker gesendet. Beim erneuten Lesen gehen sie verloren.</translation>
+        <translation>Einige Änderungen wurden noch nicht an den Drucker gesendet. Beim erneuten Einlesen gehen sie verloren.</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
-        <translation>Verwerfen und lesen</translation>
+        <translation>Verwerfen und neu einlesen</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
         <translation>Abbrechen</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
-        <translation>Einstellungen jetzt an den Drucker senden? Schalten Sie den Drucker währenddessen nicht aus und trennen Sie ihn nicht.</translation>
+        <translation>Einstellungen jetzt an den Drucker senden? Schalten Sie den Drucker währenddessen nicht aus und ziehen Sie das Kabel nicht ab.</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
         <translation>Senden</translation>
@@ -550,21 +550,21 @@
         <translation>Abbrechen</translation>
     </message>
     <message id="DWT_Localize_Send_Progress_TextField">
-        <translation>Die Einstellungen werden an den Drucker gesendet…</translation>
+        <translation>Die Einstellungen werden an den Drucker gesendet …</translation>
     </message>
     <message id="DWT_Localize_Send_End_TextField">
-        <translation>Die Einstellungen wurden gesendet. Was der Drucker jetzt enthält, zeigt „Neu lesen“.</translation>
+        <translation>Die Einstellungen wurden gesendet. Um die aktuellen Einstellungen des Druckers zu sehen, wählen Sie „Neu einlesen“.</translation>
     </message>
     <message id="DWT_Localize_Send_End_Refused">
         <translation>Diese Einstellungen hat der Drucker nicht angenommen. Im Drucker sind sie wie zuvor, und Ihre Eingaben bleiben erhalten:
 %1</translation>
     </message>
     <message id="DWT_Localize_Send_End_Unclear">
-        <translation>Ob der Drucker diese Einstellungen übernommen hat, ist unklar. Was er jetzt enthält, zeigt „Neu lesen“:
+        <translation>Ob der Drucker diese Einstellungen übernommen hat, ist unklar. Um die aktuellen Einstellungen des Druckers zu sehen, wählen Sie „Neu einlesen“:
 %1</translation>
     </message>
     <message id="DWT_Localize_Send_End_LoginRefused">
-        <translation>Der Drucker hat das Kennwort abgelehnt, und es wurde nichts gesendet. Ihre Änderungen bleiben erhalten.</translation>
+        <translation>Der Drucker hat das Passwort abgelehnt, und es wurde nichts gesendet. Ihre Änderungen bleiben erhalten.</translation>
     </message>
     <message id="DWT_Localize_Send_End_LoginNoReply">
         <translation>Der Drucker hat auf die Anmeldung nicht geantwortet, und es wurde nichts gesendet. Ihre Änderungen bleiben erhalten.</translation>
@@ -573,10 +573,10 @@
         <translation>OK</translation>
     </message>
     <message id="DWT_Localize_Send_Login_TextField">
-        <translation>Dieser Drucker ist geschützt. Geben Sie sein Administratorkennwort ein.</translation>
+        <translation>Dieser Drucker ist geschützt. Geben Sie sein Administratorpasswort ein.</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Password_Label">
-        <translation>Kennwort:</translation>
+        <translation>Passwort:</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Button_OK">
         <translation>Anmelden</translation>
@@ -585,22 +585,22 @@
         <translation>Abbrechen</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_TextField">
-        <translation>Der Drucker hat dieses Kennwort nicht angenommen. Groß- und Kleinschreibung zählt.</translation>
+        <translation>Der Drucker hat dieses Passwort nicht angenommen. Achten Sie auf Groß- und Kleinschreibung.</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_Button_OK">
         <translation>Erneut versuchen</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
-        <translation>Der Drucker ist nicht erreichbar, und es wurde nichts gesendet. Prüfen Sie, ob er eingeschaltet ist und sein Kabel steckt, und senden Sie dann erneut. Ihre Änderungen bleiben erhalten.</translation>
+        <translation>Der Drucker ist nicht erreichbar, und es wurde nichts gesendet. Prüfen Sie, ob er eingeschaltet und sein Kabel eingesteckt ist, und senden Sie dann erneut. Ihre Änderungen bleiben erhalten.</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Lost">
-        <translation>Die Verbindung zum Drucker ist abgebrochen. Es wurde nichts übernommen, und Ihre Änderungen bleiben erhalten. Prüfen Sie, ob der Drucker eingeschaltet ist und sein Kabel steckt, und senden Sie dann erneut.</translation>
+        <translation>Die Verbindung zum Drucker ist abgebrochen. Es wurde nichts übernommen, und Ihre Änderungen bleiben erhalten. Prüfen Sie, ob der Drucker eingeschaltet und sein Kabel eingesteckt ist, und senden Sie dann erneut.</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>OK</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
-        <translation>Drahtlose Netzwerke, die der Drucker sieht. Eine leere Liste bedeutet, dass er keines gefunden hat oder nicht erreichbar war.</translation>
+        <translation>WLANs, die der Drucker gefunden hat. Eine leere Liste bedeutet, dass er keines gefunden hat oder nicht erreichbar war.</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
         <translation>Netzwerkname (SSID)</translation>
@@ -639,7 +639,7 @@
         <translation>1.</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_a">
-        <translation>Schalten Sie den Drucker ein und stellen Sie ihn in die Nähe des WLAN-Routers (Zugangspunkts).</translation>
+        <translation>Schalten Sie den Drucker ein und stellen Sie ihn in die Nähe des WLAN-Routers.</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_b2">
         <translation>2.</translation>
@@ -657,7 +657,7 @@
         <translation>Zurück</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Exit_Key">
-        <translation>Beenden</translation>
+        <translation>Schließen</translation>
     </message>
     <message id="DWT_Localize_WPS2_TextField">
         <translation>Starten Sie WPS im Menü des Druckers und drücken Sie dann innerhalb von zwei Minuten die WPS-Taste des Routers. Leuchtet die WLAN-Anzeige des Druckers dauerhaft, ist er verbunden.</translation>
@@ -669,10 +669,10 @@
         <translation>Zurück</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Exit_Key">
-        <translation>Beenden</translation>
+        <translation>Schließen</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_TextField">
-        <translation>Dieses Programm zeigt und ändert die Netzwerkeinstellungen eines Etikettendruckers: seine Namen, sein Kabelnetzwerk, sein WLAN und sein Administratorkennwort. Die nächsten Schritte helfen Ihnen, den Drucker anzuschließen.</translation>
+        <translation>Dieses Programm zeigt und ändert die Netzwerkeinstellungen eines Etikettendruckers: seine Namen, die Einstellungen für LAN und WLAN und sein Administratorpasswort. Die nächsten Schritte helfen Ihnen, den Drucker anzuschließen.</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_OK_Key">
         <translation>Weiter</translation>
@@ -687,7 +687,7 @@
         <translation>Über USB, um die Einstellungen hier einzugeben</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
-        <translation>An ein WLAN, mit WPS</translation>
+        <translation>Über WLAN, mit WPS</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
         <translation>Weiter</translation>
@@ -702,7 +702,7 @@
         <translation>Weiter</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TextField">
-        <translation>Wählen Sie den Drucker, dessen Einstellungen Sie sehen möchten. Nur ein über USB angeschlossener Drucker kann geändert werden.</translation>
+        <translation>Wählen Sie den Drucker, dessen Einstellungen Sie sehen möchten. Ändern lassen sich nur die Einstellungen eines über USB angeschlossenen Druckers.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_OK_Key">
         <translation>Öffnen</translation>
@@ -759,7 +759,7 @@
         <translation>&amp;Hilfe</translation>
     </message>
     <message id="DWT_Localize_Menu_About">
-        <translation>&amp;Über Network Setting Tool</translation>
+        <translation>&amp;Über Netzwerkeinstellungen für Drucker</translation>
     </message>
     <message id="DWT_Localize_About_Text">
         <translation>Zeigt und ändert die Netzwerkeinstellungen von Etikettendruckern.</translation>
@@ -768,7 +768,7 @@
         <translation>Es wurde kein Drucker gefunden. Prüfen Sie, ob der Drucker eingeschaltet und über ein USB-Kabel mit diesem Computer verbunden ist oder sich im selben Netzwerk befindet. Wählen Sie dann „Erneut suchen“.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Searching">
-        <translation>Drucker werden gesucht…</translation>
+        <translation>Drucker werden gesucht …</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Problem_NoPermission">
         <translation>%1 ist angeschlossen, aber Sie haben keine Berechtigung dafür. Melden Sie sich an diesem Computer selbst an, oder bitten Sie den Administrator, die USB-Regel dieses Programms zu installieren; schließen Sie den Drucker danach neu an.</translation>

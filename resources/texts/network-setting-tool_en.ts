@@ -43,16 +43,16 @@
         <translation>.local</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
-        <translation>The name under which computers on the network reach the printer: 1 to 25 letters, digits and hyphens.</translation>
+        <translation>The name under which computers on the network reach the printer. 1 to 25 characters: letters, digits, hyphens.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
-        <translation>The name that lists of printers show: 1 to 31 letters, digits, spaces and punctuation characters.</translation>
+        <translation>The name that lists of printers show. 1 to 31 characters: letters, digits, spaces, punctuation.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkHostName">
-        <translation>The printer's own name: 1 to 31 letters, digits and hyphens.</translation>
+        <translation>The printer’s own name. 1 to 31 characters: letters, digits, hyphens.</translation>
     </message>
     <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
-        <translation>Wireless LAN</translation>
+        <translation>Wireless network</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_CommunicateMode_Label">
         <translation>Communication mode:</translation>
@@ -61,10 +61,10 @@
         <translation>Infrastructure: join an existing wireless network</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
-        <translation>Access point: computers join the printer's own network</translation>
+        <translation>Access point: computers join the printer’s own network</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
-        <translation>Off: no wireless LAN</translation>
+        <translation>Off: no wireless network</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label">
         <translation>MAC address (infrastructure):</translation>
@@ -79,7 +79,7 @@
         <translation>Firmware version:</translation>
     </message>
     <message id="DWT_Localize_Firmware_Box_PrintTimeOut">
-        <translation>Print time-out</translation>
+        <translation>Print timeout</translation>
     </message>
     <message id="DWT_Localize_Firmware_Text_Second_Label">
         <translation>seconds (30 to 300)</translation>
@@ -94,16 +94,16 @@
         <translation>New password:</translation>
     </message>
     <message id="DWT_Localize_Password_Text_Reinput_Label">
-        <translation>Repeat it:</translation>
+        <translation>Confirm password:</translation>
     </message>
     <message id="DWT_Localize_Password_Text_PasswordInfomation">
-        <translation>With an administrator password, settings can be changed only after a login.</translation>
+        <translation>When an administrator password is set, settings can be changed only after logging in.</translation>
     </message>
     <message id="DWT_Localize_Password_Text_Cautions_Label">
         <translation>Leave both fields empty to remove the password. Keep a note of a new one: it cannot be read from the printer.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
-        <translation>Up to 8 letters, digits and punctuation characters; no spaces.</translation>
+        <translation>Up to 8 characters, without spaces: letters, digits, punctuation.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Reinput">
         <translation>The same password again.</translation>
@@ -112,13 +112,13 @@
         <translation>New password</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Password_Reinput">
-        <translation>Repeated password</translation>
+        <translation>Password confirmation</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
-        <translation>Enter at most 8 characters: letters A to Z and a to z, digits and ! &quot; # $ % &amp; ' ( ) * + , - . / { | } ~ , without spaces.</translation>
+        <translation>Enter at most 8 characters, without spaces: letters A to Z and a to z, digits and ! &quot; # $ % &amp; ' ( ) * + , - . / { | } ~</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
-        <translation>The two passwords differ. Type the same password in both fields.</translation>
+        <translation>The passwords do not match. Type the same password in both fields.</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
         <translation>Not tested yet</translation>
@@ -133,10 +133,10 @@
         <translation>Test connection</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
-        <translation>Connection</translation>
+        <translation>Wired connection</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Label">
-        <translation>Connection:</translation>
+        <translation>Status:</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredLANMACAddress">
         <translation>Wired interface</translation>
@@ -169,7 +169,7 @@
         <translation>Four numbers from 0 to 255 with dots between them, such as 255.255.255.0.</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_Gateway">
-        <translation>The router's address: four numbers from 0 to 255 with dots between them.</translation>
+        <translation>The router’s address: four numbers from 0 to 255 with dots between them.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
         <translation>IP address</translation>
@@ -193,7 +193,7 @@
         <translation>Wireless connection</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Label">
-        <translation>Connection:</translation>
+        <translation>Status:</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Nolook">
         <translation>Not tested yet</translation>
@@ -247,7 +247,7 @@
         <translation>Four numbers from 0 to 255 with dots between them, such as 255.255.255.0.</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
-        <translation>The router's address: four numbers from 0 to 255 with dots between them.</translation>
+        <translation>The router’s address: four numbers from 0 to 255 with dots between them.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_Security">
         <translation>Network and security</translation>
@@ -265,10 +265,10 @@
         <translation>Shared key</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA">
-        <translation>WPA personal</translation>
+        <translation>WPA-Personal</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA2">
-        <translation>WPA2 personal</translation>
+        <translation>WPA2-Personal</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Popup_Encryption_Nothing">
         <translation>None</translation>
@@ -295,13 +295,13 @@
         <translation>Key 4</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
-        <translation>About WPS…</translation>
+        <translation>WPS guide</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
         <translation>Network name (SSID):</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SSID">
-        <translation>The name of the wireless network: 1 to 32 letters, digits, spaces and punctuation characters.</translation>
+        <translation>The name of the wireless network. 1 to 32 characters: letters, digits, spaces, punctuation.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
         <translation>Choose…</translation>
@@ -310,7 +310,7 @@
         <translation>WPA key:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_PSK">
-        <translation>The network's pre-shared key (password): 8 to 63 letters, digits, spaces and punctuation characters.</translation>
+        <translation>The network’s pre-shared key (password). 8 to 63 characters: letters, digits, spaces, punctuation.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
         <translation>WEP key:</translation>
@@ -364,22 +364,22 @@
         <translation>IEEE 802.11b/g/n</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_DHCPSetup">
-        <translation>Addresses of the computers</translation>
+        <translation>Address assignment</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_DHCPServer_Label">
         <translation>DHCP server:</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_DHCP">
-        <translation>On: the printer hands out addresses</translation>
+        <translation>On: the printer assigns addresses</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_IPAddressSetup">
         <translation>IP address</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_StartIpAddress_Label">
-        <translation>First address handed out:</translation>
+        <translation>First address assigned:</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_IpAddress_Label">
-        <translation>Printer's address:</translation>
+        <translation>Printer’s address:</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_SubnetMask_Label">
         <translation>Subnet mask:</translation>
@@ -397,10 +397,10 @@
         <translation>Shared key</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA">
-        <translation>WPA personal</translation>
+        <translation>WPA-Personal</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA2">
-        <translation>WPA2 personal</translation>
+        <translation>WPA2-Personal</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Encryption_Label">
         <translation>Encryption:</translation>
@@ -427,10 +427,10 @@
         <translation>WPA key:</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_SSID">
-        <translation>What follows DIRECT- in the network's name: 1 to 25 letters, digits, spaces and punctuation characters.</translation>
+        <translation>What follows DIRECT- in the network’s name. 1 to 25 characters: letters, digits, spaces, punctuation.</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_PSK">
-        <translation>The key (password) with which computers join: 8 to 63 letters, digits, spaces and punctuation characters.</translation>
+        <translation>The key (password) with which computers join. 8 to 63 characters: letters, digits, spaces, punctuation.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
         <translation>Network name (SSID) of the access point</translation>
@@ -466,13 +466,13 @@
         <translation>Printer:</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_Network">
-        <translation>This printer is reached over the network. Its settings are shown; to change them, connect the printer over USB.</translation>
+        <translation>This printer is connected over the network, so its settings can only be viewed. To change them, connect the printer over USB.</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
-        <translation>Not every setting could be read, so nothing can be changed. Check that the printer is switched on and connected, then choose Read again.</translation>
+        <translation>Not every setting could be read, so nothing can be changed. Check that the printer is switched on and connected, then choose “Read again”.</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotTold">
-        <translation>The printer did not tell these settings; they are not sent until you enter something for them: %1</translation>
+        <translation>The printer did not report these settings; they are not sent until you enter something for them: %1</translation>
     </message>
     <message id="DWT_Localize_Outline_Name">
         <translation>Categories</translation>
@@ -502,22 +502,22 @@
         <translation>Password</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Dowline">
-        <translation>The connection to the printer</translation>
+        <translation>Connection to the printer</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Warning">
-        <translation>needs your attention</translation>
+        <translation>– please note</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Printer_ConnectErr">
-        <translation>The printer could not be read. Check that it is switched on, that its cable is plugged in, and that no other program is using it, then try again.</translation>
+        <translation>The printer’s settings could not be read. Check that it is switched on, that its cable is plugged in, and that no other program is using it, then try again.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_ChangeSetting_Warning">
-        <translation>You have changed a name or an address by which the printer is reached. When the settings have been sent, computers that use the old one no longer find the printer.</translation>
+        <translation>You have changed a name or an address by which the printer is reached. Once the settings have been sent, computers that still use the old one will no longer find the printer.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_SelectSSID">
-        <translation>The list of networks</translation>
+        <translation>List of networks</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_SSIDList_CommunicateModeErr">
-        <translation>The printer can look for networks only in infrastructure mode. Choose Infrastructure on the Wireless network page first.</translation>
+        <translation>The printer can look for networks only in infrastructure mode. Choose “Infrastructure” on the “Wireless network” page first.</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_TextField_Cancel">
         <translation>There are changes that have not been sent to the printer. Send them before closing?</translation>
@@ -532,10 +532,10 @@
         <translation>Cancel</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
-        <translation>There are changes that have not been sent to the printer. Reading the printer again discards them.</translation>
+        <translation>There are changes that have not been sent to the printer. Reading the settings again discards them.</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
-        <translation>Discard and read</translation>
+        <translation>Discard and read again</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
         <translation>Cancel</translation>
@@ -553,21 +553,21 @@
         <translation>Sending the settings to the printer…</translation>
     </message>
     <message id="DWT_Localize_Send_End_TextField">
-        <translation>The settings have been sent. To see what the printer holds now, choose Read again.</translation>
+        <translation>The settings have been sent. To see the printer’s current settings, choose “Read again”.</translation>
     </message>
     <message id="DWT_Localize_Send_End_Refused">
         <translation>The printer did not accept these settings. They are as they were in the printer, and your entries are kept:
 %1</translation>
     </message>
     <message id="DWT_Localize_Send_End_Unclear">
-        <translation>It is not clear whether the printer took these settings. To see what it holds, choose Read again:
+        <translation>It is not clear whether the printer took these settings. To see the printer’s current settings, choose “Read again”:
 %1</translation>
     </message>
     <message id="DWT_Localize_Send_End_LoginRefused">
         <translation>The printer refused the password, and nothing was sent. Your changes are kept.</translation>
     </message>
     <message id="DWT_Localize_Send_End_LoginNoReply">
-        <translation>The printer did not answer the login, and nothing was sent. Your changes are kept.</translation>
+        <translation>The printer did not answer when logging in, and nothing was sent. Your changes are kept.</translation>
     </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>OK</translation>
@@ -585,7 +585,7 @@
         <translation>Cancel</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_TextField">
-        <translation>The printer did not accept this password. Capital and small letters count.</translation>
+        <translation>The printer did not accept this password. Passwords are case-sensitive.</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_Button_OK">
         <translation>Try again</translation>
@@ -600,7 +600,7 @@
         <translation>OK</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
-        <translation>Wireless networks that the printer sees. An empty list means that it found none, or could not be reached.</translation>
+        <translation>Wireless networks found by the printer. If the list is empty, the printer found none or could not be reached.</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
         <translation>Network name (SSID)</translation>
@@ -633,22 +633,22 @@
         <translation>Cancel</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField">
-        <translation>With WPS, the printer joins a wireless network without a typed key. Prepare both devices:</translation>
+        <translation>With WPS, the printer joins a wireless network without entering a key. Prepare both devices:</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_a1">
         <translation>1.</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_a">
-        <translation>Switch the printer on, and place it near the wireless router (access point).</translation>
+        <translation>Switch the printer on, and place it near the wireless router.</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_b2">
         <translation>2.</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_b">
-        <translation>Find the WPS button of the router. It is often marked WPS or with two curved arrows; the router's manual shows it.</translation>
+        <translation>Find the WPS button of the router. It is often marked WPS or with two curved arrows; the router’s manual shows it.</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_c">
-        <translation>A router without WPS cannot be used in this way; enter the network's name and key instead.</translation>
+        <translation>A router without WPS cannot be used in this way; enter the network’s name and key instead.</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Next_Key">
         <translation>Next</translation>
@@ -657,10 +657,10 @@
         <translation>Back</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Exit_Key">
-        <translation>Exit</translation>
+        <translation>Close</translation>
     </message>
     <message id="DWT_Localize_WPS2_TextField">
-        <translation>Start WPS in the printer's own menu, then press the WPS button of the router within two minutes. When the printer's wireless light stays on, it is connected.</translation>
+        <translation>Start WPS in the printer’s own menu, then press the WPS button of the router within two minutes. When the printer’s wireless light stays on, it is connected.</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Next_Key">
         <translation>Finish</translation>
@@ -669,7 +669,7 @@
         <translation>Back</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Exit_Key">
-        <translation>Exit</translation>
+        <translation>Close</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_TextField">
         <translation>This tool reads and changes the network settings of a label printer: its names, its wired and wireless network, and its administrator password. The next steps help you to connect the printer.</translation>
@@ -678,7 +678,7 @@
         <translation>Continue</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_Exit_Key">
-        <translation>Exit</translation>
+        <translation>Quit</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_TextField">
         <translation>How do you want to connect the printer?</translation>
@@ -693,16 +693,16 @@
         <translation>Next</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Exit_Key">
-        <translation>Exit</translation>
+        <translation>Quit</translation>
     </message>
     <message id="DWT_Localize_USBConnect_TextField">
-        <translation>Connect the printer to this computer with a USB cable and switch it on. Then choose Next to find it.</translation>
+        <translation>Connect the printer to this computer with a USB cable and switch it on. Then choose “Next” to find it.</translation>
     </message>
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
         <translation>Next</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TextField">
-        <translation>Choose the printer whose settings you want to see. Only a printer that is connected over USB can be changed.</translation>
+        <translation>Choose the printer whose settings you want to see. Settings can be changed only on a printer that is connected over USB.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_OK_Key">
         <translation>Open</translation>
@@ -750,7 +750,7 @@
         <translation>&amp;Window</translation>
     </message>
     <message id="DWT_Localize_Menu_Minimize">
-        <translation>&amp;Minimise</translation>
+        <translation>&amp;Minimize</translation>
     </message>
     <message id="DWT_Localize_Menu_Close">
         <translation>&amp;Close</translation>
@@ -765,7 +765,7 @@
         <translation>Reads and changes the network settings of label printers.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Empty">
-        <translation>No printer was found. Check that the printer is switched on and connected to this computer with a USB cable, or that it is on the same network. Then choose Look again.</translation>
+        <translation>No printer was found. Check that the printer is switched on and connected to this computer with a USB cable, or that it is on the same network. Then choose “Look again”.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Searching">
         <translation>Looking for printers…</translation>
@@ -774,7 +774,7 @@
         <translation>%1 is connected, but you have no permission to use it. Log in at this computer itself, or ask its administrator to install the USB rule of this tool; then plug the printer in again.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Problem_InUse">
-        <translation>%1 is in use by another program. Close that program, then choose Look again.</translation>
+        <translation>%1 is in use by another program. Close that program, then choose “Look again”.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Problem_BadFile">
         <translation>This file cannot be used, at least not all of it: %1</translation>
@@ -795,8 +795,8 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
 
   -Installer  begin with a guide to connecting a printer; list USB printers only
   --demo      list the demo printers, which live inside the program
-  --help      show this text and end
-  --version   show the version and end</translation>
+  --help      show this text and exit
+  --version   show the version and exit</translation>
     </message>
     <message id="DWT_Localize_Outline_Fault">
         <translation>A value on this page cannot be used</translation>

@@ -13,19 +13,19 @@
         <translation>Nombre de la impresora</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PrinterName_InputErr">
-        <translation>Escriba de 1 a 31 caracteres. Un nombre de impresora consta de las letras A a Z y a a z, cifras y guiones, sin espacios.</translation>
+        <translation>Escriba de 1 a 31 caracteres. Un nombre de impresora consta de letras mayúsculas y minúsculas sin tilde ni ñ (A-Z, a-z), números y guiones, sin espacios.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourName">
         <translation>Nombre Bonjour</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourName_InputErr">
-        <translation>Escriba de 1 a 25 caracteres. Un nombre Bonjour consta de las letras A a Z y a a z, cifras y guiones, sin espacios.</translation>
+        <translation>Escriba de 1 a 25 caracteres. Un nombre Bonjour consta de letras mayúsculas y minúsculas sin tilde ni ñ (A-Z, a-z), números y guiones, sin espacios.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourServiceName">
         <translation>Nombre del servicio Bonjour</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
-        <translation>Escriba de 1 a 31 caracteres: letras A a Z y a a z, cifras, espacios y los signos de un teclado de EE. UU. No se admiten letras acentuadas.</translation>
+        <translation>Escriba de 1 a 31 caracteres: letras mayúsculas y minúsculas sin tilde ni ñ (A-Z, a-z), números, espacios y los signos de un teclado estadounidense. No se admiten letras acentuadas.</translation>
     </message>
     <message id="DWT_Localize_Network_Box_PrinterName">
         <translation>Nombre de la impresora</translation>
@@ -43,13 +43,13 @@
         <translation>.local</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
-        <translation>Nombre con el que los equipos de la red encuentran la impresora: de 1 a 25 letras, cifras y guiones.</translation>
+        <translation>Nombre con el que los equipos de la red encuentran la impresora. De 1 a 25 caracteres: letras, números, guiones.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
-        <translation>Nombre que muestran las listas de impresoras: de 1 a 31 letras, cifras, espacios y signos de puntuación.</translation>
+        <translation>Nombre que muestran las listas de impresoras. De 1 a 31 caracteres: letras, números, espacios, signos de puntuación.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkHostName">
-        <translation>Nombre propio de la impresora: de 1 a 31 letras, cifras y guiones.</translation>
+        <translation>Nombre propio de la impresora. De 1 a 31 caracteres: letras, números, guiones.</translation>
     </message>
     <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
         <translation>Wi-Fi</translation>
@@ -94,7 +94,7 @@
         <translation>Nueva contraseña:</translation>
     </message>
     <message id="DWT_Localize_Password_Text_Reinput_Label">
-        <translation>Repítala:</translation>
+        <translation>Confirmar contraseña:</translation>
     </message>
     <message id="DWT_Localize_Password_Text_PasswordInfomation">
         <translation>Con una contraseña de administrador, los ajustes solo se pueden cambiar tras iniciar sesión.</translation>
@@ -103,7 +103,7 @@
         <translation>Deje ambos campos vacíos para quitar la contraseña. Anote la nueva: no se puede leer de la impresora.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
-        <translation>Hasta 8 letras, cifras y signos de puntuación; sin espacios.</translation>
+        <translation>Hasta 8 caracteres, sin espacios: letras, números, signos de puntuación.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Reinput">
         <translation>La misma contraseña otra vez.</translation>
@@ -112,16 +112,16 @@
         <translation>Nueva contraseña</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Password_Reinput">
-        <translation>Contraseña repetida</translation>
+        <translation>Confirmación de la contraseña</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
-        <translation>Escriba 8 caracteres como máximo: letras A a Z y a a z, cifras y ! " # $ % &amp; ' ( ) * + , - . / { | } ~ , sin espacios.</translation>
+        <translation>Escriba 8 caracteres como máximo, sin espacios: letras mayúsculas y minúsculas sin tilde ni ñ (A-Z, a-z), números y ! " # $ % &amp; ' ( ) * + , - . / { | } ~</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
-        <translation>Las dos contraseñas son distintas. Escriba la misma contraseña en ambos campos.</translation>
+        <translation>Las contraseñas no coinciden. Escriba la misma contraseña en ambos campos.</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
-        <translation>Sin comprobar</translation>
+        <translation>Aún sin probar</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Online">
         <translation>La impresora responde</translation>
@@ -133,13 +133,13 @@
         <translation>Probar conexión</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
-        <translation>Conexión</translation>
+        <translation>Conexión cableada</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Label">
-        <translation>Conexión:</translation>
+        <translation>Estado:</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredLANMACAddress">
-        <translation>Interfaz por cable</translation>
+        <translation>Interfaz cableada</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_WiredMACAddress_Label">
         <translation>Dirección MAC:</translation>
@@ -169,7 +169,7 @@
         <translation>Cuatro números de 0 a 255 separados por puntos, por ejemplo 255.255.255.0.</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_Gateway">
-        <translation>La dirección del enrutador: cuatro números de 0 a 255 separados por puntos.</translation>
+        <translation>La dirección del router: cuatro números de 0 a 255 separados por puntos.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
         <translation>Dirección IP</translation>
@@ -193,10 +193,10 @@
         <translation>Conexión Wi-Fi</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Label">
-        <translation>Conexión:</translation>
+        <translation>Estado:</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Nolook">
-        <translation>Sin comprobar</translation>
+        <translation>Aún sin probar</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Online">
         <translation>La impresora responde</translation>
@@ -247,7 +247,7 @@
         <translation>Cuatro números de 0 a 255 separados por puntos, por ejemplo 255.255.255.0.</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
-        <translation>La dirección del enrutador: cuatro números de 0 a 255 separados por puntos.</translation>
+        <translation>La dirección del router: cuatro números de 0 a 255 separados por puntos.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_Security">
         <translation>Red y seguridad</translation>
@@ -265,10 +265,10 @@
         <translation>Clave compartida</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA">
-        <translation>WPA personal</translation>
+        <translation>WPA-Personal</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA2">
-        <translation>WPA2 personal</translation>
+        <translation>WPA2-Personal</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Popup_Encryption_Nothing">
         <translation>Ninguno</translation>
@@ -295,13 +295,13 @@
         <translation>Clave 4</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
-        <translation>Acerca de WPS…</translation>
+        <translation>Guía de WPS</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
         <translation>Nombre de red (SSID):</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SSID">
-        <translation>Nombre de la red Wi-Fi: de 1 a 32 letras, cifras, espacios y signos de puntuación.</translation>
+        <translation>Nombre de la red Wi-Fi. De 1 a 32 caracteres: letras, números, espacios, signos de puntuación.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
         <translation>Elegir…</translation>
@@ -310,13 +310,13 @@
         <translation>Clave WPA:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_PSK">
-        <translation>Clave precompartida de la red (contraseña): de 8 a 63 letras, cifras, espacios y signos de puntuación.</translation>
+        <translation>Clave precompartida de la red (contraseña). De 8 a 63 caracteres: letras, números, espacios, signos de puntuación.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
         <translation>Clave WEP:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_WEPKey">
-        <translation>5 o 13 caracteres, o bien 10 o 26 cifras hexadecimales (0 a 9, A a F).</translation>
+        <translation>5 o 13 caracteres, o bien 10 o 26 dígitos hexadecimales (0 a 9, A a F).</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SelectWEPKey_Label">
         <translation>Número de clave WEP:</translation>
@@ -334,19 +334,19 @@
         <translation>Nombre de red (SSID)</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
-        <translation>Escriba de 1 a 32 caracteres: letras A a Z y a a z, cifras, espacios y los signos de un teclado de EE. UU. Una red con otros caracteres en su nombre se puede tomar de la lista de redes.</translation>
+        <translation>Escriba de 1 a 32 caracteres: letras mayúsculas y minúsculas sin tilde ni ñ (A-Z, a-z), números, espacios y los signos de un teclado estadounidense. Una red con otros caracteres en su nombre se puede tomar de la lista de redes.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
         <translation>Clave WPA</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
-        <translation>Escriba de 8 a 63 caracteres: letras A a Z y a a z, cifras, espacios y los signos de un teclado de EE. UU.</translation>
+        <translation>Escriba de 8 a 63 caracteres: letras mayúsculas y minúsculas sin tilde ni ñ (A-Z, a-z), números, espacios y los signos de un teclado estadounidense.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
         <translation>Clave WEP</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_WEPKey_InputErr">
-        <translation>Escriba 5 o 13 caracteres (letras, cifras, espacios y los signos de un teclado de EE. UU.), o bien 10 o 26 cifras hexadecimales (0 a 9 y A a F).</translation>
+        <translation>Escriba 5 o 13 caracteres (letras, números, espacios y los signos de un teclado estadounidense), o bien 10 o 26 dígitos hexadecimales (0 a 9 y A a F).</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_WirelessLANMode">
         <translation>Punto de acceso</translation>
@@ -364,7 +364,7 @@
         <translation>IEEE 802.11b/g/n</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_DHCPSetup">
-        <translation>Direcciones de los equipos</translation>
+        <translation>Asignación de direcciones</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_DHCPServer_Label">
         <translation>Servidor DHCP:</translation>
@@ -397,10 +397,10 @@
         <translation>Clave compartida</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA">
-        <translation>WPA personal</translation>
+        <translation>WPA-Personal</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA2">
-        <translation>WPA2 personal</translation>
+        <translation>WPA2-Personal</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Encryption_Label">
         <translation>Cifrado:</translation>
@@ -427,22 +427,22 @@
         <translation>Clave WPA:</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_SSID">
-        <translation>Lo que sigue a DIRECT- en el nombre de la red: de 1 a 25 letras, cifras, espacios y signos de puntuación.</translation>
+        <translation>Lo que sigue a DIRECT- en el nombre de la red. De 1 a 25 caracteres: letras, números, espacios, signos de puntuación.</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_PSK">
-        <translation>Clave (contraseña) con la que se unen los equipos: de 8 a 63 letras, cifras, espacios y signos de puntuación.</translation>
+        <translation>Clave (contraseña) con la que se unen los equipos. De 8 a 63 caracteres: letras, números, espacios, signos de puntuación.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
         <translation>Nombre de red (SSID) del punto de acceso</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
-        <translation>Escriba de 1 a 25 caracteres: letras A a Z y a a z, cifras, espacios y los signos de un teclado de EE. UU.</translation>
+        <translation>Escriba de 1 a 25 caracteres: letras mayúsculas y minúsculas sin tilde ni ñ (A-Z, a-z), números, espacios y los signos de un teclado estadounidense.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
         <translation>Clave WPA del punto de acceso</translation>
     </message>
     <message id="DWT_Localize_App_Name">
-        <translation>Network Setting Tool</translation>
+        <translation>Ajustes de red de impresoras</translation>
     </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>El programa ya se está ejecutando, pero no responde. Ciérrelo y vuelva a iniciarlo.</translation>
@@ -466,7 +466,7 @@
         <translation>Impresora:</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_Network">
-        <translation>Esta impresora está conectada a través de la red. Sus ajustes se muestran; para cambiarlos, conéctela por USB.</translation>
+        <translation>Esta impresora está conectada a través de la red. Sus ajustes solo se pueden consultar; para cambiarlos, conéctela por USB.</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
         <translation>No se pudieron leer todos los ajustes, por lo que no se puede cambiar nada. Compruebe que la impresora está encendida y conectada y elija «Volver a leer».</translation>
@@ -487,7 +487,7 @@
         <translation>Nombres</translation>
     </message>
     <message id="DWT_Localize_Outline_Ethernet">
-        <translation>Red por cable</translation>
+        <translation>Red cableada</translation>
     </message>
     <message id="DWT_Localize_Outline_Wireless">
         <translation>Red Wi-Fi</translation>
@@ -505,10 +505,10 @@
         <translation>Conexión con la impresora</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Warning">
-        <translation>– atención</translation>
+        <translation>– aviso</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Printer_ConnectErr">
-        <translation>No se pudo leer la impresora. Compruebe que está encendida, que su cable está conectado y que ningún otro programa la usa, e inténtelo de nuevo.</translation>
+        <translation>No se pudieron leer los ajustes de la impresora. Compruebe que está encendida, que su cable está conectado y que ningún otro programa la usa, e inténtelo de nuevo.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_ChangeSetting_Warning">
         <translation>Ha cambiado un nombre o una dirección con los que se accede a la impresora. Cuando se envíen los ajustes, los equipos que usen los anteriores dejarán de encontrarla.</translation>
@@ -532,16 +532,16 @@
         <translation>Cancelar</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
-        <translation>Hay cambios que no se han enviado a la impresora. Si vuelve a leerla, se perderán.</translation>
+        <translation>Hay cambios que no se han enviado a la impresora. Si vuelve a leer los ajustes, se perderán.</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
-        <translation>Descartar y leer</translation>
+        <translation>Descartar y volver a leer</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
         <translation>Cancelar</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
-        <translation>¿Enviar ahora los ajustes a la impresora? No la apague ni la desconecte mientras tanto.</translation>
+        <translation>¿Enviar ahora los ajustes a la impresora? No la apague ni la desconecte durante el envío.</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
         <translation>Enviar</translation>
@@ -553,14 +553,14 @@
         <translation>Enviando los ajustes a la impresora…</translation>
     </message>
     <message id="DWT_Localize_Send_End_TextField">
-        <translation>Los ajustes se han enviado. Para ver lo que la impresora contiene ahora, elija «Volver a leer».</translation>
+        <translation>Los ajustes se han enviado. Para ver los ajustes actuales de la impresora, elija «Volver a leer».</translation>
     </message>
     <message id="DWT_Localize_Send_End_Refused">
         <translation>La impresora no ha aceptado estos ajustes. En la impresora siguen como estaban y lo que ha escrito se conserva:
 %1</translation>
     </message>
     <message id="DWT_Localize_Send_End_Unclear">
-        <translation>No está claro si la impresora ha tomado estos ajustes. Para ver lo que contiene, elija «Volver a leer»:
+        <translation>No está claro si la impresora ha tomado estos ajustes. Para ver los ajustes actuales de la impresora, elija «Volver a leer»:
 %1</translation>
     </message>
     <message id="DWT_Localize_Send_End_LoginRefused">
@@ -600,7 +600,7 @@
         <translation>Aceptar</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
-        <translation>Redes Wi-Fi que ve la impresora. Una lista vacía significa que no encontró ninguna o que no se pudo acceder a ella.</translation>
+        <translation>Redes Wi-Fi detectadas por la impresora. Una lista vacía significa que no encontró ninguna o que no se pudo acceder a ella.</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
         <translation>Nombre de red (SSID)</translation>
@@ -633,22 +633,22 @@
         <translation>Cancelar</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField">
-        <translation>Con WPS, la impresora se une a una red Wi-Fi sin escribir ninguna clave. Prepare ambos dispositivos:</translation>
+        <translation>Con WPS, la impresora se une a una red Wi-Fi sin que usted tenga que escribir ninguna clave. Prepare ambos dispositivos:</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_a1">
         <translation>1.</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_a">
-        <translation>Encienda la impresora y colóquela cerca del enrutador Wi-Fi (punto de acceso).</translation>
+        <translation>Encienda la impresora y colóquela cerca del router Wi-Fi.</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_b2">
         <translation>2.</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_b">
-        <translation>Localice el botón WPS del enrutador. Suele llevar la marca WPS o dos flechas curvas; el manual del enrutador lo muestra.</translation>
+        <translation>Localice el botón WPS del router. Suele llevar la marca WPS o dos flechas curvas; el manual del router lo muestra.</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_c">
-        <translation>Un enrutador sin WPS no sirve para esto; escriba en su lugar el nombre y la clave de la red.</translation>
+        <translation>Un router sin WPS no sirve para esto; escriba en su lugar el nombre y la clave de la red.</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Next_Key">
         <translation>Siguiente</translation>
@@ -657,10 +657,10 @@
         <translation>Atrás</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Exit_Key">
-        <translation>Salir</translation>
+        <translation>Cerrar</translation>
     </message>
     <message id="DWT_Localize_WPS2_TextField">
-        <translation>Inicie WPS en el menú de la impresora y pulse el botón WPS del enrutador antes de dos minutos. Cuando la luz Wi-Fi de la impresora quede fija, estará conectada.</translation>
+        <translation>Inicie WPS en el menú de la impresora y pulse el botón WPS del router en menos de dos minutos. Cuando el indicador Wi-Fi de la impresora permanezca encendido, la impresora estará conectada.</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Next_Key">
         <translation>Finalizar</translation>
@@ -669,10 +669,10 @@
         <translation>Atrás</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Exit_Key">
-        <translation>Salir</translation>
+        <translation>Cerrar</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_TextField">
-        <translation>Esta herramienta muestra y cambia los ajustes de red de una impresora de etiquetas: sus nombres, su red por cable y Wi-Fi y su contraseña de administrador. Los pasos siguientes le ayudan a conectar la impresora.</translation>
+        <translation>Esta herramienta muestra y cambia los ajustes de red de una impresora de etiquetas: sus nombres, sus redes cableada y Wi-Fi y su contraseña de administrador. Los pasos siguientes le ayudan a conectar la impresora.</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_OK_Key">
         <translation>Continuar</translation>
@@ -687,7 +687,7 @@
         <translation>Por USB, para introducir sus ajustes aquí</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
-        <translation>A una red Wi-Fi, con WPS</translation>
+        <translation>Por Wi-Fi, con WPS</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
         <translation>Siguiente</translation>
@@ -702,7 +702,7 @@
         <translation>Siguiente</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TextField">
-        <translation>Elija la impresora cuyos ajustes quiere ver. Solo se puede cambiar una impresora conectada por USB.</translation>
+        <translation>Elija la impresora cuyos ajustes quiere ver. Solo se pueden cambiar los ajustes de una impresora conectada por USB.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_OK_Key">
         <translation>Abrir</translation>
@@ -759,7 +759,7 @@
         <translation>A&amp;yuda</translation>
     </message>
     <message id="DWT_Localize_Menu_About">
-        <translation>&amp;Acerca de Network Setting Tool</translation>
+        <translation>&amp;Acerca de Ajustes de red de impresoras</translation>
     </message>
     <message id="DWT_Localize_About_Text">
         <translation>Muestra y cambia los ajustes de red de impresoras de etiquetas.</translation>
@@ -795,8 +795,8 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
 
   -Installer  empezar con una guía de conexión; mostrar solo impresoras USB
   --demo      mostrar las impresoras de demostración, internas al programa
-  --help      mostrar este texto y terminar
-  --version   mostrar la versión y terminar</translation>
+  --help      mostrar este texto y salir
+  --version   mostrar la versión y salir</translation>
     </message>
     <message id="DWT_Localize_Outline_Fault">
         <translation>Un valor de esta página no se puede usar</translation>

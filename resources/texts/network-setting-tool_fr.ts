@@ -25,7 +25,7 @@
         <translation>Nom du service Bonjour</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
-        <translation>Saisissez de 1 à 31 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain. Les lettres accentuées ne sont pas possibles.</translation>
+        <translation>Saisissez de 1 à 31 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain. Les lettres accentuées ne sont pas autorisées.</translation>
     </message>
     <message id="DWT_Localize_Network_Box_PrinterName">
         <translation>Nom de l’imprimante</translation>
@@ -43,13 +43,13 @@
         <translation>.local</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
-        <translation>Nom sous lequel les ordinateurs du réseau trouvent l’imprimante : de 1 à 25 lettres, chiffres et traits d’union.</translation>
+        <translation>Nom sous lequel les ordinateurs du réseau trouvent l’imprimante. De 1 à 25 caractères : lettres, chiffres, traits d’union.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
-        <translation>Nom affiché par les listes d’imprimantes : de 1 à 31 lettres, chiffres, espaces et signes de ponctuation.</translation>
+        <translation>Nom affiché par les listes d’imprimantes. De 1 à 31 caractères : lettres, chiffres, espaces, signes de ponctuation.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkHostName">
-        <translation>Nom de l’imprimante elle-même : de 1 à 31 lettres, chiffres et traits d’union.</translation>
+        <translation>Nom de l’imprimante elle-même. De 1 à 31 caractères : lettres, chiffres, traits d’union.</translation>
     </message>
     <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
         <translation>Wi-Fi</translation>
@@ -79,7 +79,7 @@
         <translation>Version du micrologiciel :</translation>
     </message>
     <message id="DWT_Localize_Firmware_Box_PrintTimeOut">
-        <translation>Délai d’impression</translation>
+        <translation>Délai d’attente d’impression</translation>
     </message>
     <message id="DWT_Localize_Firmware_Text_Second_Label">
         <translation>secondes (de 30 à 300)</translation>
@@ -94,16 +94,16 @@
         <translation>Nouveau mot de passe :</translation>
     </message>
     <message id="DWT_Localize_Password_Text_Reinput_Label">
-        <translation>Répétez-le :</translation>
+        <translation>Confirmer le mot de passe :</translation>
     </message>
     <message id="DWT_Localize_Password_Text_PasswordInfomation">
-        <translation>Avec un mot de passe administrateur, les réglages ne peuvent être modifiés qu’après une connexion.</translation>
+        <translation>Si un mot de passe administrateur est défini, les paramètres ne peuvent être modifiés qu’après identification.</translation>
     </message>
     <message id="DWT_Localize_Password_Text_Cautions_Label">
         <translation>Laissez les deux champs vides pour supprimer le mot de passe. Notez le nouveau : il ne peut pas être lu dans l’imprimante.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
-        <translation>Jusqu’à 8 lettres, chiffres et signes de ponctuation ; pas d’espaces.</translation>
+        <translation>Jusqu’à 8 caractères, sans espaces : lettres, chiffres, signes de ponctuation.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Reinput">
         <translation>Le même mot de passe, une seconde fois.</translation>
@@ -112,16 +112,16 @@
         <translation>Nouveau mot de passe</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Password_Reinput">
-        <translation>Mot de passe répété</translation>
+        <translation>Confirmation du mot de passe</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
-        <translation>Saisissez 8 caractères au plus : lettres A à Z et a à z, chiffres et ! " # $ % &amp; ' ( ) * + , - . / { | } ~ , sans espaces.</translation>
+        <translation>Saisissez 8 caractères au plus, sans espaces : lettres A à Z et a à z, chiffres et ! " # $ % &amp; ' ( ) * + , - . / { | } ~</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>Les deux mots de passe sont différents. Saisissez le même mot de passe dans les deux champs.</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
-        <translation>Pas encore testée</translation>
+        <translation>Pas encore testé</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Online">
         <translation>L’imprimante répond</translation>
@@ -133,10 +133,10 @@
         <translation>Tester la connexion</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
-        <translation>Connexion</translation>
+        <translation>Connexion filaire</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Label">
-        <translation>Connexion :</translation>
+        <translation>État :</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredLANMACAddress">
         <translation>Interface filaire</translation>
@@ -169,7 +169,7 @@
         <translation>Quatre nombres de 0 à 255 séparés par des points, par exemple 255.255.255.0.</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_Gateway">
-        <translation>L’adresse du routeur : quatre nombres de 0 à 255 séparés par des points.</translation>
+        <translation>Adresse du routeur : quatre nombres de 0 à 255 séparés par des points.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
         <translation>Adresse IP</translation>
@@ -181,22 +181,22 @@
         <translation>Passerelle par défaut</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_IpAddress_InputErr">
-        <translation>Saisissez l’adresse IP sous la forme de quatre nombres de 0 à 255 séparés par des points. 0.0.0.0, 127.0.0.1 et 255.255.255.255 ne sont pas possibles.</translation>
+        <translation>Saisissez l’adresse IP sous la forme de quatre nombres de 0 à 255 séparés par des points. 0.0.0.0, 127.0.0.1 et 255.255.255.255 ne sont pas autorisées.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Subnetmask_InputErr">
-        <translation>Saisissez le masque de sous-réseau sous la forme de quatre nombres de 0 à 255 séparés par des points. 0.0.0.0 et 255.255.255.255 ne sont pas possibles.</translation>
+        <translation>Saisissez le masque de sous-réseau sous la forme de quatre nombres de 0 à 255 séparés par des points. 0.0.0.0 et 255.255.255.255 ne sont pas autorisés.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Router_InputErr">
-        <translation>Saisissez la passerelle par défaut sous la forme de quatre nombres de 0 à 255 séparés par des points. 0.0.0.0 et 255.255.255.255 ne sont pas possibles.</translation>
+        <translation>Saisissez la passerelle par défaut sous la forme de quatre nombres de 0 à 255 séparés par des points. 0.0.0.0 et 255.255.255.255 ne sont pas autorisées.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_WirelessConnection">
         <translation>Connexion Wi-Fi</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Label">
-        <translation>Connexion :</translation>
+        <translation>État :</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Nolook">
-        <translation>Pas encore testée</translation>
+        <translation>Pas encore testé</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Online">
         <translation>L’imprimante répond</translation>
@@ -220,7 +220,7 @@
         <translation>IEEE 802.11b/g/n</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_FieldIntensity_Label">
-        <translation>Intensité du signal :</translation>
+        <translation>Force du signal :</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_IPAddressSetup">
         <translation>Adresse IP</translation>
@@ -247,7 +247,7 @@
         <translation>Quatre nombres de 0 à 255 séparés par des points, par exemple 255.255.255.0.</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
-        <translation>L’adresse du routeur : quatre nombres de 0 à 255 séparés par des points.</translation>
+        <translation>Adresse du routeur : quatre nombres de 0 à 255 séparés par des points.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_Security">
         <translation>Réseau et sécurité</translation>
@@ -265,10 +265,10 @@
         <translation>Clé partagée</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA">
-        <translation>WPA personnel</translation>
+        <translation>WPA-Personnel</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA2">
-        <translation>WPA2 personnel</translation>
+        <translation>WPA2-Personnel</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Popup_Encryption_Nothing">
         <translation>Aucun</translation>
@@ -295,13 +295,13 @@
         <translation>Clé 4</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
-        <translation>À propos de WPS…</translation>
+        <translation>Guide WPS</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
         <translation>Nom du réseau (SSID) :</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SSID">
-        <translation>Nom du réseau Wi-Fi : de 1 à 32 lettres, chiffres, espaces et signes de ponctuation.</translation>
+        <translation>Nom du réseau Wi-Fi. De 1 à 32 caractères : lettres, chiffres, espaces, signes de ponctuation.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
         <translation>Choisir…</translation>
@@ -310,7 +310,7 @@
         <translation>Clé WPA :</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_PSK">
-        <translation>Clé prépartagée du réseau (mot de passe) : de 8 à 63 lettres, chiffres, espaces et signes de ponctuation.</translation>
+        <translation>Clé prépartagée du réseau (mot de passe). De 8 à 63 caractères : lettres, chiffres, espaces, signes de ponctuation.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
         <translation>Clé WEP :</translation>
@@ -364,7 +364,7 @@
         <translation>IEEE 802.11b/g/n</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_DHCPSetup">
-        <translation>Adresses des ordinateurs</translation>
+        <translation>Attribution des adresses</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_DHCPServer_Label">
         <translation>Serveur DHCP :</translation>
@@ -397,10 +397,10 @@
         <translation>Clé partagée</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA">
-        <translation>WPA personnel</translation>
+        <translation>WPA-Personnel</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA2">
-        <translation>WPA2 personnel</translation>
+        <translation>WPA2-Personnel</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Encryption_Label">
         <translation>Chiffrement :</translation>
@@ -427,13 +427,13 @@
         <translation>Clé WPA :</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_SSID">
-        <translation>Ce qui suit DIRECT- dans le nom du réseau : de 1 à 25 lettres, chiffres, espaces et signes de ponctuation.</translation>
+        <translation>Partie du nom du réseau après « DIRECT- ». De 1 à 25 caractères : lettres, chiffres, espaces, signes de ponctuation.</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_PSK">
-        <translation>Clé (mot de passe) avec laquelle les ordinateurs se connectent : de 8 à 63 lettres, chiffres, espaces et signes de ponctuation.</translation>
+        <translation>Clé (mot de passe) avec laquelle les ordinateurs se connectent. De 8 à 63 caractères : lettres, chiffres, espaces, signes de ponctuation.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
-        <translation>Nom de réseau (SSID) du point d’accès</translation>
+        <translation>Nom du réseau (SSID) du point d’accès</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
         <translation>Saisissez de 1 à 25 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain.</translation>
@@ -442,7 +442,7 @@
         <translation>Clé WPA du point d’accès</translation>
     </message>
     <message id="DWT_Localize_App_Name">
-        <translation>Network Setting Tool</translation>
+        <translation>Paramètres réseau des imprimantes</translation>
     </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>Le programme est déjà lancé, mais ne répond pas. Arrêtez-le, puis relancez-le.</translation>
@@ -457,7 +457,7 @@
         <translation>Fermer</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_NewSetting">
-        <translation>Relire</translation>
+        <translation>Relire les paramètres</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Help">
         <translation>Aide</translation>
@@ -466,19 +466,19 @@
         <translation>Imprimante :</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_Network">
-        <translation>Cette imprimante est jointe par le réseau. Ses réglages sont affichés ; pour les modifier, connectez-la par USB.</translation>
+        <translation>Cette imprimante est connectée par le réseau : ses paramètres peuvent seulement être consultés. Pour les modifier, connectez-la par USB.</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
-        <translation>Certains réglages n’ont pas pu être lus ; rien ne peut donc être modifié. Vérifiez que l’imprimante est allumée et connectée, puis choisissez « Relire ».</translation>
+        <translation>Certains paramètres n’ont pas pu être lus ; rien ne peut donc être modifié. Vérifiez que l’imprimante est allumée et connectée, puis choisissez « Relire les paramètres ».</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotTold">
-        <translation>L’imprimante n’a pas communiqué ces réglages ; ils ne sont envoyés que si vous y saisissez quelque chose : %1</translation>
+        <translation>L’imprimante n’a pas communiqué ces paramètres ; ils ne sont envoyés que si vous y saisissez quelque chose : %1</translation>
     </message>
     <message id="DWT_Localize_Outline_Name">
         <translation>Catégories</translation>
     </message>
     <message id="DWT_Localize_Outline_Printer">
-        <translation>Réglages de l’imprimante</translation>
+        <translation>Paramètres de l’imprimante</translation>
     </message>
     <message id="DWT_Localize_Outline_Firmware">
         <translation>Appareil</translation>
@@ -505,13 +505,13 @@
         <translation>Connexion à l’imprimante</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Warning">
-        <translation>– attention</translation>
+        <translation>– à noter</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Printer_ConnectErr">
-        <translation>L’imprimante n’a pas pu être lue. Vérifiez qu’elle est allumée, que son câble est branché et qu’aucun autre programme ne l’utilise, puis réessayez.</translation>
+        <translation>Les paramètres de l’imprimante n’ont pas pu être lus. Vérifiez qu’elle est allumée, que son câble est branché et qu’aucun autre programme ne l’utilise, puis réessayez.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_ChangeSetting_Warning">
-        <translation>Vous avez modifié un nom ou une adresse par lesquels l’imprimante est jointe. Une fois les réglages envoyés, les ordinateurs qui utilisent l’ancien ne trouveront plus l’imprimante.</translation>
+        <translation>Vous avez modifié un nom ou une adresse qui permet de joindre l’imprimante. Une fois les paramètres envoyés, les ordinateurs qui utilisent encore l’ancien nom ou l’ancienne adresse ne la trouveront plus.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_SelectSSID">
         <translation>Liste des réseaux</translation>
@@ -532,7 +532,7 @@
         <translation>Annuler</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
-        <translation>Certaines modifications n’ont pas été envoyées à l’imprimante. Une nouvelle lecture les abandonne.</translation>
+        <translation>Certaines modifications n’ont pas été envoyées à l’imprimante. Elles seront perdues si vous relisez les paramètres.</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
         <translation>Abandonner et relire</translation>
@@ -541,7 +541,7 @@
         <translation>Annuler</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
-        <translation>Envoyer maintenant les réglages à l’imprimante ? Ne l’éteignez pas et ne la débranchez pas pendant l’envoi.</translation>
+        <translation>Envoyer maintenant les paramètres à l’imprimante ? Ne l’éteignez pas et ne la débranchez pas pendant l’envoi.</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
         <translation>Envoyer</translation>
@@ -550,24 +550,24 @@
         <translation>Annuler</translation>
     </message>
     <message id="DWT_Localize_Send_Progress_TextField">
-        <translation>Envoi des réglages à l’imprimante…</translation>
+        <translation>Envoi des paramètres à l’imprimante…</translation>
     </message>
     <message id="DWT_Localize_Send_End_TextField">
-        <translation>Les réglages ont été envoyés. Pour voir ce que l’imprimante contient à présent, choisissez « Relire ».</translation>
+        <translation>Les paramètres ont été envoyés. Pour voir les paramètres actuels de l’imprimante, choisissez « Relire les paramètres ».</translation>
     </message>
     <message id="DWT_Localize_Send_End_Refused">
-        <translation>L’imprimante n’a pas accepté ces réglages. Ils y restent tels quels, et vos saisies sont conservées :
+        <translation>L’imprimante n’a pas accepté ces paramètres. Ils y restent tels quels, et vos saisies sont conservées :
 %1</translation>
     </message>
     <message id="DWT_Localize_Send_End_Unclear">
-        <translation>On ne sait pas si l’imprimante a pris ces réglages. Pour voir ce qu’elle contient, choisissez « Relire » :
+        <translation>On ne sait pas si l’imprimante a pris ces paramètres en compte. Pour voir les paramètres actuels de l’imprimante, choisissez « Relire les paramètres » :
 %1</translation>
     </message>
     <message id="DWT_Localize_Send_End_LoginRefused">
         <translation>L’imprimante a refusé le mot de passe, et rien n’a été envoyé. Vos modifications sont conservées.</translation>
     </message>
     <message id="DWT_Localize_Send_End_LoginNoReply">
-        <translation>L’imprimante n’a pas répondu à la connexion, et rien n’a été envoyé. Vos modifications sont conservées.</translation>
+        <translation>L’imprimante n’a pas répondu lors de l’identification, et rien n’a été envoyé. Vos modifications sont conservées.</translation>
     </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>OK</translation>
@@ -579,28 +579,28 @@
         <translation>Mot de passe :</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Button_OK">
-        <translation>Se connecter</translation>
+        <translation>S’identifier</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Button_Cancel">
         <translation>Annuler</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_TextField">
-        <translation>L’imprimante n’a pas accepté ce mot de passe. Les majuscules et les minuscules comptent.</translation>
+        <translation>L’imprimante n’a pas accepté ce mot de passe. Respectez les majuscules et les minuscules.</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_Button_OK">
         <translation>Réessayer</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
-        <translation>L’imprimante est injoignable, et rien n’a été envoyé. Vérifiez qu’elle est allumée et que son câble est branché, puis renvoyez. Vos modifications sont conservées.</translation>
+        <translation>L’imprimante est injoignable, et rien n’a été envoyé. Vérifiez qu’elle est allumée et que son câble est branché, puis recommencez l’envoi. Vos modifications sont conservées.</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Lost">
-        <translation>La connexion à l’imprimante a été perdue. Rien n’a été appliqué, et vos modifications sont conservées. Vérifiez que l’imprimante est allumée et que son câble est branché, puis renvoyez.</translation>
+        <translation>La connexion à l’imprimante a été perdue. Rien n’a été appliqué, et vos modifications sont conservées. Vérifiez que l’imprimante est allumée et que son câble est branché, puis recommencez l’envoi.</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>OK</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
-        <translation>Réseaux Wi-Fi que l’imprimante voit. Une liste vide signifie qu’elle n’en a trouvé aucun ou qu’elle était injoignable.</translation>
+        <translation>Réseaux Wi-Fi détectés par l’imprimante. Une liste vide signifie qu’elle n’en a trouvé aucun ou qu’elle était injoignable.</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
         <translation>Nom du réseau (SSID)</translation>
@@ -639,7 +639,7 @@
         <translation>1.</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_a">
-        <translation>Allumez l’imprimante et placez-la près du routeur Wi-Fi (point d’accès).</translation>
+        <translation>Allumez l’imprimante et placez-la près du routeur Wi-Fi.</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_b2">
         <translation>2.</translation>
@@ -657,7 +657,7 @@
         <translation>Retour</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Exit_Key">
-        <translation>Quitter</translation>
+        <translation>Fermer</translation>
     </message>
     <message id="DWT_Localize_WPS2_TextField">
         <translation>Lancez WPS dans le menu de l’imprimante, puis appuyez sur le bouton WPS du routeur dans les deux minutes. Lorsque le voyant Wi-Fi de l’imprimante reste allumé, elle est connectée.</translation>
@@ -669,10 +669,10 @@
         <translation>Retour</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Exit_Key">
-        <translation>Quitter</translation>
+        <translation>Fermer</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_TextField">
-        <translation>Cet outil affiche et modifie les réglages réseau d’une imprimante d’étiquettes : ses noms, son réseau filaire et Wi-Fi et son mot de passe administrateur. Les étapes suivantes vous aident à connecter l’imprimante.</translation>
+        <translation>Cet outil affiche et modifie les paramètres réseau d’une imprimante d’étiquettes : ses noms, son réseau filaire et Wi-Fi et son mot de passe administrateur. Les étapes suivantes vous aident à connecter l’imprimante.</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_OK_Key">
         <translation>Continuer</translation>
@@ -684,10 +684,10 @@
         <translation>Comment voulez-vous connecter l’imprimante ?</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_USB_Key">
-        <translation>Par USB, pour saisir ses réglages ici</translation>
+        <translation>Par USB, pour saisir ses paramètres ici</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
-        <translation>À un réseau Wi-Fi, avec WPS</translation>
+        <translation>Par Wi-Fi, avec WPS</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
         <translation>Suivant</translation>
@@ -702,13 +702,13 @@
         <translation>Suivant</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TextField">
-        <translation>Choisissez l’imprimante dont vous voulez voir les réglages. Seule une imprimante connectée par USB peut être modifiée.</translation>
+        <translation>Choisissez l’imprimante dont vous voulez voir les paramètres. Seuls les paramètres d’une imprimante connectée par USB peuvent être modifiés.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_OK_Key">
         <translation>Ouvrir</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Reload_Key">
-        <translation>Rechercher</translation>
+        <translation>Rechercher à nouveau</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
         <translation>Fermer</translation>
@@ -759,28 +759,28 @@
         <translation>A&amp;ide</translation>
     </message>
     <message id="DWT_Localize_Menu_About">
-        <translation>À &amp;propos de Network Setting Tool</translation>
+        <translation>À &amp;propos de Paramètres réseau des imprimantes</translation>
     </message>
     <message id="DWT_Localize_About_Text">
-        <translation>Affiche et modifie les réglages réseau des imprimantes d’étiquettes.</translation>
+        <translation>Affiche et modifie les paramètres réseau des imprimantes d’étiquettes.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Empty">
-        <translation>Aucune imprimante trouvée. Vérifiez que l’imprimante est allumée et reliée à cet ordinateur par un câble USB, ou qu’elle est sur le même réseau. Choisissez ensuite « Rechercher ».</translation>
+        <translation>Aucune imprimante trouvée. Vérifiez que l’imprimante est allumée et reliée à cet ordinateur par un câble USB, ou qu’elle est sur le même réseau. Choisissez ensuite « Rechercher à nouveau ».</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Searching">
         <translation>Recherche d’imprimantes…</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Problem_NoPermission">
-        <translation>%1 est connectée, mais vous n’avez pas l’autorisation de l’utiliser. Ouvrez une session sur cet ordinateur même, ou demandez à l’administrateur d’installer la règle USB de cet outil ; rebranchez ensuite l’imprimante.</translation>
+        <translation>%1 est connectée, mais vous n’avez pas l’autorisation de l’utiliser. Ouvrez une session sur cet ordinateur même, ou demandez à l’administrateur d’installer la règle USB de cet outil ; rebranchez ensuite l’imprimante.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Problem_InUse">
-        <translation>%1 est utilisée par un autre programme. Fermez ce programme, puis choisissez « Rechercher ».</translation>
+        <translation>%1 est utilisée par un autre programme. Fermez ce programme, puis choisissez « Rechercher à nouveau ».</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Problem_BadFile">
-        <translation>Ce fichier est inutilisable, au moins en partie : %1</translation>
+        <translation>Ce fichier est inutilisable, au moins en partie : %1</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Problem_NoNetworkService">
-        <translation>Les imprimantes du réseau ne sont pas trouvées : le service de découverte (Avahi) de cet ordinateur n’est pas en marche.</translation>
+        <translation>Les imprimantes du réseau ne sont pas trouvées : le service de découverte (Avahi) de cet ordinateur n’est pas en marche.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_SerialNumber">
         <translation>numéro de série %1</translation>
@@ -789,14 +789,14 @@
         <translation>port USB %1</translation>
     </message>
     <message id="DWT_Localize_CommandLine_Help">
-        <translation>Affiche et modifie les réglages réseau des imprimantes d’étiquettes.
+        <translation>Affiche et modifie les paramètres réseau des imprimantes d’étiquettes.
 
-Usage : %1 [-Installer] [--demo] [--help] [--version]
+Utilisation : %1 [-Installer] [--demo] [--help] [--version]
 
   -Installer  commencer par un guide de connexion ; ne lister que les imprimantes USB
   --demo      lister les imprimantes de démonstration, internes au programme
-  --help      afficher ce texte et terminer
-  --version   afficher la version et terminer</translation>
+  --help      afficher ce texte et quitter
+  --version   afficher la version et quitter</translation>
     </message>
     <message id="DWT_Localize_Outline_Fault">
         <translation>Une valeur de cette page est inutilisable</translation>

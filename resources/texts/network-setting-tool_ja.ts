@@ -7,7 +7,7 @@
         <translation>OK</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
-        <translation>は使用できません</translation>
+        <translation>– 使用できません</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_PrinterName">
         <translation>プリンター名</translation>
@@ -58,7 +58,7 @@
         <translation>通信モード:</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_Infrastructure_Label">
-        <translation>インフラストラクチャ: 既存の無線ネットワークに参加する</translation>
+        <translation>インフラストラクチャ: 既存の無線 LAN に参加する</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
         <translation>アクセスポイント: コンピューターがプリンターのネットワークに参加する</translation>
@@ -94,7 +94,7 @@
         <translation>新しいパスワード:</translation>
     </message>
     <message id="DWT_Localize_Password_Text_Reinput_Label">
-        <translation>もう一度入力:</translation>
+        <translation>パスワードの確認:</translation>
     </message>
     <message id="DWT_Localize_Password_Text_PasswordInfomation">
         <translation>管理者パスワードを設定すると、ログインしないと設定を変更できません。</translation>
@@ -112,7 +112,7 @@
         <translation>新しいパスワード</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Password_Reinput">
-        <translation>再入力したパスワード</translation>
+        <translation>パスワードの確認</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
         <translation>8 文字以内で入力してください。半角の英字 (A～Z、a～z)、数字、および ! " # $ % &amp; ' ( ) * + , - . / { | } ~ を使用できます。スペースは使用できません。</translation>
@@ -121,7 +121,7 @@
         <translation>2 つのパスワードが一致しません。両方の欄に同じパスワードを入力してください。</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
-        <translation>未確認</translation>
+        <translation>未テスト</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Online">
         <translation>プリンターは応答しています</translation>
@@ -130,13 +130,13 @@
         <translation>プリンターが応答しません</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Button_Connect">
-        <translation>接続を確認</translation>
+        <translation>接続テスト</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
-        <translation>接続</translation>
+        <translation>有線接続</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Label">
-        <translation>接続:</translation>
+        <translation>状態:</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredLANMACAddress">
         <translation>有線インターフェイス</translation>
@@ -190,13 +190,13 @@
         <translation>デフォルトゲートウェイは、0～255 の数値 4 個をピリオドで区切って入力してください。0.0.0.0 と 255.255.255.255 は使用できません。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_WirelessConnection">
-        <translation>無線接続</translation>
+        <translation>無線 LAN 接続</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Label">
-        <translation>接続:</translation>
+        <translation>状態:</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Nolook">
-        <translation>未確認</translation>
+        <translation>未テスト</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Online">
         <translation>プリンターは応答しています</translation>
@@ -205,10 +205,10 @@
         <translation>プリンターが応答しません</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_Connect">
-        <translation>接続を確認</translation>
+        <translation>接続テスト</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WirelessMode_Label">
-        <translation>無線規格:</translation>
+        <translation>無線 LAN 規格:</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WirelessMode_B">
         <translation>IEEE 802.11b</translation>
@@ -265,10 +265,10 @@
         <translation>共有キー</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA">
-        <translation>WPA パーソナル</translation>
+        <translation>WPA-パーソナル</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA2">
-        <translation>WPA2 パーソナル</translation>
+        <translation>WPA2-パーソナル</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Popup_Encryption_Nothing">
         <translation>なし</translation>
@@ -295,13 +295,13 @@
         <translation>キー 4</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
-        <translation>WPS について…</translation>
+        <translation>WPS ガイド</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
         <translation>ネットワーク名 (SSID):</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SSID">
-        <translation>無線ネットワークの名前です。半角の英字、数字、スペース、記号で 1～32 文字。</translation>
+        <translation>無線 LAN の名前です。半角の英字、数字、スペース、記号で 1～32 文字。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
         <translation>選択…</translation>
@@ -352,7 +352,7 @@
         <translation>アクセスポイント</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_WirelessLANMode_Label">
-        <translation>無線規格:</translation>
+        <translation>無線 LAN 規格:</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_WirelessMode_B">
         <translation>IEEE 802.11b</translation>
@@ -364,7 +364,7 @@
         <translation>IEEE 802.11b/g/n</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_DHCPSetup">
-        <translation>コンピューターのアドレス</translation>
+        <translation>アドレスの割り当て</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_DHCPServer_Label">
         <translation>DHCP サーバー:</translation>
@@ -397,10 +397,10 @@
         <translation>共有キー</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA">
-        <translation>WPA パーソナル</translation>
+        <translation>WPA-パーソナル</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA2">
-        <translation>WPA2 パーソナル</translation>
+        <translation>WPA2-パーソナル</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Encryption_Label">
         <translation>暗号化方式:</translation>
@@ -442,7 +442,7 @@
         <translation>アクセスポイントの WPA キー</translation>
     </message>
     <message id="DWT_Localize_App_Name">
-        <translation>Network Setting Tool</translation>
+        <translation>ネットワーク設定ツール</translation>
     </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>このツールはすでに起動していますが、応答がありません。終了してからもう一度起動してください。</translation>
@@ -469,19 +469,19 @@
         <translation>このプリンターはネットワーク経由で接続されています。設定は表示のみです。変更するには、プリンターを USB で接続してください。</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
-        <translation>読み込めなかった設定があるため、変更できません。プリンターの電源と接続を確認してから、［再読み込み］を選択してください。</translation>
+        <translation>読み込めなかった設定があるため、設定を変更できません。プリンターの電源と接続を確認してから、［再読み込み］をクリックしてください。</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotTold">
-        <translation>次の設定はプリンターから取得できませんでした。入力するまで送信されません：%1</translation>
+        <translation>次の設定はプリンターから取得できませんでした。入力するまで送信されません: %1</translation>
     </message>
     <message id="DWT_Localize_Outline_Name">
-        <translation>カテゴリ</translation>
+        <translation>カテゴリー</translation>
     </message>
     <message id="DWT_Localize_Outline_Printer">
         <translation>プリンターの設定</translation>
     </message>
     <message id="DWT_Localize_Outline_Firmware">
-        <translation>デバイス</translation>
+        <translation>本体</translation>
     </message>
     <message id="DWT_Localize_Outline_Network">
         <translation>名前</translation>
@@ -490,7 +490,7 @@
         <translation>有線ネットワーク</translation>
     </message>
     <message id="DWT_Localize_Outline_Wireless">
-        <translation>無線ネットワーク</translation>
+        <translation>無線 LAN</translation>
     </message>
     <message id="DWT_Localize_Outline_Infrastructure">
         <translation>インフラストラクチャ</translation>
@@ -502,13 +502,13 @@
         <translation>パスワード</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Dowline">
-        <translation>プリンターへの接続</translation>
+        <translation>プリンターとの接続</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Warning">
-        <translation>を確認してください</translation>
+        <translation>– ご注意ください</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Printer_ConnectErr">
-        <translation>プリンターを読み込めませんでした。電源が入っていること、ケーブルが接続されていること、ほかのプログラムが使用していないことを確認して、もう一度お試しください。</translation>
+        <translation>プリンターの設定を読み込めませんでした。電源が入っていること、ケーブルが接続されていること、ほかのプログラムが使用していないことを確認して、もう一度お試しください。</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_ChangeSetting_Warning">
         <translation>プリンターへの接続に使われる名前またはアドレスが変更されています。設定を送信すると、以前の名前やアドレスを使用しているコンピューターからは接続できなくなります。</translation>
@@ -517,7 +517,7 @@
         <translation>ネットワークの一覧</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_SSIDList_CommunicateModeErr">
-        <translation>プリンターがネットワークを検索できるのは、インフラストラクチャモードのときだけです。先に「無線ネットワーク」ページで「インフラストラクチャ」を選択してください。</translation>
+        <translation>プリンターがネットワークを検索できるのは、インフラストラクチャモードのときだけです。先に「無線 LAN」ページで「インフラストラクチャ」を選択してください。</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_TextField_Cancel">
         <translation>プリンターに送信していない変更があります。閉じる前に送信しますか?</translation>
@@ -535,7 +535,7 @@
         <translation>プリンターに送信していない変更があります。再読み込みすると、変更は破棄されます。</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
-        <translation>破棄して読み込む</translation>
+        <translation>破棄して再読み込み</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
         <translation>キャンセル</translation>
@@ -553,21 +553,21 @@
         <translation>設定をプリンターに送信しています…</translation>
     </message>
     <message id="DWT_Localize_Send_End_TextField">
-        <translation>設定を送信しました。プリンターの現在の設定を確認するには、［再読み込み］を選択してください。</translation>
+        <translation>設定を送信しました。プリンターの現在の設定を確認するには、［再読み込み］をクリックしてください。</translation>
     </message>
     <message id="DWT_Localize_Send_End_Refused">
-        <translation>次の設定はプリンターに受け付けられませんでした。プリンターの設定は元のままで、入力した内容は残っています。
+        <translation>次の設定はプリンターに受け付けられませんでした。プリンターの設定は元のままで、入力した内容は保持されています。
 %1</translation>
     </message>
     <message id="DWT_Localize_Send_End_Unclear">
-        <translation>次の設定がプリンターに反映されたかどうか確認できません。現在の設定を確認するには、［再読み込み］を選択してください。
+        <translation>次の設定がプリンターに反映されたかどうか確認できません。現在の設定を確認するには、［再読み込み］をクリックしてください。
 %1</translation>
     </message>
     <message id="DWT_Localize_Send_End_LoginRefused">
-        <translation>プリンターがパスワードを受け付けなかったため、何も送信されていません。変更内容は残っています。</translation>
+        <translation>プリンターがパスワードを受け付けなかったため、何も送信されていません。変更内容は保持されています。</translation>
     </message>
     <message id="DWT_Localize_Send_End_LoginNoReply">
-        <translation>ログインに対するプリンターの応答がなかったため、何も送信されていません。変更内容は残っています。</translation>
+        <translation>ログインに対するプリンターの応答がなかったため、何も送信されていません。変更内容は保持されています。</translation>
     </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>OK</translation>
@@ -591,16 +591,16 @@
         <translation>再試行</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
-        <translation>プリンターに接続できないため、何も送信されていません。電源が入っていること、ケーブルが接続されていることを確認して、もう一度送信してください。変更内容は残っています。</translation>
+        <translation>プリンターに接続できないため、何も送信されていません。電源が入っていること、ケーブルが接続されていることを確認して、もう一度送信してください。変更内容は保持されています。</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Lost">
-        <translation>プリンターとの接続が切れました。設定は何も適用されておらず、変更内容は残っています。電源が入っていること、ケーブルが接続されていることを確認して、もう一度送信してください。</translation>
+        <translation>プリンターとの接続が切れました。設定は何も適用されておらず、変更内容は保持されています。電源が入っていること、ケーブルが接続されていることを確認して、もう一度送信してください。</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>OK</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
-        <translation>プリンターが検出した無線ネットワークです。一覧が空の場合は、見つからなかったか、プリンターに接続できませんでした。</translation>
+        <translation>プリンターが検出した無線 LAN ネットワークです。一覧が空の場合は、見つからなかったか、プリンターに接続できませんでした。</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
         <translation>ネットワーク名 (SSID)</translation>
@@ -633,13 +633,13 @@
         <translation>キャンセル</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField">
-        <translation>WPS を使うと、キーを入力せずにプリンターを無線ネットワークに参加させることができます。両方の機器を準備してください。</translation>
+        <translation>WPS を使うと、キーを入力せずにプリンターを無線 LAN に参加させることができます。両方の機器を準備してください。</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_a1">
         <translation>1.</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_a">
-        <translation>プリンターの電源を入れ、無線ルーター (アクセスポイント) の近くに置きます。</translation>
+        <translation>プリンターの電源を入れ、無線 LAN ルーターの近くに置きます。</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_b2">
         <translation>2.</translation>
@@ -657,10 +657,10 @@
         <translation>戻る</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Exit_Key">
-        <translation>終了</translation>
+        <translation>閉じる</translation>
     </message>
     <message id="DWT_Localize_WPS2_TextField">
-        <translation>プリンターのメニューで WPS を開始し、2 分以内にルーターの WPS ボタンを押します。プリンターの無線ランプが点灯したままになると、接続は完了です。</translation>
+        <translation>プリンターのメニューで WPS を開始し、2 分以内にルーターの WPS ボタンを押します。プリンターの無線 LAN ランプが点灯したままになると、接続は完了です。</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Next_Key">
         <translation>完了</translation>
@@ -669,25 +669,25 @@
         <translation>戻る</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Exit_Key">
-        <translation>終了</translation>
+        <translation>閉じる</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_TextField">
-        <translation>このツールは、ラベルプリンターのネットワーク設定 (名前、有線・無線ネットワーク、管理者パスワード) を表示・変更します。次の手順でプリンターを接続します。</translation>
+        <translation>このツールは、ラベルプリンターのネットワーク設定 (名前、有線ネットワーク、無線 LAN、管理者パスワード) を表示・変更します。次の手順でプリンターを接続します。</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_OK_Key">
-        <translation>続ける</translation>
+        <translation>続行</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_Exit_Key">
         <translation>終了</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_TextField">
-        <translation>プリンターをどの方法で接続しますか?</translation>
+        <translation>プリンターをどのように接続しますか?</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_USB_Key">
         <translation>USB で接続し、このツールで設定を入力する</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
-        <translation>WPS で無線ネットワークに接続する</translation>
+        <translation>WPS で無線 LAN に接続する</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
         <translation>次へ</translation>
@@ -696,13 +696,13 @@
         <translation>終了</translation>
     </message>
     <message id="DWT_Localize_USBConnect_TextField">
-        <translation>プリンターを USB ケーブルでこのコンピューターに接続し、電源を入れてください。［次へ］を選択するとプリンターを検索します。</translation>
+        <translation>プリンターを USB ケーブルでこのコンピューターに接続し、電源を入れてください。［次へ］をクリックするとプリンターを検索します。</translation>
     </message>
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
         <translation>次へ</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TextField">
-        <translation>設定を表示するプリンターを選択してください。変更できるのは USB で接続されたプリンターだけです。</translation>
+        <translation>設定を表示するプリンターを選択してください。設定を変更できるのは、USB で接続されたプリンターだけです。</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_OK_Key">
         <translation>開く</translation>
@@ -759,13 +759,13 @@
         <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message id="DWT_Localize_Menu_About">
-        <translation>Network Setting Tool について(&amp;A)</translation>
+        <translation>ネットワーク設定ツールについて(&amp;A)</translation>
     </message>
     <message id="DWT_Localize_About_Text">
         <translation>ラベルプリンターのネットワーク設定を表示・変更します。</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Empty">
-        <translation>プリンターが見つかりません。プリンターの電源が入っていて、USB ケーブルでこのコンピューターに接続されているか、同じネットワーク上にあることを確認してから、［再検索］を選択してください。</translation>
+        <translation>プリンターが見つかりません。プリンターの電源が入っていて、USB ケーブルでこのコンピューターに接続されているか、同じネットワーク上にあることを確認してから、［再検索］をクリックしてください。</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Searching">
         <translation>プリンターを検索しています…</translation>
@@ -774,7 +774,7 @@
         <translation>%1 は接続されていますが、使用する権限がありません。このコンピューターに直接ログインするか、このツールの USB ルールのインストールを管理者に依頼してから、プリンターを接続し直してください。</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Problem_InUse">
-        <translation>%1 は別のプログラムで使用中です。そのプログラムを終了してから、「再検索」を選択してください。</translation>
+        <translation>%1 は別のプログラムで使用中です。そのプログラムを終了してから、［再検索］をクリックしてください。</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Problem_BadFile">
         <translation>このファイルの全部または一部を使用できません: %1</translation>

@@ -7,25 +7,25 @@
         <translation>确定</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
-        <translation>无法使用</translation>
+        <translation>– 无法使用</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_PrinterName">
         <translation>打印机名称</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PrinterName_InputErr">
-        <translation>请输入 1 到 31 个字符。打印机名称由字母 A 至 Z 和 a 至 z、数字和连字符组成，不含空格。</translation>
+        <translation>请输入 1 到 31 个字符。打印机名称由字母 A 到 Z 和 a 到 z、数字和连字符组成，不含空格。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourName">
         <translation>Bonjour 名称</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourName_InputErr">
-        <translation>请输入 1 到 25 个字符。Bonjour 名称由字母 A 至 Z 和 a 至 z、数字和连字符组成，不含空格。</translation>
+        <translation>请输入 1 到 25 个字符。Bonjour 名称由字母 A 到 Z 和 a 到 z、数字和连字符组成，不含空格。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourServiceName">
         <translation>Bonjour 服务名称</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
-        <translation>请输入 1 到 31 个字符：字母 A 至 Z 和 a 至 z、数字、空格以及美式键盘上的标点符号。不能使用带重音的字母。</translation>
+        <translation>请输入 1 到 31 个字符：字母 A 到 Z 和 a 到 z、数字、空格以及美式键盘上的标点符号。不能使用带重音符号的字母。</translation>
     </message>
     <message id="DWT_Localize_Network_Box_PrinterName">
         <translation>打印机名称</translation>
@@ -43,16 +43,16 @@
         <translation>.local</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
-        <translation>网络上的计算机访问打印机所用的名称：1 到 25 个字母、数字和连字符。</translation>
+        <translation>网络上的计算机访问打印机所用的名称。1 到 25 个字符：字母、数字、连字符。</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
-        <translation>打印机列表中显示的名称：1 到 31 个字母、数字、空格和标点符号。</translation>
+        <translation>打印机列表中显示的名称。1 到 31 个字符：字母、数字、空格、标点符号。</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkHostName">
-        <translation>打印机自身的名称：1 到 31 个字母、数字和连字符。</translation>
+        <translation>打印机自身的名称。1 到 31 个字符：字母、数字、连字符。</translation>
     </message>
     <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
-        <translation>无线局域网</translation>
+        <translation>无线网络</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_CommunicateMode_Label">
         <translation>通信模式：</translation>
@@ -64,7 +64,7 @@
         <translation>接入点：计算机加入打印机自己的网络</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
-        <translation>关闭：不使用无线局域网</translation>
+        <translation>关闭：不使用无线网络</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label">
         <translation>MAC 地址（基础结构）：</translation>
@@ -94,7 +94,7 @@
         <translation>新密码：</translation>
     </message>
     <message id="DWT_Localize_Password_Text_Reinput_Label">
-        <translation>再次输入：</translation>
+        <translation>确认密码：</translation>
     </message>
     <message id="DWT_Localize_Password_Text_PasswordInfomation">
         <translation>设置管理员密码后，必须登录才能更改设置。</translation>
@@ -103,7 +103,7 @@
         <translation>将两个输入框都留空可删除密码。请记下新密码：无法从打印机读取密码。</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
-        <translation>最多 8 个字母、数字和标点符号；不能使用空格。</translation>
+        <translation>最多 8 个字符，不含空格：字母、数字、标点符号。</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Reinput">
         <translation>再次输入相同的密码。</translation>
@@ -112,13 +112,13 @@
         <translation>新密码</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Password_Reinput">
-        <translation>再次输入的密码</translation>
+        <translation>确认密码</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
-        <translation>最多输入 8 个字符：字母 A 至 Z 和 a 至 z、数字以及 ! " # $ % &amp; ' ( ) * + , - . / { | } ~ ，不含空格。</translation>
+        <translation>最多输入 8 个字符，不含空格：字母 A 到 Z 和 a 到 z、数字以及 ! " # $ % &amp; ' ( ) * + , - . / { | } ~</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
-        <translation>两次输入的密码不同。请在两个输入框中输入相同的密码。</translation>
+        <translation>两次输入的密码不一致。请在两个输入框中输入相同的密码。</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
         <translation>尚未测试</translation>
@@ -133,10 +133,10 @@
         <translation>测试连接</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
-        <translation>连接</translation>
+        <translation>有线连接</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Label">
-        <translation>连接：</translation>
+        <translation>状态：</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredLANMACAddress">
         <translation>有线接口</translation>
@@ -193,7 +193,7 @@
         <translation>无线连接</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Label">
-        <translation>连接：</translation>
+        <translation>状态：</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_Connection_Nolook">
         <translation>尚未测试</translation>
@@ -265,10 +265,10 @@
         <translation>共享密钥</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA">
-        <translation>WPA 个人</translation>
+        <translation>WPA-个人</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Popup_Authentic_WPA2">
-        <translation>WPA2 个人</translation>
+        <translation>WPA2-个人</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Popup_Encryption_Nothing">
         <translation>无</translation>
@@ -295,13 +295,13 @@
         <translation>密钥 4</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
-        <translation>关于 WPS…</translation>
+        <translation>WPS 指南</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
         <translation>网络名称 (SSID)：</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SSID">
-        <translation>无线网络的名称：1 到 32 个字母、数字、空格和标点符号。</translation>
+        <translation>无线网络的名称。1 到 32 个字符：字母、数字、空格、标点符号。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
         <translation>选择…</translation>
@@ -310,7 +310,7 @@
         <translation>WPA 密钥：</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_PSK">
-        <translation>网络的预共享密钥（密码）：8 到 63 个字母、数字、空格和标点符号。</translation>
+        <translation>网络的预共享密钥（密码）。8 到 63 个字符：字母、数字、空格、标点符号。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
         <translation>WEP 密钥：</translation>
@@ -334,13 +334,13 @@
         <translation>网络名称 (SSID)</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
-        <translation>请输入 1 到 32 个字符：字母 A 至 Z 和 a 至 z、数字、空格以及美式键盘上的标点符号。名称含有其他字符的网络可从网络列表中选取。</translation>
+        <translation>请输入 1 到 32 个字符：字母 A 到 Z 和 a 到 z、数字、空格以及美式键盘上的标点符号。名称含有其他字符的网络可从网络列表中选取。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
         <translation>WPA 密钥</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
-        <translation>请输入 8 到 63 个字符：字母 A 至 Z 和 a 至 z、数字、空格以及美式键盘上的标点符号。</translation>
+        <translation>请输入 8 到 63 个字符：字母 A 到 Z 和 a 到 z、数字、空格以及美式键盘上的标点符号。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
         <translation>WEP 密钥</translation>
@@ -364,7 +364,7 @@
         <translation>IEEE 802.11b/g/n</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_DHCPSetup">
-        <translation>计算机的地址</translation>
+        <translation>地址分配</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_DHCPServer_Label">
         <translation>DHCP 服务器：</translation>
@@ -376,7 +376,7 @@
         <translation>IP 地址</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_StartIpAddress_Label">
-        <translation>分配的起始地址：</translation>
+        <translation>起始分配地址：</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_IpAddress_Label">
         <translation>打印机的地址：</translation>
@@ -397,10 +397,10 @@
         <translation>共享密钥</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA">
-        <translation>WPA 个人</translation>
+        <translation>WPA-个人</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Authentic_WPA2">
-        <translation>WPA2 个人</translation>
+        <translation>WPA2-个人</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Text_Encryption_Label">
         <translation>加密：</translation>
@@ -427,22 +427,22 @@
         <translation>WPA 密钥：</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_SSID">
-        <translation>网络名称中 DIRECT- 之后的部分：1 到 25 个字母、数字、空格和标点符号。</translation>
+        <translation>网络名称中 DIRECT- 之后的部分。1 到 25 个字符：字母、数字、空格、标点符号。</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_PSK">
-        <translation>计算机加入时使用的密钥（密码）：8 到 63 个字母、数字、空格和标点符号。</translation>
+        <translation>计算机加入时使用的密钥（密码）。8 到 63 个字符：字母、数字、空格、标点符号。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
         <translation>接入点的网络名称 (SSID)</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
-        <translation>请输入 1 到 25 个字符：字母 A 至 Z 和 a 至 z、数字、空格以及美式键盘上的标点符号。</translation>
+        <translation>请输入 1 到 25 个字符：字母 A 到 Z 和 a 到 z、数字、空格以及美式键盘上的标点符号。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
         <translation>接入点的 WPA 密钥</translation>
     </message>
     <message id="DWT_Localize_App_Name">
-        <translation>Network Setting Tool</translation>
+        <translation>网络设置工具</translation>
     </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>此工具已在运行，但没有响应。请先结束它，然后重新启动。</translation>
@@ -469,7 +469,7 @@
         <translation>此打印机通过网络连接，其设置仅供查看；要更改设置，请用 USB 连接打印机。</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
-        <translation>有些设置无法读取，因此不能更改。请检查打印机是否已开机并连接，然后选择“重新读取”。</translation>
+        <translation>有些设置无法读取，因此无法更改任何设置。请检查打印机是否已开机并连接，然后选择“重新读取”。</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotTold">
         <translation>打印机未提供以下设置；在您输入内容之前不会发送它们：%1</translation>
@@ -505,10 +505,10 @@
         <translation>与打印机的连接</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Warning">
-        <translation>请注意</translation>
+        <translation>– 请注意</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Printer_ConnectErr">
-        <translation>无法读取打印机。请检查打印机是否已开机、电缆是否已插好、是否有其他程序正在使用它，然后重试。</translation>
+        <translation>无法读取打印机的设置。请检查打印机是否已开机、电缆是否已插好、是否有其他程序正在使用它，然后重试。</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_ChangeSetting_Warning">
         <translation>您更改了访问打印机所用的名称或地址。发送设置后，仍使用旧名称或旧地址的计算机将找不到打印机。</translation>
@@ -526,22 +526,22 @@
         <translation>发送</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_NoReflect">
-        <translation>不发送并关闭</translation>
+        <translation>关闭且不发送</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
         <translation>取消</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
-        <translation>有更改尚未发送到打印机。重新读取打印机会放弃这些更改。</translation>
+        <translation>有更改尚未发送到打印机。重新读取设置会放弃这些更改。</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
-        <translation>放弃并读取</translation>
+        <translation>放弃更改并重新读取</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
         <translation>取消</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
-        <translation>现在将设置发送到打印机吗？发送期间请勿关闭打印机或拔下电缆。</translation>
+        <translation>要现在将设置发送到打印机吗？发送期间请勿关闭打印机或拔下电缆。</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
         <translation>发送</translation>
@@ -639,7 +639,7 @@
         <translation>1.</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_a">
-        <translation>打开打印机，并将其放在无线路由器（接入点）附近。</translation>
+        <translation>接通打印机电源，并将其放在无线路由器附近。</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField_b2">
         <translation>2.</translation>
@@ -657,7 +657,7 @@
         <translation>上一步</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Exit_Key">
-        <translation>退出</translation>
+        <translation>关闭</translation>
     </message>
     <message id="DWT_Localize_WPS2_TextField">
         <translation>在打印机的菜单中启动 WPS，然后在两分钟内按下路由器的 WPS 按钮。打印机的无线指示灯常亮时，表示已连接。</translation>
@@ -669,7 +669,7 @@
         <translation>上一步</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Exit_Key">
-        <translation>退出</translation>
+        <translation>关闭</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_TextField">
         <translation>此工具用于查看和更改标签打印机的网络设置：名称、有线和无线网络以及管理员密码。接下来的步骤将帮助您连接打印机。</translation>
@@ -696,13 +696,13 @@
         <translation>退出</translation>
     </message>
     <message id="DWT_Localize_USBConnect_TextField">
-        <translation>请用 USB 电缆将打印机连接到此计算机并开机，然后选择“下一步”查找打印机。</translation>
+        <translation>请用 USB 电缆将打印机连接到此计算机，并打开打印机电源，然后选择“下一步”搜索打印机。</translation>
     </message>
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
         <translation>下一步</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TextField">
-        <translation>请选择要查看其设置的打印机。只有通过 USB 连接的打印机才能更改。</translation>
+        <translation>请选择要查看其设置的打印机。只有通过 USB 连接的打印机才能更改设置。</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_OK_Key">
         <translation>打开</translation>
@@ -759,7 +759,7 @@
         <translation>帮助(&amp;H)</translation>
     </message>
     <message id="DWT_Localize_Menu_About">
-        <translation>关于 Network Setting Tool(&amp;A)</translation>
+        <translation>关于网络设置工具(&amp;A)</translation>
     </message>
     <message id="DWT_Localize_About_Text">
         <translation>查看和更改标签打印机的网络设置。</translation>
@@ -768,7 +768,7 @@
         <translation>未找到打印机。请检查打印机是否已开机，并已用 USB 电缆连接到此计算机，或与此计算机处于同一网络。然后选择“重新搜索”。</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Searching">
-        <translation>正在查找打印机…</translation>
+        <translation>正在搜索打印机…</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Problem_NoPermission">
         <translation>%1 已连接，但您没有使用权限。请直接在此计算机上登录，或请管理员安装本工具的 USB 规则，然后重新插入打印机。</translation>

@@ -178,7 +178,7 @@ TEST_F(Selector, AFailedOpeningComesBackToTheListAsItWas) {
     gone.refuseConnection = true;
     VirtualPrinter &printer = *catalogue.virtualPrinters[text("virtual://packing-desk")];
     printer.setFaults(gone);
-    walk.dialogs().alert("The connection to the printer cannot be used");
+    walk.dialogs().alert("Connection to the printer cannot be used");
     EXPECT_FALSE(walk.open(text("Packing-Desk")));
     EXPECT_TRUE(isListed() && !walk.main()->isVisible());
     EXPECT_EQ(walk.list()->selectedRow(), 0);

@@ -44,7 +44,7 @@ TEST_F(Networks, AreListedStrongestFirstAndTakenOver) {
     };
     EXPECT_EQ(list(pickThird), text("c"));
     EXPECT_EQ(control<QComboBox>("popupbutton_InfrastructureAuthentic")->currentText(),
-              text("WPA personal"));
+              text("WPA-Personal"));
     EXPECT_TRUE(isEnabled("button_MainSend") && !isEnabled("button_InfrastructureConnect"));
     const auto doubleClickFirst = [](QWidget *, TableView *table) {
         QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, centreOf(table, 0));
@@ -60,14 +60,14 @@ TEST_F(Networks, AreListedStrongestFirstAndTakenOver) {
 TEST_F(Networks, NoListOutsideInfrastructureModeAndAnEmptyOneWithoutAPrinter) {
     open(fourNetworks);
     setFaults(R"({"refuseConnection": true})");
-    dialogs.alert("The connection to the printer cannot be used");
+    dialogs.alert("Connection to the printer cannot be used");
     list([](QWidget *dialog, TableView *table) {
         EXPECT_EQ(table->model()->rowCount(), 0);
         EXPECT_FALSE(controlOf(dialog, "button_SelectSSIDWindowOK")->isEnabled());
         dialog->close();
     });
     control<QRadioButton>("buttonCell_WirelessSimpleA")->click();
-    dialogs.alert("The list of networks needs your attention");
+    dialogs.alert("List of networks – please note");
     click("button_InfrastructureSelectSSID");
 }
 

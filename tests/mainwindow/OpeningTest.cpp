@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 const char *const gone = R"({"refuseConnection": true})";
 const char *const silentItem = R"({"items": {"0x2001": {"noReply": true}}})";
-const char *const cannotBeUsed = "The connection to the printer cannot be used";
+const char *const cannotBeUsed = "Connection to the printer cannot be used";
 
 class Opening : public PrinterWindow {
   protected:
@@ -111,7 +111,7 @@ TEST_F(Opening, WhatThePrinterDidNotTellIsNamedAndStaysUnsent) {
     EXPECT_EQ(
         control<QLabel>("textField_ReadOnly")->text().section(u": "_s, 1),
         text("Names: Bonjour name; Wired network: IP address; Infrastructure: Authentication; "
-             "Device: Print time-out"));
+             "Device: Print timeout"));
     EXPECT_EQ(name(), QString());
     EXPECT_FALSE(isEnabled("button_MainSend"));
     setFaults("{}");
@@ -119,7 +119,7 @@ TEST_F(Opening, WhatThePrinterDidNotTellIsNamedAndStaysUnsent) {
     control("textField_PrintTimeOut")->setFocus();
     QTest::keyClick(control("textField_PrintTimeOut"), Qt::Key_Tab);
     EXPECT_FALSE(isEnabled("button_MainSend")) << "a field that was only looked at";
-    const char *const warned = "The connection to the printer needs your attention";
+    const char *const warned = "Connection to the printer – please note";
     type("textField_NetworkBonjourService", "service");
     dialogs.alert(warned).confirmAndEnd();
     click("button_MainSend");

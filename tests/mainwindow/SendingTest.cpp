@@ -26,9 +26,7 @@ class Sending : public PrinterWindow {
         EXPECT_TRUE(dialogs.isDone());
     }
     // The change of a name warns, whatever happens then.
-    DialogScript &warned() {
-        return dialogs.alert("The connection to the printer needs your attention");
-    }
+    DialogScript &warned() { return dialogs.alert("Connection to the printer – please note"); }
     DialogScript::Answer says(const char *label, const char *part) {
         return [=](QWidget *dialog) {
             const QString said = controlOf<QLabel>(dialog, label)->text();
@@ -198,9 +196,9 @@ TEST_F(Sending, TheEndNamesWhatThePrinterDidNotTake) {
         {R"({"items": {"0x1004": {"result": 5}, "0x2001": {"result": 7}}})",
          "your entries are kept:\nNames: Bonjour name\nWired network: IP address"},
         {R"({"items": {"0x3000": {"noReply": true}, "0x1004": {"code": "0x7777"}}})",
-         "choose Read again:\nNames: Bonjour name\nWireless network: Communication mode"},
+         "choose “Read again”:\nNames: Bonjour name\nWireless network: Communication mode"},
         {R"({"items": {"0x1001": {"result": 2}}})", "refused the password, and nothing was sent"},
-        {R"({"items": {"0x1001": {"noReply": true}}})", "did not answer the login"},
+        {R"({"items": {"0x1001": {"noReply": true}}})", "did not answer when logging in"},
         {R"({"closeAfterFrames": 2})", "was lost. Nothing was applied", true},
         {R"({"items": {"0x1007": {"closeAfterReply": true}}})", "was lost. Nothing was applied",
          true}};

@@ -98,17 +98,17 @@ TEST(FieldRules, BothPasswordsAreCheckedAndMustAgree) {
     } cases[] = {{"aB3!/{~", "aB3!/{~", ""},
                  {"12345678", "12345678", ""},
                  {"", "", ""},
-                 {"a b", "a b", "New|Repeated"},
-                 {"a_b", "ab", "New"},
-                 {"ab", "a@b", "Repeated"},
-                 {"abc", "abd", "New"},
-                 {"é", "", "New"}};
+                 {"a b", "a b", "New password|Password confirmation"},
+                 {"a_b", "ab", "New password"},
+                 {"ab", "a@b", "Password confirmation"},
+                 {"abc", "abd", "New password"},
+                 {"é", "", "New password"}};
     page->passwordChangeSetting(true);
     for (const auto &c : cases) {
         shown.type("secureTextField_Password", text(c.first));
         shown.type("secureTextField_PasswordReinput", text(c.second));
         QStringList alerts = text(c.alerts).split(u'|', Qt::SkipEmptyParts);
-        for (QString &alert : alerts) alert += text(" password cannot be used");
+        for (QString &alert : alerts) alert += text(" cannot be used");
         EXPECT_EQ(shown.alertsOf(alerts.isEmpty()), alerts) << c.first;
         if (alerts.isEmpty()) continue;
         const bool differ = text(c.first) == text("abc");

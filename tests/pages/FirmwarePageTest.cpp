@@ -25,7 +25,7 @@ TEST_F(FirmwarePage, TheTimeOutIsForcedIntoItsRangeWhenEditingEnds) {
         EXPECT_EQ(timeOut()->text(), text(c.forced)) << c.typed;
         EXPECT_EQ(changedNumber(DWT_SaveData_Firmware_Timeout), text(c.forced).toInt());
     }
-    EXPECT_EQ(changeList(), text("Print time-out: 45 > 300"));
+    EXPECT_EQ(changeList(), text("Print timeout: 45 > 300"));
 }
 
 TEST_F(FirmwarePage, TheSendStateComparesNumbersWhileTyping) {

@@ -44,14 +44,14 @@ TEST_F(InfrastructurePage, EveryAuthenticationOffersItsEncryptionsAndKeyFields) 
         const char *encryption;
         int encryptionCode;
         bool key, wep;  // fields that are then usable
-    } cases[] = {{"AES", "WPA personal", 2, "TKIP AES", "AES", 3, true, false},
-                 {"TKIP", "WPA2 personal", 3, "TKIP AES", "TKIP", 2, true, false},
+    } cases[] = {{"AES", "WPA-Personal", 2, "TKIP AES", "AES", 3, true, false},
+                 {"TKIP", "WPA2-Personal", 3, "TKIP AES", "TKIP", 2, true, false},
                  {"TKIP", "Open system", 0, "None WEP", "WEP", 1, false, true},
                  {"None", "Shared key", 1, "None WEP", "None", 0, false, false},
                  {"WEP", "Shared key", 1, "None WEP", "WEP", 1, false, true},
-                 {"WEP", "WPA2 personal", 3, "TKIP AES", "AES", 3, true, false},
+                 {"WEP", "WPA2-Personal", 3, "TKIP AES", "AES", 3, true, false},
                  {"AES", "Shared key", 1, "None WEP", "WEP", 1, false, true},
-                 {"None", "WPA personal", 2, "TKIP AES", "AES", 3, true, false}};
+                 {"None", "WPA-Personal", 2, "TKIP AES", "AES", 3, true, false}};
     for (const auto &c : cases) {
         choose(encryption(), c.before);
         choose(authentic(), c.authentic);
@@ -77,9 +77,9 @@ TEST_F(InfrastructurePage, ANetworkOfTheListFillsThePageWithItsSecurity) {
         const char *shownAuthentic, *shownEncryption;
         int code;  // of the encryption, in the change data
     } cases[] = {{0, 0, "Open system", "None", 0},   {0, 1, "Open system", "WEP", 1},
-                 {1, 2, "WPA personal", "TKIP", 2},  {2, 3, "WPA2 personal", "AES", 3},
-                 {3, 4, "WPA2 personal", "AES", 3},  {0, 3, "Open system", "WEP", 1},
-                 {99, 99, "Open system", "None", 0}, {1, 1, "WPA personal", "AES", 3},
+                 {1, 2, "WPA-Personal", "TKIP", 2},  {2, 3, "WPA2-Personal", "AES", 3},
+                 {3, 4, "WPA2-Personal", "AES", 3},  {0, 3, "Open system", "WEP", 1},
+                 {99, 99, "Open system", "None", 0}, {1, 1, "WPA-Personal", "AES", 3},
                  {-1, -1, "Open system", "None", 0}};
     for (const auto &c : cases) {
         page->showSSIDFromSelectSSID(network("Lager\xff", c.authentic, c.encryption));
@@ -106,7 +106,7 @@ TEST_F(InfrastructurePage, ChangingWhatTheListGaveMakesItTheUsersOwn) {
     choose(encryption(), "TKIP");
     EXPECT_FALSE(taken());
     page->showSSIDFromSelectSSID(network("Lager", 2, 3));
-    choose(authentic(), "WPA personal");
+    choose(authentic(), "WPA-Personal");
     EXPECT_FALSE(taken());
     page->showSSIDFromSelectSSID(network("Lager", 2, 3));
     ssid()->setFocus();
@@ -161,14 +161,14 @@ TEST_F(InfrastructurePage, NameAndKeysAreStoredWhenEditingEnds) {
     EXPECT_EQ(changedText(DWT_SaveData_Infrastructure_PSK), psk()->text());
     choose(authentic(), "Shared key");
     EXPECT_EQ(changeList(),
-              text("Network name (SSID): Café > |Authentication: WPA2 personal > Shared key|"
+              text("Network name (SSID): Café > |Authentication: WPA2-Personal > Shared key|"
                    "Encryption: AES > WEP|WPA key:  > new"));
     type(wepKey(), text("abcde"));
     QTest::keyClick(wepKey(), Qt::Key_Return);
     EXPECT_EQ(changedText(DWT_SaveData_Infrastructure_WEPKey), text("abcde"));
     page->showDataManager();
     EXPECT_EQ(ssid()->text() + psk()->text(), text("Café"));
-    EXPECT_EQ(authentic()->currentText() + encryption()->currentText(), text("WPA2 personalAES"));
+    EXPECT_EQ(authentic()->currentText() + encryption()->currentText(), text("WPA2-PersonalAES"));
 }
 
 }  // namespace

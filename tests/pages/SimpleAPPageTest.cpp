@@ -11,7 +11,7 @@ class SimpleAPPage : public PageTest<DWTSimpleAPView> {
 TEST_F(SimpleAPPage, ShowsWhatThePrinterTellsAndStoresNameAndKey) {
     auto *ssid = control("textField_SimpleAPSSID"), *psk = control("textField_SimpleAPPSK");
     EXPECT_EQ(ssid->text() + psk->text(), text("Desk"));
-    EXPECT_EQ(shown("textField_SimpleAPAuthentic"), text("WPA2 personal"));
+    EXPECT_EQ(shown("textField_SimpleAPAuthentic"), text("WPA2-Personal"));
     EXPECT_EQ(shown("textField_SimpleAPEncryption"), text("AES"));
     for (const char *address : {"textField_SimpleAPStartIpAddress", "textField_SimpleAPIpAddress",
                                 "textField_SimpleAPSubnetMask"})

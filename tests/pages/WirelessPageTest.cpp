@@ -18,7 +18,7 @@ TEST_F(WirelessPage, TheModeReachesTheChangeDataAtEveryChoice) {
               CommunicationMode::Infrastructure);
     EXPECT_EQ(state, DWT_MainDialog_SendOK_Message);
     EXPECT_EQ(changeList(),
-              text("Communication mode: Access point: computers join the printer's own network > "
+              text("Communication mode: Access point: computers join the printer’s own network > "
                    "Infrastructure: join an existing wireless network"));
     pick("buttonCell_WirelessSimpleA");
     EXPECT_EQ(state, DWT_MainDialog_SendNG_Message) << "the first mode was chosen again";
