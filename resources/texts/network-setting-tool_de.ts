@@ -4,7 +4,7 @@
 <context>
     <name></name>
     <message id="DWT_Localize_Alert_Button_OK">
-        <translation>OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
         <translation>nicht verwendbar</translation>
@@ -58,13 +58,13 @@
         <translation>Betriebsart:</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_Infrastructure_Label">
-        <translation>Infrastruktur: einem vorhandenen WLAN beitreten</translation>
+        <translation>&amp;Infrastruktur: einem vorhandenen WLAN beitreten</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
-        <translation>Zugangspunkt: Computer treten dem Netzwerk des Druckers bei</translation>
+        <translation>&amp;Zugangspunkt: Computer treten dem Netzwerk des Druckers bei</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
-        <translation>Aus: kein WLAN</translation>
+        <translation>A&amp;us: kein WLAN</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label">
         <translation>MAC-Adresse (Infrastruktur):</translation>
@@ -85,7 +85,7 @@
         <translation>Sekunden (30 bis 300)</translation>
     </message>
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
-        <translation>Neues Administratorpasswort festlegen</translation>
+        <translation>Neues Administrator&amp;passwort festlegen</translation>
     </message>
     <message id="DWT_Localize_Password_Box_AdministratorPassword">
         <translation>Administratorpasswort</translation>
@@ -130,7 +130,7 @@
         <translation>Der Drucker antwortet nicht</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Button_Connect">
-        <translation>Verbindung prüfen</translation>
+        <translation>&amp;Verbindung prüfen</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
         <translation>LAN-Verbindung</translation>
@@ -148,10 +148,10 @@
         <translation>IP-Adresse</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Auto">
-        <translation>Automatisch (DHCP)</translation>
+        <translation>A&amp;utomatisch (DHCP)</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Manual">
-        <translation>Feste Adresse</translation>
+        <translation>F&amp;este Adresse</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
         <translation>IP-Adresse:</translation>
@@ -205,7 +205,7 @@
         <translation>Der Drucker antwortet nicht</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_Connect">
-        <translation>Verbindung prüfen</translation>
+        <translation>&amp;Verbindung prüfen</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WirelessMode_Label">
         <translation>WLAN-Standard:</translation>
@@ -226,10 +226,10 @@
         <translation>IP-Adresse</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_ButtonCell_Auto">
-        <translation>Automatisch (DHCP)</translation>
+        <translation>A&amp;utomatisch (DHCP)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_ButtonCell_Manual">
-        <translation>Feste Adresse</translation>
+        <translation>F&amp;este Adresse</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_IPAddress_Label">
         <translation>IP-Adresse:</translation>
@@ -295,7 +295,7 @@
         <translation>Schlüssel 4</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
-        <translation>WPS-Anleitung</translation>
+        <translation>W&amp;PS-Anleitung</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
         <translation>Netzwerkname (SSID):</translation>
@@ -304,7 +304,7 @@
         <translation>Der Name des WLANs. 1 bis 32 Zeichen: Buchstaben, Ziffern, Leerzeichen, Sonderzeichen.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
-        <translation>Auswählen …</translation>
+        <translation>Aus&amp;wählen …</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_PSK_Label">
         <translation>WPA-Schlüssel:</translation>
@@ -451,16 +451,16 @@
         <translation>Bitte warten …</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Send">
-        <translation>An Drucker senden …</translation>
+        <translation>An Drucker &amp;senden …</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Cancel">
-        <translation>Schließen</translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_NewSetting">
-        <translation>Neu einlesen</translation>
+        <translation>&amp;Neu einlesen</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Help">
-        <translation>Hilfe</translation>
+        <translation>Hi&amp;lfe</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_SelectPrinter_Label">
         <translation>Drucker:</translation>
@@ -523,31 +523,31 @@
         <translation>Einige Änderungen wurden noch nicht an den Drucker gesendet. Vor dem Schließen senden?</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
-        <translation>Senden</translation>
+        <translation>&amp;Senden</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_NoReflect">
-        <translation>Ohne Senden schließen</translation>
+        <translation>&amp;Ohne Senden schließen</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
-        <translation>Abbrechen</translation>
+        <translation>&amp;Abbrechen</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
         <translation>Einige Änderungen wurden noch nicht an den Drucker gesendet. Beim erneuten Einlesen gehen sie verloren.</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
-        <translation>Verwerfen und neu einlesen</translation>
+        <translation>&amp;Verwerfen und neu einlesen</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
-        <translation>Abbrechen</translation>
+        <translation>&amp;Abbrechen</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
         <translation>Einstellungen jetzt an den Drucker senden? Schalten Sie den Drucker währenddessen nicht aus und ziehen Sie das Kabel nicht ab.</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
-        <translation>Senden</translation>
+        <translation>&amp;Senden</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Cancel">
-        <translation>Abbrechen</translation>
+        <translation>&amp;Abbrechen</translation>
     </message>
     <message id="DWT_Localize_Send_Progress_TextField">
         <translation>Die Einstellungen werden an den Drucker gesendet …</translation>
@@ -570,7 +570,7 @@
         <translation>Der Drucker hat auf die Anmeldung nicht geantwortet, und es wurde nichts gesendet. Ihre Änderungen bleiben erhalten.</translation>
     </message>
     <message id="DWT_Localize_Send_End_Button_OK">
-        <translation>OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_Send_Login_TextField">
         <translation>Dieser Drucker ist geschützt. Geben Sie sein Administratorpasswort ein.</translation>
@@ -579,16 +579,16 @@
         <translation>Passwort:</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Button_OK">
-        <translation>Anmelden</translation>
+        <translation>A&amp;nmelden</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Button_Cancel">
-        <translation>Abbrechen</translation>
+        <translation>&amp;Abbrechen</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_TextField">
         <translation>Der Drucker hat dieses Passwort nicht angenommen. Achten Sie auf Groß- und Kleinschreibung.</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_Button_OK">
-        <translation>Erneut versuchen</translation>
+        <translation>&amp;Erneut versuchen</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>Der Drucker ist nicht erreichbar, und es wurde nichts gesendet. Prüfen Sie, ob er eingeschaltet und sein Kabel eingesteckt ist, und senden Sie dann erneut. Ihre Änderungen bleiben erhalten.</translation>
@@ -597,7 +597,7 @@
         <translation>Die Verbindung zum Drucker ist abgebrochen. Es wurde nichts übernommen, und Ihre Änderungen bleiben erhalten. Prüfen Sie, ob der Drucker eingeschaltet und sein Kabel eingesteckt ist, und senden Sie dann erneut.</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
-        <translation>OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
         <translation>WLANs, die der Drucker gefunden hat. Eine leere Liste bedeutet, dass er keines gefunden hat oder nicht erreichbar war.</translation>
@@ -627,10 +627,10 @@
         <translation>Schwach</translation>
     </message>
     <message id="DWT_Localize_SSIDList_Button_OK_Key">
-        <translation>Netzwerk übernehmen</translation>
+        <translation>&amp;Netzwerk übernehmen</translation>
     </message>
     <message id="DWT_Localize_SSIDList_Button_Cancel_Key">
-        <translation>Abbrechen</translation>
+        <translation>&amp;Abbrechen</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField">
         <translation>Mit WPS tritt der Drucker einem WLAN bei, ohne dass Sie einen Schlüssel eingeben. Bereiten Sie beide Geräte vor:</translation>
@@ -651,67 +651,67 @@
         <translation>Ein Router ohne WPS lässt sich so nicht verwenden; geben Sie stattdessen Name und Schlüssel des Netzwerks ein.</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Next_Key">
-        <translation>Weiter</translation>
+        <translation>&amp;Weiter</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Back_Key">
-        <translation>Zurück</translation>
+        <translation>&amp;Zurück</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Exit_Key">
-        <translation>Schließen</translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message id="DWT_Localize_WPS2_TextField">
         <translation>Starten Sie WPS im Menü des Druckers und drücken Sie dann innerhalb von zwei Minuten die WPS-Taste des Routers. Leuchtet die WLAN-Anzeige des Druckers dauerhaft, ist er verbunden.</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Next_Key">
-        <translation>Fertig</translation>
+        <translation>Fer&amp;tig</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Back_Key">
-        <translation>Zurück</translation>
+        <translation>&amp;Zurück</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Exit_Key">
-        <translation>Schließen</translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_TextField">
         <translation>Dieses Programm zeigt und ändert die Netzwerkeinstellungen eines Etikettendruckers: seine Namen, die Einstellungen für LAN und WLAN und sein Administratorpasswort. Die nächsten Schritte helfen Ihnen, den Drucker anzuschließen.</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_OK_Key">
-        <translation>Weiter</translation>
+        <translation>&amp;Weiter</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_Exit_Key">
-        <translation>Beenden</translation>
+        <translation>Be&amp;enden</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_TextField">
         <translation>Wie möchten Sie den Drucker anschließen?</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_USB_Key">
-        <translation>Über USB, um die Einstellungen hier einzugeben</translation>
+        <translation>Über &amp;USB, um die Einstellungen hier einzugeben</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
-        <translation>Über WLAN, mit WPS</translation>
+        <translation>Über W&amp;LAN, mit WPS</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
-        <translation>Weiter</translation>
+        <translation>&amp;Weiter</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Exit_Key">
-        <translation>Beenden</translation>
+        <translation>Be&amp;enden</translation>
     </message>
     <message id="DWT_Localize_USBConnect_TextField">
         <translation>Verbinden Sie den Drucker über ein USB-Kabel mit diesem Computer und schalten Sie ihn ein. Wählen Sie dann „Weiter“, um ihn zu finden.</translation>
     </message>
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
-        <translation>Weiter</translation>
+        <translation>&amp;Weiter</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>Wählen Sie den Drucker, dessen Einstellungen Sie sehen möchten. Ändern lassen sich nur die Einstellungen eines über USB angeschlossenen Druckers.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_OK_Key">
-        <translation>Öffnen</translation>
+        <translation>&amp;Öffnen</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Reload_Key">
-        <translation>Erneut suchen</translation>
+        <translation>&amp;Erneut suchen</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
-        <translation>Schließen</translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>Drucker</translation>

@@ -4,7 +4,7 @@
 <context>
     <name></name>
     <message id="DWT_Localize_Alert_Button_OK">
-        <translation>OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
         <translation>cannot be used</translation>
@@ -58,13 +58,13 @@
         <translation>Communication mode:</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_Infrastructure_Label">
-        <translation>Infrastructure: join an existing wireless network</translation>
+        <translation>&amp;Infrastructure: join an existing wireless network</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
-        <translation>Access point: computers join the printer’s own network</translation>
+        <translation>Access &amp;point: computers join the printer’s own network</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
-        <translation>Off: no wireless network</translation>
+        <translation>&amp;Off: no wireless network</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label">
         <translation>MAC address (infrastructure):</translation>
@@ -85,7 +85,7 @@
         <translation>seconds (30 to 300)</translation>
     </message>
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
-        <translation>Set a new administrator password</translation>
+        <translation>Set a &amp;new administrator password</translation>
     </message>
     <message id="DWT_Localize_Password_Box_AdministratorPassword">
         <translation>Administrator password</translation>
@@ -130,7 +130,7 @@
         <translation>The printer does not answer</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Button_Connect">
-        <translation>Test connection</translation>
+        <translation>&amp;Test connection</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
         <translation>Wired connection</translation>
@@ -148,10 +148,10 @@
         <translation>IP address</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Auto">
-        <translation>Automatic (DHCP)</translation>
+        <translation>A&amp;utomatic (DHCP)</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Manual">
-        <translation>Fixed address</translation>
+        <translation>&amp;Fixed address</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
         <translation>IP address:</translation>
@@ -205,7 +205,7 @@
         <translation>The printer does not answer</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_Connect">
-        <translation>Test connection</translation>
+        <translation>&amp;Test connection</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WirelessMode_Label">
         <translation>Wireless standard:</translation>
@@ -226,10 +226,10 @@
         <translation>IP address</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_ButtonCell_Auto">
-        <translation>Automatic (DHCP)</translation>
+        <translation>A&amp;utomatic (DHCP)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_ButtonCell_Manual">
-        <translation>Fixed address</translation>
+        <translation>&amp;Fixed address</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_IPAddress_Label">
         <translation>IP address:</translation>
@@ -295,7 +295,7 @@
         <translation>Key 4</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
-        <translation>WPS guide</translation>
+        <translation>WPS &amp;guide</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
         <translation>Network name (SSID):</translation>
@@ -304,7 +304,7 @@
         <translation>The name of the wireless network. 1 to 32 characters: letters, digits, spaces, punctuation.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
-        <translation>Choose…</translation>
+        <translation>Ch&amp;oose…</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_PSK_Label">
         <translation>WPA key:</translation>
@@ -451,16 +451,16 @@
         <translation>Please wait…</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Send">
-        <translation>Send to printer…</translation>
+        <translation>&amp;Send to printer…</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Cancel">
-        <translation>Close</translation>
+        <translation>&amp;Close</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_NewSetting">
-        <translation>Read again</translation>
+        <translation>&amp;Read again</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Help">
-        <translation>Help</translation>
+        <translation>He&amp;lp</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_SelectPrinter_Label">
         <translation>Printer:</translation>
@@ -523,31 +523,31 @@
         <translation>There are changes that have not been sent to the printer. Send them before closing?</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
-        <translation>Send</translation>
+        <translation>&amp;Send</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_NoReflect">
-        <translation>Close without sending</translation>
+        <translation>Close &amp;without sending</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
-        <translation>Cancel</translation>
+        <translation>&amp;Cancel</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
         <translation>There are changes that have not been sent to the printer. Reading the settings again discards them.</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
-        <translation>Discard and read again</translation>
+        <translation>&amp;Discard and read again</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
-        <translation>Cancel</translation>
+        <translation>&amp;Cancel</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
         <translation>Send the settings to the printer now? Do not switch the printer off or unplug it meanwhile.</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
-        <translation>Send</translation>
+        <translation>&amp;Send</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Cancel">
-        <translation>Cancel</translation>
+        <translation>&amp;Cancel</translation>
     </message>
     <message id="DWT_Localize_Send_Progress_TextField">
         <translation>Sending the settings to the printer…</translation>
@@ -570,7 +570,7 @@
         <translation>The printer did not answer when logging in, and nothing was sent. Your changes are kept.</translation>
     </message>
     <message id="DWT_Localize_Send_End_Button_OK">
-        <translation>OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_Send_Login_TextField">
         <translation>This printer is protected. Enter its administrator password.</translation>
@@ -579,16 +579,16 @@
         <translation>Password:</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Button_OK">
-        <translation>Log in</translation>
+        <translation>&amp;Log in</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Button_Cancel">
-        <translation>Cancel</translation>
+        <translation>&amp;Cancel</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_TextField">
         <translation>The printer did not accept this password. Passwords are case-sensitive.</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_Button_OK">
-        <translation>Try again</translation>
+        <translation>&amp;Try again</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>The printer cannot be reached, and nothing was sent. Check that it is switched on and that its cable is plugged in, then send again. Your changes are kept.</translation>
@@ -597,7 +597,7 @@
         <translation>The connection to the printer was lost. Nothing was applied, and your changes are kept. Check that the printer is switched on and that its cable is plugged in, then send again.</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
-        <translation>OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
         <translation>Wireless networks found by the printer. If the list is empty, the printer found none or could not be reached.</translation>
@@ -627,10 +627,10 @@
         <translation>Weak</translation>
     </message>
     <message id="DWT_Localize_SSIDList_Button_OK_Key">
-        <translation>Use this network</translation>
+        <translation>&amp;Use this network</translation>
     </message>
     <message id="DWT_Localize_SSIDList_Button_Cancel_Key">
-        <translation>Cancel</translation>
+        <translation>&amp;Cancel</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField">
         <translation>With WPS, the printer joins a wireless network without entering a key. Prepare both devices:</translation>
@@ -651,67 +651,67 @@
         <translation>A router without WPS cannot be used in this way; enter the network’s name and key instead.</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Next_Key">
-        <translation>Next</translation>
+        <translation>&amp;Next</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Back_Key">
-        <translation>Back</translation>
+        <translation>&amp;Back</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Exit_Key">
-        <translation>Close</translation>
+        <translation>&amp;Close</translation>
     </message>
     <message id="DWT_Localize_WPS2_TextField">
         <translation>Start WPS in the printer’s own menu, then press the WPS button of the router within two minutes. When the printer’s wireless light stays on, it is connected.</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Next_Key">
-        <translation>Finish</translation>
+        <translation>&amp;Finish</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Back_Key">
-        <translation>Back</translation>
+        <translation>&amp;Back</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Exit_Key">
-        <translation>Close</translation>
+        <translation>&amp;Close</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_TextField">
         <translation>This tool reads and changes the network settings of a label printer: its names, its wired and wireless network, and its administrator password. The next steps help you to connect the printer.</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_OK_Key">
-        <translation>Continue</translation>
+        <translation>&amp;Continue</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_Exit_Key">
-        <translation>Quit</translation>
+        <translation>&amp;Quit</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_TextField">
         <translation>How do you want to connect the printer?</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_USB_Key">
-        <translation>Over USB, to enter its settings in this tool</translation>
+        <translation>Over &amp;USB, to enter its settings in this tool</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
-        <translation>To a wireless network, with WPS</translation>
+        <translation>&amp;To a wireless network, with WPS</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
-        <translation>Next</translation>
+        <translation>&amp;Next</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Exit_Key">
-        <translation>Quit</translation>
+        <translation>&amp;Quit</translation>
     </message>
     <message id="DWT_Localize_USBConnect_TextField">
         <translation>Connect the printer to this computer with a USB cable and switch it on. Then choose “Next” to find it.</translation>
     </message>
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
-        <translation>Next</translation>
+        <translation>&amp;Next</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>Choose the printer whose settings you want to see. Settings can be changed only on a printer that is connected over USB.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_OK_Key">
-        <translation>Open</translation>
+        <translation>&amp;Open</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Reload_Key">
-        <translation>Look again</translation>
+        <translation>&amp;Look again</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
-        <translation>Close</translation>
+        <translation>&amp;Close</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>Printer</translation>

@@ -4,7 +4,7 @@
 <context>
     <name></name>
     <message id="DWT_Localize_Alert_Button_OK">
-        <translation>Aceptar</translation>
+        <translation>&amp;Aceptar</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
         <translation>– no se puede usar</translation>
@@ -58,13 +58,13 @@
         <translation>Modo de comunicación:</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_Infrastructure_Label">
-        <translation>Infraestructura: unirse a una red Wi-Fi existente</translation>
+        <translation>&amp;Infraestructura: unirse a una red Wi-Fi existente</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
-        <translation>Punto de acceso: los equipos se unen a la red de la impresora</translation>
+        <translation>&amp;Punto de acceso: los equipos se unen a la red de la impresora</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
-        <translation>Desactivado: sin Wi-Fi</translation>
+        <translation>&amp;Desactivado: sin Wi-Fi</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label">
         <translation>Dirección MAC (infraestructura):</translation>
@@ -85,7 +85,7 @@
         <translation>segundos (de 30 a 300)</translation>
     </message>
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
-        <translation>Establecer una nueva contraseña de administrador</translation>
+        <translation>E&amp;stablecer una nueva contraseña de administrador</translation>
     </message>
     <message id="DWT_Localize_Password_Box_AdministratorPassword">
         <translation>Contraseña de administrador</translation>
@@ -130,7 +130,7 @@
         <translation>La impresora no responde</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Button_Connect">
-        <translation>Probar conexión</translation>
+        <translation>&amp;Probar conexión</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
         <translation>Conexión cableada</translation>
@@ -148,10 +148,10 @@
         <translation>Dirección IP</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Auto">
-        <translation>Automática (DHCP)</translation>
+        <translation>Automá&amp;tica (DHCP)</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Manual">
-        <translation>Dirección fija</translation>
+        <translation>Dirección &amp;fija</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
         <translation>Dirección IP:</translation>
@@ -205,7 +205,7 @@
         <translation>La impresora no responde</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_Connect">
-        <translation>Probar conexión</translation>
+        <translation>&amp;Probar conexión</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WirelessMode_Label">
         <translation>Estándar Wi-Fi:</translation>
@@ -226,10 +226,10 @@
         <translation>Dirección IP</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_ButtonCell_Auto">
-        <translation>Automática (DHCP)</translation>
+        <translation>Automá&amp;tica (DHCP)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_ButtonCell_Manual">
-        <translation>Dirección fija</translation>
+        <translation>Dirección &amp;fija</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_IPAddress_Label">
         <translation>Dirección IP:</translation>
@@ -295,7 +295,7 @@
         <translation>Clave 4</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
-        <translation>Guía de WPS</translation>
+        <translation>Guía de &amp;WPS</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
         <translation>Nombre de red (SSID):</translation>
@@ -304,7 +304,7 @@
         <translation>Nombre de la red Wi-Fi. De 1 a 32 caracteres: letras, números, espacios, signos de puntuación.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
-        <translation>Elegir…</translation>
+        <translation>Ele&amp;gir…</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_PSK_Label">
         <translation>Clave WPA:</translation>
@@ -451,16 +451,16 @@
         <translation>Espere…</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Send">
-        <translation>Enviar a la impresora…</translation>
+        <translation>E&amp;nviar a la impresora…</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Cancel">
-        <translation>Cerrar</translation>
+        <translation>&amp;Cerrar</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_NewSetting">
-        <translation>Volver a leer</translation>
+        <translation>Volver a &amp;leer</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Help">
-        <translation>Ayuda</translation>
+        <translation>Ay&amp;uda</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_SelectPrinter_Label">
         <translation>Impresora:</translation>
@@ -523,31 +523,31 @@
         <translation>Hay cambios que no se han enviado a la impresora. ¿Enviarlos antes de cerrar?</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
-        <translation>Enviar</translation>
+        <translation>&amp;Enviar</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_NoReflect">
-        <translation>Cerrar sin enviar</translation>
+        <translation>Cerrar &amp;sin enviar</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
-        <translation>Cancelar</translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
         <translation>Hay cambios que no se han enviado a la impresora. Si vuelve a leer los ajustes, se perderán.</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
-        <translation>Descartar y volver a leer</translation>
+        <translation>&amp;Descartar y volver a leer</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
-        <translation>Cancelar</translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
         <translation>¿Enviar ahora los ajustes a la impresora? No la apague ni la desconecte durante el envío.</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
-        <translation>Enviar</translation>
+        <translation>&amp;Enviar</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Cancel">
-        <translation>Cancelar</translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message id="DWT_Localize_Send_Progress_TextField">
         <translation>Enviando los ajustes a la impresora…</translation>
@@ -570,7 +570,7 @@
         <translation>La impresora no ha respondido al inicio de sesión y no se ha enviado nada. Sus cambios se conservan.</translation>
     </message>
     <message id="DWT_Localize_Send_End_Button_OK">
-        <translation>Aceptar</translation>
+        <translation>&amp;Aceptar</translation>
     </message>
     <message id="DWT_Localize_Send_Login_TextField">
         <translation>Esta impresora está protegida. Escriba su contraseña de administrador.</translation>
@@ -579,16 +579,16 @@
         <translation>Contraseña:</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Button_OK">
-        <translation>Iniciar sesión</translation>
+        <translation>&amp;Iniciar sesión</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Button_Cancel">
-        <translation>Cancelar</translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_TextField">
         <translation>La impresora no ha aceptado esta contraseña. Se distinguen mayúsculas y minúsculas.</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_Button_OK">
-        <translation>Reintentar</translation>
+        <translation>&amp;Reintentar</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>No se puede acceder a la impresora y no se ha enviado nada. Compruebe que está encendida y que su cable está conectado, y vuelva a enviar. Sus cambios se conservan.</translation>
@@ -597,7 +597,7 @@
         <translation>Se ha perdido la conexión con la impresora. No se ha aplicado nada y sus cambios se conservan. Compruebe que la impresora está encendida y que su cable está conectado, y vuelva a enviar.</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
-        <translation>Aceptar</translation>
+        <translation>&amp;Aceptar</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
         <translation>Redes Wi-Fi detectadas por la impresora. Una lista vacía significa que no encontró ninguna o que no se pudo acceder a ella.</translation>
@@ -627,10 +627,10 @@
         <translation>Débil</translation>
     </message>
     <message id="DWT_Localize_SSIDList_Button_OK_Key">
-        <translation>Usar esta red</translation>
+        <translation>&amp;Usar esta red</translation>
     </message>
     <message id="DWT_Localize_SSIDList_Button_Cancel_Key">
-        <translation>Cancelar</translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField">
         <translation>Con WPS, la impresora se une a una red Wi-Fi sin que usted tenga que escribir ninguna clave. Prepare ambos dispositivos:</translation>
@@ -651,67 +651,67 @@
         <translation>Un router sin WPS no sirve para esto; escriba en su lugar el nombre y la clave de la red.</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Next_Key">
-        <translation>Siguiente</translation>
+        <translation>Si&amp;guiente</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Back_Key">
-        <translation>Atrás</translation>
+        <translation>A&amp;trás</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Exit_Key">
-        <translation>Cerrar</translation>
+        <translation>&amp;Cerrar</translation>
     </message>
     <message id="DWT_Localize_WPS2_TextField">
         <translation>Inicie WPS en el menú de la impresora y pulse el botón WPS del router en menos de dos minutos. Cuando el indicador Wi-Fi de la impresora permanezca encendido, la impresora estará conectada.</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Next_Key">
-        <translation>Finalizar</translation>
+        <translation>&amp;Finalizar</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Back_Key">
-        <translation>Atrás</translation>
+        <translation>A&amp;trás</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Exit_Key">
-        <translation>Cerrar</translation>
+        <translation>&amp;Cerrar</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_TextField">
         <translation>Esta herramienta muestra y cambia los ajustes de red de una impresora de etiquetas: sus nombres, sus redes cableada y Wi-Fi y su contraseña de administrador. Los pasos siguientes le ayudan a conectar la impresora.</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_OK_Key">
-        <translation>Continuar</translation>
+        <translation>&amp;Continuar</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_Exit_Key">
-        <translation>Salir</translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_TextField">
         <translation>¿Cómo quiere conectar la impresora?</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_USB_Key">
-        <translation>Por USB, para introducir sus ajustes aquí</translation>
+        <translation>Por &amp;USB, para introducir sus ajustes aquí</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
-        <translation>Por Wi-Fi, con WPS</translation>
+        <translation>Por &amp;Wi-Fi, con WPS</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
-        <translation>Siguiente</translation>
+        <translation>Si&amp;guiente</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Exit_Key">
-        <translation>Salir</translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message id="DWT_Localize_USBConnect_TextField">
         <translation>Conecte la impresora a este equipo con un cable USB y enciéndala. Elija después «Siguiente» para encontrarla.</translation>
     </message>
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
-        <translation>Siguiente</translation>
+        <translation>Si&amp;guiente</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>Elija la impresora cuyos ajustes quiere ver. Solo se pueden cambiar los ajustes de una impresora conectada por USB.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_OK_Key">
-        <translation>Abrir</translation>
+        <translation>A&amp;brir</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Reload_Key">
-        <translation>Buscar de nuevo</translation>
+        <translation>Buscar de &amp;nuevo</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
-        <translation>Cerrar</translation>
+        <translation>&amp;Cerrar</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>Impresora</translation>

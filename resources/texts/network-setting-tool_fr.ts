@@ -4,7 +4,7 @@
 <context>
     <name></name>
     <message id="DWT_Localize_Alert_Button_OK">
-        <translation>OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
         <translation>– utilisation impossible</translation>
@@ -58,13 +58,13 @@
         <translation>Mode de communication :</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_Infrastructure_Label">
-        <translation>Infrastructure : rejoindre un réseau Wi-Fi existant</translation>
+        <translation>I&amp;nfrastructure : rejoindre un réseau Wi-Fi existant</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
-        <translation>Point d’accès : les ordinateurs rejoignent le réseau de l’imprimante</translation>
+        <translation>&amp;Point d’accès : les ordinateurs rejoignent le réseau de l’imprimante</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
-        <translation>Désactivé : pas de Wi-Fi</translation>
+        <translation>Dé&amp;sactivé : pas de Wi-Fi</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label">
         <translation>Adresse MAC (infrastructure) :</translation>
@@ -85,7 +85,7 @@
         <translation>secondes (de 30 à 300)</translation>
     </message>
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
-        <translation>Définir un nouveau mot de passe administrateur</translation>
+        <translation>Définir un nouveau mot de &amp;passe administrateur</translation>
     </message>
     <message id="DWT_Localize_Password_Box_AdministratorPassword">
         <translation>Mot de passe administrateur</translation>
@@ -130,7 +130,7 @@
         <translation>L’imprimante ne répond pas</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Button_Connect">
-        <translation>Tester la connexion</translation>
+        <translation>&amp;Tester la connexion</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
         <translation>Connexion filaire</translation>
@@ -148,10 +148,10 @@
         <translation>Adresse IP</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Auto">
-        <translation>Automatique (DHCP)</translation>
+        <translation>A&amp;utomatique (DHCP)</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Manual">
-        <translation>Adresse fixe</translation>
+        <translation>Adresse fi&amp;xe</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
         <translation>Adresse IP :</translation>
@@ -205,7 +205,7 @@
         <translation>L’imprimante ne répond pas</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_Connect">
-        <translation>Tester la connexion</translation>
+        <translation>&amp;Tester la connexion</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WirelessMode_Label">
         <translation>Norme Wi-Fi :</translation>
@@ -226,10 +226,10 @@
         <translation>Adresse IP</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_ButtonCell_Auto">
-        <translation>Automatique (DHCP)</translation>
+        <translation>A&amp;utomatique (DHCP)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_ButtonCell_Manual">
-        <translation>Adresse fixe</translation>
+        <translation>Adresse fi&amp;xe</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_IPAddress_Label">
         <translation>Adresse IP :</translation>
@@ -295,7 +295,7 @@
         <translation>Clé 4</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
-        <translation>Guide WPS</translation>
+        <translation>&amp;Guide WPS</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
         <translation>Nom du réseau (SSID) :</translation>
@@ -304,7 +304,7 @@
         <translation>Nom du réseau Wi-Fi. De 1 à 32 caractères : lettres, chiffres, espaces, signes de ponctuation.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
-        <translation>Choisir…</translation>
+        <translation>&amp;Choisir…</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_PSK_Label">
         <translation>Clé WPA :</translation>
@@ -451,16 +451,16 @@
         <translation>Veuillez patienter…</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Send">
-        <translation>Envoyer à l’imprimante…</translation>
+        <translation>&amp;Envoyer à l’imprimante…</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Cancel">
-        <translation>Fermer</translation>
+        <translation>Fer&amp;mer</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_NewSetting">
-        <translation>Relire les paramètres</translation>
+        <translation>&amp;Relire les paramètres</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Help">
-        <translation>Aide</translation>
+        <translation>Ai&amp;de</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_SelectPrinter_Label">
         <translation>Imprimante :</translation>
@@ -523,31 +523,31 @@
         <translation>Certaines modifications n’ont pas été envoyées à l’imprimante. Les envoyer avant de fermer ?</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
-        <translation>Envoyer</translation>
+        <translation>&amp;Envoyer</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_NoReflect">
-        <translation>Fermer sans envoyer</translation>
+        <translation>Fermer &amp;sans envoyer</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
-        <translation>Annuler</translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
         <translation>Certaines modifications n’ont pas été envoyées à l’imprimante. Elles seront perdues si vous relisez les paramètres.</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
-        <translation>Abandonner et relire</translation>
+        <translation>A&amp;bandonner et relire</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
-        <translation>Annuler</translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
         <translation>Envoyer maintenant les paramètres à l’imprimante ? Ne l’éteignez pas et ne la débranchez pas pendant l’envoi.</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
-        <translation>Envoyer</translation>
+        <translation>&amp;Envoyer</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Cancel">
-        <translation>Annuler</translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message id="DWT_Localize_Send_Progress_TextField">
         <translation>Envoi des paramètres à l’imprimante…</translation>
@@ -570,7 +570,7 @@
         <translation>L’imprimante n’a pas répondu lors de l’identification, et rien n’a été envoyé. Vos modifications sont conservées.</translation>
     </message>
     <message id="DWT_Localize_Send_End_Button_OK">
-        <translation>OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_Send_Login_TextField">
         <translation>Cette imprimante est protégée. Saisissez son mot de passe administrateur.</translation>
@@ -579,16 +579,16 @@
         <translation>Mot de passe :</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Button_OK">
-        <translation>S’identifier</translation>
+        <translation>S’&amp;identifier</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Button_Cancel">
-        <translation>Annuler</translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_TextField">
         <translation>L’imprimante n’a pas accepté ce mot de passe. Respectez les majuscules et les minuscules.</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_Button_OK">
-        <translation>Réessayer</translation>
+        <translation>&amp;Réessayer</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>L’imprimante est injoignable, et rien n’a été envoyé. Vérifiez qu’elle est allumée et que son câble est branché, puis recommencez l’envoi. Vos modifications sont conservées.</translation>
@@ -597,7 +597,7 @@
         <translation>La connexion à l’imprimante a été perdue. Rien n’a été appliqué, et vos modifications sont conservées. Vérifiez que l’imprimante est allumée et que son câble est branché, puis recommencez l’envoi.</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
-        <translation>OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
         <translation>Réseaux Wi-Fi détectés par l’imprimante. Une liste vide signifie qu’elle n’en a trouvé aucun ou qu’elle était injoignable.</translation>
@@ -627,10 +627,10 @@
         <translation>Faible</translation>
     </message>
     <message id="DWT_Localize_SSIDList_Button_OK_Key">
-        <translation>Utiliser ce réseau</translation>
+        <translation>&amp;Utiliser ce réseau</translation>
     </message>
     <message id="DWT_Localize_SSIDList_Button_Cancel_Key">
-        <translation>Annuler</translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField">
         <translation>Avec WPS, l’imprimante rejoint un réseau Wi-Fi sans que vous saisissiez de clé. Préparez les deux appareils :</translation>
@@ -651,67 +651,67 @@
         <translation>Un routeur sans WPS ne convient pas ; saisissez alors le nom et la clé du réseau.</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Next_Key">
-        <translation>Suivant</translation>
+        <translation>&amp;Suivant</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Back_Key">
-        <translation>Retour</translation>
+        <translation>&amp;Retour</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Exit_Key">
-        <translation>Fermer</translation>
+        <translation>Fer&amp;mer</translation>
     </message>
     <message id="DWT_Localize_WPS2_TextField">
         <translation>Lancez WPS dans le menu de l’imprimante, puis appuyez sur le bouton WPS du routeur dans les deux minutes. Lorsque le voyant Wi-Fi de l’imprimante reste allumé, elle est connectée.</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Next_Key">
-        <translation>Terminer</translation>
+        <translation>&amp;Terminer</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Back_Key">
-        <translation>Retour</translation>
+        <translation>&amp;Retour</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Exit_Key">
-        <translation>Fermer</translation>
+        <translation>Fer&amp;mer</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_TextField">
         <translation>Cet outil affiche et modifie les paramètres réseau d’une imprimante d’étiquettes : ses noms, son réseau filaire et Wi-Fi et son mot de passe administrateur. Les étapes suivantes vous aident à connecter l’imprimante.</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_OK_Key">
-        <translation>Continuer</translation>
+        <translation>&amp;Continuer</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_Exit_Key">
-        <translation>Quitter</translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_TextField">
         <translation>Comment voulez-vous connecter l’imprimante ?</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_USB_Key">
-        <translation>Par USB, pour saisir ses paramètres ici</translation>
+        <translation>Par &amp;USB, pour saisir ses paramètres ici</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
-        <translation>Par Wi-Fi, avec WPS</translation>
+        <translation>Par &amp;Wi-Fi, avec WPS</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
-        <translation>Suivant</translation>
+        <translation>&amp;Suivant</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Exit_Key">
-        <translation>Quitter</translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message id="DWT_Localize_USBConnect_TextField">
         <translation>Reliez l’imprimante à cet ordinateur par un câble USB et allumez-la. Choisissez ensuite « Suivant » pour la trouver.</translation>
     </message>
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
-        <translation>Suivant</translation>
+        <translation>&amp;Suivant</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>Choisissez l’imprimante dont vous voulez voir les paramètres. Seuls les paramètres d’une imprimante connectée par USB peuvent être modifiés.</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_OK_Key">
-        <translation>Ouvrir</translation>
+        <translation>&amp;Ouvrir</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Reload_Key">
-        <translation>Rechercher à nouveau</translation>
+        <translation>&amp;Rechercher à nouveau</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
-        <translation>Fermer</translation>
+        <translation>Fer&amp;mer</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>Imprimante</translation>

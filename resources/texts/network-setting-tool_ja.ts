@@ -4,7 +4,7 @@
 <context>
     <name></name>
     <message id="DWT_Localize_Alert_Button_OK">
-        <translation>OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
         <translation>– 使用できません</translation>
@@ -58,13 +58,13 @@
         <translation>通信モード:</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_Infrastructure_Label">
-        <translation>インフラストラクチャ: 既存の無線 LAN に参加する</translation>
+        <translation>インフラストラクチャ: 既存の無線 LAN に参加する(&amp;I)</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
-        <translation>アクセスポイント: コンピューターがプリンターのネットワークに参加する</translation>
+        <translation>アクセスポイント: コンピューターがプリンターのネットワークに参加する(&amp;P)</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
-        <translation>オフ: 無線 LAN を使用しない</translation>
+        <translation>オフ: 無線 LAN を使用しない(&amp;O)</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label">
         <translation>MAC アドレス (インフラストラクチャ):</translation>
@@ -85,7 +85,7 @@
         <translation>秒 (30～300)</translation>
     </message>
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
-        <translation>新しい管理者パスワードを設定する</translation>
+        <translation>新しい管理者パスワードを設定する(&amp;N)</translation>
     </message>
     <message id="DWT_Localize_Password_Box_AdministratorPassword">
         <translation>管理者パスワード</translation>
@@ -130,7 +130,7 @@
         <translation>プリンターが応答しません</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Button_Connect">
-        <translation>接続テスト</translation>
+        <translation>接続テスト(&amp;T)</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
         <translation>有線接続</translation>
@@ -148,10 +148,10 @@
         <translation>IP アドレス</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Auto">
-        <translation>自動 (DHCP)</translation>
+        <translation>自動 (DHCP)(&amp;U)</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Manual">
-        <translation>固定アドレス</translation>
+        <translation>固定アドレス(&amp;F)</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
         <translation>IP アドレス:</translation>
@@ -205,7 +205,7 @@
         <translation>プリンターが応答しません</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_Connect">
-        <translation>接続テスト</translation>
+        <translation>接続テスト(&amp;T)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WirelessMode_Label">
         <translation>無線 LAN 規格:</translation>
@@ -226,10 +226,10 @@
         <translation>IP アドレス</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_ButtonCell_Auto">
-        <translation>自動 (DHCP)</translation>
+        <translation>自動 (DHCP)(&amp;U)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_ButtonCell_Manual">
-        <translation>固定アドレス</translation>
+        <translation>固定アドレス(&amp;F)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_IPAddress_Label">
         <translation>IP アドレス:</translation>
@@ -295,7 +295,7 @@
         <translation>キー 4</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
-        <translation>WPS ガイド</translation>
+        <translation>WPS ガイド(&amp;G)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
         <translation>ネットワーク名 (SSID):</translation>
@@ -304,7 +304,7 @@
         <translation>無線 LAN の名前です。半角の英字、数字、スペース、記号で 1～32 文字。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
-        <translation>選択…</translation>
+        <translation>選択(&amp;O)…</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_PSK_Label">
         <translation>WPA キー:</translation>
@@ -451,16 +451,16 @@
         <translation>お待ちください…</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Send">
-        <translation>プリンターに送信…</translation>
+        <translation>プリンターに送信(&amp;S)…</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Cancel">
-        <translation>閉じる</translation>
+        <translation>閉じる(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_NewSetting">
-        <translation>再読み込み</translation>
+        <translation>再読み込み(&amp;R)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Help">
-        <translation>ヘルプ</translation>
+        <translation>ヘルプ(&amp;L)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_SelectPrinter_Label">
         <translation>プリンター:</translation>
@@ -523,31 +523,31 @@
         <translation>プリンターに送信していない変更があります。閉じる前に送信しますか?</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
-        <translation>送信</translation>
+        <translation>送信(&amp;S)</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_NoReflect">
-        <translation>送信せずに閉じる</translation>
+        <translation>送信せずに閉じる(&amp;W)</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
-        <translation>キャンセル</translation>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
         <translation>プリンターに送信していない変更があります。再読み込みすると、変更は破棄されます。</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
-        <translation>破棄して再読み込み</translation>
+        <translation>破棄して再読み込み(&amp;D)</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
-        <translation>キャンセル</translation>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
         <translation>設定をプリンターに送信しますか? 送信中はプリンターの電源を切ったり、ケーブルを抜いたりしないでください。</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
-        <translation>送信</translation>
+        <translation>送信(&amp;S)</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Cancel">
-        <translation>キャンセル</translation>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_Send_Progress_TextField">
         <translation>設定をプリンターに送信しています…</translation>
@@ -570,7 +570,7 @@
         <translation>ログインに対するプリンターの応答がなかったため、何も送信されていません。変更内容は保持されています。</translation>
     </message>
     <message id="DWT_Localize_Send_End_Button_OK">
-        <translation>OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_Send_Login_TextField">
         <translation>このプリンターは保護されています。管理者パスワードを入力してください。</translation>
@@ -579,16 +579,16 @@
         <translation>パスワード:</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Button_OK">
-        <translation>ログイン</translation>
+        <translation>ログイン(&amp;L)</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Button_Cancel">
-        <translation>キャンセル</translation>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_TextField">
         <translation>パスワードが正しくありません。大文字と小文字は区別されます。</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_Button_OK">
-        <translation>再試行</translation>
+        <translation>再試行(&amp;R)</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>プリンターに接続できないため、何も送信されていません。電源が入っていること、ケーブルが接続されていることを確認して、もう一度送信してください。変更内容は保持されています。</translation>
@@ -597,7 +597,7 @@
         <translation>プリンターとの接続が切れました。設定は何も適用されておらず、変更内容は保持されています。電源が入っていること、ケーブルが接続されていることを確認して、もう一度送信してください。</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
-        <translation>OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
         <translation>プリンターが検出した無線 LAN ネットワークです。一覧が空の場合は、見つからなかったか、プリンターに接続できませんでした。</translation>
@@ -627,10 +627,10 @@
         <translation>弱</translation>
     </message>
     <message id="DWT_Localize_SSIDList_Button_OK_Key">
-        <translation>このネットワークを使用</translation>
+        <translation>このネットワークを使用(&amp;U)</translation>
     </message>
     <message id="DWT_Localize_SSIDList_Button_Cancel_Key">
-        <translation>キャンセル</translation>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField">
         <translation>WPS を使うと、キーを入力せずにプリンターを無線 LAN に参加させることができます。両方の機器を準備してください。</translation>
@@ -651,67 +651,67 @@
         <translation>WPS のないルーターではこの方法を使用できません。代わりにネットワーク名とキーを入力してください。</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Next_Key">
-        <translation>次へ</translation>
+        <translation>次へ(&amp;N)</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Back_Key">
-        <translation>戻る</translation>
+        <translation>戻る(&amp;B)</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Exit_Key">
-        <translation>閉じる</translation>
+        <translation>閉じる(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_WPS2_TextField">
         <translation>プリンターのメニューで WPS を開始し、2 分以内にルーターの WPS ボタンを押します。プリンターの無線 LAN ランプが点灯したままになると、接続は完了です。</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Next_Key">
-        <translation>完了</translation>
+        <translation>完了(&amp;F)</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Back_Key">
-        <translation>戻る</translation>
+        <translation>戻る(&amp;B)</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Exit_Key">
-        <translation>閉じる</translation>
+        <translation>閉じる(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_TextField">
         <translation>このツールは、ラベルプリンターのネットワーク設定 (名前、有線ネットワーク、無線 LAN、管理者パスワード) を表示・変更します。次の手順でプリンターを接続します。</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_OK_Key">
-        <translation>続行</translation>
+        <translation>続行(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_Exit_Key">
-        <translation>終了</translation>
+        <translation>終了(&amp;Q)</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_TextField">
         <translation>プリンターをどのように接続しますか?</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_USB_Key">
-        <translation>USB で接続し、このツールで設定を入力する</translation>
+        <translation>USB で接続し、このツールで設定を入力する(&amp;U)</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
-        <translation>WPS で無線 LAN に接続する</translation>
+        <translation>WPS で無線 LAN に接続する(&amp;P)</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
-        <translation>次へ</translation>
+        <translation>次へ(&amp;N)</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Exit_Key">
-        <translation>終了</translation>
+        <translation>終了(&amp;Q)</translation>
     </message>
     <message id="DWT_Localize_USBConnect_TextField">
         <translation>プリンターを USB ケーブルでこのコンピューターに接続し、電源を入れてください。［次へ］をクリックするとプリンターを検索します。</translation>
     </message>
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
-        <translation>次へ</translation>
+        <translation>次へ(&amp;N)</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>設定を表示するプリンターを選択してください。設定を変更できるのは、USB で接続されたプリンターだけです。</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_OK_Key">
-        <translation>開く</translation>
+        <translation>開く(&amp;O)</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Reload_Key">
-        <translation>再検索</translation>
+        <translation>再検索(&amp;L)</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
-        <translation>閉じる</translation>
+        <translation>閉じる(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>プリンター</translation>

@@ -4,7 +4,7 @@
 <context>
     <name></name>
     <message id="DWT_Localize_Alert_Button_OK">
-        <translation>确定</translation>
+        <translation>确定(&amp;O)</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
         <translation>– 无法使用</translation>
@@ -58,13 +58,13 @@
         <translation>通信模式：</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_Infrastructure_Label">
-        <translation>基础结构：加入现有的无线网络</translation>
+        <translation>基础结构：加入现有的无线网络(&amp;I)</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
-        <translation>接入点：计算机加入打印机自己的网络</translation>
+        <translation>接入点：计算机加入打印机自己的网络(&amp;P)</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
-        <translation>关闭：不使用无线网络</translation>
+        <translation>关闭：不使用无线网络(&amp;O)</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label">
         <translation>MAC 地址（基础结构）：</translation>
@@ -85,7 +85,7 @@
         <translation>秒（30 到 300）</translation>
     </message>
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
-        <translation>设置新的管理员密码</translation>
+        <translation>设置新的管理员密码(&amp;N)</translation>
     </message>
     <message id="DWT_Localize_Password_Box_AdministratorPassword">
         <translation>管理员密码</translation>
@@ -130,7 +130,7 @@
         <translation>打印机无响应</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Button_Connect">
-        <translation>测试连接</translation>
+        <translation>测试连接(&amp;T)</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
         <translation>有线连接</translation>
@@ -148,10 +148,10 @@
         <translation>IP 地址</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Auto">
-        <translation>自动 (DHCP)</translation>
+        <translation>自动 (DHCP)(&amp;U)</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Manual">
-        <translation>固定地址</translation>
+        <translation>固定地址(&amp;F)</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
         <translation>IP 地址：</translation>
@@ -205,7 +205,7 @@
         <translation>打印机无响应</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_Connect">
-        <translation>测试连接</translation>
+        <translation>测试连接(&amp;T)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WirelessMode_Label">
         <translation>无线标准：</translation>
@@ -226,10 +226,10 @@
         <translation>IP 地址</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_ButtonCell_Auto">
-        <translation>自动 (DHCP)</translation>
+        <translation>自动 (DHCP)(&amp;U)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_ButtonCell_Manual">
-        <translation>固定地址</translation>
+        <translation>固定地址(&amp;F)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_IPAddress_Label">
         <translation>IP 地址：</translation>
@@ -295,7 +295,7 @@
         <translation>密钥 4</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_WPSFunction">
-        <translation>WPS 指南</translation>
+        <translation>WPS 指南(&amp;G)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SSID_Label">
         <translation>网络名称 (SSID)：</translation>
@@ -304,7 +304,7 @@
         <translation>无线网络的名称。1 到 32 个字符：字母、数字、空格、标点符号。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
-        <translation>选择…</translation>
+        <translation>选择(&amp;O)…</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_PSK_Label">
         <translation>WPA 密钥：</translation>
@@ -451,16 +451,16 @@
         <translation>请稍候…</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Send">
-        <translation>发送到打印机…</translation>
+        <translation>发送到打印机(&amp;S)…</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Cancel">
-        <translation>关闭</translation>
+        <translation>关闭(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_NewSetting">
-        <translation>重新读取</translation>
+        <translation>重新读取(&amp;R)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Button_Help">
-        <translation>帮助</translation>
+        <translation>帮助(&amp;L)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_SelectPrinter_Label">
         <translation>打印机：</translation>
@@ -523,31 +523,31 @@
         <translation>有更改尚未发送到打印机。关闭前是否发送？</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
-        <translation>发送</translation>
+        <translation>发送(&amp;S)</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_NoReflect">
-        <translation>关闭且不发送</translation>
+        <translation>关闭且不发送(&amp;W)</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
-        <translation>取消</translation>
+        <translation>取消(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
         <translation>有更改尚未发送到打印机。重新读取设置会放弃这些更改。</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
-        <translation>放弃更改并重新读取</translation>
+        <translation>放弃更改并重新读取(&amp;D)</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
-        <translation>取消</translation>
+        <translation>取消(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
         <translation>要现在将设置发送到打印机吗？发送期间请勿关闭打印机或拔下电缆。</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
-        <translation>发送</translation>
+        <translation>发送(&amp;S)</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Cancel">
-        <translation>取消</translation>
+        <translation>取消(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_Send_Progress_TextField">
         <translation>正在将设置发送到打印机…</translation>
@@ -570,7 +570,7 @@
         <translation>打印机未响应登录，未发送任何内容。您的更改已保留。</translation>
     </message>
     <message id="DWT_Localize_Send_End_Button_OK">
-        <translation>确定</translation>
+        <translation>确定(&amp;O)</translation>
     </message>
     <message id="DWT_Localize_Send_Login_TextField">
         <translation>此打印机受保护。请输入其管理员密码。</translation>
@@ -579,16 +579,16 @@
         <translation>密码：</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Button_OK">
-        <translation>登录</translation>
+        <translation>登录(&amp;L)</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Button_Cancel">
-        <translation>取消</translation>
+        <translation>取消(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_TextField">
         <translation>打印机不接受此密码。密码区分大小写。</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_Button_OK">
-        <translation>重试</translation>
+        <translation>重试(&amp;R)</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>无法连接打印机，未发送任何内容。请检查打印机是否已开机、电缆是否已插好，然后重新发送。您的更改已保留。</translation>
@@ -597,7 +597,7 @@
         <translation>与打印机的连接已断开。未应用任何设置，您的更改已保留。请检查打印机是否已开机、电缆是否已插好，然后重新发送。</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
-        <translation>确定</translation>
+        <translation>确定(&amp;O)</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
         <translation>打印机搜索到的无线网络。列表为空表示未找到网络，或无法连接打印机。</translation>
@@ -627,10 +627,10 @@
         <translation>弱</translation>
     </message>
     <message id="DWT_Localize_SSIDList_Button_OK_Key">
-        <translation>使用此网络</translation>
+        <translation>使用此网络(&amp;U)</translation>
     </message>
     <message id="DWT_Localize_SSIDList_Button_Cancel_Key">
-        <translation>取消</translation>
+        <translation>取消(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_WPS1_TextField">
         <translation>使用 WPS，打印机无需输入密钥即可加入无线网络。请准备好两台设备：</translation>
@@ -651,67 +651,67 @@
         <translation>没有 WPS 的路由器不能使用此方法；请改为输入网络名称和密钥。</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Next_Key">
-        <translation>下一步</translation>
+        <translation>下一步(&amp;N)</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Back_Key">
-        <translation>上一步</translation>
+        <translation>上一步(&amp;B)</translation>
     </message>
     <message id="DWT_Localize_WPS1_Button_Exit_Key">
-        <translation>关闭</translation>
+        <translation>关闭(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_WPS2_TextField">
         <translation>在打印机的菜单中启动 WPS，然后在两分钟内按下路由器的 WPS 按钮。打印机的无线指示灯常亮时，表示已连接。</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Next_Key">
-        <translation>完成</translation>
+        <translation>完成(&amp;F)</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Back_Key">
-        <translation>上一步</translation>
+        <translation>上一步(&amp;B)</translation>
     </message>
     <message id="DWT_Localize_WPS2_Button_Exit_Key">
-        <translation>关闭</translation>
+        <translation>关闭(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_TextField">
         <translation>此工具用于查看和更改标签打印机的网络设置：名称、有线和无线网络以及管理员密码。接下来的步骤将帮助您连接打印机。</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_OK_Key">
-        <translation>继续</translation>
+        <translation>继续(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_ToolPerform_Button_Exit_Key">
-        <translation>退出</translation>
+        <translation>退出(&amp;Q)</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_TextField">
         <translation>您想如何连接打印机？</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_USB_Key">
-        <translation>通过 USB，在此工具中输入设置</translation>
+        <translation>通过 USB，在此工具中输入设置(&amp;U)</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
-        <translation>通过 WPS 连接到无线网络</translation>
+        <translation>通过 WPS 连接到无线网络(&amp;P)</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
-        <translation>下一步</translation>
+        <translation>下一步(&amp;N)</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Exit_Key">
-        <translation>退出</translation>
+        <translation>退出(&amp;Q)</translation>
     </message>
     <message id="DWT_Localize_USBConnect_TextField">
         <translation>请用 USB 电缆将打印机连接到此计算机，并打开打印机电源，然后选择“下一步”搜索打印机。</translation>
     </message>
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
-        <translation>下一步</translation>
+        <translation>下一步(&amp;N)</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>请选择要查看其设置的打印机。只有通过 USB 连接的打印机才能更改设置。</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_OK_Key">
-        <translation>打开</translation>
+        <translation>打开(&amp;O)</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Reload_Key">
-        <translation>重新搜索</translation>
+        <translation>重新搜索(&amp;L)</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
-        <translation>关闭</translation>
+        <translation>关闭(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>打印机</translation>

@@ -17,8 +17,7 @@ QString text(const char *key) {
 
 // A label without what marks it as one: the mnemonic and the colon at its end.
 QString nameIn(const QString &label) {
-    QString name = label;
-    name.remove(u'&');
+    QString name = withoutMnemonic(label);
     while (!name.isEmpty() &&
            (name.back().isSpace() || name.back() == u':' || name.back() == u'：'))
         name.chop(1);

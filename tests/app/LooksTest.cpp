@@ -30,6 +30,21 @@ bool isCut(const QWidget *widget) {
     return area && !header && area->horizontalScrollBar()->maximum() > 0;
 }
 
+// The letters that Alt works with; a text without one gives an empty one.
+void expectDifferent(const QStringList &texts) {
+    QStringList letters;
+    for (const QString &shown : texts) letters << shown.section(u'&', 1).left(1).toLower();
+    EXPECT_FALSE(letters.contains(QString())) << qPrintable(texts.join(u'|'));
+    EXPECT_EQ(letters.removeDuplicates(), 0) << qPrintable(texts.join(u'|'));
+}
+
+QStringList textsOf(const QWidget *menu) {
+    QStringList texts;
+    for (const QAction *entry : menu->actions())
+        if (!entry->isSeparator()) texts << entry->text();
+    return texts;
+}
+
 // What a person cannot read whole, or a screen reader cannot name, in a language.
 class Looks : public testing::TestWithParam<QString> {
   protected:
@@ -46,14 +61,20 @@ class Looks : public testing::TestWithParam<QString> {
 
     void look(QWidget *window) {
         QApplication::processEvents();
+        QStringList mnemonics;
         for (const QWidget *widget : window->findChildren<QWidget *>()) {
             if (!widget->isVisible() || widget->window() != window) continue;
             ++read;
+            if (const auto *button = qobject_cast<const QAbstractButton *>(widget);
+                button && !button->text().isEmpty())
+                mnemonics << button->text();
+            if (qobject_cast<const QMenuBar *>(widget)) mnemonics << textsOf(widget);
             // A layout may need another turn of the event loop.
             EXPECT_TRUE(QTest::qWaitFor([&] { return !isCut(widget); }, 2000))
                 << qPrintable(widget->objectName()) << " " << widget->metaObject()->className()
                 << " " << widget->width() << " of " << widget->minimumSizeHint().width();
         }
+        expectDifferent(mnemonics);
         expectNames(QAccessible::queryAccessibleInterface(window));
     }
     // Looks at a window once for each view in the container.
@@ -76,6 +97,7 @@ class Looks : public testing::TestWithParam<QString> {
         const auto role = object->role();
         const QString name = object->text(QAccessible::Name);
         EXPECT_FALSE(name.startsWith(text("DWT_"))) << qPrintable(name) << " is a key";
+        EXPECT_FALSE(name.contains(u'&')) << qPrintable(name);
         if (!object->state().invisible && interactive.contains(role)) {
             ++named;
             EXPECT_FALSE(name.isEmpty())
@@ -113,21 +135,23 @@ TEST_P(Looks, NoTextIsCutAndEveryControlHasANameForAScreenReader) {
             look(dialog);
         dialog->hide();
     }
+    for (const RadioGroup *group : walk->main()->findChildren<RadioGroup *>())
+        EXPECT_FALSE(group->titleOf(1).contains(QRegularExpression(text("&|\\(.\\)|^$"))))
+            << qPrintable(group->titleOf(1));
+    walk->type("textField_NetworkBonjour", text("no spaces"));
+    walk->dialogs().on("", [this](QWidget *alert) {
+        look(alert);
+        QTest::keyClick(alert, Qt::Key_Return);
+    });
+    walk->press("button_MainSend");
     EXPECT_GT(read, 250);
     EXPECT_GT(named, 100);
 }
 
 TEST_P(Looks, MnemonicsOfAMenuDiffer) {
     const auto *bar = walk->selector->window()->findChild<QMenuBar *>();
-    QList<const QWidget *> menus{bar};
-    for (const QMenu *menu : bar->findChildren<QMenu *>()) menus << menu;
-    for (const QWidget *menu : menus) {
-        QStringList letters;
-        for (const QAction *entry : menu->actions())
-            if (!entry->isSeparator()) letters << entry->text().section(u'&', 1).left(1).toLower();
-        EXPECT_FALSE(letters.contains(QString()));
-        EXPECT_EQ(letters.removeDuplicates(), 0) << qPrintable(letters.join(u' '));
-    }
+    EXPECT_GE(bar->findChildren<QMenu *>().size(), 4);
+    for (const QMenu *menu : bar->findChildren<QMenu *>()) expectDifferent(textsOf(menu));
 }
 
 // The codes of the build's list of languages, "CODE=NAME,...".

@@ -165,8 +165,10 @@ TEST_F(Selector, ReopeningBringsBackTheWindowInUse) {
     EXPECT_TRUE(walk.main()->isVisible() && !isListed());
     application()->reopen();
     EXPECT_FALSE(isListed()) << "a second window over an open printer";
-    walk.press("button_MainCancel");
-    EXPECT_FALSE(walk.main()->isVisible() || isListed());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(walk.main()));
+    QTest::keyClick(walk.main(), Qt::Key_C, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !walk.main()->isVisible(); })) << "Alt+C";
+    EXPECT_FALSE(isListed());
     application()->reopen();
     EXPECT_TRUE(isListed());
     EXPECT_TRUE(walk.open(text("Dispatch")));

@@ -143,7 +143,7 @@ TEST_F(Sending, WhatWillChangeIsListedAndWarnedOfBeforeItIsSent) {
                   text("Names\n    Bonjour name: desk → desk-2\nWired network\n"
                        "    Subnet mask: 255.0.0.0 → 255.0.255.0\nInfrastructure\n"
                        "    Network name (SSID): Old → New\n"
-                       "    Authentication: Open system → WPA2 personal\n"
+                       "    Authentication: Open system → WPA2-Personal\n"
                        "    Encryption: None → AES"));
         EXPECT_TRUE(list->isVisible() && dialog->focusWidget() == list);
         EXPECT_EQ(list->accessibleName(), text("What will change"));

@@ -60,7 +60,7 @@ class PageInWindow {
             auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             if (!box) return;
             alerts << box->text();
-            EXPECT_EQ(box->buttons().value(0)->text(), text("OK"));
+            EXPECT_EQ(withoutMnemonic(box->buttons().value(0)->text()), text("OK"));
             EXPECT_EQ(box->textFormat(), Qt::PlainText);
             explanation = box->informativeText();
             style = box->icon();

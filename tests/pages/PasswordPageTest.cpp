@@ -36,7 +36,7 @@ TEST_F(PasswordPage, TheBoxOpensTheFieldsAndClosingItForgetsThem) {
     EXPECT_FALSE(page->itemCheckDifferentToDataManager());
     EXPECT_EQ(changeList(), text("New password:  > new")) << "a password is shown";
     EXPECT_TRUE(password()->problem().isEmpty());
-    EXPECT_EQ(repeated()->problem(), text("The two passwords differ. Type the same password in "
+    EXPECT_EQ(repeated()->problem(), text("The passwords do not match. Type the same password in "
                                           "both fields."));
     typeBoth("", "");
     EXPECT_EQ(changeList(), text("New password:  > removed"));

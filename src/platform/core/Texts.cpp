@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QTranslator>
 
 namespace {
@@ -22,6 +23,11 @@ bool isDirection(QChar c) {
 
 QString localized(const QString &key) {
     return qtTrId(key.toUtf8().constData());
+}
+
+QString withoutMnemonic(QString text) {
+    static const QRegularExpression mark(QStringLiteral("\\(&.\\)|&"));
+    return text.remove(mark);
 }
 
 QString shownText(const QString &text) {

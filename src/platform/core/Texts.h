@@ -6,6 +6,10 @@
 // a key without a text shows itself.
 QString localized(const QString &key);
 
+// The text of a button or a menu entry as other places show it: without the mark of its mnemonic,
+// "&Send" and "送信(&S)" become "Send" and "送信".
+QString withoutMnemonic(QString text);
+
 // A text from outside (a printer, a file, the network) as it is shown: on one line, without control
 // characters and without those that change the direction of what follows.
 QString shownText(const QString &text);

@@ -3,6 +3,8 @@
 #include <QEvent>
 #include <QRadioButton>
 
+#include "platform/core/Texts.h"
+
 RadioGroup::RadioGroup(QWidget *parent) : QWidget(parent) {}
 
 int RadioGroup::selectedTag() const {
@@ -25,7 +27,7 @@ bool RadioGroup::selectTag(int tag) {
 
 QString RadioGroup::titleOf(int tag) const {
     for (const QRadioButton *cell : cells())
-        if (cell->property("tag") == QVariant(tag)) return cell->text();
+        if (cell->property("tag") == QVariant(tag)) return withoutMnemonic(cell->text());
     return {};
 }
 

@@ -17,7 +17,7 @@ class RadioGroup : public QWidget {
     // Selects the cell with the tag; an unknown tag selects none and gives false.
     bool selectTag(int tag);
 
-    // The title of the cell with the tag; empty for an unknown tag.
+    // The title of the cell with the tag, without its mnemonic; empty for an unknown tag.
     QString titleOf(int tag) const;
 
   Q_SIGNALS:
