@@ -842,6 +842,35 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Key_Show">
         <translation>Schlüssel anzeigen</translation>
+    <message id="DWT_Localize_PrinterList_Empty_USB">
+        <translation>Es wurde kein Drucker gefunden. Prüfen Sie, ob der Drucker eingeschaltet und über ein USB-Kabel mit diesem Computer verbunden ist. Wählen Sie dann „Erneut suchen“.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_NoNetwork">
+        <translation>Über USB wurde kein Drucker gefunden, und im Netzwerk kann nicht gesucht werden. Prüfen Sie, ob der Drucker eingeschaltet und über ein USB-Kabel mit diesem Computer verbunden ist. Wählen Sie dann „Erneut suchen“.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_Catalogue">
+        <translation>Der Katalog enthält keine Drucker. Tragen Sie Drucker in die Datei ein, die ZMLIB_PRINTERS nennt, und starten Sie das Programm danach neu.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_Problems">
+        <translation>Zurzeit ist kein Drucker verwendbar. Die Meldungen unten nennen den Grund.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_NoMatch">
+        <translation>Kein Drucker passt zum Filter.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Filter">
+        <translation>Nach Name, Modell oder Adresse filtern</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Empty">
+        <translation>Der Drucker hat kein WLAN gefunden. Drücken Sie F5, um erneut zu suchen.</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_NotReached">
+        <translation>Der Drucker war nicht erreichbar. Drücken Sie F5, um erneut zu suchen.</translation>
+    </message>
+    <message id="DWT_Localize_Table_Sort">
+        <translation>Sortieren (%1)</translation>
+    </message>
+    <message id="DWT_Localize_Field_Clear">
+        <translation>Leeren</translation>
     </message>
 </context>
 </TS>

@@ -843,5 +843,35 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Key_Show">
         <translation>Show the key</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Empty_USB">
+        <translation>No printer was found. Check that the printer is switched on and connected to this computer with a USB cable. Then choose “Look again”.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_NoNetwork">
+        <translation>No printer was found over USB, and printers on the network cannot be looked for. Check that the printer is switched on and connected to this computer with a USB cable. Then choose “Look again”.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_Catalogue">
+        <translation>The catalogue lists no printers. Enter printers in the file that ZMLIB_PRINTERS names, then start this tool again.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_Problems">
+        <translation>No printer can be used at the moment. The messages below say why.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_NoMatch">
+        <translation>No printer matches the filter.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Filter">
+        <translation>Filter by name, model or address</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Empty">
+        <translation>The printer found no wireless network. Press F5 to search again.</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_NotReached">
+        <translation>The printer could not be reached. Press F5 to search again.</translation>
+    </message>
+    <message id="DWT_Localize_Table_Sort">
+        <translation>Sort (%1)</translation>
+    </message>
+    <message id="DWT_Localize_Field_Clear">
+        <translation>Clear</translation>
+    </message>
 </context>
 </TS>

@@ -843,5 +843,35 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Key_Show">
         <translation>Mostrar la clave</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Empty_USB">
+        <translation>No se encontró ninguna impresora. Compruebe que la impresora está encendida y conectada a este equipo con un cable USB. Elija después «Buscar de nuevo».</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_NoNetwork">
+        <translation>No se encontró ninguna impresora por USB y no es posible buscar en la red. Compruebe que la impresora está encendida y conectada a este equipo con un cable USB. Elija después «Buscar de nuevo».</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_Catalogue">
+        <translation>El catálogo no contiene ninguna impresora. Añada impresoras al archivo que indica ZMLIB_PRINTERS y vuelva a iniciar esta herramienta.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_Problems">
+        <translation>En este momento no se puede usar ninguna impresora. Los mensajes de abajo explican el motivo.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_NoMatch">
+        <translation>Ninguna impresora coincide con el filtro.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Filter">
+        <translation>Filtrar por nombre, modelo o dirección</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Empty">
+        <translation>La impresora no encontró ninguna red Wi-Fi. Pulse F5 para buscar de nuevo.</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_NotReached">
+        <translation>No se pudo acceder a la impresora. Pulse F5 para buscar de nuevo.</translation>
+    </message>
+    <message id="DWT_Localize_Table_Sort">
+        <translation>Ordenar (%1)</translation>
+    </message>
+    <message id="DWT_Localize_Field_Clear">
+        <translation>Borrar</translation>
+    </message>
 </context>
 </TS>

@@ -843,5 +843,35 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Key_Show">
         <translation>Afficher la clé</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Empty_USB">
+        <translation>Aucune imprimante trouvée. Vérifiez que l’imprimante est allumée et reliée à cet ordinateur par un câble USB. Choisissez ensuite « Rechercher à nouveau ».</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_NoNetwork">
+        <translation>Aucune imprimante trouvée par USB, et la recherche sur le réseau est impossible. Vérifiez que l’imprimante est allumée et reliée à cet ordinateur par un câble USB. Choisissez ensuite « Rechercher à nouveau ».</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_Catalogue">
+        <translation>Le catalogue ne contient aucune imprimante. Ajoutez des imprimantes au fichier désigné par ZMLIB_PRINTERS, puis redémarrez cet outil.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_Problems">
+        <translation>Aucune imprimante n’est utilisable pour le moment. Les messages ci-dessous en indiquent la raison.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_NoMatch">
+        <translation>Aucune imprimante ne correspond au filtre.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Filter">
+        <translation>Filtrer par nom, modèle ou adresse</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Empty">
+        <translation>L’imprimante n’a détecté aucun réseau Wi-Fi. Appuyez sur F5 pour rechercher à nouveau.</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_NotReached">
+        <translation>L’imprimante était injoignable. Appuyez sur F5 pour rechercher à nouveau.</translation>
+    </message>
+    <message id="DWT_Localize_Table_Sort">
+        <translation>Trier (%1)</translation>
+    </message>
+    <message id="DWT_Localize_Field_Clear">
+        <translation>Effacer</translation>
+    </message>
 </context>
 </TS>

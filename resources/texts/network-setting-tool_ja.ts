@@ -842,6 +842,35 @@
     </message>
     <message id="DWT_Localize_Key_Show">
         <translation>キーを表示</translation>
+    <message id="DWT_Localize_PrinterList_Empty_USB">
+        <translation>プリンターが見つかりません。プリンターの電源が入っていて、USB ケーブルでこのコンピューターに接続されていることを確認してから、［再検索］をクリックしてください。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_NoNetwork">
+        <translation>USB で接続されたプリンターが見つかりません。ネットワーク上のプリンターは検索できません。プリンターの電源が入っていて、USB ケーブルでこのコンピューターに接続されていることを確認してから、［再検索］をクリックしてください。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_Catalogue">
+        <translation>カタログにプリンターが登録されていません。ZMLIB_PRINTERS で指定したファイルにプリンターを追加してから、このツールを起動し直してください。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_Problems">
+        <translation>現在使用できるプリンターはありません。理由については、下のメッセージを確認してください。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_NoMatch">
+        <translation>条件に一致するプリンターはありません。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Filter">
+        <translation>名前、機種、アドレスで絞り込み</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Empty">
+        <translation>無線ネットワークが見つかりませんでした。F5 キーを押すと再検索します。</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_NotReached">
+        <translation>プリンターに接続できませんでした。F5 キーを押すと再検索します。</translation>
+    </message>
+    <message id="DWT_Localize_Table_Sort">
+        <translation>並べ替え (%1)</translation>
+    </message>
+    <message id="DWT_Localize_Field_Clear">
+        <translation>クリア</translation>
     </message>
 </context>
 </TS>

@@ -842,6 +842,35 @@
     </message>
     <message id="DWT_Localize_Key_Show">
         <translation>显示密钥</translation>
+    <message id="DWT_Localize_PrinterList_Empty_USB">
+        <translation>未找到打印机。请检查打印机是否已开机，并已用 USB 电缆连接到此计算机。然后选择“重新搜索”。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_NoNetwork">
+        <translation>未找到通过 USB 连接的打印机，且无法搜索网络上的打印机。请检查打印机是否已开机，并已用 USB 电缆连接到此计算机。然后选择“重新搜索”。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_Catalogue">
+        <translation>目录中没有打印机。请在 ZMLIB_PRINTERS 指定的文件中添加打印机，然后重新启动本工具。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Empty_Problems">
+        <translation>目前没有可用的打印机。原因请见下方的消息。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_NoMatch">
+        <translation>没有符合筛选条件的打印机。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Filter">
+        <translation>按名称、型号或地址筛选</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Empty">
+        <translation>打印机未找到无线网络。按 F5 键可重新搜索。</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_NotReached">
+        <translation>无法连接打印机。按 F5 键可重新搜索。</translation>
+    </message>
+    <message id="DWT_Localize_Table_Sort">
+        <translation>排序 (%1)</translation>
+    </message>
+    <message id="DWT_Localize_Field_Clear">
+        <translation>清除</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "app/DWTPrinterSelector.h"
 
+#include <QShortcut>
 #include <QStyle>
 #include <algorithm>
 
@@ -30,12 +31,17 @@ constexpr int connectByWPS = 1;
 // How often is looked for printers that came or went.
 constexpr std::chrono::milliseconds lookInterval{1000};
 
+// A list of more printers than these has a field that filters it.
+constexpr qsizetype printersAtAGlance = 8;
+
 // So many problems are told in words; there is no room for more.
 constexpr qsizetype shownProblems = 4;
 
 QString wordsOf(const PrinterProblem &problem) {
     QString text;
     switch (problem.kind) {
+        case PrinterProblem::EmptyCatalogue:
+            return localized(QStringLiteral("DWT_Localize_PrinterList_Empty_Catalogue"));
         case PrinterProblem::NoNetworkService:
             return localized(QStringLiteral("DWT_Localize_PrinterList_Problem_NoNetworkService"));
         case PrinterProblem::NoPermission:
@@ -60,6 +66,22 @@ QString whereaboutsOf(const PrinterEntry &entry) {
         return localized(QStringLiteral("DWT_Localize_PrinterList_Port"))
             .arg(entry[PrinterKey::Port]);
     return entry.value(PrinterKey::Address);
+}
+
+// The key of what an empty list says; in installer mode only USB is looked at.
+QString keyOfEmptyList(const QList<PrinterProblem> &problems, bool installer) {
+    const auto isOnly = [&](PrinterProblem::Kind kind) {
+        return std::all_of(problems.begin(), problems.end(),
+                           [kind](const PrinterProblem &problem) { return problem.kind == kind; });
+    };
+    if (problems.isEmpty() || (installer && isOnly(PrinterProblem::NoNetworkService)))
+        return installer ? QStringLiteral("DWT_Localize_PrinterList_Empty_USB")
+                         : QStringLiteral("DWT_Localize_PrinterList_Empty");
+    if (isOnly(PrinterProblem::EmptyCatalogue))
+        return QStringLiteral("DWT_Localize_PrinterList_Empty_Catalogue");
+    if (isOnly(PrinterProblem::NoNetworkService))
+        return QStringLiteral("DWT_Localize_PrinterList_Empty_NoNetwork");
+    return QStringLiteral("DWT_Localize_PrinterList_Empty_Problems");
 }
 
 }  // namespace
@@ -121,8 +143,11 @@ void DWTPrinterSelector::DWT_UIInitialize() {
     table.setHeaderTitle(
         _SERVICE_NAME_,
         localized(QStringLiteral("DWT_Localize_PrinterList_TableView_Service_Column")));
+    table.setNoMatchText(localized(QStringLiteral("DWT_Localize_PrinterList_NoMatch")));
     table.setTableDataSource(this);
     table.setTableDelegate(this);
+    textField_PrinterlistFilter->setTable(&table);
+    textField_PrinterlistFilter->hide();
     const int iconSize = window_PrinterSelector->style()->pixelMetric(QStyle::PM_SmallIconSize);
     icon_Problems->setPixmap(window_PrinterSelector->style()
                                  ->standardIcon(QStyle::SP_MessageBoxWarning)
@@ -156,6 +181,8 @@ void DWTPrinterSelector::connectButtons(const WPSGuide *guide) {
     pushes(button_PrinterlistOK, &Self::push_PrinterListOK);
     pushes(button_PrinterlistReload, &Self::push_PrinterListReload);
     pushes(button_PrinterlistEXIT, &Self::push_PrinterListExit);
+    connect(new QShortcut(Qt::Key_F5, view_Printerlist), &QShortcut::activated,
+            button_PrinterlistReload, &QAbstractButton::click);
 }
 
 // The window comes first: finding the printers may take a while.
@@ -182,13 +209,11 @@ void DWTPrinterSelector::DWT_UISelector(const QString &viewKey) {
     dictionary_ViewManagement->select(viewKey);
     dictionary_ViewManagement->focusFirstControl();
     if (viewKey != DWT_View_Key_Printerlist) return;
+    tableView_Printerlist->setFocus();
     push_PrinterListReload();
 }
 
-// The selected printer stays selected while it is there.
 void DWTPrinterSelector::DWT_UpdatePrinterList() {
-    const QString selected =
-        array_PrinterList.value(tableView_Printerlist->selectedRow()).value(PrinterKey::DeviceURI);
     const WaitSheet waiting = window_Wait->over(window_PrinterSelector);
     if (!ndm_Object) ndm_Object = make<DWTDataManager>();
     array_PrinterList.clear();
@@ -197,26 +222,31 @@ void DWTPrinterSelector::DWT_UpdatePrinterList() {
     tableView_Printerlist->reloadData();
     array_PrinterList = ndm_Object->printerList().value_or(QList<PrinterEntry>());
     tableView_Printerlist->setEmptyText(
-        localized(QStringLiteral("DWT_Localize_PrinterList_Empty")));
+        localized(keyOfEmptyList(ndm_Object->printerProblems(), checkLunchedMode())));
     tableView_Printerlist->reloadData();
-    for (int row = 0; row < array_PrinterList.size() && !selected.isEmpty(); ++row)
-        if (array_PrinterList[row].value(PrinterKey::DeviceURI) == selected)
-            tableView_Printerlist->selectRow(row);
-    button_PrinterlistOK->setEnabled(tableView_Printerlist->selectedRow() >= 0);
+    showPart(textField_PrinterlistFilter, array_PrinterList.size() > printersAtAGlance ||
+                                              !textField_PrinterlistFilter->text().isEmpty());
     showProblems();
     m_looking.start(lookInterval);
 }
 
 void DWTPrinterSelector::showProblems() {
-    const QList<PrinterProblem> problems = ndm_Object->printerProblems();
+    QList<PrinterProblem> problems = ndm_Object->printerProblems();
+    problems.removeIf([](const PrinterProblem &problem) {  // which the list itself says
+        return problem.kind == PrinterProblem::EmptyCatalogue;
+    });
     QStringList lines;
     for (const PrinterProblem &problem : problems.first(std::min(shownProblems, problems.size())))
         lines << wordsOf(problem);
     if (problems.size() > shownProblems)
         lines << QStringLiteral("… (+%1)").arg(problems.size() - shownProblems);
     textField_Problems->setText(lines.join(u'\n'));
-    const bool isNew = view_Problems->isHidden() && !lines.isEmpty();
-    view_Problems->setVisible(!lines.isEmpty());
+    showPart(view_Problems, !lines.isEmpty());
+}
+
+void DWTPrinterSelector::showPart(QWidget *part, bool shown) {
+    const bool isNew = shown && part->isHidden();
+    part->setVisible(shown);
     if (isNew) window_PrinterSelector->growToContents();
 }
 
@@ -292,6 +322,10 @@ QIcon DWTPrinterSelector::iconForTableColumn(TableView *, const QString &column,
     const bool network = array_PrinterList.value(row).contains(PrinterKey::BonjourServiceName);
     return QIcon(network ? QStringLiteral(":/pictures/network.svg")
                          : QStringLiteral(":/pictures/usb.svg"));
+}
+
+QString DWTPrinterSelector::rowKeyInTableView(TableView *, int row) {
+    return array_PrinterList.value(row).value(PrinterKey::DeviceURI);
 }
 
 bool DWTPrinterSelector::selectionShouldChangeInTableView(TableView *) {

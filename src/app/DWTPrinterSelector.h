@@ -39,6 +39,7 @@ class DWTPrinterSelector : public DWTBaseClass,
     QVariant objectValueForTableColumn(TableView *table, const QString &column, int row) override;
     QString detailForTableColumn(TableView *table, const QString &column, int row) override;
     QIcon iconForTableColumn(TableView *table, const QString &column, int row) override;
+    QString rowKeyInTableView(TableView *table, int row) override;
     bool selectionShouldChangeInTableView(TableView *table) override;
     void tableViewSelectionDidChange(TableView *table) override;
 
@@ -57,6 +58,8 @@ class DWTPrinterSelector : public DWTBaseClass,
     void followPrinters();
     // Says below the list why printers may be missing.
     void showProblems();
+    // Shows or hides a part of the list's view; the window grows by one that appears.
+    void showPart(QWidget *part, bool shown);
     void DWT_DoubleAction(int clickedRow);
     void DWT_CloseMainDialog(const Notification &notification);
     void DWT_ShowMainSettingWindow();

@@ -120,6 +120,9 @@ class DWTMainSettingWindow : public QObject,
 
     // Networks in reach, the WPS guide and the connection test (DWTMainSettingWindowNetwork.cpp).
     void push_InfrastructureSelectSSID();
+    // The networks that the printer sees; `over` waits meanwhile. Nothing, after an alert, when the
+    // printer cannot be asked.
+    std::optional<QList<SSIDEntry>> networksInReach(QWidget *over);
     void push_InfrastructureWPSGuide();
     void push_EthernetConnect();
     void push_InfrastructureConnect();

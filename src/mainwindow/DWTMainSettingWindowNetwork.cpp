@@ -14,21 +14,26 @@ void DWTMainSettingWindow::push_InfrastructureSelectSSID() {
                           "DWT_Localize_Alert_InfoText_SSIDList_CommunicateModeErr");
         return;
     }
-    const auto inReach = [this] {
-        const WaitSheet waiting = window_Wait->over(window_Main);
-        return dataManager_Object->SSIDList();
-    };
-    const auto networks = inReach();
-    if (!networks)
-        showStandardAlert("DWT_Localize_Alert_MessageText_Dowline",
-                          "DWT_Localize_Alert_MessageText_Error",
-                          "DWT_Localize_Alert_InfoText_Printer_ConnectErr");
-    const auto picked = window_SelectSSID->pick(networks.value_or(QList<SSIDEntry>()));
+    const auto picked =
+        window_SelectSSID->pick([this](QWidget *over) { return networksInReach(over); });
     if (!picked) return;
     infrastructure_ViewObject->showSSIDFromSelectSSID(*picked);
     MSW_SendButtonEnable();
     followEdits();
     infrastructure_ViewObject->focusKey();
+}
+
+std::optional<QList<SSIDEntry>> DWTMainSettingWindow::networksInReach(QWidget *over) {
+    std::optional<QList<SSIDEntry>> networks;
+    {
+        const WaitSheet waiting = window_Wait->over(over);
+        networks = dataManager_Object->SSIDList();
+    }
+    if (!networks)
+        showStandardAlert("DWT_Localize_Alert_MessageText_Dowline",
+                          "DWT_Localize_Alert_MessageText_Error",
+                          "DWT_Localize_Alert_InfoText_Printer_ConnectErr");
+    return networks;
 }
 
 void DWTMainSettingWindow::push_InfrastructureWPSGuide() {

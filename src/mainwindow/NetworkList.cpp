@@ -1,5 +1,6 @@
 #include "mainwindow/NetworkList.h"
 
+#include <QShortcut>
 #include <algorithm>
 
 #include "platform/core/Texts.h"
@@ -48,6 +49,8 @@ NetworkList::NetworkList(QWidget *parent) : ModalWindow(parent) {
             &NetworkList::push_SelectSSIDWindowOK);
     connect(button_SelectSSIDWindowCancel, &QPushButton::clicked, this,
             &NetworkList::push_SelectSSIDWindowCancel);
+    connect(new QShortcut(Qt::Key_F5, this), &QShortcut::activated, this,
+            [this] { searchOver(this); });
 }
 
 NetworkList::~NetworkList() {
@@ -55,19 +58,29 @@ NetworkList::~NetworkList() {
     tableView_SelectSSIDWindow->setTableDataSource(nullptr);
 }
 
-std::optional<SSIDEntry> NetworkList::pick(const QList<SSIDEntry> &networks) {
-    array_SSIDList = networks;
+std::optional<SSIDEntry> NetworkList::pick(const Search &search) {
+    m_search = search;
+    array_SSIDList.clear();
+    searchOver(parentWidget());
+    tableView_SelectSSIDWindow->deselectAll();
+    button_SelectSSIDWindowOK->setEnabled(false);
+    tableView_SelectSSIDWindow->setFocus();
+    const int row = Modal::run(this);
+    return row < 0 ? std::nullopt : std::optional(array_SSIDList.at(row));
+}
+
+void NetworkList::searchOver(QWidget *window) {
+    const auto found = m_search(window);
+    tableView_SelectSSIDWindow->setEmptyText(
+        localized(found ? QStringLiteral("DWT_Localize_SSIDList_Empty")
+                        : QStringLiteral("DWT_Localize_SSIDList_NotReached")));
+    if (found) array_SSIDList = *found;
     const auto stronger = [](const SSIDEntry &a, const SSIDEntry &b) {
         return integerValue(a, DWT_SSIDList_SignalStrength) >
                integerValue(b, DWT_SSIDList_SignalStrength);
     };
     std::stable_sort(array_SSIDList.begin(), array_SSIDList.end(), stronger);
-    tableView_SelectSSIDWindow->deselectAll();
     tableView_SelectSSIDWindow->reloadData();
-    button_SelectSSIDWindowOK->setEnabled(false);
-    tableView_SelectSSIDWindow->setFocus();
-    const int row = Modal::run(this);
-    return row < 0 ? std::nullopt : std::optional(array_SSIDList.at(row));
 }
 
 int NetworkList::numberOfRowsInTableView(TableView *) {
@@ -90,6 +103,21 @@ QVariant NetworkList::objectValueForTableColumn(TableView *, const QString &colu
 QIcon NetworkList::iconForTableColumn(TableView *, const QString &column, int row) {
     if (column != QStringLiteral("Intensity")) return {};
     return QIcon(QLatin1String(intensityOf(array_SSIDList.value(row)).picture));
+}
+
+QVariant NetworkList::sortValueForTableColumn(TableView *table, const QString &column, int row) {
+    if (column != QStringLiteral("Intensity")) return objectValueForTableColumn(table, column, row);
+    return integerValue(array_SSIDList.value(row), DWT_SSIDList_SignalStrength);
+}
+
+// Everything but the strength of the signal, which differs from one search to the next.
+QString NetworkList::rowKeyInTableView(TableView *, int row) {
+    const SSIDEntry network = array_SSIDList.value(row);
+    QStringList key{QString::fromLatin1(bytesValue(network, DWT_SSIDList_SSID).toHex())};
+    for (const QString &number :
+         {DWT_SSIDList_WirelessMode, DWT_SSIDList_Authentic, DWT_SSIDList_Encryption})
+        key << QString::number(integerValue(network, number));
+    return key.join(u' ');
 }
 
 bool NetworkList::selectionShouldChangeInTableView(TableView *) {

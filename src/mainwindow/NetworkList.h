@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include "platform/ui/ModalWindow.h"
@@ -19,22 +20,31 @@ class NetworkList : public ModalWindow,
     explicit NetworkList(QWidget *parent);
     ~NetworkList() override;
 
-    // Lists the networks, the strongest first, and runs until the user has picked one or left.
-    // Result: the picked one, or nothing.
-    std::optional<SSIDEntry> pick(const QList<SSIDEntry> &networks);
+    // Finds the networks while `over` waits; nothing when the printer cannot be asked, which the
+    // user has then been told.
+    using Search = std::function<std::optional<QList<SSIDEntry>>(QWidget *over)>;
+
+    // Searches over the parent, lists the networks, the strongest first, and runs until the user
+    // has picked one or left; F5 searches again over the list. Result: the picked one, or nothing.
+    std::optional<SSIDEntry> pick(const Search &search);
 
     int numberOfRowsInTableView(TableView *table) override;
     QVariant objectValueForTableColumn(TableView *table, const QString &column, int row) override;
     QIcon iconForTableColumn(TableView *table, const QString &column, int row) override;
+    QVariant sortValueForTableColumn(TableView *table, const QString &column, int row) override;
+    QString rowKeyInTableView(TableView *table, int row) override;
     bool selectionShouldChangeInTableView(TableView *table) override;
     void tableViewSelectionDidChange(TableView *table) override;
 
   private:
+    // Lists what the search finds; what was listed stays when the printer cannot be asked.
+    void searchOver(QWidget *window);
     void MSW_DoubleAction(int clickedRow);
     void push_SelectSSIDWindowOK();
     void push_SelectSSIDWindowCancel();
     // Ends the run with the selected row as its outcome; does nothing when none is selected.
     void MSW_SetSelectSSID();
 
+    Search m_search;
     QList<SSIDEntry> array_SSIDList;
 };

@@ -12,6 +12,8 @@ Listing CatalogueSource::list() {
     Listing listing{m_catalogue.entries, {}};
     for (const QString &problem : m_catalogue.problems)
         listing.problems.append({PrinterProblem::BadFile, problem});
+    if (listing == Listing())
+        listing.problems.append(PrinterProblem{PrinterProblem::EmptyCatalogue, {}});
     return listing;
 }
 

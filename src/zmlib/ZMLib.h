@@ -35,10 +35,11 @@ inline const QString Network = QStringLiteral("Network");
 // Why a printer is not listed or cannot be used, for who looks for it.
 struct PrinterProblem {
     enum Kind {
-        NoPermission,     // the user may not open the printer's device
-        InUse,            // another program has it
-        BadFile,          // a file with printers or models cannot be used, or not all of it
-        NoNetworkService  // the system does not tell which printers are on the network
+        NoPermission,      // the user may not open the printer's device
+        InUse,             // another program has it
+        BadFile,           // a file with printers or models cannot be used, or not all of it
+        NoNetworkService,  // the system does not tell which printers are on the network
+        EmptyCatalogue     // printers are listed from a catalogue, and it has none
     };
     Kind kind;
     QString

@@ -27,6 +27,14 @@ class Selector : public testing::Test {
     QWidget *window() { return walk.selector->window(); }
     bool isListed() { return window()->isVisible(); }
     void click(const char *button) { press(window(), button); }
+    // Begins with a list of these printers.
+    TableView *launchWith(std::unique_ptr<PrinterSource> source) {
+        std::vector<std::unique_ptr<PrinterSource>> sources;
+        sources.push_back(std::move(source));
+        installLibrary(std::make_shared<PrinterLibrary>(std::move(sources)));
+        walk.selector->applicationDidFinishLaunching();
+        return walk.list();
+    }
     bool canOpen() { return controlOf(window(), "button_PrinterlistOK")->isEnabled(); }
     // Every cell of the list.
     QString listed() {
@@ -150,12 +158,84 @@ TEST_F(Selector, TheListFollowsPrintersAndNamesThoseThatCannotBeUsed) {
     state.plugged = true;
     state.result = ZMLib::InUse;
     EXPECT_TRUE(QTest::qWaitFor([&] { return tells("is in use by another program"); }, 2000));
-    const int openings = state.openings;
+    int openings = state.openings;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window()->isActiveWindow(); }));
+    QTest::keyClick(walk.list(), Qt::Key_F5);
+    EXPECT_EQ(state.openings, ++openings);
+    EXPECT_EQ(walk.list()->selectedRow(), -1);
     EXPECT_TRUE(walk.open(text("Packing-Desk")));
     state.plugged = false;
     QTest::qWait(1200);  // longer than the list takes to follow
     EXPECT_EQ(state.openings, openings) << "looked for while a printer is open";
     EXPECT_TRUE(walk.main()->isVisible());
+}
+
+TEST_F(Selector, ALongListIsFilteredByWhatItShowsAndOpenedByKeys) {
+    auto *const filter = controlOf<QLineEdit>(window(), "textField_PrinterlistFilter");
+    walk.launch();
+    EXPECT_FALSE(filter->isVisible()) << "for so few printers";
+    QByteArrayList entries;
+    for (int i = 0; i < 12; ++i)
+        entries << R"({"DeviceURI": "virtual://p%", "ConnectionType": "Network", "Address":
+            "10.0.0.%", "ProductName": "Larkfield L200", "BonjourServiceName": "Desk %"})";
+    for (int i = 0; i < 12; ++i) entries[i].replace('%', QByteArray::number(12 - i));
+    const QByteArray json = "{\"printers\": [" + entries.join(',') + "]}";
+    auto *const list =
+        launchWith(std::make_unique<CatalogueSource>(catalogueFromJson(json, text("twelve"))));
+    EXPECT_TRUE(filter->isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window()->isActiveWindow(); }));
+    EXPECT_TRUE(list->hasFocus());
+    QTest::keyClick(list, Qt::Key_1, Qt::ControlModifier);
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(list->selectedRow(), 11) << "not sorted by numbers";
+    EXPECT_TRUE(canOpen());
+    QTest::keyClick(list, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(filter->hasFocus());
+    QTest::keyClicks(filter, text("desk l200 network 0.9"));
+    EXPECT_EQ(listed(), text("Desk 9|Network"));
+    EXPECT_FALSE(canOpen()) << "for a printer that is not shown";
+    QTest::keyClick(filter, Qt::Key_F5);
+    EXPECT_EQ(listed(), text("Desk 9|Network"));
+    QTest::keyClicks(filter, text("x"));
+    EXPECT_EQ(list->accessibleDescription(), text("No printer matches the filter."));
+    QTest::keyClick(filter, Qt::Key_Escape);
+    QTest::keyClick(filter, Qt::Key_Down);
+    EXPECT_EQ(list->selectedRow(), 11) << "in a list that is whole again";
+    typeInto(filter, text("desk 9"));
+    QTest::keyClick(filter, Qt::Key_Return);
+    EXPECT_TRUE(walk.main()->isVisible());
+    walk.press("button_MainCancel");
+}
+
+TEST_F(Selector, AnEmptyListSaysWhy) {
+    struct Empty : PrinterSource {
+        explicit Empty(const QList<PrinterProblem> &told) : problems(told) {}
+        Listing list() override { return {{}, problems}; }
+        bool lists(const QString &) override { return false; }
+        Opened open(const QString &, const QDeadlineTimer &) override { return {}; }
+        const QList<PrinterProblem> problems;
+    };
+    const PrinterProblem noNetwork{PrinterProblem::NoNetworkService, {}};
+    const PrinterProblem refused{PrinterProblem::NoPermission, text("L200")};
+    const auto says = [&](std::unique_ptr<PrinterSource> source, const char *words) {
+        const QString said = launchWith(std::move(source))->accessibleDescription();
+        EXPECT_TRUE(said.contains(text(words))) << qPrintable(said);
+    };
+    const auto isProblemTold = [&] { return controlOf(window(), "view_Problems")->isVisible(); };
+    says(std::make_unique<Empty>(QList<PrinterProblem>()), "or that it is on the same network");
+    says(std::make_unique<Empty>(QList{noNetwork}), "printers on the network cannot be looked for");
+    says(std::make_unique<Empty>(QList{noNetwork, refused}), "The messages below say why");
+    EXPECT_TRUE(isProblemTold());
+    says(std::make_unique<CatalogueSource>(Catalogue()), "The catalogue lists no printers");
+    EXPECT_FALSE(isProblemTold()) << "said twice";
+    const ArgumentOverride installer("-INSTALLER");
+    launchWith(std::make_unique<Empty>(QList{noNetwork}));
+    for (const char *button : {"button_ToolPerformOK", "buttonCell_USBConnect",
+                               "button_ChooseConnectNext", "button_USBConnectNext"})
+        controlOf<QAbstractButton>(window(), button)->click();
+    const QString said = walk.list()->accessibleDescription();
+    EXPECT_TRUE(said.contains(text("USB cable")) && !said.contains(text("network")))
+        << qPrintable(said);
 }
 
 TEST_F(Selector, ReopeningBringsBackTheWindowInUse) {

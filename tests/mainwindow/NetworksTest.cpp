@@ -63,12 +63,47 @@ TEST_F(Networks, NoListOutsideInfrastructureModeAndAnEmptyOneWithoutAPrinter) {
     dialogs.alert("Connection to the printer cannot be used");
     list([](QWidget *dialog, TableView *table) {
         EXPECT_EQ(table->model()->rowCount(), 0);
+        EXPECT_TRUE(table->accessibleDescription().startsWith(text("The printer could not be")));
         EXPECT_FALSE(controlOf(dialog, "button_SelectSSIDWindowOK")->isEnabled());
         dialog->close();
     });
     control<QRadioButton>("buttonCell_WirelessSimpleA")->click();
     dialogs.alert("List of networks – please note");
     click("button_InfrastructureSelectSSID");
+}
+
+TEST_F(Networks, F5SearchesAgainAndKeepsWhatWasChosenAndSorted) {
+    open(fourNetworks);
+    const auto use = [this](QWidget *dialog, TableView *table) {
+        const auto names = [&] {
+            QString all;
+            for (int i = 0; i < 4; ++i) all += table->model()->index(i, 0).data().toString();
+            return all;
+        };
+        QTest::keyClick(table, Qt::Key_Down);
+        EXPECT_EQ(table->selectedRow(), 0);
+        QTest::keyClick(table, Qt::Key_3, Qt::ControlModifier);
+        EXPECT_EQ(names(), text("dcba")) << "weakest first, not by the words";
+        served->received();
+        bool waited = false;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, [&] {
+            const auto *indicator = dialog->findChild<QWidget *>(text("progress_Wait"));
+            waited |= indicator && indicator->isVisible();
+        });
+        look.start(0);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return dialog->isActiveWindow(); }));
+        QTest::keyClick(dialog, Qt::Key_F5);
+        EXPECT_TRUE(waited);
+        EXPECT_TRUE(served->received().contains(text("?3121")));
+        setFaults(R"({"refuseConnection": true})");
+        dialogs.alert("The connection to the printer cannot be used");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return dialog->isActiveWindow(); }));
+        QTest::keyClick(dialog, Qt::Key_F5);
+        EXPECT_EQ(names(), text("dcba"));
+        QTest::keyClick(table, Qt::Key_Return);
+    };
+    EXPECT_EQ(list(use), text("a"));
 }
 
 TEST_F(Networks, NamesAboveAsciiAreShownAsTheyAreAndKeepTheirBytes) {

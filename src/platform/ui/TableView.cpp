@@ -1,7 +1,5 @@
 #include "platform/ui/TableView.h"
 
-#include <QAbstractTableModel>
-#include <QHash>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -12,15 +10,18 @@
 #include <QToolTip>
 #include <utility>
 
-#include "platform/core/Texts.h"
+#include "platform/ui/TableModel.h"
 
 namespace {
 
-constexpr int DetailRole = Qt::UserRole;
+constexpr int DetailRole = TableModel::DetailRole;
 
 // How much of its colour the text of a second line keeps, in hundredths: quieter than the first,
 // and still with a contrast of more than 4.5 to 1.
 constexpr int quiet = 70;
+
+// So many rows have a say in the width of a column, besides those in sight.
+constexpr int rowsMeasured = 50;
 
 QColor mixed(const QColor &text, const QColor &base) {
     const auto part = [](int one, int other) {
@@ -76,84 +77,9 @@ class DetailDelegate : public QStyledItemDelegate {
 
 }  // namespace
 
-// The data source as Qt's model sees it.
-class TableModel : public QAbstractTableModel {
-  public:
-    explicit TableModel(TableView *table) : QAbstractTableModel(table), m_table(table) {}
-
-    TableDataSource *source = nullptr;
-    QStringList identifiers;
-    QStringList titles;
-
-    int rowCount(const QModelIndex &parent = {}) const override {
-        return parent.isValid() ? 0 : m_rows;
-    }
-    int columnCount(const QModelIndex &parent = {}) const override {
-        return parent.isValid() ? 0 : static_cast<int>(identifiers.size());
-    }
-    QVariant data(const QModelIndex &index, int role) const override {
-        if (!source || !index.isValid()) return {};
-        const QString &column = identifiers[index.column()];
-        if (role == Qt::DecorationRole) {
-            auto icon = m_icons.constFind({index.row(), index.column()});
-            if (icon == m_icons.constEnd())
-                icon = m_icons.insert(
-                    {index.row(), index.column()},
-                    readable(source->iconForTableColumn(m_table, column, index.row())));
-            return *icon;
-        }
-        if (role == DetailRole || role == Qt::AccessibleDescriptionRole)
-            return shownText(source->detailForTableColumn(m_table, column, index.row()));
-        if (role != Qt::DisplayRole) return {};
-        return shownText(
-            source->objectValueForTableColumn(m_table, column, index.row()).toString());
-    }
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
-        if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-        return titles.value(section);
-    }
-    void addColumn(const QString &identifier) {
-        beginResetModel();
-        identifiers << identifier;
-        titles << identifier;
-        endResetModel();
-    }
-    void setTitle(const QString &identifier, const QString &title) {
-        const auto column = static_cast<int>(identifiers.indexOf(identifier));
-        if (column < 0) return;
-        titles[column] = title;
-        Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
-    }
-    // Makes the icons anew, in the colours of now.
-    void forgetIcons() { m_icons.clear(); }
-    void reload() {
-        beginResetModel();
-        m_icons.clear();
-        m_rows = source ? source->numberOfRowsInTableView(m_table) : 0;
-        endResetModel();
-    }
-
-  private:
-    // The icon with a further look for selected rows: in the colour of their text.
-    QVariant readable(QIcon icon) const {
-        if (icon.isNull()) return {};
-        const int size = m_table->style()->pixelMetric(QStyle::PM_SmallIconSize);
-        QPixmap selected = icon.pixmap(QSize(size, size), m_table->devicePixelRatioF());
-        QPainter painter(&selected);
-        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        painter.fillRect(selected.rect(), m_table->palette().color(QPalette::HighlightedText));
-        painter.end();
-        icon.addPixmap(selected, QIcon::Selected);
-        return icon;
-    }
-
-    TableView *const m_table;
-    int m_rows = 0;
-    mutable QHash<std::pair<int, int>, QVariant> m_icons;  // by row and column
-};
-
-TableView::TableView(QWidget *parent) : QTableView(parent), m_model(new TableModel(this)) {
-    setModel(m_model);
+TableView::TableView(QWidget *parent)
+    : QTableView(parent), m_model(new TableModel(this)), m_shown(new ShownRows(m_model)) {
+    setModel(m_shown);
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
@@ -165,13 +91,19 @@ TableView::TableView(QWidget *parent) : QTableView(parent), m_model(new TableMod
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     connect(horizontalHeader(), &QHeaderView::sectionDoubleClicked, this,
             [this] { Q_EMIT doubleAction(-1); });
+    horizontalHeader()->setResizeContentsPrecision(rowsMeasured);
+    horizontalHeader()->setSortIndicatorClearable(true);
+    horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    setSortingEnabled(true);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        const int row = selectedRow();
+        m_selectedKey = row < 0 ? QString() : m_model->keyOf(row);
         if (m_delegate) m_delegate->tableViewSelectionDidChange(this);
     });
 }
 
 void TableView::setTableDataSource(TableDataSource *source) {
-    m_model->source = source;
+    m_model->setSource(source);
     reloadData();
 }
 
@@ -193,20 +125,40 @@ void TableView::setHasDetails() {
 }
 
 void TableView::reloadData() {
-    const int row = selectedRow();
+    const bool wasSelected = selectedRow() >= 0;
     m_model->reload();
-    if (row >= 0 && row < m_model->rowCount()) {
-        const QSignalBlocker unchanged(selectionModel());
-        QTableView::selectRow(row);
-    } else if (row >= 0 && m_delegate) {
+    const int row = m_model->rowOf(m_selectedKey);
+    if (indexOfRow(row).isValid())
+        selectRow(row);
+    else if (wasSelected && m_delegate)
         m_delegate->tableViewSelectionDidChange(this);
-    }
+    sayWhyEmpty();
+}
+
+void TableView::setFilter(const QString &text) {
+    m_shown->setWords(text.simplified().split(u' ', Qt::SkipEmptyParts));
+    reloadData();
+    if (selectedRow() < 0) m_selectedKey.clear();
 }
 
 void TableView::setEmptyText(const QString &text) {
     m_emptyText = text;
-    setAccessibleDescription(text);
+    sayWhyEmpty();
+}
+
+void TableView::setNoMatchText(const QString &text) {
+    m_noMatchText = text;
+    sayWhyEmpty();
+}
+
+void TableView::sayWhyEmpty() {
+    setAccessibleDescription(emptyText());
     viewport()->update();
+}
+
+QString TableView::emptyText() const {
+    if (m_shown->rowCount() > 0) return {};
+    return m_model->rowCount() > 0 ? m_noMatchText : m_emptyText;
 }
 
 QSize TableView::sizeHint() const {
@@ -214,14 +166,17 @@ QSize TableView::sizeHint() const {
     return {60 * metrics.averageCharWidth(), 14 * metrics.height()};
 }
 
+QModelIndex TableView::indexOfRow(int row) const {
+    return m_shown->mapFromSource(m_model->index(row, 0));
+}
+
 int TableView::selectedRow() const {
-    const QModelIndexList rows = selectionModel()->selectedRows();
-    return rows.isEmpty() ? -1 : rows.first().row();
+    return m_shown->mapToSource(selectionModel()->selectedRows().value(0)).row();
 }
 
 void TableView::selectRow(int row) {
     const auto flags = QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
-    selectionModel()->setCurrentIndex(m_model->index(row, 0), flags);
+    selectionModel()->setCurrentIndex(indexOfRow(row), flags);
 }
 
 void TableView::deselectAll() {
@@ -237,24 +192,84 @@ void TableView::changeEvent(QEvent *event) {
 void TableView::mouseDoubleClickEvent(QMouseEvent *event) {
     QTableView::mouseDoubleClickEvent(event);
     if (event->button() == Qt::LeftButton)
-        Q_EMIT doubleAction(indexAt(event->position().toPoint()).row());
+        Q_EMIT doubleAction(m_shown->mapToSource(indexAt(event->position().toPoint())).row());
+}
+
+bool TableView::openSelected() {
+    if (selectedRow() < 0 && m_shown->rowCount() == 1) setCurrentIndex(m_shown->index(0, 0));
+    if (selectedRow() < 0) return false;
+    Q_EMIT doubleAction(selectedRow());
+    return true;
+}
+
+QKeyCombination TableView::sortKeyOfColumn(int column) {
+    return Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + column);
+}
+
+bool TableView::sortByKey(QKeyCombination pressed) {
+    QHeaderView &header = *horizontalHeader();
+    for (int column = 0; column < m_shown->columnCount(); ++column) {
+        if (pressed != sortKeyOfColumn(column)) continue;
+        if (header.sortIndicatorSection() != column)
+            header.setSortIndicator(column, Qt::AscendingOrder);
+        else if (header.sortIndicatorOrder() == Qt::AscendingOrder)
+            header.setSortIndicator(column, Qt::DescendingOrder);
+        else
+            header.setSortIndicator(-1, Qt::AscendingOrder);
+        return true;
+    }
+    return false;
+}
+
+// The current cell of a table without a selection is one that nobody has chosen.
+int TableView::rowReachedBy(int key) const {
+    switch (key) {
+        case Qt::Key_Home:
+            return 0;
+        case Qt::Key_End:
+            return m_shown->rowCount() - 1;
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+            return selectedRow() < 0 ? 0 : -1;
+        default:
+            return -1;
+    }
 }
 
 void TableView::keyPressEvent(QKeyEvent *event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!enter || selectedRow() < 0) return QTableView::keyPressEvent(event);
-    event->accept();
-    Q_EMIT doubleAction(selectedRow());
+    if (enter && selectedRow() >= 0) {
+        openSelected();
+        return;
+    }
+    const int row = rowReachedBy(event->key());
+    if (row >= 0)
+        setCurrentIndex(m_shown->index(row, 0));
+    else if (!sortByKey(event->keyCombination()))
+        QTableView::keyPressEvent(event);
+}
+
+void TableView::keyboardSearch(const QString &search) {
+    const QModelIndex current = currentIndex();
+    if (current.column() > 0)
+        selectionModel()->setCurrentIndex(current.siblingAtColumn(0),
+                                          QItemSelectionModel::NoUpdate);
+    QTableView::keyboardSearch(search);
 }
 
 void TableView::paintEvent(QPaintEvent *event) {
     QTableView::paintEvent(event);
-    if (m_model->rowCount() > 0 || m_emptyText.isEmpty()) return;
+    const QString text = emptyText();
+    if (text.isEmpty()) return;
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::Text));
     constexpr int margin = 12;
     painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
-                     Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
+                     Qt::AlignCenter | Qt::TextWordWrap, text);
 }
 
 QString TableView::wholeTextOf(const QModelIndex &index) {

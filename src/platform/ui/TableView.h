@@ -5,8 +5,10 @@
 
 class TableView;
 class TableModel;
+class ShownRows;
 
-// Gives a table its contents.
+// Gives a table its contents. A row is counted from 0 in the order of the source, wherever the
+// table shows it.
 class TableDataSource {
   public:
     virtual ~TableDataSource() = default;
@@ -19,6 +21,14 @@ class TableDataSource {
     virtual QString detailForTableColumn(TableView *, const QString &, int) { return {}; }
     // The picture before the cell's text; none by default.
     virtual QIcon iconForTableColumn(TableView *, const QString &, int) { return {}; }
+    // What a column sorts by: an int, or a text that is compared as names are. By default what the
+    // cell shows.
+    virtual QVariant sortValueForTableColumn(TableView *table, const QString &column, int row) {
+        return objectValueForTableColumn(table, column, row);
+    }
+    // What identifies a row, so that its selection survives a reload that moves it; not empty. By
+    // default the row itself.
+    virtual QString rowKeyInTableView(TableView *, int row) { return QString::number(row); }
 };
 
 // Asked before the selection moves, and told afterwards.
@@ -30,7 +40,8 @@ class TableDelegate {
 };
 
 // A table whose columns are named and whose contents come from a data source. One whole row may be
-// selected.
+// selected. A click on a header, or Ctrl and the column's number, sorts by the column: ascending,
+// descending, and as the source has it. Rows are given and taken as the source counts them.
 class TableView : public QTableView {
     Q_OBJECT
   public:
@@ -48,20 +59,36 @@ class TableView : public QTableView {
     // Gives every row room for a second line.
     void setHasDetails();
 
-    // Fetches everything anew. The selection stays while its row remains.
+    // Fetches everything anew; order and filter stay. The row of the selected key stays selected,
+    // also when it was missing in the meantime, until another one is selected or none.
     void reloadData();
 
-    // What stands in the place of the rows while there are none.
+    // Shows only the rows whose texts contain every word of `text`, in upper or lower case; all
+    // rows when it is empty. A selected row that is not shown is deselected.
+    void setFilter(const QString &text);
+
+    // What stands in the place of the rows while there are none, and while the filter leaves none.
     void setEmptyText(const QString &text);
+    void setNoMatchText(const QString &text);
 
     // Room for about 60 characters and half a dozen rows.
     QSize sizeHint() const override;
 
     // -1 when no row is selected.
     int selectedRow() const;
-    // Selects a row from code, without asking the delegate whether it may; it is told.
+    // Selects a row from code, without asking the delegate whether it may; it is told. Selects
+    // nothing when the filter hides the row.
     void selectRow(int row);
     void deselectAll();
+    // Does what Return does: doubleAction() for the selected row, or for the only one that is
+    // shown. False when there is neither.
+    bool openSelected();
+
+    // The keys that sort by a column, counted from 0.
+    static QKeyCombination sortKeyOfColumn(int column);
+
+    // Looks in the first column, whichever cell was clicked.
+    void keyboardSearch(const QString &search) override;
 
   Q_SIGNALS:
     // Double click, or Return on the selected row; -1 on the header or the empty area.
@@ -78,8 +105,18 @@ class TableView : public QTableView {
 
   private:
     static QString wholeTextOf(const QModelIndex &index);
+    QModelIndex indexOfRow(int row) const;
+    // The shown row to which a key leads, when Qt's table would lead to another one; otherwise -1.
+    int rowReachedBy(int key) const;
+    bool sortByKey(QKeyCombination pressed);
+    // What stands in the place of the rows now; empty while there are rows.
+    QString emptyText() const;
+    void sayWhyEmpty();
 
     TableModel *const m_model;
+    ShownRows *const m_shown;
     TableDelegate *m_delegate = nullptr;
+    QString m_selectedKey;  // of the row that was selected last; empty for none
     QString m_emptyText;
+    QString m_noMatchText;
 };

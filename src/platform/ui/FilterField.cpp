@@ -1,0 +1,45 @@
+#include "platform/ui/FilterField.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QShortcut>
+#include <QToolButton>
+
+#include "platform/core/Texts.h"
+#include "platform/ui/TableView.h"
+
+FilterField::FilterField(QWidget *parent) : QLineEdit(parent) {
+    setClearButtonEnabled(true);
+    findChild<QToolButton *>()->setAccessibleName(
+        localized(QStringLiteral("DWT_Localize_Field_Clear")));
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
+        setFocus(Qt::ShortcutFocusReason);
+        selectAll();
+    });
+}
+
+void FilterField::setTable(TableView *table) {
+    m_table = table;
+    connect(this, &QLineEdit::textChanged, table, &TableView::setFilter);
+}
+
+void FilterField::keyPressEvent(QKeyEvent *event) {
+    switch (event->key()) {
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+            m_table->setFocus();
+            QCoreApplication::sendEvent(m_table, event);
+            return;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            m_table->openSelected();
+            return;
+        case Qt::Key_Escape:
+            if (text().isEmpty()) break;
+            clear();
+            return;
+        default:
+            break;
+    }
+    QLineEdit::keyPressEvent(event);
+}
