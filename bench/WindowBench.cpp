@@ -2,6 +2,7 @@
 
 #include <QPushButton>
 #include <QTest>
+#include <functional>
 
 #include "app/DWTPrinterSelector.h"
 #include "platform/core/Texts.h"
@@ -29,6 +30,59 @@ void openPrinter(benchmark::State &state) {
     }
 }
 BENCHMARK(openPrinter)->Unit(benchmark::kMillisecond);
+
+// A list of many printers, shown anew after a reload, a sorted reload and a letter in the filter.
+class ManyPrinters : public TableDataSource {
+  public:
+    ManyPrinters() {
+        table.addColumn(QStringLiteral("name"));
+        table.addColumn(QStringLiteral("connection"));
+        table.setHasDetails();
+        table.setTableDataSource(this);
+        table.show();
+    }
+    int numberOfRowsInTableView(TableView *) override { return 2000; }
+    QVariant objectValueForTableColumn(TableView *, const QString &, int row) override {
+        return QStringLiteral("Printer-%1").arg(row * 7 % 2000);
+    }
+    QString detailForTableColumn(TableView *, const QString &, int row) override {
+        return QStringLiteral("Larkfield L200 · 10.0.%1.%2").arg(row / 250).arg(row % 250);
+    }
+    QString rowKeyInTableView(TableView *, int row) override {
+        return QStringLiteral("tcp://printer-%1").arg(row);
+    }
+    TableView table;
+};
+
+void paintAnew(benchmark::State &state, const std::function<void(TableView &)> &change) {
+    ManyPrinters printers;
+    printers.table.selectRow(1500);
+    for (auto _ : state) {
+        change(printers.table);
+        printers.table.repaint();
+        QApplication::processEvents();
+    }
+}
+
+void reloadMany(benchmark::State &state) {
+    paintAnew(state, [](TableView &table) { table.reloadData(); });
+}
+BENCHMARK(reloadMany)->Unit(benchmark::kMillisecond);
+
+void reloadManySorted(benchmark::State &state) {
+    paintAnew(state, [](TableView &table) {
+        table.sortByColumn(0, Qt::AscendingOrder);
+        table.reloadData();
+    });
+}
+BENCHMARK(reloadManySorted)->Unit(benchmark::kMillisecond);
+
+void filterMany(benchmark::State &state) {
+    paintAnew(state, [filter = QStringLiteral("12")](TableView &table) mutable {
+        table.setFilter(filter = filter == u"12" ? QStringLiteral("1") : QStringLiteral("12"));
+    });
+}
+BENCHMARK(filterMany)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -89,7 +89,7 @@ void shootSelector() {
     installLibrary(libraryWith(demo(), withoutPermission));
     selector->applicationDidFinishLaunching();
     shoot(window, "printers-no-permission");
-    installLibrary(catalogueLibrary(Catalogue()));
+    installLibrary(std::make_shared<PrinterLibrary>(std::vector<std::unique_ptr<PrinterSource>>()));
     const auto nothing = make<DWTPrinterSelector>();
     nothing->awakeFromNib();
     nothing->applicationDidFinishLaunching();
