@@ -842,6 +842,7 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Key_Show">
         <translation>Schlüssel anzeigen</translation>
+    </message>
     <message id="DWT_Localize_PrinterList_Empty_USB">
         <translation>Es wurde kein Drucker gefunden. Prüfen Sie, ob der Drucker eingeschaltet und über ein USB-Kabel mit diesem Computer verbunden ist. Wählen Sie dann „Erneut suchen“.</translation>
     </message>

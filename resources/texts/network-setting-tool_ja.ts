@@ -842,6 +842,7 @@
     </message>
     <message id="DWT_Localize_Key_Show">
         <translation>キーを表示</translation>
+    </message>
     <message id="DWT_Localize_PrinterList_Empty_USB">
         <translation>プリンターが見つかりません。プリンターの電源が入っていて、USB ケーブルでこのコンピューターに接続されていることを確認してから、［再検索］をクリックしてください。</translation>
     </message>

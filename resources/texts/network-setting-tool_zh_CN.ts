@@ -842,6 +842,7 @@
     </message>
     <message id="DWT_Localize_Key_Show">
         <translation>显示密钥</translation>
+    </message>
     <message id="DWT_Localize_PrinterList_Empty_USB">
         <translation>未找到打印机。请检查打印机是否已开机，并已用 USB 电缆连接到此计算机。然后选择“重新搜索”。</translation>
     </message>
