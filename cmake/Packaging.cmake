@@ -32,7 +32,7 @@ endforeach()
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME ${NST_NAME})
-set(CPACK_PACKAGE_CONTACT "Network Setting Tool developers <developers@networksettingtool.invalid>")
+set(CPACK_PACKAGE_CONTACT "Network Setting Tool developers <${NST_CONTACT}>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "read and change the network settings of label printers")
 set(CPACK_PACKAGE_DESCRIPTION
   "Lists the label printers that are reachable over USB or the network, reads all

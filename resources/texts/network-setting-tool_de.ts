@@ -873,5 +873,23 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Field_Clear">
         <translation>Leeren</translation>
     </message>
+    <message id="DWT_Localize_Menu_Printer">
+        <translation>&amp;Drucker</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Send">
+        <translation>An Drucker &amp;senden …</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ReadAgain">
+        <translation>&amp;Neu einlesen</translation>
+    </message>
+    <message id="DWT_Localize_Menu_PrinterList">
+        <translation>&amp;Druckerliste</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Guide">
+        <translation>&amp;Drucker anschließen …</translation>
+    </message>
+    <message id="DWT_Localize_About_Report">
+        <translation>Fehler melden Sie bitte an %1</translation>
+    </message>
 </context>
 </TS>

@@ -873,5 +873,23 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Field_Clear">
         <translation>Clear</translation>
     </message>
+    <message id="DWT_Localize_Menu_Printer">
+        <translation>&amp;Printer</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Send">
+        <translation>&amp;Send to printer…</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ReadAgain">
+        <translation>&amp;Read again</translation>
+    </message>
+    <message id="DWT_Localize_Menu_PrinterList">
+        <translation>Printer &amp;list</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Guide">
+        <translation>&amp;Connect a printer…</translation>
+    </message>
+    <message id="DWT_Localize_About_Report">
+        <translation>Report faults to %1</translation>
+    </message>
 </context>
 </TS>

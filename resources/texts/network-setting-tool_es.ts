@@ -873,5 +873,23 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Field_Clear">
         <translation>Borrar</translation>
     </message>
+    <message id="DWT_Localize_Menu_Printer">
+        <translation>&amp;Impresora</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Send">
+        <translation>&amp;Enviar a la impresora…</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ReadAgain">
+        <translation>&amp;Volver a leer</translation>
+    </message>
+    <message id="DWT_Localize_Menu_PrinterList">
+        <translation>&amp;Lista de impresoras</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Guide">
+        <translation>&amp;Conectar una impresora…</translation>
+    </message>
+    <message id="DWT_Localize_About_Report">
+        <translation>Para informar de un problema: %1</translation>
+    </message>
 </context>
 </TS>

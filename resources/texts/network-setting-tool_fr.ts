@@ -873,5 +873,23 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Field_Clear">
         <translation>Effacer</translation>
     </message>
+    <message id="DWT_Localize_Menu_Printer">
+        <translation>Im&amp;primante</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Send">
+        <translation>&amp;Envoyer à l’imprimante…</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ReadAgain">
+        <translation>&amp;Relire les paramètres</translation>
+    </message>
+    <message id="DWT_Localize_Menu_PrinterList">
+        <translation>&amp;Liste des imprimantes</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Guide">
+        <translation>&amp;Connecter une imprimante…</translation>
+    </message>
+    <message id="DWT_Localize_About_Report">
+        <translation>Pour signaler un problème : %1</translation>
+    </message>
 </context>
 </TS>

@@ -873,5 +873,23 @@
     <message id="DWT_Localize_Field_Clear">
         <translation>クリア</translation>
     </message>
+    <message id="DWT_Localize_Menu_Printer">
+        <translation>プリンター(&amp;P)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Send">
+        <translation>プリンターに送信…(&amp;S)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ReadAgain">
+        <translation>再読み込み(&amp;R)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_PrinterList">
+        <translation>プリンター一覧(&amp;L)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Guide">
+        <translation>プリンターを接続…(&amp;C)</translation>
+    </message>
+    <message id="DWT_Localize_About_Report">
+        <translation>不具合の報告先: %1</translation>
+    </message>
 </context>
 </TS>

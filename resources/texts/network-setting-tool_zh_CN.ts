@@ -873,5 +873,23 @@
     <message id="DWT_Localize_Field_Clear">
         <translation>清除</translation>
     </message>
+    <message id="DWT_Localize_Menu_Printer">
+        <translation>打印机(&amp;P)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Send">
+        <translation>发送到打印机…(&amp;S)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ReadAgain">
+        <translation>重新读取(&amp;R)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_PrinterList">
+        <translation>打印机列表(&amp;L)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Guide">
+        <translation>连接打印机…(&amp;C)</translation>
+    </message>
+    <message id="DWT_Localize_About_Report">
+        <translation>问题反馈：%1</translation>
+    </message>
 </context>
 </TS>

@@ -130,9 +130,12 @@ void DWTPrinterSelector::DWT_UIInitialize() {
     views.add(DWT_View_Key_WPS1, guide->firstView());
     views.add(DWT_View_Key_WPS2, guide->secondView());
     views.add(DWT_View_Key_Printerlist, view_Printerlist);
-    m_menu = makeMainMenu(window_PrinterSelector);
+    m_menu = new MainMenu(window_PrinterSelector);
     window_PrinterSelector->layout()->setMenuBar(m_menu);
-    localizeMenu(m_menu);
+    m_menu->localize();
+    connect(m_menu, &MainMenu::printerListChosen, this,
+            [this] { leaveFor(DWT_View_Key_Printerlist); });
+    connect(m_menu, &MainMenu::guideChosen, this, [this] { leaveFor(DWT_View_Key_ToolPerform); });
     window_PrinterSelector->setMinimumWidth(m_menu->sizeHint().width());
     TableView &table = *tableView_Printerlist;
     table.addColumn(_MODEL_NAME_);
@@ -278,13 +281,29 @@ void DWTPrinterSelector::DWT_ShowMainSettingWindow() {
         const WaitSheet waiting = window_Wait->over(window_PrinterSelector);
         msw_Object->showWindow();
         Window *const opening = msw_Object->window();
-        opening->layout()->setMenuBar(sharedMainMenu(m_menu, opening));
+        opening->layout()->setMenuBar(m_menu->shareWith(opening));
+        m_menu->pressForPrinter(msw_Object->sendButton(), msw_Object->readAgainButton());
         opened = msw_Object->initializeData(array_PrinterList.value(row));
     }
     if (!opened) return;
     window_PrinterSelector->hide();
     show_mainDialog = true;
     msw_Object->window()->bringToFront();
+}
+
+void DWTPrinterSelector::leaveFor(const QString &viewKey) {
+    if (show_mainDialog) msw_Object->closeButton()->click();
+    if (show_mainDialog) return;  // the user stays there
+    m_guideLeadsToList = true;
+    window_PrinterSelector->bringToFront();
+    if (dictionary_ViewManagement->selectedKey() != viewKey) DWT_UISelector(viewKey);
+}
+
+void DWTPrinterSelector::leaveGuide() {
+    if (m_guideLeadsToList)
+        DWT_UISelector(DWT_View_Key_Printerlist);
+    else
+        Application::terminate();
 }
 
 void DWTPrinterSelector::windowWillClose() {
@@ -341,7 +360,7 @@ void DWTPrinterSelector::push_ToolPerformOK() {
 }
 
 void DWTPrinterSelector::push_ToolPerformExit() {
-    Application::terminate();
+    leaveGuide();
 }
 
 void DWTPrinterSelector::push_ChooseConnectNext() {
@@ -351,7 +370,7 @@ void DWTPrinterSelector::push_ChooseConnectNext() {
 }
 
 void DWTPrinterSelector::push_ChooseConnectExit() {
-    Application::terminate();
+    leaveGuide();
 }
 
 void DWTPrinterSelector::push_USBConnectNext() {
@@ -367,11 +386,11 @@ void DWTPrinterSelector::push_WPSSetting1Back() {
 }
 
 void DWTPrinterSelector::push_WPSSetting1Exit() {
-    Application::terminate();
+    leaveGuide();
 }
 
 void DWTPrinterSelector::push_WPSSetting2Next() {
-    Application::terminate();
+    leaveGuide();
 }
 
 void DWTPrinterSelector::push_WPSSetting2Back() {
@@ -379,7 +398,7 @@ void DWTPrinterSelector::push_WPSSetting2Back() {
 }
 
 void DWTPrinterSelector::push_WPSSetting2Exit() {
-    Application::terminate();
+    leaveGuide();
 }
 
 void DWTPrinterSelector::push_PrinterListOK() {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QMenuBar>
 #include <QPointer>
 #include <QTimer>
 
@@ -12,6 +11,7 @@
 #include "platform/ui/Window.h"
 #include "ui_PrinterSelector.h"
 
+class MainMenu;
 class WPSGuide;
 class WaitWindow;
 
@@ -63,6 +63,10 @@ class DWTPrinterSelector : public DWTBaseClass,
     void DWT_DoubleAction(int clickedRow);
     void DWT_CloseMainDialog(const Notification &notification);
     void DWT_ShowMainSettingWindow();
+    // Shows a view as the menu asks for it; an open printer is left first, as by its Close button.
+    void leaveFor(const QString &viewKey);
+    // The end of the guide: it goes to the list when the menu led to it, and otherwise quits.
+    void leaveGuide();
     // The user closes the selection window: it hides.
     void windowWillClose();
 
@@ -83,12 +87,13 @@ class DWTPrinterSelector : public DWTBaseClass,
 
     QPointer<Window> window_PrinterSelector;
     WaitWindow *window_Wait = nullptr;  // belongs to the selection window
-    QMenuBar *m_menu = nullptr;
+    MainMenu *m_menu = nullptr;         // belongs to it, too
     std::unique_ptr<ViewStack> dictionary_ViewManagement;
     std::shared_ptr<DWTDataManager> ndm_Object;
     QList<PrinterEntry> array_PrinterList;
     std::shared_ptr<DWTMainSettingWindow> msw_Object;
     bool show_mainDialog = false;
+    bool m_guideLeadsToList = false;
     NotificationCenter::Observer m_closings;
     QTimer m_looking;  // for printers that come or go
 };

@@ -1,25 +1,25 @@
 #include "app/MainMenu.h"
 
+#include <QAbstractButton>
+#include <QClipboard>
+#include <QEvent>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
 
 #include "platform/core/Texts.h"
 #include "platform/ui/Application.h"
 
 namespace {
 
-void add(QMenu *menu, const char *key, const QKeySequence &shortcut,
-         const std::function<void()> &action) {
+QAction *add(QMenu *menu, const char *key, const QKeySequence &shortcut,
+             const std::function<void()> &action = nullptr) {
     QAction *const entry = menu->addAction(QLatin1String(key));
     entry->setShortcut(shortcut);
-    QObject::connect(entry, &QAction::triggered, menu, action);
-}
-
-// An operation of the field that has the focus, by the name that fields give it.
-std::function<void()> onField(const char *slot) {
-    return [slot] {
-        QWidget *const field = QApplication::focusWidget();
-        if (field && field->inherits("QLineEdit")) QMetaObject::invokeMethod(field, slot);
-    };
+    if (action) QObject::connect(entry, &QAction::triggered, menu, action);
+    return entry;
 }
 
 std::function<void()> onWindow(void (*operation)(QWidget *)) {
@@ -28,40 +28,142 @@ std::function<void()> onWindow(void (*operation)(QWidget *)) {
     };
 }
 
+// The field, when its text can be changed; otherwise null.
+QLineEdit *editable(QWidget *widget) {
+    auto *const field = qobject_cast<QLineEdit *>(widget);
+    return field && !field->isReadOnly() ? field : nullptr;
+}
+
+// What is selected in a field or a label, as far as it may be seen.
+QString selectedText(const QWidget *widget) {
+    if (const auto *label = qobject_cast<const QLabel *>(widget)) return label->selectedText();
+    const auto *field = qobject_cast<const QLineEdit *>(widget);
+    return field && field->echoMode() == QLineEdit::Normal ? field->selectedText() : QString();
+}
+
+// Makes an entry press a button, and be enabled exactly while a person could.
+class ButtonEntry : public QObject {
+  public:
+    ButtonEntry(QAction *entry, QAbstractButton *button)
+        : QObject(button), m_entry(entry), m_button(button) {
+        button->installEventFilter(this);
+        // As a click does, the focus ends the editing of a field.
+        connect(entry, &QAction::triggered, this, [button] {
+            button->setFocus(Qt::ShortcutFocusReason);
+            button->click();
+        });
+        follow();
+    }
+    bool eventFilter(QObject *, QEvent *event) override {
+        if (event->type() == QEvent::EnabledChange || event->type() == QEvent::Show ||
+            event->type() == QEvent::Hide)
+            follow();
+        return false;
+    }
+
+  private:
+    void follow() {
+        if (m_entry) m_entry->setEnabled(m_button->isVisible() && m_button->isEnabled());
+    }
+
+    const QPointer<QAction> m_entry;
+    QAbstractButton *const m_button;
+};
+
+// The name of the licence, and whose the copyright is.
+QString licence() {
+    QFile file(QStringLiteral(":/LICENSE"));
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    return QString::fromUtf8(file.readAll()).section(QStringLiteral("\n\n"), 0, 1);
+}
+
 void showAbout() {
     const QString name = localized(QStringLiteral("DWT_Localize_App_Name"));
-    const QString text = localized(QStringLiteral("DWT_Localize_About_Text"));
-    QMessageBox::about(
-        QApplication::activeWindow(), name,
-        QStringLiteral("<h3>%1 %2</h3><p>%3</p>")
-            .arg(name.toHtmlEscaped(), QStringLiteral(NST_VERSION), text.toHtmlEscaped()));
+    const QString contact = QStringLiteral("<a href=\"mailto:%1\">%1</a>");
+    const QStringList paragraphs{
+        localized(QStringLiteral("DWT_Localize_About_Text")).toHtmlEscaped(),
+        licence().toHtmlEscaped().replace(QStringLiteral("\n\n"), QStringLiteral("<br>")),
+        localized(QStringLiteral("DWT_Localize_About_Report"))
+            .toHtmlEscaped()
+            .arg(contact.arg(QStringLiteral(NST_CONTACT)))};
+    auto *const box = new QMessageBox(QApplication::activeWindow());
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowTitle(name);
+    box->setIconPixmap(QApplication::windowIcon().pixmap(64));
+    box->setTextFormat(Qt::RichText);
+    box->setText(QStringLiteral("<h3>%1 %2</h3><p>%3</p>")
+                     .arg(name.toHtmlEscaped(), QStringLiteral(NST_VERSION),
+                          paragraphs.join(QStringLiteral("</p><p>"))));
+    box->setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
+    box->open();
 }
 
 }  // namespace
 
-QMenuBar *makeMainMenu(QWidget *parent) {
-    auto *const bar = new QMenuBar(parent);
-    QMenu *const application = bar->addMenu(QStringLiteral("DWT_Localize_Menu_Application"));
+MainMenu::MainMenu(QWidget *parent) : QMenuBar(parent) {
+    QMenu *const application = addMenu(QStringLiteral("DWT_Localize_Menu_Application"));
     add(application, "DWT_Localize_Menu_Quit", Qt::CTRL | Qt::Key_Q,
         [] { Application::terminate(); });
-    QMenu *const edit = bar->addMenu(QStringLiteral("DWT_Localize_Menu_Edit"));
-    add(edit, "DWT_Localize_Menu_Cut", QKeySequence::Cut, onField("cut"));
-    add(edit, "DWT_Localize_Menu_Copy", QKeySequence::Copy, onField("copy"));
-    add(edit, "DWT_Localize_Menu_Paste", QKeySequence::Paste, onField("paste"));
-    edit->addSeparator();
-    add(edit, "DWT_Localize_Menu_SelectAll", QKeySequence::SelectAll, onField("selectAll"));
-    QMenu *const window = bar->addMenu(QStringLiteral("DWT_Localize_Menu_Window"));
+    addEditMenu();
+    QMenu *const printer = addMenu(QStringLiteral("DWT_Localize_Menu_Printer"));
+    m_send = add(printer, "DWT_Localize_Menu_Send", Qt::CTRL | Qt::Key_S);
+    m_readAgain = add(printer, "DWT_Localize_Menu_ReadAgain", Qt::Key_F5);
+    for (QAction *entry : printer->actions()) entry->setEnabled(false);
+    QMenu *const window = addMenu(QStringLiteral("DWT_Localize_Menu_Window"));
+    add(window, "DWT_Localize_Menu_PrinterList", Qt::CTRL | Qt::Key_L,
+        [this] { Q_EMIT printerListChosen(); });
+    window->addSeparator();
     add(window, "DWT_Localize_Menu_Minimize", Qt::CTRL | Qt::Key_M,
         onWindow([](QWidget *w) { w->showMinimized(); }));
     add(window, "DWT_Localize_Menu_Close", Qt::CTRL | Qt::Key_W,
         onWindow([](QWidget *w) { w->close(); }));
-    QMenu *const help = bar->addMenu(QStringLiteral("DWT_Localize_Menu_Help"));
+    QMenu *const help = addMenu(QStringLiteral("DWT_Localize_Menu_Help"));
+    add(help, "DWT_Localize_Menu_Guide", {}, [this] { Q_EMIT guideChosen(); });
+    help->addSeparator();
     add(help, "DWT_Localize_Menu_About", {}, showAbout);
-    return bar;
 }
 
-void localizeMenu(QMenuBar *bar) {
-    for (QAction *top : bar->actions()) {
+void MainMenu::addEditMenu() {
+    QMenu *const edit = addMenu(QStringLiteral("DWT_Localize_Menu_Edit"));
+    m_cut = add(edit, "DWT_Localize_Menu_Cut", QKeySequence::Cut, [this] {
+        if (QLineEdit *const field = editable(m_focus)) field->cut();
+    });
+    m_copy = add(edit, "DWT_Localize_Menu_Copy", QKeySequence::Copy, [this] { copy(); });
+    m_paste = add(edit, "DWT_Localize_Menu_Paste", QKeySequence::Paste, [this] {
+        if (QLineEdit *const field = editable(m_focus)) field->paste();
+    });
+    edit->addSeparator();
+    m_selectAll = add(edit, "DWT_Localize_Menu_SelectAll", QKeySequence::SelectAll, [this] {
+        if (auto *const field = qobject_cast<QLineEdit *>(m_focus)) field->selectAll();
+    });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
+        if (now && !qobject_cast<QMenuBar *>(now)) m_focus = now;
+    });
+    connect(edit, &QMenu::aboutToShow, this, &MainMenu::followFocus);
+    // A shortcut asks nobody what can act; it finds out by itself.
+    connect(edit, &QMenu::aboutToHide, this, [this] {
+        for (QAction *entry : {m_cut, m_copy, m_paste, m_selectAll}) entry->setEnabled(true);
+    });
+}
+
+void MainMenu::followFocus() {
+    QWidget *const focus = m_focus && m_focus->isVisible() ? m_focus.data() : nullptr;
+    const QLineEdit *const changed = editable(focus);
+    const auto *const field = qobject_cast<QLineEdit *>(focus);
+    const QMimeData *const clipboard = QApplication::clipboard()->mimeData();
+    m_copy->setEnabled(!selectedText(focus).isEmpty());
+    m_cut->setEnabled(changed && m_copy->isEnabled());
+    m_paste->setEnabled(changed && clipboard && clipboard->hasText());
+    m_selectAll->setEnabled(field && !field->text().isEmpty());
+}
+
+void MainMenu::copy() {
+    const QString selected = selectedText(m_focus);
+    if (!selected.isEmpty()) QApplication::clipboard()->setText(selected);
+}
+
+void MainMenu::localize() {
+    for (QAction *top : actions()) {
         if (top->text().isEmpty() || !top->menu()) continue;
         top->menu()->setTitle(localized(top->text()));
         for (QAction *entry : top->menu()->actions())
@@ -69,8 +171,13 @@ void localizeMenu(QMenuBar *bar) {
     }
 }
 
-QMenuBar *sharedMainMenu(const QMenuBar *bar, QWidget *parent) {
+QMenuBar *MainMenu::shareWith(QWidget *parent) const {
     auto *const shared = new QMenuBar(parent);
-    shared->addActions(bar->actions());
+    shared->addActions(actions());
     return shared;
+}
+
+void MainMenu::pressForPrinter(QAbstractButton *send, QAbstractButton *readAgain) {
+    new ButtonEntry(m_send, send);
+    new ButtonEntry(m_readAgain, readAgain);
 }

@@ -1,13 +1,44 @@
 #pragma once
 
 #include <QMenuBar>
+#include <QPointer>
 
-// Makes the application's menu bar: Application, Edit, Window and Help with the usual entries. The
-// titles are localisation keys until localizeMenu() has replaced them.
-QMenuBar *makeMainMenu(QWidget *parent);
+class QAbstractButton;
 
-// Replaces every title of the menus and of their entries by its text.
-void localizeMenu(QMenuBar *bar);
+// The application's menu bar: Application, Edit, Printer, Window and Help. The titles are
+// localisation keys until localize() has replaced them. Main thread only.
+class MainMenu : public QMenuBar {
+    Q_OBJECT
+  public:
+    explicit MainMenu(QWidget *parent);
 
-// A further bar with the same menus, for another window.
-QMenuBar *sharedMainMenu(const QMenuBar *bar, QWidget *parent);
+    // Replaces every title of the menus and of their entries by its text. Once.
+    void localize();
+
+    // A further bar with the same menus, for another window, which owns it.
+    QMenuBar *shareWith(QWidget *parent) const;
+
+    // Makes Send and Read again press these buttons, and be enabled exactly while a person could.
+    // Both entries are disabled before. The buttons of the window before must be gone, or hidden.
+    void pressForPrinter(QAbstractButton *send, QAbstractButton *readAgain);
+
+  Q_SIGNALS:
+    // The list of printers is to be shown.
+    void printerListChosen();
+    // The guide to connecting a printer is to be shown from its beginning.
+    void guideChosen();
+
+  private:
+    void addEditMenu();
+    // Enables what can act on the widget that has the focus.
+    void followFocus();
+    void copy();
+
+    QAction *m_cut = nullptr;
+    QAction *m_copy = nullptr;
+    QAction *m_paste = nullptr;
+    QAction *m_selectAll = nullptr;
+    QAction *m_send = nullptr;
+    QAction *m_readAgain = nullptr;
+    QPointer<QWidget> m_focus;  // the widget that has it, or had it before a menu bar took it
+};

@@ -52,6 +52,10 @@ class DWTMainSettingWindow : public QObject,
     void showWindow();
     // The window, for whoever places others beside it; null until showWindow().
     Window *window() const { return window_Main; }
+    // The buttons that entries of a menu press; from showWindow() on, as long as the window lives.
+    QAbstractButton *sendButton() const { return button_MainSend; }
+    QAbstractButton *readAgainButton() const { return button_MainNewSetting; }
+    QAbstractButton *closeButton() const { return button_MainCancel; }
     // With an entry: the first opening, for that printer. Without one: reads the settings again.
     // False when the printer cannot be reached at the first opening; the window is then closed.
     bool initializeData(const std::optional<PrinterEntry> &entry);

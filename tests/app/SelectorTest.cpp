@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QLabel>
+#include <QMenuBar>
 #include <QProcess>
 #include <QRadioButton>
 #include <QTemporaryDir>
@@ -52,6 +53,24 @@ class Selector : public testing::Test {
             QTimer::singleShot(0, &context, [] { QApplication::exit(goesOn); });
         });
         return QApplication::exec() != goesOn;
+    }
+    // The menus of a window, by their titles.
+    static QMap<QString, QMenu *> menus(QWidget *window) {
+        QMap<QString, QMenu *> found;
+        for (QAction *top : window->findChild<QMenuBar *>()->actions())
+            found[top->text().remove(u'&')] = top->menu();
+        return found;
+    }
+    // Presses a key once the window has got the keyboard, maybe back from a dialog.
+    static void keyIn(QWidget *window, Qt::Key key, Qt::KeyboardModifier with) {
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == window; }));
+        QTest::keyClick(window, key, with);
+    }
+    // Opens a menu by its mnemonic.
+    static void openMenu(QWidget *window, Qt::Key letter) {
+        keyIn(window, letter, Qt::AltModifier);
+        ASSERT_TRUE(QApplication::activePopupWidget());
     }
     QString visibleView() {
         for (const char *view : {"view_ToolPerform", "view_ChooseConnect", "view_USBConnect",
@@ -291,22 +310,119 @@ TEST_F(Selector, QuittingAsksTheOpenPrinterAboutUnsentChanges) {
     EXPECT_TRUE(quits(quitBySystem)) << "no printer is open any more";
 }
 
-TEST_F(Selector, TheMenuHasTextsAndWorksOnTheField) {
+TEST_F(Selector, EntriesOfTheEditMenuAreEnabledWhenTheyCanAct) {
     walk.launch();
     ASSERT_TRUE(walk.open(text("Packing-Desk")));
-    QMap<QString, QAction *> entries;
-    for (QAction *top : walk.main()->findChild<QMenuBar *>()->actions())
-        for (QAction *entry : top->menu()->actions()) entries[entry->text().remove(u'&')] = entry;
-    EXPECT_TRUE(entries.keys().filter(text("DWT_")).isEmpty());
-    auto *field = controlOf<QLineEdit>(walk.main(), "textField_NetworkBonjour");
-    field->setFocus();
-    for (const char *entry : {"Select all", "Cut"}) entries[text(entry)]->trigger();
-    EXPECT_EQ(field->text(), QString());
-    EXPECT_EQ(QApplication::clipboard()->text(), text("packing-desk"));
-    entries[text("Paste")]->trigger();
-    EXPECT_EQ(field->text(), text("packing-desk"));
-    entries[text("Close")]->trigger();
-    EXPECT_FALSE(walk.main()->isVisible());
+    QApplication::clipboard()->setText(text("old"));
+    const char *const name = "textField_NetworkBonjour",
+                      *const mac = "textField_EthernetMACAddress",
+                      *const secret = "secureTextField_Password";
+    controlOf(walk.main(), secret)->setEnabled(true);
+    controlOf<QLineEdit>(walk.main(), secret)->setText(text("open123"));
+    const struct {
+        const char *control;
+        bool selected;
+        const char *enabled;
+    } cases[] = {{name, true, "Cut Copy Paste Select all"},
+                 {name, false, "Paste Select all"},
+                 {mac, true, "Copy Select all"},
+                 {secret, true, "Paste Select all"},
+                 {"outlineView_Main", false, ""}};
+    for (const auto &c : cases) {
+        auto *control = controlOf(walk.main(), c.control);
+        for (QWidget *page = control; page != walk.main(); page = page->parentWidget())
+            if (page->isHidden()) page->show();
+        control->setFocus();
+        ASSERT_TRUE(control->hasFocus()) << c.control;
+        auto *field = qobject_cast<QLineEdit *>(control);
+        if (field && c.selected) field->selectAll();
+        if (field && !c.selected) field->deselect();
+        openMenu(walk.main(), Qt::Key_E);
+        QStringList enabled;
+        for (QAction *entry : QApplication::activePopupWidget()->actions())
+            if (entry->isEnabled() && !entry->isSeparator()) enabled << entry->text().remove(u'&');
+        EXPECT_EQ(enabled.join(u' '), text(c.enabled)) << c.control;
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    }
+    const auto choose = [&](const char *control, Qt::Key entry) {
+        auto *field = controlOf<QLineEdit>(walk.main(), control);
+        field->setFocus();
+        QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+        openMenu(walk.main(), Qt::Key_E);
+        QTest::keyClick(QApplication::activePopupWidget(), entry);
+        return field->text();
+    };
+    EXPECT_EQ(choose(name, Qt::Key_T), QString());
+    const QString address = choose(mac, Qt::Key_C);
+    EXPECT_EQ(QApplication::clipboard()->text(), address);
+    EXPECT_EQ(choose(name, Qt::Key_P), address);
+}
+
+TEST_F(Selector, TheMenuSendsReadsAgainAndLeadsToTheListAndTheGuide) {
+    walk.launch();
+    const auto enabled = [&] {
+        QStringList titles;
+        for (QAction *entry : menus(window())[text("Printer")]->actions())
+            if (entry->isEnabled()) titles << entry->shortcut().toString();
+        return titles.join(u' ');
+    };
+    const auto key = [&](Qt::Key pressed, Qt::KeyboardModifier with = Qt::ControlModifier) {
+        keyIn(isListed() ? window() : walk.main(), pressed, with);
+    };
+    EXPECT_EQ(enabled(), QString());
+    ASSERT_TRUE(walk.open(text("Packing-Desk")));
+    EXPECT_EQ(enabled(), text("F5"));
+    key(Qt::Key_S);
+    walk.type("textField_NetworkBonjour", text("gate-2"));
+    EXPECT_EQ(enabled(), text("Ctrl+S F5"));
+    walk.dialogs().key("view_UpdateChangeCheck", Qt::Key_Return);
+    key(Qt::Key_F5, Qt::NoModifier);
+    EXPECT_EQ(walk.shown("textField_NetworkBonjour"), text("gate-2")) << "edits are thrown away";
+    walk.dialogs().on("view_SendChangeCheck", "button_SendChangeCheckCancel");
+    key(Qt::Key_L);
+    EXPECT_TRUE(walk.main()->isVisible() && !isListed());
+    walk.dialogs().on("", [](QWidget *alert) { QTest::keyClick(alert, Qt::Key_Return); });
+    walk.dialogs().confirmAndEnd();
+    key(Qt::Key_S);
+    EXPECT_EQ(walk.held("virtual://packing-desk", 0x1004), QByteArray("gate-2"));
+    EXPECT_EQ(enabled(), text("F5"));
+    key(Qt::Key_L);
+    EXPECT_TRUE(isListed() && !walk.main()->isVisible());
+    EXPECT_EQ(enabled(), QString());
+    const char *const next = "button_ChooseConnectNext", *const ok = "button_ToolPerformOK";
+    for (const QList<const char *> &clicks : {QList{"button_ToolPerformEXIT"},
+                                              {ok, "button_ChooseConnectEXIT"},
+                                              {ok, next, "button_WPS1EXIT"},
+                                              {ok, next, "button_WPS1Next", "button_WPS2EXIT"},
+                                              {ok, next, "button_WPS1Next", "button_WPS2Next"}}) {
+        controlOf<RadioGroup>(window(), "matrix_ChooseConnectSelect")->selectTag(1);
+        openMenu(window(), Qt::Key_H);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_C);
+        EXPECT_EQ(visibleView(), text("view_ToolPerform"));
+        EXPECT_FALSE(quits([&] {
+            for (const char *button : clicks) click(button);
+        }));
+        EXPECT_EQ(visibleView(), text("view_Printerlist")) << clicks.last();
+    }
+    key(Qt::Key_W);
+    EXPECT_FALSE(isListed());
+}
+
+TEST_F(Selector, AboutTellsVersionLicenceAndWhereFaultsAreReported) {
+    walk.launch();
+    openMenu(window(), Qt::Key_H);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_A);
+    auto *about = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+    ASSERT_TRUE(about);
+    auto *told = controlOf<QLabel>(about, "qt_msgbox_label");
+    told->setFocus();
+    QTest::keyClick(told, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(told, Qt::Key_C, Qt::ControlModifier);
+    const QString copied = QApplication::clipboard()->text();
+    for (const char *part : {NST_VERSION, "MIT License", "Copyright (c)", "Report faults to ", "@"})
+        EXPECT_TRUE(copied.contains(text(part))) << part << " in " << qPrintable(copied);
+    QTest::keyClick(about, Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QApplication::activeModalWidget(); }));
 }
 
 // Runs the program with the argument, as the user's shell does; gives what it prints.

@@ -1,10 +1,29 @@
 #include "platform/ui/FieldLooks.h"
 
+#include <QCoreApplication>
+#include <QFocusEvent>
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QLineEdit>
 #include <QStyle>
 #include <QStyleOptionFrame>
+
+namespace {
+
+// Tells a field that a menu opens, when a menu bar takes the focus.
+class MenuFilter : public QObject {
+  public:
+    bool eventFilter(QObject *field, QEvent *event) override {
+        if (event->type() != QEvent::FocusOut ||
+            static_cast<QFocusEvent *>(event)->reason() != Qt::MenuBarFocusReason)
+            return false;
+        QFocusEvent menuOpens(QEvent::FocusOut, Qt::PopupFocusReason);
+        QCoreApplication::sendEvent(field, &menuOpens);
+        return true;
+    }
+};
+
+}  // namespace
 
 void fitWidth(QLineEdit *field, const QString &sample) {
     field->ensurePolished();
@@ -21,7 +40,13 @@ void fitWidth(QLineEdit *field, const QString &sample) {
     field->setFixedWidth(size.width());
 }
 
+void keepSelectionInMenus(QLineEdit *field) {
+    static MenuFilter filter;  // the same for all: a field that has it already keeps one
+    field->installEventFilter(&filter);
+}
+
 void showAsValue(QLineEdit *field, bool on) {
+    keepSelectionInMenus(field);
     field->setReadOnly(on);
     field->setFrame(!on);
     QPalette palette;

@@ -7,6 +7,10 @@ class QWidget;
 // Makes a field as wide as `sample` needs in the field's font, and keeps it there.
 void fitWidth(QLineEdit *field, const QString &sample);
 
+// Lets a field treat a menu bar that takes the focus like a menu that opens: what is selected in it
+// stays selected.
+void keepSelectionInMenus(QLineEdit *field);
+
 // Lets a field look like the value that it shows: read-only, without frame and background. It still
 // takes the focus, so that its text can be selected, copied and read aloud. Off makes it a field
 // again.

@@ -9,8 +9,10 @@
 #include <utility>
 
 #include "platform/core/NotificationCenter.h"
+#include "platform/ui/FieldLooks.h"
 
 TextField::TextField(QWidget *parent) : QLineEdit(parent) {
+    keepSelectionInMenus(this);
     // textEdited comes first, so that m_previous is still the old text when it is handled.
     connect(this, &QLineEdit::textEdited, this, [this] { userChangedText(); });
     connect(this, &QLineEdit::textChanged, this, [this] { textIsNew(); });
