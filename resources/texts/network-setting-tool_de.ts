@@ -891,5 +891,8 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_About_Report">
         <translation>Fehler melden Sie bitte an %1</translation>
     </message>
+    <message id="DWT_Localize_Tray_Show">
+        <translation>&amp;Fenster anzeigen</translation>
+    </message>
 </context>
 </TS>

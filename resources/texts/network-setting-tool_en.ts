@@ -61,7 +61,7 @@
         <translation>&amp;Infrastructure: join an existing wireless network</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
-        <translation>Access &amp;point: computers join the printer’s own network</translation>
+        <translation>Access point: computers &amp;join the printer’s own network</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
         <translation>&amp;Off: no wireless network</translation>
@@ -890,6 +890,9 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_About_Report">
         <translation>Report faults to %1</translation>
+    </message>
+    <message id="DWT_Localize_Tray_Show">
+        <translation>&amp;Show window</translation>
     </message>
 </context>
 </TS>

@@ -874,7 +874,7 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
         <translation>Borrar</translation>
     </message>
     <message id="DWT_Localize_Menu_Printer">
-        <translation>&amp;Impresora</translation>
+        <translation>Impres&amp;ora</translation>
     </message>
     <message id="DWT_Localize_Menu_Send">
         <translation>&amp;Enviar a la impresora…</translation>
@@ -890,6 +890,9 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_About_Report">
         <translation>Para informar de un problema: %1</translation>
+    </message>
+    <message id="DWT_Localize_Tray_Show">
+        <translation>&amp;Mostrar la ventana</translation>
     </message>
 </context>
 </TS>

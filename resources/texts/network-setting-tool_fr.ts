@@ -61,7 +61,7 @@
         <translation>I&amp;nfrastructure : rejoindre un réseau Wi-Fi existant</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
-        <translation>&amp;Point d’accès : les ordinateurs rejoignent le réseau de l’imprimante</translation>
+        <translation>Point d’accès : les ordinateurs re&amp;joignent le réseau de l’imprimante</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
         <translation>Dé&amp;sactivé : pas de Wi-Fi</translation>
@@ -85,7 +85,7 @@
         <translation>secondes (de 30 à 300)</translation>
     </message>
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
-        <translation>Définir un nouveau mot de &amp;passe administrateur</translation>
+        <translation>Définir un nou&amp;veau mot de passe administrateur</translation>
     </message>
     <message id="DWT_Localize_Password_Box_AdministratorPassword">
         <translation>Mot de passe administrateur</translation>
@@ -890,6 +890,9 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_About_Report">
         <translation>Pour signaler un problème : %1</translation>
+    </message>
+    <message id="DWT_Localize_Tray_Show">
+        <translation>&amp;Afficher la fenêtre</translation>
     </message>
 </context>
 </TS>

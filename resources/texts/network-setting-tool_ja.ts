@@ -61,7 +61,7 @@
         <translation>インフラストラクチャ: 既存の無線 LAN に参加する(&amp;I)</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
-        <translation>アクセスポイント: コンピューターがプリンターのネットワークに参加する(&amp;P)</translation>
+        <translation>アクセスポイント: コンピューターがプリンターのネットワークに参加する(&amp;J)</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
         <translation>オフ: 無線 LAN を使用しない(&amp;O)</translation>
@@ -687,7 +687,7 @@
         <translation>USB で接続し、このツールで設定を入力する(&amp;U)</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
-        <translation>WPS で無線 LAN に接続する(&amp;P)</translation>
+        <translation>WPS で無線 LAN に接続する(&amp;S)</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
         <translation>次へ(&amp;N)</translation>
@@ -890,6 +890,9 @@
     </message>
     <message id="DWT_Localize_About_Report">
         <translation>不具合の報告先: %1</translation>
+    </message>
+    <message id="DWT_Localize_Tray_Show">
+        <translation>ウィンドウを表示(&amp;S)</translation>
     </message>
 </context>
 </TS>

@@ -61,7 +61,7 @@
         <translation>基础结构：加入现有的无线网络(&amp;I)</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_SimpleAP_Label">
-        <translation>接入点：计算机加入打印机自己的网络(&amp;P)</translation>
+        <translation>接入点：计算机加入打印机自己的网络(&amp;J)</translation>
     </message>
     <message id="DWT_Localize_Wireless_Text_WifiNothing_Label">
         <translation>关闭：不使用无线网络(&amp;O)</translation>
@@ -687,7 +687,7 @@
         <translation>通过 USB，在此工具中输入设置(&amp;U)</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Matrix_WSP_Key">
-        <translation>通过 WPS 连接到无线网络(&amp;P)</translation>
+        <translation>通过 WPS 连接到无线网络(&amp;S)</translation>
     </message>
     <message id="DWT_Localize_ChooseConnect_Button_Next_Key">
         <translation>下一步(&amp;N)</translation>
@@ -890,6 +890,9 @@
     </message>
     <message id="DWT_Localize_About_Report">
         <translation>问题反馈：%1</translation>
+    </message>
+    <message id="DWT_Localize_Tray_Show">
+        <translation>显示窗口(&amp;S)</translation>
     </message>
 </context>
 </TS>

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "app/MainMenu.h"
+#include "app/TrayIcon.h"
 #include "mainwindow/WPSGuide.h"
 #include "mainwindow/WaitWindow.h"
 #include "platform/core/Texts.h"
@@ -137,6 +138,11 @@ void DWTPrinterSelector::DWT_UIInitialize() {
             [this] { leaveFor(DWT_View_Key_Printerlist); });
     connect(m_menu, &MainMenu::guideChosen, this, [this] { leaveFor(DWT_View_Key_ToolPerform); });
     window_PrinterSelector->setMinimumWidth(m_menu->sizeHint().width());
+    m_tray = new TrayIcon(this);
+    m_tray->watch(window_PrinterSelector);
+    connect(m_tray, &TrayIcon::windowsWanted, this,
+            [this] { applicationShouldHandleReopen(false); });
+    connect(m_tray, &TrayIcon::quitWanted, this, [] { Application::terminate(); });
     TableView &table = *tableView_Printerlist;
     table.addColumn(_MODEL_NAME_);
     table.addColumn(_SERVICE_NAME_);
@@ -282,6 +288,7 @@ void DWTPrinterSelector::DWT_ShowMainSettingWindow() {
         msw_Object->showWindow();
         Window *const opening = msw_Object->window();
         opening->layout()->setMenuBar(m_menu->shareWith(opening));
+        m_tray->watch(opening);
         m_menu->pressForPrinter(msw_Object->sendButton(), msw_Object->readAgainButton());
         opened = msw_Object->initializeData(array_PrinterList.value(row));
     }

@@ -12,6 +12,7 @@
 #include "ui_PrinterSelector.h"
 
 class MainMenu;
+class TrayIcon;
 class WPSGuide;
 class WaitWindow;
 
@@ -88,6 +89,7 @@ class DWTPrinterSelector : public DWTBaseClass,
     QPointer<Window> window_PrinterSelector;
     WaitWindow *window_Wait = nullptr;  // belongs to the selection window
     MainMenu *m_menu = nullptr;         // belongs to it, too
+    TrayIcon *m_tray = nullptr;         // belongs to this object
     std::unique_ptr<ViewStack> dictionary_ViewManagement;
     std::shared_ptr<DWTDataManager> ndm_Object;
     QList<PrinterEntry> array_PrinterList;

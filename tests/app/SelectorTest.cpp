@@ -7,6 +7,7 @@
 #include <QRadioButton>
 #include <QTemporaryDir>
 
+#include "app/TrayIcon.h"
 #include "platform/ui/SingleInstance.h"
 #include "support/Arguments.h"
 #include "support/PluggedSource.h"
@@ -271,6 +272,37 @@ TEST_F(Selector, ReopeningBringsBackTheWindowInUse) {
     application()->reopen();
     EXPECT_TRUE(isListed());
     EXPECT_TRUE(walk.open(text("Dispatch")));
+}
+
+TEST_F(Selector, AnIconInTheTrayStandsForTheWindowsThatAreHidden) {
+    auto *tray = walk.selector->findChild<TrayIcon *>();
+    bool hasTray = false;
+    tray->setHasTray([&] { return hasTray; });
+    const auto icon = [&] { return tray->findChild<QSystemTrayIcon *>(); };
+    const auto shows = [&](bool wanted) {
+        return QTest::qWaitFor([&] { return icon() && icon()->isVisible() == wanted; });
+    };
+    const auto choose = [&](int entry) { icon()->contextMenu()->actions()[entry]->trigger(); };
+    walk.launch();
+    click("button_PrinterlistEXIT");
+    QApplication::processEvents();
+    EXPECT_FALSE(icon()) << "on a desktop without a tray";
+    application()->reopen();
+    hasTray = true;
+    ASSERT_TRUE(walk.open(text("Packing-Desk")));
+    QApplication::processEvents();
+    EXPECT_FALSE(icon()) << "while a window is visible";
+    walk.press("button_MainCancel");
+    ASSERT_TRUE(shows(true));
+    EXPECT_EQ(icon()->toolTip(), text("Network Setting Tool"));
+    choose(0);
+    EXPECT_TRUE(isListed() && shows(false));
+    window()->close();
+    EXPECT_TRUE(shows(true));
+    Q_EMIT icon()->activated(QSystemTrayIcon::Trigger);
+    EXPECT_TRUE(isListed() && shows(false));
+    window()->close();
+    EXPECT_TRUE(quits([&] { choose(2); }));
 }
 
 TEST_F(Selector, AFailedOpeningComesBackToTheListAsItWas) {

@@ -97,7 +97,7 @@ TEST_F(Networks, F5SearchesAgainAndKeepsWhatWasChosenAndSorted) {
         EXPECT_TRUE(waited);
         EXPECT_TRUE(served->received().contains(text("?3121")));
         setFaults(R"({"refuseConnection": true})");
-        dialogs.alert("The connection to the printer cannot be used");
+        dialogs.alert("Connection to the printer cannot be used");
         EXPECT_TRUE(QTest::qWaitFor([&] { return dialog->isActiveWindow(); }));
         QTest::keyClick(dialog, Qt::Key_F5);
         EXPECT_EQ(names(), text("dcba"));

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QMenu>
+#include <QPointer>
+#include <QSystemTrayIcon>
+#include <functional>
+#include <memory>
+
+// An icon in the desktop's tray while none of the watched windows is visible, with a menu that
+// brings them back and quits; nothing where the desktop has no tray. It is made when it is first
+// needed. Main thread only.
+class TrayIcon : public QObject {
+    Q_OBJECT
+  public:
+    explicit TrayIcon(QObject *parent) : QObject(parent) {}
+
+    // Who says whether there is a tray, asked whenever the last visible window hides; without this
+    // it is the desktop.
+    void setHasTray(std::function<bool()> hasTray) { m_hasTray = std::move(hasTray); }
+
+    // A window more whose hiding and showing counts. One that is destroyed counts as hidden.
+    void watch(QWidget *window);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+  Q_SIGNALS:
+    // The windows are to be brought back.
+    void windowsWanted();
+    // The application is to quit.
+    void quitWanted();
+
+  private:
+    // Shows the icon, or hides it, as the windows now are.
+    void follow();
+    void make();
+
+    std::function<bool()> m_hasTray = &QSystemTrayIcon::isSystemTrayAvailable;
+    QList<QPointer<QWidget>> m_windows;
+    std::unique_ptr<QMenu> m_menu;
+    QSystemTrayIcon *m_icon = nullptr;  // belongs to this object
+};
