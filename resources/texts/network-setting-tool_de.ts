@@ -894,5 +894,26 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Tray_Show">
         <translation>&amp;Fenster anzeigen</translation>
     </message>
+    <message id="DWT_Localize_Wait_Button_Cancel">
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Progress">
+        <translation>Fortschritt</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Reading">
+        <translation>%1 wird gelesen, %2 von %3</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Searching">
+        <translation>WLANs werden gesucht, noch etwa %1 s</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_Cancelled">
+        <translation>Das Einlesen wurde abgebrochen, daher lässt sich nichts ändern. Wählen Sie „Neu einlesen“, um fortzufahren.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Cancelled">
+        <translation>Die Suche wurde abgebrochen, bevor ein Drucker geantwortet hat. Wählen Sie „Erneut suchen“, um neu zu beginnen.</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Cancelled">
+        <translation>Die Suche wurde abgebrochen. Drücken Sie F5, um erneut zu suchen.</translation>
+    </message>
 </context>
 </TS>

@@ -894,5 +894,26 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Tray_Show">
         <translation>&amp;Show window</translation>
     </message>
+    <message id="DWT_Localize_Wait_Button_Cancel">
+        <translation>&amp;Cancel</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Progress">
+        <translation>Progress</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Reading">
+        <translation>Reading %1, %2 of %3</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Searching">
+        <translation>Searching for networks, about %1 s left</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_Cancelled">
+        <translation>Reading was cancelled, so nothing can be changed. Choose “Read again” to go on.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Cancelled">
+        <translation>The search was cancelled before a printer answered. Choose “Look again” to start it anew.</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Cancelled">
+        <translation>The search was cancelled. Press F5 to search again.</translation>
+    </message>
 </context>
 </TS>

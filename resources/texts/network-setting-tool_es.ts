@@ -894,5 +894,26 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Tray_Show">
         <translation>&amp;Mostrar la ventana</translation>
     </message>
+    <message id="DWT_Localize_Wait_Button_Cancel">
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Progress">
+        <translation>Progreso</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Reading">
+        <translation>Leyendo %1, %2 de %3</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Searching">
+        <translation>Buscando redes, quedan unos %1 s</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_Cancelled">
+        <translation>Se canceló la lectura, por lo que no se puede cambiar nada. Elija «Volver a leer» para continuar.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Cancelled">
+        <translation>Se canceló la búsqueda antes de que respondiera una impresora. Elija «Buscar de nuevo» para empezar otra vez.</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Cancelled">
+        <translation>Se canceló la búsqueda. Pulse F5 para buscar de nuevo.</translation>
+    </message>
 </context>
 </TS>

@@ -894,5 +894,26 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Tray_Show">
         <translation>&amp;Afficher la fenêtre</translation>
     </message>
+    <message id="DWT_Localize_Wait_Button_Cancel">
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Progress">
+        <translation>Progression</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Reading">
+        <translation>Lecture de %1, %2 sur %3</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Searching">
+        <translation>Recherche de réseaux, encore environ %1 s</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_Cancelled">
+        <translation>La lecture a été annulée ; rien ne peut donc être modifié. Choisissez « Relire les paramètres » pour continuer.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Cancelled">
+        <translation>La recherche a été annulée avant qu’une imprimante ne réponde. Choisissez « Rechercher à nouveau » pour recommencer.</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Cancelled">
+        <translation>La recherche a été annulée. Appuyez sur F5 pour rechercher à nouveau.</translation>
+    </message>
 </context>
 </TS>

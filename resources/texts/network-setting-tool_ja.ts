@@ -894,5 +894,26 @@
     <message id="DWT_Localize_Tray_Show">
         <translation>ウィンドウを表示(&amp;S)</translation>
     </message>
+    <message id="DWT_Localize_Wait_Button_Cancel">
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Progress">
+        <translation>進行状況</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Reading">
+        <translation>%1 を読み込んでいます（%2/%3）</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Searching">
+        <translation>無線ネットワークを検索しています（残り約 %1 秒）</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_Cancelled">
+        <translation>読み込みをキャンセルしたため、設定を変更できません。続けるには［再読み込み］をクリックしてください。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Cancelled">
+        <translation>プリンターが応答する前に検索をキャンセルしました。やり直すには［再検索］をクリックしてください。</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Cancelled">
+        <translation>検索をキャンセルしました。F5 キーを押すと再検索します。</translation>
+    </message>
 </context>
 </TS>

@@ -894,5 +894,26 @@
     <message id="DWT_Localize_Tray_Show">
         <translation>显示窗口(&amp;S)</translation>
     </message>
+    <message id="DWT_Localize_Wait_Button_Cancel">
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Progress">
+        <translation>进度</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Reading">
+        <translation>正在读取 %1，%2/%3</translation>
+    </message>
+    <message id="DWT_Localize_Wait_Searching">
+        <translation>正在搜索无线网络，约剩 %1 秒</translation>
+    </message>
+    <message id="DWT_Localize_MainDialog_Text_ReadOnly_Cancelled">
+        <translation>读取已取消，因此无法更改任何设置。要继续，请选择“重新读取”。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Cancelled">
+        <translation>在打印机应答之前搜索已取消。要重新开始，请选择“重新搜索”。</translation>
+    </message>
+    <message id="DWT_Localize_SSIDList_Cancelled">
+        <translation>搜索已取消。按 F5 键可重新搜索。</translation>
+    </message>
 </context>
 </TS>

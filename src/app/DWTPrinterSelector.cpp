@@ -9,6 +9,7 @@
 #include "mainwindow/WPSGuide.h"
 #include "mainwindow/WaitWindow.h"
 #include "platform/core/Texts.h"
+#include "platform/core/Waiting.h"
 
 namespace {
 
@@ -162,6 +163,8 @@ void DWTPrinterSelector::DWT_UIInitialize() {
                                  ->standardIcon(QStyle::SP_MessageBoxWarning)
                                  .pixmap(iconSize));
     view_Problems->hide();
+    m_showing.setSingleShot(true);
+    m_showing.callOnTimeout([this] { tableView_Printerlist->reloadData(); });
     m_looking.callOnTimeout([this] { followPrinters(); });
     connectButtons(guide);
     window_PrinterSelector->setShouldClose([this] {
@@ -229,9 +232,14 @@ void DWTPrinterSelector::DWT_UpdatePrinterList() {
     tableView_Printerlist->setEmptyText(
         localized(QStringLiteral("DWT_Localize_PrinterList_Searching")));
     tableView_Printerlist->reloadData();
-    array_PrinterList = ndm_Object->printerList().value_or(QList<PrinterEntry>());
-    tableView_Printerlist->setEmptyText(
-        localized(keyOfEmptyList(ndm_Object->printerProblems(), checkLunchedMode())));
+    ndm_Object->printerList([this](const PrinterEntry &printer) {
+        array_PrinterList << printer;
+        m_showing.start();
+    });
+    m_showing.stop();
+    tableView_Printerlist->setEmptyText(localized(
+        isWaitCancelled() ? QStringLiteral("DWT_Localize_PrinterList_Cancelled")
+                          : keyOfEmptyList(ndm_Object->printerProblems(), checkLunchedMode())));
     tableView_Printerlist->reloadData();
     showPart(textField_PrinterlistFilter, array_PrinterList.size() > printersAtAGlance ||
                                               !textField_PrinterlistFilter->text().isEmpty());
@@ -290,7 +298,7 @@ void DWTPrinterSelector::DWT_ShowMainSettingWindow() {
         opening->layout()->setMenuBar(m_menu->shareWith(opening));
         m_tray->watch(opening);
         m_menu->pressForPrinter(msw_Object->sendButton(), msw_Object->readAgainButton());
-        opened = msw_Object->initializeData(array_PrinterList.value(row));
+        opened = msw_Object->initializeData(array_PrinterList.value(row), window_Wait);
     }
     if (!opened) return;
     window_PrinterSelector->hide();

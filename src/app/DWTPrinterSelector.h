@@ -97,5 +97,6 @@ class DWTPrinterSelector : public DWTBaseClass,
     bool show_mainDialog = false;
     bool m_guideLeadsToList = false;
     NotificationCenter::Observer m_closings;
+    QTimer m_showing;  // the rows of printers that have just answered, once work lets windows paint
     QTimer m_looking;  // for printers that come or go
 };

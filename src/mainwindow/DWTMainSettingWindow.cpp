@@ -2,12 +2,12 @@
 
 #include <QStyle>
 
-#include "mainwindow/NetworkList.h"
 #include "mainwindow/SendDialog.h"
 #include "mainwindow/WPSGuideWindow.h"
 #include "mainwindow/WaitWindow.h"
 #include "platform/core/PropertyList.h"
 #include "platform/core/Texts.h"
+#include "platform/core/Waiting.h"
 #include "platform/ui/Alert.h"
 
 namespace {
@@ -171,7 +171,8 @@ QList<QVariantMap> DWTMainSettingWindow::pageItemsIn(const QVariantMap &item) {
     return items;
 }
 
-bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &entry) {
+bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &entry,
+                                          WaitWindow *waiting) {
     if (entry) {
         if (dictionary_PrinterInfo.isEmpty()) dictionary_PrinterInfo = *entry;
         const QString product = entry->value(PrinterKey::ProductName);
@@ -184,14 +185,14 @@ bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &ent
         if (dataManager_Object) dataManager_Object->qkStatusLength(statusLengthOf(product));
         bool_usbPrinter = entry->value(PrinterKey::ConnectionType) != PrinterConnection::Network;
     }
-    const int read =
-        dataManager_Object ? dataManager_Object->setupDataFromPrinter(0) : ReadResult::NoLink;
+    const int read = readAll(waiting);
+    m_cancelled = isWaitCancelled() && (entry || read != ReadResult::Complete);
     const bool reached = read == ReadResult::Complete || read == ReadResult::MissingReply;
-    if (!reached || (read == ReadResult::MissingReply && entry))
+    if (!m_cancelled && (!reached || (read == ReadResult::MissingReply && entry)))
         showStandardAlert("DWT_Localize_Alert_MessageText_Dowline",
                           "DWT_Localize_Alert_MessageText_Error",
                           "DWT_Localize_Alert_InfoText_Printer_ConnectErr");
-    if (!reached && entry) {
+    if ((!reached || m_cancelled) && entry) {
         closeMainWindow({});
         return false;
     }
@@ -213,6 +214,33 @@ bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &ent
     return true;
 }
 
+int DWTMainSettingWindow::readAll(WaitWindow *waiting) {
+    if (!dataManager_Object) return ReadResult::NoLink;
+    if (!waiting) return dataManager_Object->setupDataFromPrinter(0);
+    const QString name = printerName();
+    return dataManager_Object->setupDataFromPrinter(0, [&](int done, int total) {
+        waiting->say(text("DWT_Localize_Wait_Reading")
+                         .arg(name, QString::number(done), QString::number(total)),
+                     done, total);
+    });
+}
+
+QString DWTMainSettingWindow::ownName() const {
+    if (!dataManager_Object) return {};
+    const auto names = dataManager_Object->setupDataToMainView(DWT_View_Key_Network);
+    return readableText(
+        textValue(names.value_or(CategoryDictionary()), DWT_SaveData_Network_Printer));
+}
+
+// Its own name as last read, or what the list of printers calls it.
+QString DWTMainSettingWindow::printerName() const {
+    const PrinterEntry &listed = dictionary_PrinterInfo;
+    for (const QString &name : {ownName(), readableText(listed.value(PrinterKey::MachineName)),
+                                shownText(listed.value(PrinterKey::BonjourServiceName))})
+        if (!name.isEmpty()) return name;
+    return shownText(listed.value(PrinterKey::ProductName));
+}
+
 int DWTMainSettingWindow::statusLengthOf(const QString &productName) {
     dictionary_PrinterStatusTable =
         PropertyList::dictionary(QStringLiteral("ZMPrinterStatusTable"), QStringLiteral("plist"));
@@ -224,7 +252,9 @@ int DWTMainSettingWindow::statusLengthOf(const QString &productName) {
 // Says why nothing can be changed, and what the printer did not tell.
 void DWTMainSettingWindow::showReadState() {
     QStringList lines;
-    if (!bool_GetDataSuccess)
+    if (m_cancelled)
+        lines << text("DWT_Localize_MainDialog_Text_ReadOnly_Cancelled");
+    else if (!bool_GetDataSuccess)
         lines << text(bool_usbPrinter ? "DWT_Localize_MainDialog_Text_ReadOnly_NotRead"
                                       : "DWT_Localize_MainDialog_Text_ReadOnly_Network");
     const auto notTold = dataManager_Object ? dataManager_Object->notTold() : QList<ItemCode>();
@@ -251,10 +281,7 @@ QString DWTMainSettingWindow::namesOf(const QList<ItemCode> &codes,
 }
 
 void DWTMainSettingWindow::showOwnName() {
-    if (!dataManager_Object) return;
-    const auto names = dataManager_Object->setupDataToMainView(DWT_View_Key_Network);
-    const QString own =
-        readableText(textValue(names.value_or(CategoryDictionary()), DWT_SaveData_Network_Printer));
+    const QString own = ownName();
     textField_PrinterOwnName->setText(own.isEmpty() ? QString() : QStringLiteral("· %1").arg(own));
 }
 

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "mainwindow/NetworkList.h"
 #include "pages/DWTEthernetView.h"
 #include "pages/DWTFirmwareView.h"
 #include "pages/DWTInfrastructureView.h"
@@ -21,7 +22,6 @@
 #include "settings/DWTDataManager.h"
 #include "ui_MainWindow.h"
 
-class NetworkList;
 class SendDialog;
 class WPSGuideWindow;
 class WaitWindow;
@@ -57,8 +57,9 @@ class DWTMainSettingWindow : public QObject,
     QAbstractButton *readAgainButton() const { return button_MainNewSetting; }
     QAbstractButton *closeButton() const { return button_MainCancel; }
     // With an entry: the first opening, for that printer. Without one: reads the settings again.
-    // False when the printer cannot be reached at the first opening; the window is then closed.
-    bool initializeData(const std::optional<PrinterEntry> &entry);
+    // False when the printer cannot be reached at the first opening, or the wait was cancelled; the
+    // window is then closed. `waiting` is the wait window that is shown, to say how far it is.
+    bool initializeData(const std::optional<PrinterEntry> &entry, WaitWindow *waiting = nullptr);
 
     int numberOfChildrenOfItem(OutlineView *outline, const QVariantMap &item) override;
     QVariantMap child(OutlineView *outline, int index, const QVariantMap &item) override;
@@ -91,6 +92,10 @@ class DWTMainSettingWindow : public QObject,
     void push_MainHelp() {}
     void push_MainSetupIsChanged() {}
     int statusLengthOf(const QString &productName);
+    // Reads the settings; the data manager's result.
+    int readAll(WaitWindow *waiting);
+    QString ownName() const;
+    QString printerName() const;
     void showReadState();
     void showOwnName();
     // Follows an edit on a page: the marks of the outline, and which pages the printer uses.
@@ -113,7 +118,7 @@ class DWTMainSettingWindow : public QObject,
     QStringList linesOfChanges() const;
     QStringList linesOfWarnings() const;
     void askToSend();
-    QString sendViewAskingPassword();
+    std::optional<QString> sendViewAskingPassword();
     void push_SendConfirmTransmission();
     void push_SendLoginOK();
     void sayWhatWasSent();
@@ -126,7 +131,7 @@ class DWTMainSettingWindow : public QObject,
     void push_InfrastructureSelectSSID();
     // The networks that the printer sees; `over` waits meanwhile. Nothing, after an alert, when the
     // printer cannot be asked.
-    std::optional<QList<SSIDEntry>> networksInReach(QWidget *over);
+    NetworkList::Found networksInReach(QWidget *over);
     void push_InfrastructureWPSGuide();
     void push_EthernetConnect();
     void push_InfrastructureConnect();
@@ -170,6 +175,7 @@ class DWTMainSettingWindow : public QObject,
     bool bool_usbPrinter = true;
     bool bool_GetDataSuccess = false;
     std::optional<InertWindow> m_inert;  // while a send runs
+    bool m_cancelled = false;            // the last reading
     bool m_open = false;                 // between the first successful reading and the closing
     std::vector<NotificationCenter::Observer> m_observers;
 };

@@ -78,7 +78,7 @@ void DWTMainSettingWindow::push_UpdateChangeCheckOK() {
 
 void DWTMainSettingWindow::readAgain() {
     const WaitSheet waiting = window_Wait->over(window_Main);
-    initializeData(std::nullopt);
+    initializeData(std::nullopt, window_Wait);
     MSW_ClearTextField();
     MSW_SendButtonDisable();
     followEdits();

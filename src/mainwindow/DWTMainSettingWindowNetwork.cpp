@@ -1,9 +1,10 @@
 // The networks that the printer sees, the WPS guide, and the connection test.
 
 #include "mainwindow/DWTMainSettingWindow.h"
-#include "mainwindow/NetworkList.h"
 #include "mainwindow/WPSGuideWindow.h"
 #include "mainwindow/WaitWindow.h"
+#include "platform/core/Texts.h"
+#include "platform/core/Waiting.h"
 
 // Taking a network over counts as a change, whatever the page held before.
 void DWTMainSettingWindow::push_InfrastructureSelectSSID() {
@@ -23,17 +24,21 @@ void DWTMainSettingWindow::push_InfrastructureSelectSSID() {
     infrastructure_ViewObject->focusKey();
 }
 
-std::optional<QList<SSIDEntry>> DWTMainSettingWindow::networksInReach(QWidget *over) {
-    std::optional<QList<SSIDEntry>> networks;
-    {
-        const WaitSheet waiting = window_Wait->over(over);
-        networks = dataManager_Object->SSIDList();
-    }
-    if (!networks)
-        showStandardAlert("DWT_Localize_Alert_MessageText_Dowline",
-                          "DWT_Localize_Alert_MessageText_Error",
-                          "DWT_Localize_Alert_InfoText_Printer_ConnectErr");
-    return networks;
+NetworkList::Found DWTMainSettingWindow::networksInReach(QWidget *over) {
+    const WaitSheet waiting = window_Wait->over(over);
+    const auto networks = dataManager_Object->SSIDList([this](int polls, int total) {
+        const auto left = DWTDataManager::defaultScanInterval * (total - polls);
+        window_Wait->say(localized(QStringLiteral("DWT_Localize_Wait_Searching"))
+                             .arg(std::chrono::ceil<std::chrono::seconds>(left).count()),
+                         polls, total);
+    });
+    if (networks && !networks->isEmpty()) return {networks, {}};
+    if (isWaitCancelled()) return {{}, QStringLiteral("DWT_Localize_SSIDList_Cancelled")};
+    if (networks) return {networks, QStringLiteral("DWT_Localize_SSIDList_Empty")};
+    showStandardAlert("DWT_Localize_Alert_MessageText_Dowline",
+                      "DWT_Localize_Alert_MessageText_Error",
+                      "DWT_Localize_Alert_InfoText_Printer_ConnectErr");
+    return {{}, QStringLiteral("DWT_Localize_SSIDList_NotReached")};
 }
 
 void DWTMainSettingWindow::push_InfrastructureWPSGuide() {
@@ -59,5 +64,6 @@ void DWTMainSettingWindow::checkConnection(InterfaceView &page, const QString &s
         const bool fixed = integerValue(*saved, settingKey) != AddressSetting::Automatic;
         address = addressValue(*saved, fixed ? addressKey : DWT_SaveData_Connect_IPAddress);
     }
-    page.showConnectResult(dataManager_Object->isCheckConnectToPrinter(address) >= 0);
+    const bool answered = dataManager_Object->isCheckConnectToPrinter(address) >= 0;
+    if (!isWaitCancelled()) page.showConnectResult(answered);
 }

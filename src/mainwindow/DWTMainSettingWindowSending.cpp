@@ -4,6 +4,7 @@
 #include "mainwindow/SendDialog.h"
 #include "mainwindow/WaitWindow.h"
 #include "platform/core/Texts.h"
+#include "platform/core/Waiting.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,7 +16,7 @@ void DWTMainSettingWindow::push_MainSend() {
 
 void DWTMainSettingWindow::askToSend() {
     window_SendData->setChanges(linesOfChanges(), linesOfWarnings());
-    window_SendData->runOn(sendViewAskingPassword());
+    if (const auto view = sendViewAskingPassword()) window_SendData->runOn(*view);
 }
 
 // Asks every page, so that each shows what is wrong on it. False when something is.
@@ -82,10 +83,13 @@ void DWTMainSettingWindow::warnOfChangedConnection() {
     }
 }
 
-// The view with which the dialog opens, by whether the printer has a password.
-QString DWTMainSettingWindow::sendViewAskingPassword() {
+// The view with which the dialog opens, by whether the printer has a password; nothing when the
+// wait for its answer was cancelled.
+std::optional<QString> DWTMainSettingWindow::sendViewAskingPassword() {
     const WaitSheet waiting = window_Wait->over(window_Main);
-    switch (dataManager_Object->isPassword()) {
+    const int password = dataManager_Object->isPassword();
+    if (isWaitCancelled()) return {};
+    switch (password) {
         case PasswordState::Set:
             window_SendData->clearPassword();
             return DWT_View_Key_Send_Login;
@@ -100,12 +104,15 @@ void DWTMainSettingWindow::push_SendLoginOK() {
     const QString unreachable = localized(QStringLiteral("DWT_Localize_Send_ConnectErr_TextField"));
     const auto answer = [&] {
         const WaitSheet waiting = window_Wait->over(window_SendData);
-        if (dataManager_Object->connectPrinter() != 0) {
+        const bool connected = dataManager_Object->connectPrinter() == 0;
+        if (!connected && isWaitCancelled()) return DWT_View_Key_Send_Login;
+        if (!connected) {
             window_SendData->sayInstead(DWT_View_Key_Send_Login, unreachable);
             return DWT_View_Key_Send_Login;
         }
         const int login = dataManager_Object->checkLoginPassword(window_SendData->password());
         dataManager_Object->disconnectPrinter();
+        if (isWaitCancelled()) return DWT_View_Key_Send_Login;
         if (login == SettingResult::NoReply)
             window_SendData->sayInstead(DWT_View_Key_Send_LoginError, unreachable);
         if (login != LoginResult::Accepted) return DWT_View_Key_Send_LoginError;

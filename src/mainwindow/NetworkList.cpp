@@ -70,11 +70,9 @@ std::optional<SSIDEntry> NetworkList::pick(const Search &search) {
 }
 
 void NetworkList::searchOver(QWidget *window) {
-    const auto found = m_search(window);
-    tableView_SelectSSIDWindow->setEmptyText(
-        localized(found ? QStringLiteral("DWT_Localize_SSIDList_Empty")
-                        : QStringLiteral("DWT_Localize_SSIDList_NotReached")));
-    if (found) array_SSIDList = *found;
+    const Found found = m_search(window);
+    tableView_SelectSSIDWindow->setEmptyText(localized(found.noneKey));
+    if (found.networks) array_SSIDList = *found.networks;
     const auto stronger = [](const SSIDEntry &a, const SSIDEntry &b) {
         return integerValue(a, DWT_SSIDList_SignalStrength) >
                integerValue(b, DWT_SSIDList_SignalStrength);

@@ -20,9 +20,14 @@ class NetworkList : public ModalWindow,
     explicit NetworkList(QWidget *parent);
     ~NetworkList() override;
 
-    // Finds the networks while `over` waits; nothing when the printer cannot be asked, which the
-    // user has then been told.
-    using Search = std::function<std::optional<QList<SSIDEntry>>(QWidget *over)>;
+    // What a search found: no list when the printer could not be asked, which the user has then
+    // been told, or the wait was cancelled. `noneKey` is the text of a list that stays empty.
+    struct Found {
+        std::optional<QList<SSIDEntry>> networks;
+        QString noneKey;
+    };
+    // Finds the networks while `over` waits.
+    using Search = std::function<Found(QWidget *over)>;
 
     // Searches over the parent, lists the networks, the strongest first, and runs until the user
     // has picked one or left; F5 searches again over the list. Result: the picked one, or nothing.
@@ -37,7 +42,7 @@ class NetworkList : public ModalWindow,
     void tableViewSelectionDidChange(TableView *table) override;
 
   private:
-    // Lists what the search finds; what was listed stays when the printer cannot be asked.
+    // Lists what the search finds; what was listed stays without a new list.
     void searchOver(QWidget *window);
     void MSW_DoubleAction(int clickedRow);
     void push_SelectSSIDWindowOK();

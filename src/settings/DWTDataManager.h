@@ -6,6 +6,7 @@
 #include <QSet>
 #include <QString>
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -63,10 +64,14 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
 
     // --- Reading (DWTDataManagerReading.cpp) ---
 
-    // Reads every setting and makes both records anew. The argument is not used. Result: 0 every
-    // request was answered; 1 there is no link; 6 at least one request got no reply (its value and
-    // those after it have their defaults); otherwise the link's result of connecting.
-    int setupDataFromPrinter(int);
+    // Told how many parts of how many are behind; may be empty.
+    using Progress = std::function<void(int done, int total)>;
+
+    // Reads every setting and makes both records anew; `progress` is told before each request. The
+    // number is not used. Result: 0 every request was answered; 1 there is no link; 6 at least one
+    // request got no reply (its value and those after it have their defaults), which is also what a
+    // wait that is cancelled looks like; otherwise the link's result of connecting.
+    int setupDataFromPrinter(int, const Progress &progress = {});
     // The items that a send writes and that the last reading asked for without getting their value:
     // the record holds a default, or nothing. They are not sent until the record is changed.
     QList<ItemCode> notTold() const;
@@ -77,8 +82,9 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     static constexpr int scanPolls = 10;
     static constexpr std::chrono::milliseconds defaultScanInterval{1000};
     // The networks that the printer finds, in its order; empty when it found none or did not finish
-    // in scanPolls polls; nothing when it cannot be connected or closes the connection.
-    std::optional<QList<SSIDEntry>> SSIDList();
+    // in scanPolls polls, or the wait was cancelled; nothing when it cannot be connected or closes
+    // the connection. `progress` is told before each poll.
+    std::optional<QList<SSIDEntry>> SSIDList(const Progress &progress = {});
     // Waits another time than defaultScanInterval between two polls; for tests.
     void setScanInterval(std::chrono::milliseconds interval) { m_scanInterval = interval; }
 
@@ -99,8 +105,10 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
 
     // The supported printers that can be reached, USB printers with their own name under
     // PrinterKey::MachineName; only USB printers in installer mode. Nothing when no link can be
-    // made.
-    std::optional<QList<PrinterEntry>> printerList();
+    // made. `found` is told of each, in order, as soon as it has answered; a wait that is cancelled
+    // leaves out those that have not.
+    std::optional<QList<PrinterEntry>> printerList(
+        const std::function<void(const PrinterEntry &)> &found = {});
     // Why printers may be missing from the last printerList(), unusable lists of models included.
     QList<PrinterProblem> printerProblems();
     // Whether printers came or went since the last printerList(). Asks no printer.
@@ -165,7 +173,7 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     CategoryDictionary NDM_EthernetDataFromPrinter();
     CategoryDictionary NDM_PasswordDataFromPrinter();
     CategoryDictionary NDM_FirmwareDataFromPrinter();
-    std::optional<QList<SSIDEntry>> NDM_DataToSSIDArray();
+    std::optional<QList<SSIDEntry>> NDM_DataToSSIDArray(const Progress &progress);
 
     // Notes whether a reply told the value of an item that a send writes.
     void noteTold(ItemCode code, const QByteArray &reply);
@@ -223,13 +231,15 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     CategoryDictionary ethernetConnectAddressInfo_Dictionary;
     CategoryDictionary firmwareData_Dictionary;
     CategoryDictionary passwordData_Dictionary;
-    // True while every request since the last full read got a reply.
+    // True while every request since the last full read got a reply, but for those outside it whose
+    // wait was cancelled.
     bool resultSettingRequest_BOOL = false;
     // Password of the last successful login; consumed by the next send.
     QString loginPassword_String;
     // What the printer told or accepted, by item: the very bytes of its value.
     QMap<ItemCode, QByteArray> m_told;
     QSet<ItemCode> m_asked;  // by the last reading
+    Progress m_progress;     // of the reading
     SendReport m_report;
     std::chrono::milliseconds m_scanInterval = defaultScanInterval;
 };

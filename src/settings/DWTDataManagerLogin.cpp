@@ -1,11 +1,14 @@
 // Connecting, the password state and the login.
 
+#include "platform/core/Waiting.h"
 #include "settings/DWTDataManager.h"
 #include "settings/Wipe.h"
 
 int DWTDataManager::isPassword() {
     if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) return PasswordState::NoAnswer;
+    const bool answered = resultSettingRequest_BOOL;
     const int state = NDM_DataToInteger(0x1000);
+    if (isWaitCancelled()) resultSettingRequest_BOOL = answered;
     ncc_Object->disconnectPrinter(0);
     switch (state) {
         case 0:

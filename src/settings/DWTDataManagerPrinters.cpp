@@ -1,6 +1,7 @@
 // Listing printers and checking an address.
 
 #include "platform/core/PropertyList.h"
+#include "platform/core/Waiting.h"
 #include "settings/DWTDataManager.h"
 #include "settings/Frames.h"
 
@@ -10,7 +11,8 @@ constexpr ItemCode nameItem = 0x1006;
 
 }  // namespace
 
-std::optional<QList<PrinterEntry>> DWTDataManager::printerList() {
+std::optional<QList<PrinterEntry>> DWTDataManager::printerList(
+    const std::function<void(const PrinterEntry &)> &found) {
     const auto link = make<DWTCommunicationControl>();
     if (!link) return {};
     QList<PrinterEntry> supported;
@@ -20,6 +22,7 @@ std::optional<QList<PrinterEntry>> DWTDataManager::printerList() {
         if (!models.contains(entry.value(PrinterKey::ProductName))) continue;
         const bool installer = checkLunchedMode();
         if (entry.value(PrinterKey::ConnectionType) == PrinterConnection::USB) {
+            if (isWaitCancelled()) continue;
             const QString name = printerName(link, entry);
             if (name == unreadable) continue;
             entry.insert(PrinterKey::MachineName, name);
@@ -27,6 +30,7 @@ std::optional<QList<PrinterEntry>> DWTDataManager::printerList() {
             continue;
         }
         supported.append(entry);
+        if (found) found(entry);
     }
     return supported;
 }

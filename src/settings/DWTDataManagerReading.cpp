@@ -10,6 +10,9 @@
 
 namespace {
 
+// How many items a reading asks for.
+constexpr int itemsRead = 24;
+
 constexpr int scanFinished = 2;
 // The first network found (counted from 1) whose block is then read.
 constexpr std::pair<int, ItemCode> scanBlocks[] = {
@@ -43,7 +46,7 @@ std::optional<Value> decoded(const QByteArray &reply, ItemCode code,
 
 }  // namespace
 
-int DWTDataManager::setupDataFromPrinter(int) {
+int DWTDataManager::setupDataFromPrinter(int, const Progress &progress) {
     resultSettingRequest_BOOL = true;
     dictionary_SaveData.reset();
     mutableDictionary_ChangeData.reset();
@@ -53,6 +56,7 @@ int DWTDataManager::setupDataFromPrinter(int) {
     const int connected = ncc_Object->connectPrinter(0);
     if (connected == 0) {
         SettingRecord record;
+        m_progress = progress;
         record.insert(DWT_View_Key_Network, NDM_NetworkDataFromPrinter());
         record.insert(DWT_View_Key_Wireless, NDM_WirelessDataFromPrinter());
         record.insert(DWT_View_Key_Infrastructure, NDM_InfrastructureDataFromPrinter());
@@ -60,6 +64,7 @@ int DWTDataManager::setupDataFromPrinter(int) {
         record.insert(DWT_View_Key_Ethernet, NDM_EthernetDataFromPrinter());
         record.insert(DWT_View_Key_Password, NDM_PasswordDataFromPrinter());
         record.insert(DWT_View_Key_Firmware, NDM_FirmwareDataFromPrinter());
+        m_progress = nullptr;
         dictionary_SaveData = record;
         forgetMissing();
         ncc_Object->disconnectPrinter(0);
@@ -69,9 +74,11 @@ int DWTDataManager::setupDataFromPrinter(int) {
     return resultSettingRequest_BOOL ? ReadResult::Complete : ReadResult::MissingReply;
 }
 
-std::optional<QList<SSIDEntry>> DWTDataManager::SSIDList() {
+std::optional<QList<SSIDEntry>> DWTDataManager::SSIDList(const Progress &progress) {
     if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) return {};
-    const auto networks = NDM_DataToSSIDArray();
+    const bool answered = resultSettingRequest_BOOL;
+    const auto networks = NDM_DataToSSIDArray(progress);
+    if (isWaitCancelled()) resultSettingRequest_BOOL = answered;
     const bool closed = ncc_Object->isClosedByPrinter();
     ncc_Object->disconnectPrinter(0);
     if (closed) return {};
@@ -115,6 +122,7 @@ std::optional<Value> DWTDataManager::ask(ItemCode code,
                                          std::optional<Value> (*decoder)(const QByteArray &,
                                                                          ItemCode)) {
     if (!resultSettingRequest_BOOL) return {};
+    if (m_progress) m_progress(static_cast<int>(m_asked.size()), itemsRead);
     const QByteArray reply = NDM_SendCommandSettingRequest(code);
     noteTold(code, reply);
     return decoded(reply, code, decoder);
@@ -257,11 +265,12 @@ CategoryDictionary DWTDataManager::NDM_FirmwareDataFromPrinter() {
 }
 
 // Nothing when no poll had a well-formed answer.
-std::optional<QList<SSIDEntry>> DWTDataManager::NDM_DataToSSIDArray() {
+std::optional<QList<SSIDEntry>> DWTDataManager::NDM_DataToSSIDArray(const Progress &progress) {
     NDM_IntegerToData(0x3120, 1);  // starts the search; whether it says so does not matter
     std::optional<QList<SSIDEntry>> networks;
     std::optional<ItemCodec::ScanStatus> status;
-    for (int poll = 0; poll < scanPolls; ++poll) {
+    for (int poll = 0; poll < scanPolls && !isWaitCancelled(); ++poll) {
+        if (progress) progress(poll, scanPolls);
         status = ItemCodec::scanStatus(NDM_SendCommandSettingRequest(0x3120));
         if (status) networks = QList<SSIDEntry>();
         if (status && status->state == scanFinished) break;

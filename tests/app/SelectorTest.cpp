@@ -305,13 +305,64 @@ TEST_F(Selector, AnIconInTheTrayStandsForTheWindowsThatAreHidden) {
     EXPECT_TRUE(quits([&] { choose(2); }));
 }
 
+TEST_F(Selector, RowsAppearAsPrintersAnswerAndCancelKeepsThem) {
+    walk.launch();
+    const QString all = listed();
+    Faults silent;
+    silent.items[0x1006].noReply = true;
+    catalogue.virtualPrinters[text("virtual://dispatch")]->setFaults(silent);
+    const auto cancelsOnceListed = [&](int rows) {
+        return [this, rows](QWidget *wait) {
+            if (walk.list()->model()->rowCount() != rows) return false;
+            press(wait, "button_WaitCancel");
+            return true;
+        };
+    };
+    const auto reload = [&](int rows) {
+        const DuringWait cancel(cancelsOnceListed(rows));
+        click("button_PrinterlistReload");
+    };
+    reload(1);
+    EXPECT_EQ(walk.list()->model()->rowCount(), 2) << "the one on the network is known at once";
+    EXPECT_TRUE(listed().startsWith(text("Packing-Desk|USB")) && all.endsWith(listed().mid(17)));
+    const ArgumentOverride installer("-INSTALLER");
+    for (const auto &printer : catalogue.virtualPrinters) printer->setFaults(silent);
+    reload(0);
+    EXPECT_TRUE(walk.list()->accessibleDescription().startsWith(text("The search was cancelled")));
+}
+
+TEST_F(Selector, ACancelledOpeningComesBackToTheListWithoutAnAlert) {
+    walk.launch();
+    VirtualPrinter &printer = *catalogue.virtualPrinters[text("virtual://packing-desk")];
+    Faults silent;
+    silent.items[0x3108].noReply = true;
+    printer.setFaults(silent);
+    {
+        const DuringWait cancel([&](QWidget *wait) {
+            const QString said = controlOf<QLabel>(wait, "textField_WaitMassage")->text();
+            if (said != text("Reading Packing-Desk, 6 of 24")) return false;
+            press(wait, "button_WaitCancel");
+            return true;
+        });
+        EXPECT_FALSE(walk.open(text("Packing-Desk")));
+    }
+    EXPECT_TRUE(isListed() && !walk.main()->isVisible());
+    EXPECT_TRUE(walk.list()->hasFocus());
+    printer.setFaults({});
+    EXPECT_TRUE(walk.open(text("Packing-Desk")));
+}
+
 TEST_F(Selector, AFailedOpeningComesBackToTheListAsItWas) {
     walk.launch();
     Faults gone;
     gone.refuseConnection = true;
     VirtualPrinter &printer = *catalogue.virtualPrinters[text("virtual://packing-desk")];
     printer.setFaults(gone);
-    walk.dialogs().alert("Connection to the printer cannot be used");
+    walk.dialogs().on("", [this](QWidget *alert) {
+        EXPECT_FALSE(controlOf(window(), "window_Wait")->isVisible()) << "behind the alert";
+        EXPECT_EQ(alert->parentWidget(), window());
+        QTest::keyClick(alert, Qt::Key_Return);
+    });
     EXPECT_FALSE(walk.open(text("Packing-Desk")));
     EXPECT_TRUE(isListed() && !walk.main()->isVisible());
     EXPECT_EQ(walk.list()->selectedRow(), 0);

@@ -40,6 +40,28 @@ inline void typeInto(QLineEdit *field, const QString &typed) {
     QTest::keyClicks(field, typed);
 }
 
+// Does something in the wait window that is up, at every turn until it says that it has done it.
+class DuringWait {
+  public:
+    using Act = std::function<bool(QWidget *wait)>;
+
+    explicit DuringWait(const Act &act) {
+        m_look.callOnTimeout([this, act] {
+            for (QWidget *window : QApplication::topLevelWidgets())
+                if (window->isVisible() && window->objectName() == QLatin1String("window_Wait") &&
+                    act(window))
+                    return m_look.stop();
+        });
+        m_look.start(2);
+    }
+    ~DuringWait() {
+        if (m_look.isActive()) scriptFailed(text("it never came while waiting"));
+    }
+
+  private:
+    QTimer m_look;
+};
+
 // Answers the modal windows that come up, in the order written down, as a user does. A step waits
 // until its view (or an alert) is up; a window that stays unanswered for too long is a failure.
 class DialogScript : public QObject {

@@ -6,10 +6,14 @@
 #include <QObject>
 #include <algorithm>
 #include <thread>
+#include <utility>
 
 #include "platform/core/MainThread.h"
 
 namespace {
+
+// The innermost one; used by the main thread alone.
+CancellableWait *cancellable = nullptr;
 
 // Swallows what a person does while the program waits.
 class InputFilter : public QObject {
@@ -17,7 +21,8 @@ class InputFilter : public QObject {
     InputFilter() { QCoreApplication::instance()->installEventFilter(this); }
 
   protected:
-    bool eventFilter(QObject *, QEvent *event) override {
+    bool eventFilter(QObject *object, QEvent *event) override {
+        if (cancellable && cancellable->hasControl(object)) return false;
         switch (event->type()) {
             case QEvent::Close:
                 event->ignore();  // the window stays open
@@ -73,6 +78,17 @@ void idle() {
     QCoreApplication::processEvents();
 }
 
+CancellableWait::CancellableWait(std::function<bool(const QObject *)> isControl)
+    : m_isControl(std::move(isControl)), m_outer(std::exchange(cancellable, this)) {}
+
+CancellableWait::~CancellableWait() {
+    cancellable = m_outer;
+}
+
+bool isWaitCancelled() {
+    return MainThread::isCurrent() && cancellable && cancellable->isCancelled();
+}
+
 bool waitUntil(const std::function<bool()> &done, const QDeadlineTimer &deadline,
                const std::function<void(std::chrono::milliseconds)> &pause) {
     for (;;) {
@@ -80,12 +96,14 @@ bool waitUntil(const std::function<bool()> &done, const QDeadlineTimer &deadline
         const auto left =
             std::chrono::ceil<std::chrono::milliseconds>(deadline.remainingTimeAsDuration());
         if (!deadline.isForever() && left.count() <= 0) return false;
+        const bool last = isWaitCancelled();
         const auto slice = deadline.isForever() ? waitSlice : std::min(waitSlice, left);
         if (pause)
             pause(slice);
         else
             std::this_thread::sleep_for(slice);
         if (!done() || idleIsDue()) idle();
+        if (last) return done();
     }
 }
 

@@ -6,9 +6,13 @@
 #include <QPointer>
 #include <QPushButton>
 
+#include "platform/ui/WaitSheet.h"
+
 void Alert::runModal(QWidget *parent) const {
+    QWidget *const waited = WaitSheet::endCurrent();
+    QWidget *const active = waited ? waited : QApplication::activeWindow();
     // It goes with its parent, which may happen while it is up.
-    QWidget *const over = parent ? parent : QApplication::activeWindow();
+    QWidget *const over = parent ? parent : active;
     const QPointer<QMessageBox> shown(new QMessageBox(over));
     QMessageBox &box = *shown;
     box.setWindowTitle(over ? over->window()->windowTitle()

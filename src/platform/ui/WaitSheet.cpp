@@ -1,17 +1,18 @@
 #include "platform/ui/WaitSheet.h"
 
+#include <QAbstractButton>
 #include <QDeadlineTimer>
 #include <QProgressBar>
 #include <QWindow>
 #include <thread>
-
-#include "platform/core/Waiting.h"
 
 namespace {
 
 // How long the window system may take to show a window, in milliseconds; after that the work starts
 // all the same.
 constexpr int longestExposure = 500;
+
+WaitSheet *current = nullptr;
 
 // Waits until the window system shows a window, which it does within a few milliseconds.
 void waitForExposure(const QWidget *window) {
@@ -26,8 +27,9 @@ void waitForExposure(const QWidget *window) {
 
 }  // namespace
 
-WaitSheet::WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator)
-    : m_sheet(sheet), m_indicator(indicator) {
+WaitSheet::WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator,
+                     QAbstractButton *cancel)
+    : m_sheet(sheet), m_indicator(indicator), m_outer(std::exchange(current, this)) {
     // A window that was only just shown is painted first, since making another one takes time.
     waitForExposure(parent);
     parent->repaint();
@@ -36,6 +38,8 @@ WaitSheet::WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator)
     sheet->setParent(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     m_inert.emplace(parent);
     sheet->setEnabled(true);
+    cancel->setEnabled(true);
+    cancel->setFocus();
     sheet->setWindowModality(Qt::WindowModal);
     sheet->adjustSize();
     const QRect area(parent->mapToGlobal(QPoint(0, 0)), parent->size());
@@ -44,9 +48,31 @@ WaitSheet::WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator)
     waitForExposure(sheet);
     sheet->repaint();
     parent->repaint();
+    m_wait.emplace([sheet](const QObject *object) {
+        const auto *widget = qobject_cast<const QWidget *>(object);
+        return widget ? widget->window() == sheet : object == sheet->windowHandle();
+    });
+    m_cancelling = QObject::connect(cancel, &QAbstractButton::clicked, sheet, [this, cancel] {
+        m_wait->cancel();
+        cancel->setEnabled(false);
+    });
 }
 
 WaitSheet::~WaitSheet() {
+    end();
+    current = m_outer;
+}
+
+QWidget *WaitSheet::endCurrent() {
+    QWidget *const parent =
+        current && current->m_sheet ? current->m_sheet->parentWidget() : nullptr;
+    if (current) current->end();
+    return parent;
+}
+
+void WaitSheet::end() {
+    if (!m_wait) return;
+    QObject::disconnect(m_cancelling);
     idle();  // what the user did during the last slice is dropped, too
     if (m_indicator) {
         m_indicator->setRange(0, 1);
@@ -57,4 +83,5 @@ WaitSheet::~WaitSheet() {
     if (m_sheet) m_sheet->hide();
     if (active) parent->activateWindow();  // unless another window was opened
     m_inert.reset();
+    m_wait.reset();
 }

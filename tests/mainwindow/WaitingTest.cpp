@@ -1,0 +1,96 @@
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QProgressBar>
+
+#include "PrinterWindow.h"
+
+namespace {
+
+// Longer than a test may take that does not end its wait.
+constexpr int silence = 8000;
+constexpr int soon = 3000;
+
+class Waiting : public PrinterWindow {
+  protected:
+    // Does something that waits for a silent printer; Escape ends the wait as soon as its window
+    // says this, with the bar at that part.
+    void cancel(const std::function<void()> &act, const char *said, int done, int total) {
+        const DuringWait escape([&](QWidget *wait) {
+            const auto *bar = controlOf<QProgressBar>(wait, "progress_Wait");
+            if (controlOf<QLabel>(wait, "textField_WaitMassage")->text() != text(said) ||
+                bar->value() != done || bar->maximum() != total)
+                return false;
+            EXPECT_GE(wait->width(), wait->sizeHint().width());
+            EXPECT_FALSE(wait->parentWidget()->isEnabled());
+            QTest::keyClick(wait->windowHandle(), Qt::Key_Escape);
+            // Before the work has begun there is nothing to cancel yet.
+            return !controlOf(wait, "button_WaitCancel")->isEnabled();
+        });
+        QElapsedTimer clock;
+        clock.start();
+        act();
+        EXPECT_LT(clock.elapsed(), soon) << said;
+    }
+    static constexpr int noPart = -1;
+    static constexpr const char *justWait = "Please wait…";
+};
+
+TEST_F(Waiting, ReadingAgainThatIsCancelledLeavesTheWindowForReading) {
+    open(R"({"items": {"0x1006": "Desk"}})", {}, silence);
+    setFaults(R"({"items": {"0x3119": {"noReply": true}}})");
+    cancel([&] { click("button_MainNewSetting"); }, "Reading Desk, 7 of 24", 7, 24);
+    EXPECT_TRUE(control<QLabel>("textField_ReadOnly")
+                    ->text()
+                    .startsWith(text("Reading was cancelled, so nothing can be changed.")));
+    EXPECT_TRUE(field("textField_NetworkBonjour")->isReadOnly());
+    EXPECT_TRUE(served->received().endsWith(text("end")));
+    setFaults("{}");
+    click("button_MainNewSetting");
+    EXPECT_FALSE(control("textField_ReadOnly")->isVisible());
+    EXPECT_FALSE(field("textField_NetworkBonjour")->isReadOnly());
+}
+
+TEST_F(Waiting, ACancelledSearchListsNothingAndSaysSo) {
+    open(R"({"items": {"0x3000": 1}, "scanPolls": 20})", {}, silence);
+    dialogs.on("tableView_SelectSSIDWindow", [](QWidget *dialog) {
+        EXPECT_TRUE(controlOf(dialog, "tableView_SelectSSIDWindow")
+                        ->accessibleDescription()
+                        .startsWith(text("The search was cancelled.")));
+        dialog->close();
+    });
+    choose("Infrastructure");
+    cancel([&] { click("button_InfrastructureSelectSSID"); },
+           "Searching for networks, about 9 s left", 1, 10);
+    EXPECT_TRUE(served->received().endsWith(text("end")));
+}
+
+TEST_F(Waiting, WhatIsCancelledBeforeASendLeavesTheDialogAsItWas) {
+    open(R"({"password": "open123"})", {}, silence);
+    type("textField_NetworkPrinterName", "Desk");
+    const char *const warning = "Connection to the printer – please note";
+    const auto send = [&] { click("button_MainSend"); };
+    dialogs.alert(warning);
+    setFaults(R"({"items": {"0x1000": {"noReply": true}}})");
+    cancel(send, justWait, noPart, 0);
+    setFaults(R"({"items": {"0x1001": {"noReply": true}}})");
+    dialogs.alert(warning).on("view_SendLogin", [&](QWidget *dialog) {
+        typeInto(controlOf<QLineEdit>(dialog, "textField_Password"), text("open123"));
+        cancel([&] { press(dialog, "button_SendLoginOK"); }, justWait, noPart, 0);
+        EXPECT_TRUE(controlOf(dialog, "view_SendLogin")->isVisible());
+        EXPECT_EQ(controlOf<QLineEdit>(dialog, "textField_Password")->text(), text("open123"));
+        press(dialog, "button_SendLoginCancel");
+    });
+    send();
+    EXPECT_TRUE(dialogs.isDone() && isEnabled("button_MainSend"));
+}
+
+TEST_F(Waiting, ACancelledConnectionTestTellsNothing) {
+    open("{}", {}, silence);
+    choose("Wired network");
+    const QString before = control<QLabel>("textField_EthernetConnection")->text();
+    setFaults(R"({"items": {"0x2002": {"noReply": true}, "0x3119": {"noReply": true}}})");
+    cancel([&] { click("button_EthernetConnect"); }, justWait, noPart, 0);
+    EXPECT_EQ(control<QLabel>("textField_EthernetConnection")->text(), before);
+}
+
+}  // namespace
