@@ -897,7 +897,7 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Wait_Button_Cancel">
         <translation>&amp;Abbrechen</translation>
     </message>
-    <message id="DWT_Localize_Wait_Progress">
+    <message id="DWT_Localize_Progress">
         <translation>Fortschritt</translation>
     </message>
     <message id="DWT_Localize_Wait_Reading">

@@ -897,7 +897,7 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Wait_Button_Cancel">
         <translation>&amp;Cancel</translation>
     </message>
-    <message id="DWT_Localize_Wait_Progress">
+    <message id="DWT_Localize_Progress">
         <translation>Progress</translation>
     </message>
     <message id="DWT_Localize_Wait_Reading">

@@ -897,7 +897,7 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Wait_Button_Cancel">
         <translation>&amp;Cancelar</translation>
     </message>
-    <message id="DWT_Localize_Wait_Progress">
+    <message id="DWT_Localize_Progress">
         <translation>Progreso</translation>
     </message>
     <message id="DWT_Localize_Wait_Reading">

@@ -897,7 +897,7 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Wait_Button_Cancel">
         <translation>&amp;Annuler</translation>
     </message>
-    <message id="DWT_Localize_Wait_Progress">
+    <message id="DWT_Localize_Progress">
         <translation>Progression</translation>
     </message>
     <message id="DWT_Localize_Wait_Reading">

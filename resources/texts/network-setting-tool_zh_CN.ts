@@ -897,7 +897,7 @@
     <message id="DWT_Localize_Wait_Button_Cancel">
         <translation>取消(&amp;C)</translation>
     </message>
-    <message id="DWT_Localize_Wait_Progress">
+    <message id="DWT_Localize_Progress">
         <translation>进度</translation>
     </message>
     <message id="DWT_Localize_Wait_Reading">

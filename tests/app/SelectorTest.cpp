@@ -15,11 +15,6 @@
 
 namespace {
 
-Catalogue demo() {
-    qputenv("ZMLIB_PRINTERS", "demo");
-    return catalogueFromEnvironment();
-}
-
 class Selector : public testing::Test {
   protected:
     Selector() { application()->setDelegate(walk.selector.get()); }
@@ -80,7 +75,7 @@ class Selector : public testing::Test {
         return {};
     }
 
-    const Catalogue catalogue = demo();
+    const Catalogue catalogue = demoCatalogue();
     Walk walk{catalogue};
 };
 

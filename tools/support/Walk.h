@@ -6,6 +6,11 @@
 #include "virtualprinter/VirtualPrinter.h"
 #include "zmlib/CatalogueSource.h"
 
+inline Catalogue demoCatalogue() {
+    qputenv("ZMLIB_PRINTERS", "demo");
+    return catalogueFromEnvironment();
+}
+
 // One change through the real windows, from the printer list to what the printer holds afterwards.
 class Walk {
   public:
