@@ -109,12 +109,6 @@ TEST_F(Selector, EveryStepOfTheGuideLeadsToItsView) {
         EXPECT_EQ(quit, c.view == nullptr) << (c.clicks.isEmpty() ? "" : c.clicks.last());
         EXPECT_TRUE(quit || visibleView() == text(c.view)) << qPrintable(visibleView());
     }
-    for (const char *back : {"button_WPS2Back", "button_WPS1Back"}) click(back);
-    auto *choice = controlOf<RadioGroup>(window(), "matrix_ChooseConnectSelect");
-    choice->selectTag(0);
-    for (int i = 0; i < 2; ++i) QTest::keyClick(window(), Qt::Key_Return);
-    EXPECT_EQ(visibleView(), text("view_Printerlist"));
-    EXPECT_EQ(walk.list()->model()->rowCount(), 3) << "installer mode lists USB printers only";
 }
 
 TEST_F(Selector, TheListShowsPrintersAndStaysWithoutAWindow) {
