@@ -5,6 +5,8 @@
 #include <QThread>
 #include <algorithm>
 
+#include "platform/core/Waiting.h"
+
 namespace {
 
 // Positions in a command list.
@@ -109,7 +111,9 @@ int PrinterLibrary::ZMIOOpenForUDP(const QString &target, const QString &address
     QStringList printers;
     for (const auto &source : m_sources) printers += source->mayHave(address);
     const auto isOnThisNetwork = [](const auto &source) { return source->isOnThisNetwork(); };
-    const auto answers = [&](const QString &uri) { return answersAt(uri, address, deadline); };
+    const auto answers = [&](const QString &uri) {
+        return !isWaitCancelled() && answersAt(uri, address, deadline);
+    };
     return std::any_of(printers.begin(), printers.end(), answers) ||
                    (std::any_of(m_sources.begin(), m_sources.end(), isOnThisNetwork) &&
                     answersAtAddress(host, deadline, m_ports))

@@ -164,7 +164,7 @@ class UsbTransport : public Transport {
                 return Outcome::Closed;
             }
             if (m_in.moved() > 0) break;
-            if (deadline.hasExpired()) return Outcome::TimedOut;
+            if (deadline.hasExpired() || isWaitCancelled()) return Outcome::TimedOut;
             waitUntil([] { return false; }, std::min(deadline, QDeadlineTimer(pause)));
         }
         m_received.append(m_buffer.data(), m_in.moved());

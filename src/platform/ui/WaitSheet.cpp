@@ -48,9 +48,10 @@ WaitSheet::WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator,
     waitForExposure(sheet);
     sheet->repaint();
     parent->repaint();
-    m_wait.emplace([sheet](const QObject *object) {
+    m_wait.emplace([this](const QObject *object) {
         const auto *widget = qobject_cast<const QWidget *>(object);
-        return widget ? widget->window() == sheet : object == sheet->windowHandle();
+        return m_sheet &&
+               (widget ? widget->window() == m_sheet : object == m_sheet->windowHandle());
     });
     m_cancelling = QObject::connect(cancel, &QAbstractButton::clicked, sheet, [this, cancel] {
         m_wait->cancel();
