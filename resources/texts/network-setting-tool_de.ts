@@ -915,5 +915,20 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_SSIDList_Cancelled">
         <translation>Die Suche wurde abgebrochen. Drücken Sie F5, um erneut zu suchen.</translation>
     </message>
+    <message id="DWT_Localize_Menu_CopyAllSettings">
+        <translation>Alle Ein&amp;stellungen kopieren</translation>
+    </message>
+    <message id="DWT_Localize_Report_Line">
+        <translation>%1: %2</translation>
+    </message>
+    <message id="DWT_Localize_Report_Yes">
+        <translation>Ja</translation>
+    </message>
+    <message id="DWT_Localize_Report_No">
+        <translation>Nein</translation>
+    </message>
+    <message id="DWT_Localize_AddressAssignment">
+        <translation>Adresszuweisung</translation>
+    </message>
 </context>
 </TS>

@@ -915,5 +915,20 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_SSIDList_Cancelled">
         <translation>The search was cancelled. Press F5 to search again.</translation>
     </message>
+    <message id="DWT_Localize_Menu_CopyAllSettings">
+        <translation>Copy all &amp;settings</translation>
+    </message>
+    <message id="DWT_Localize_Report_Line">
+        <translation>%1: %2</translation>
+    </message>
+    <message id="DWT_Localize_Report_Yes">
+        <translation>Yes</translation>
+    </message>
+    <message id="DWT_Localize_Report_No">
+        <translation>No</translation>
+    </message>
+    <message id="DWT_Localize_AddressAssignment">
+        <translation>Address assignment</translation>
+    </message>
 </context>
 </TS>

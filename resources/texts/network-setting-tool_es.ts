@@ -915,5 +915,20 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_SSIDList_Cancelled">
         <translation>Se canceló la búsqueda. Pulse F5 para buscar de nuevo.</translation>
     </message>
+    <message id="DWT_Localize_Menu_CopyAllSettings">
+        <translation>Copiar todos los &amp;ajustes</translation>
+    </message>
+    <message id="DWT_Localize_Report_Line">
+        <translation>%1: %2</translation>
+    </message>
+    <message id="DWT_Localize_Report_Yes">
+        <translation>Sí</translation>
+    </message>
+    <message id="DWT_Localize_Report_No">
+        <translation>No</translation>
+    </message>
+    <message id="DWT_Localize_AddressAssignment">
+        <translation>Asignación de la dirección</translation>
+    </message>
 </context>
 </TS>

@@ -915,5 +915,20 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_SSIDList_Cancelled">
         <translation>La recherche a été annulée. Appuyez sur F5 pour rechercher à nouveau.</translation>
     </message>
+    <message id="DWT_Localize_Menu_CopyAllSettings">
+        <translation>Copier tous les &amp;paramètres</translation>
+    </message>
+    <message id="DWT_Localize_Report_Line">
+        <translation>%1 : %2</translation>
+    </message>
+    <message id="DWT_Localize_Report_Yes">
+        <translation>Oui</translation>
+    </message>
+    <message id="DWT_Localize_Report_No">
+        <translation>Non</translation>
+    </message>
+    <message id="DWT_Localize_AddressAssignment">
+        <translation>Attribution de l’adresse</translation>
+    </message>
 </context>
 </TS>

@@ -915,5 +915,20 @@
     <message id="DWT_Localize_SSIDList_Cancelled">
         <translation>検索をキャンセルしました。F5 キーを押すと再検索します。</translation>
     </message>
+    <message id="DWT_Localize_Menu_CopyAllSettings">
+        <translation>すべての設定をコピー(&amp;S)</translation>
+    </message>
+    <message id="DWT_Localize_Report_Line">
+        <translation>%1: %2</translation>
+    </message>
+    <message id="DWT_Localize_Report_Yes">
+        <translation>はい</translation>
+    </message>
+    <message id="DWT_Localize_Report_No">
+        <translation>いいえ</translation>
+    </message>
+    <message id="DWT_Localize_AddressAssignment">
+        <translation>アドレスの割り当て</translation>
+    </message>
 </context>
 </TS>

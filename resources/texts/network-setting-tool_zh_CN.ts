@@ -915,5 +915,20 @@
     <message id="DWT_Localize_SSIDList_Cancelled">
         <translation>搜索已取消。按 F5 键可重新搜索。</translation>
     </message>
+    <message id="DWT_Localize_Menu_CopyAllSettings">
+        <translation>复制所有设置(&amp;S)</translation>
+    </message>
+    <message id="DWT_Localize_Report_Line">
+        <translation>%1：%2</translation>
+    </message>
+    <message id="DWT_Localize_Report_Yes">
+        <translation>是</translation>
+    </message>
+    <message id="DWT_Localize_Report_No">
+        <translation>否</translation>
+    </message>
+    <message id="DWT_Localize_AddressAssignment">
+        <translation>地址分配方式</translation>
+    </message>
 </context>
 </TS>

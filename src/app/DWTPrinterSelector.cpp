@@ -297,7 +297,7 @@ void DWTPrinterSelector::DWT_ShowMainSettingWindow() {
         Window *const opening = msw_Object->window();
         opening->layout()->setMenuBar(m_menu->shareWith(opening));
         m_tray->watch(opening);
-        m_menu->pressForPrinter(msw_Object->sendButton(), msw_Object->readAgainButton());
+        m_menu->actOnPrinter(*msw_Object);
         opened = msw_Object->initializeData(array_PrinterList.value(row), window_Wait);
     }
     if (!opened) return;

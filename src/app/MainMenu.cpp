@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 
+#include "mainwindow/DWTMainSettingWindow.h"
 #include "platform/core/Texts.h"
 #include "platform/ui/Application.h"
 
@@ -41,17 +42,13 @@ QString selectedText(const QWidget *widget) {
     return field && field->echoMode() == QLineEdit::Normal ? field->selectedText() : QString();
 }
 
-// Makes an entry press a button, and be enabled exactly while a person could.
-class ButtonEntry : public QObject {
+// Makes an entry act for a widget, and be enabled exactly while a person can use the widget.
+class WidgetEntry : public QObject {
   public:
-    ButtonEntry(QAction *entry, QAbstractButton *button)
-        : QObject(button), m_entry(entry), m_button(button) {
-        button->installEventFilter(this);
-        // As a click does, the focus ends the editing of a field.
-        connect(entry, &QAction::triggered, this, [button] {
-            button->setFocus(Qt::ShortcutFocusReason);
-            button->click();
-        });
+    WidgetEntry(QAction *entry, QWidget *widget, const std::function<void()> &action)
+        : QObject(widget), m_entry(entry), m_widget(widget) {
+        widget->installEventFilter(this);
+        connect(entry, &QAction::triggered, this, action);
         follow();
     }
     bool eventFilter(QObject *, QEvent *event) override {
@@ -63,12 +60,19 @@ class ButtonEntry : public QObject {
 
   private:
     void follow() {
-        if (m_entry) m_entry->setEnabled(m_button->isVisible() && m_button->isEnabled());
+        if (m_entry) m_entry->setEnabled(m_widget->isVisible() && m_widget->isEnabled());
     }
 
     const QPointer<QAction> m_entry;
-    QAbstractButton *const m_button;
+    QWidget *const m_widget;
 };
+
+void pressBy(QAction *entry, QAbstractButton *button) {
+    new WidgetEntry(entry, button, [button] {
+        button->setFocus(Qt::ShortcutFocusReason);  // as a click does, which ends editing
+        button->click();
+    });
+}
 
 // The name of the licence, and whose the copyright is.
 QString licence() {
@@ -108,7 +112,7 @@ MainMenu::MainMenu(QWidget *parent) : QMenuBar(parent) {
     QMenu *const printer = addMenu(QStringLiteral("DWT_Localize_Menu_Printer"));
     m_send = add(printer, "DWT_Localize_Menu_Send", Qt::CTRL | Qt::Key_S);
     m_readAgain = add(printer, "DWT_Localize_Menu_ReadAgain", Qt::Key_F5);
-    for (QAction *entry : printer->actions()) entry->setEnabled(false);
+    for (QAction *entry : {m_send, m_readAgain, m_copyAllSettings}) entry->setEnabled(false);
     QMenu *const window = addMenu(QStringLiteral("DWT_Localize_Menu_Window"));
     add(window, "DWT_Localize_Menu_PrinterList", Qt::CTRL | Qt::Key_L,
         [this] { Q_EMIT printerListChosen(); });
@@ -136,6 +140,9 @@ void MainMenu::addEditMenu() {
     m_selectAll = add(edit, "DWT_Localize_Menu_SelectAll", QKeySequence::SelectAll, [this] {
         if (auto *const field = qobject_cast<QLineEdit *>(m_focus)) field->selectAll();
     });
+    edit->addSeparator();
+    m_copyAllSettings =
+        add(edit, "DWT_Localize_Menu_CopyAllSettings", Qt::CTRL | Qt::SHIFT | Qt::Key_C);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
         if (now && !qobject_cast<QMenuBar *>(now)) m_focus = now;
     });
@@ -177,7 +184,9 @@ QMenuBar *MainMenu::shareWith(QWidget *parent) const {
     return shared;
 }
 
-void MainMenu::pressForPrinter(QAbstractButton *send, QAbstractButton *readAgain) {
-    new ButtonEntry(m_send, send);
-    new ButtonEntry(m_readAgain, readAgain);
+void MainMenu::actOnPrinter(const DWTMainSettingWindow &printer) {
+    pressBy(m_send, printer.sendButton());
+    pressBy(m_readAgain, printer.readAgainButton());
+    new WidgetEntry(m_copyAllSettings, printer.window(),
+                    [&printer] { QApplication::clipboard()->setText(printer.report()); });
 }

@@ -3,7 +3,7 @@
 #include <QMenuBar>
 #include <QPointer>
 
-class QAbstractButton;
+class DWTMainSettingWindow;
 
 // The application's menu bar: Application, Edit, Printer, Window and Help. The titles are
 // localisation keys until localize() has replaced them. Main thread only.
@@ -18,9 +18,11 @@ class MainMenu : public QMenuBar {
     // A further bar with the same menus, for another window, which owns it.
     QMenuBar *shareWith(QWidget *parent) const;
 
-    // Makes Send and Read again press these buttons, and be enabled exactly while a person could.
-    // Both entries are disabled before. The buttons of the window before must be gone, or hidden.
-    void pressForPrinter(QAbstractButton *send, QAbstractButton *readAgain);
+    // Lets the entries for a printer act on the one in `printer`, whose window is loaded: Send and
+    // Read again press its buttons, Copy all settings copies its report. Each is enabled exactly
+    // while a person could do the same in the window. All are disabled before. The window of the
+    // printer before must be gone, or hidden.
+    void actOnPrinter(const DWTMainSettingWindow &printer);
 
   Q_SIGNALS:
     // The list of printers is to be shown.
@@ -38,6 +40,7 @@ class MainMenu : public QMenuBar {
     QAction *m_copy = nullptr;
     QAction *m_paste = nullptr;
     QAction *m_selectAll = nullptr;
+    QAction *m_copyAllSettings = nullptr;
     QAction *m_send = nullptr;
     QAction *m_readAgain = nullptr;
     QPointer<QWidget> m_focus;  // the widget that has it, or had it before a menu bar took it

@@ -359,6 +359,26 @@ bool DWTMainSettingWindow::shouldSelectItem(OutlineView *, const QVariantMap &it
     return true;
 }
 
+QString DWTMainSettingWindow::report() const {
+    QStringList lines{
+        QStringLiteral("%1 %2")
+            .arg(textField_SelectPrinterName->text(), textField_PrinterOwnName->text())
+            .trimmed()};
+    if (!textField_ReadOnly->isHidden()) lines << textField_ReadOnly->text();
+    const QString line = text("DWT_Localize_Report_Line");
+    for (const QVariantMap &item : m_pageItems) {
+        const auto page = dictionary_ViewManagement.value(viewKeyOf(item));
+        lines << QString() << page->pageName();
+        for (const DWTBaseView::Value &value : page->values())
+            lines << line.arg(value.label, orEmpty(value.text));
+    }
+    return lines.join(u'\n') + u'\n';
+}
+
+QString DWTMainSettingWindow::orEmpty(const QString &shown) {
+    return shown.isEmpty() ? text("DWT_Localize_Send_Confirm_Empty") : shown;
+}
+
 void DWTMainSettingWindow::showStandardAlert(const char *titleKey, const char *kindKey,
                                              const char *informationKey) {
     Alert alert(Alert::Style::Warning);

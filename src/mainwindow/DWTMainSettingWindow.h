@@ -56,6 +56,9 @@ class DWTMainSettingWindow : public QObject,
     QAbstractButton *sendButton() const { return button_MainSend; }
     QAbstractButton *readAgainButton() const { return button_MainNewSetting; }
     QAbstractButton *closeButton() const { return button_MainCancel; }
+    // What every page shows now, sent or not, as plain text for a person: the printer, then each
+    // page in the outline's order with a line for every value. Keys and passwords are left out.
+    QString report() const;
     // With an entry: the first opening, for that printer. Without one: reads the settings again.
     // False when the printer cannot be reached at the first opening, or the wait was cancelled; the
     // window is then closed. `waiting` is the wait window that is shown, to say how far it is.
@@ -108,6 +111,8 @@ class DWTMainSettingWindow : public QObject,
     void enableAllViews(bool enabled);
     void MSW_UISelector(const QString &viewKey);
     std::optional<QString> MSW_SelectedUIString() const;
+    // The text, or what stands for none.
+    static QString orEmpty(const QString &text);
     void showStandardAlert(const char *titleKey, const char *kindKey, const char *informationKey);
 
     // Sending (DWTMainSettingWindowSending.cpp).

@@ -43,9 +43,6 @@ void DWTMainSettingWindow::goToFirstFault() {
 
 // The name of each page that changes, and below it a line for each of its changes.
 QStringList DWTMainSettingWindow::linesOfChanges() const {
-    const auto orEmpty = [](const QString &text) {
-        return text.isEmpty() ? localized(u"DWT_Localize_Send_Confirm_Empty"_s) : text;
-    };
     QStringList lines;
     for (const QVariantMap &item : m_pageItems) {
         const auto page = dictionary_ViewManagement.value(viewKeyOf(item));

@@ -28,6 +28,13 @@ QString nameOf(const char *key) {
     return nameIn(text(key));
 }
 
+// The digits of a MAC address in pairs with colons between them.
+QString withColons(const QString &digits) {
+    QStringList pairs;
+    for (qsizetype i = 0; i < digits.size(); i += 2) pairs << digits.mid(i, 2);
+    return pairs.join(u':');
+}
+
 }  // namespace
 
 bool DWTBaseView::TBV_Init() {
@@ -66,6 +73,7 @@ void DWTBaseView::addChoice(QWidget *control, const QString &key, const char *na
 void DWTBaseView::addShown(QLineEdit *control, const QString &key, Kind kind,
                            const QStringList *items) {
     showAsValue(control);
+    if (kind == Kind::Mac) showAsDigits(control);
     Field field{control, key, kind};
     field.items = items;
     field.edited = false;
@@ -99,7 +107,8 @@ void DWTBaseView::fill(const Field &field) {
         popup->setCurrentIndex(popup->findData(code));
     } else if (nothing) {
         field.line()->clear();
-    } else if (values.contains(field.key) || field.kind != Kind::Text) {
+    } else if (values.contains(field.key) || field.kind == Kind::Address ||
+               field.kind == Kind::Choice) {
         field.line()->setText(textOf(field, values));
     }
 }
@@ -234,17 +243,26 @@ QList<DWTBaseView::Change> DWTBaseView::changes() const {
 }
 
 QList<DWTBaseView::Value> DWTBaseView::values() const {
-    const CategoryDictionary shown = shownCategory();
     QList<Value> list;
     for (const Field &field : m_fields)
         if (!field.rule || !field.rule->secret)
-            list << Value{labelOf(field),
-                          field.isText() ? field.line()->text() : textOf(field, shown)};
+            list << Value{labelOf(field), shownTextOf(field).trimmed()};
     return list;
+}
+
+QString DWTBaseView::shownTextOf(const Field &field) {
+    if (const auto *box = qobject_cast<QCheckBox *>(field.control))
+        return text(box->isChecked() ? "DWT_Localize_Report_Yes" : "DWT_Localize_Report_No");
+    if (const auto *group = qobject_cast<RadioGroup *>(field.control))
+        return group->titleOf(group->selectedTag());
+    if (const auto *popup = qobject_cast<QComboBox *>(field.control)) return popup->currentText();
+    const QString shown = field.line()->text();
+    return field.kind == Kind::Mac ? withColons(shown) : shown;
 }
 
 QString DWTBaseView::labelOf(const Field &field) const {
     if (field.nameKey) return nameOf(field.nameKey);
+    if (const auto *box = qobject_cast<QCheckBox *>(field.control)) return nameIn(box->text());
     for (const QLabel *label : view_Base->findChildren<QLabel *>())
         if (label->buddy() == field.control) return nameIn(label->text());
     return {};
@@ -299,6 +317,7 @@ QString DWTBaseView::textOf(const Field &field, const CategoryDictionary &catego
     const int code = integerValue(category, field.key);
     switch (field.kind) {
         case Kind::Text:
+        case Kind::Mac:
             return readableText(textValue(category, field.key));
         case Kind::Address:
             return addressNumberToString(addressValue(category, field.key));

@@ -85,11 +85,13 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // What differs, in the order of the page; empty when nothing does.
     virtual QList<Change> changes() const;
 
-    // A value as the page shows it. Secrets are left out.
+    // A value as the page shows it now, sent or not; MAC addresses with colons. Without a text
+    // where the page shows none.
     struct Value {
         QString label;
         QString text;
     };
+    // Every value of the page but its secrets, in the order of the page.
     QList<Value> values() const;
 
     // The name of the value of a record's key, in the words of the page; empty for a key that is
@@ -122,7 +124,8 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     struct Field {
         // Values and their controls: a text, an address or a number in a QLineEdit; a choice in a
         // RadioGroup (codes as tags) or a PopUpButton (codes as item data); a flag in a QCheckBox.
-        enum class Kind { Text, Address, Number, Choice, Flag };
+        // A MAC address is a text of twelve digits that are compared one by one.
+        enum class Kind { Text, Address, Number, Choice, Flag, Mac };
 
         QWidget *control;
         QString key;  // in the record; empty when the record does not hold the value
@@ -136,9 +139,7 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
         bool edited = true;                  // false: shown, and never written
 
         QLineEdit *line() const { return static_cast<QLineEdit *>(control); }
-        bool isText() const {
-            return kind == Kind::Text || kind == Kind::Address || kind == Kind::Number;
-        }
+        bool isText() const { return kind != Kind::Choice && kind != Kind::Flag; }
     };
     using Kind = Field::Kind;
 
@@ -148,7 +149,8 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // have them all.
     void addChoice(QWidget *control, const QString &key, const char *nameKey,
                    const QStringList *items = nullptr);
-    // Adds a row that only shows its value, as text: `items` are the texts of a choice.
+    // Adds a row that only shows its value, as text: `items` are the texts of a choice. Without a
+    // key the control keeps the text that it has.
     void addShown(QLineEdit *control, const QString &key, Kind kind = Kind::Text,
                   const QStringList *items = nullptr);
     const std::vector<Field> &fields() const { return m_fields; }
@@ -212,6 +214,8 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     bool showsNothing(const Field &field) const;
     // What a row is called, in the words of the page.
     QString labelOf(const Field &field) const;
+    // What a row's control shows, as a person reads it.
+    static QString shownTextOf(const Field &field);
     // A value of a row as a person reads it.
     QString textOf(const Field &field, const CategoryDictionary &category) const;
     // The localised rule that what a field holds breaks; empty when it breaks none.

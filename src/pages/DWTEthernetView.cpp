@@ -1,14 +1,11 @@
 #include "pages/DWTEthernetView.h"
 
-#include "platform/ui/FieldLooks.h"
-
 bool DWTEthernetView::ETV_Init() {
     SetViewKey(DWT_View_Key_Ethernet);
     setupUi(view_Base);
-    addShown(textField_EthernetMACAddress, DWT_SaveData_Ethernet_MACAddress);
-    showAsDigits(textField_EthernetMACAddress);
+    addShown(textField_EthernetMACAddress, DWT_SaveData_Ethernet_MACAddress, Kind::Mac);
     addChoice(radioButton_EthernetIPAddressSetting, DWT_SaveData_Ethernet_IPAddressSetting,
-              "DWT_Localize_Ethernet_Box_IPAddressSetup");
+              "DWT_Localize_AddressAssignment");
     addAddress(
         textField_EthernetIpAddress, DWT_SaveData_Ethernet_IPAddress,
         DWT_SaveData_Connect_IPAddress, [this] { return itemInputCheckEthernetIpAddress(); },

@@ -33,8 +33,7 @@ void DWTInfrastructureView::ISV_Dealloc() {
 
 void DWTInfrastructureView::addAddressFields() {
     addChoice(radioButton_InfrastructureIPAddressSetting,
-              DWT_SaveData_Infrastructure_IPAddressSetting,
-              "DWT_Localize_Infrastructure_Box_IPAddressSetup");
+              DWT_SaveData_Infrastructure_IPAddressSetting, "DWT_Localize_AddressAssignment");
     addAddress(textField_InfrastructureIpAddress, DWT_SaveData_Infrastructure_IPAddress,
                DWT_SaveData_Connect_IPAddress,
                [this] { return itemInputCheckInfrastructureIpAddress(); });

@@ -1,14 +1,13 @@
 #include "pages/DWTSimpleAPView.h"
 
 #include "platform/core/PropertyList.h"
-#include "platform/ui/FieldLooks.h"
 
 bool DWTSimpleAPView::SAP_Init() {
     SetViewKey(DWT_View_Key_SimpleAP);
     setupUi(view_Base);
-    showAsValue(textField_SimpleAPDHCPServer);
     addShown(textField_SimpleAPWirelessLanMode, DWT_SaveData_SimpleAP_WirelessMode, Kind::Choice,
              &array_textField_WirelessMode);
+    addShown(textField_SimpleAPDHCPServer, {});
     addShown(textField_SimpleAPStartIpAddress, DWT_SaveData_SimpleAP_StartIPAddress, Kind::Address);
     addShown(textField_SimpleAPIpAddress, DWT_SaveData_SimpleAP_IPAddress, Kind::Address);
     addShown(textField_SimpleAPSubnetMask, DWT_SaveData_SimpleAP_Subnetmask, Kind::Address);

@@ -1,6 +1,5 @@
 #include "pages/DWTWirelessView.h"
 
-#include "platform/ui/FieldLooks.h"
 #include "platform/ui/RadioGroup.h"
 
 bool DWTWirelessView::NWL_Init() {
@@ -9,10 +8,9 @@ bool DWTWirelessView::NWL_Init() {
     addChoice(radioButton_WirelessCommunicateMode, DWT_SaveData_Wireless_CommunicateMode,
               "DWT_Localize_Wireless_Text_CommunicateMode_Label");
     addShown(textField_WirelessInfrastructureMACAddress,
-             DWT_SaveData_Wireless_InfrastructureMACAddress);
-    addShown(textField_WirelessSimpleAPMACAddress, DWT_SaveData_Wireless_SampleAPMACAddress);
-    showAsDigits(textField_WirelessInfrastructureMACAddress);
-    showAsDigits(textField_WirelessSimpleAPMACAddress);
+             DWT_SaveData_Wireless_InfrastructureMACAddress, Kind::Mac);
+    addShown(textField_WirelessSimpleAPMACAddress, DWT_SaveData_Wireless_SampleAPMACAddress,
+             Kind::Mac);
     connect(radioButton_WirelessCommunicateMode, &RadioGroup::selected, this,
             &DWTWirelessView::select_WirelessCommunicateMode);
     return true;

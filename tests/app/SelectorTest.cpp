@@ -413,7 +413,8 @@ TEST_F(Selector, EntriesOfTheEditMenuAreEnabledWhenTheyCanAct) {
         QStringList enabled;
         for (QAction *entry : QApplication::activePopupWidget()->actions())
             if (entry->isEnabled() && !entry->isSeparator()) enabled << entry->text().remove(u'&');
-        EXPECT_EQ(enabled.join(u' '), text(c.enabled)) << c.control;
+        EXPECT_EQ(enabled.join(u' '), (text(c.enabled) + text(" Copy all settings")).trimmed())
+            << c.control;
         QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
     }
     const auto choose = [&](const char *control, Qt::Key entry) {
@@ -478,6 +479,41 @@ TEST_F(Selector, TheMenuSendsReadsAgainAndLeadsToTheListAndTheGuide) {
     }
     key(Qt::Key_W);
     EXPECT_FALSE(isListed());
+}
+
+TEST_F(Selector, AllSettingsAreCopiedAsThePagesShowThemButNoSecret) {
+    walk.launch();
+    const auto copy = [&] {
+        QApplication::clipboard()->clear();
+        QTest::keyClick(walk.main(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+        return QApplication::clipboard()->text();
+    };
+    const auto expectIn = [](const QString &report, const QList<const char *> &parts) {
+        qsizetype at = 0;  // in this order
+        for (const char *part : parts)
+            EXPECT_GE(at = report.indexOf(text(part), at), 0) << part << qPrintable(report);
+    };
+    ASSERT_TRUE(walk.open(text("Packing-Desk")));
+    walk.type("textField_NetworkBonjour", text("gate-2"));
+    walk.type("textField_InfrastructurePSK", text("not for others"));
+    const QString report = copy();
+    expectIn(report,
+             {"Larkfield L200 · Packing-Desk\n\nDevice\nFirmware version: 1.203\n",
+              "\n\nNames\nPrinter name: Packing-Desk\nBonjour name: gate-2\n",
+              "\n\nWired network\nMAC address: 02:00:4C:0A:1B:01\n"
+              "Address assignment: Fixed address\nIP address: 192.168.20.31\n",
+              "\n\nWireless network\n", "(access point): 02:00:4C:0A:1B:03\n",
+              "\n\nInfrastructure\n", "\nNetwork name (SSID): 倉庫\n", "\nWEP key number: Key 1\n",
+              "\n\nAccess point\nWireless standard: IEEE 802.11b/g/n\n"
+              "DHCP server: On: the printer assigns addresses\n",
+              "\n\nPassword\nSet a new administrator password: No\n"});
+    EXPECT_FALSE(report.contains(text("not for others")) || report.contains(u'*'));
+    walk.dialogs().on("view_SendChangeCheck", "button_SendChangeCheckNoReflect");
+    keyIn(walk.main(), Qt::Key_L, Qt::ControlModifier);
+    EXPECT_EQ(copy(), QString()) << "no printer is open";
+    ASSERT_TRUE(walk.open(text("Goods in (first floor)")));
+    expectIn(copy(), {"Larkfield L400 · Goods-In\nThis printer is connected over the network, so",
+                      "\nBonjour name: label-printer\n", "\nNetwork name (SSID): (empty)\n"});
 }
 
 TEST_F(Selector, AboutTellsVersionLicenceAndWhereFaultsAreReported) {

@@ -133,7 +133,7 @@ TEST_P(AddressSetup, SwitchingTheSetupTakesTheMatchingAddresses) {
     EXPECT_EQ(storedSetting(), 0);
     EXPECT_EQ(stored("IPAddress"), text("10.0.0.5")) << "the typed address was not dropped";
     EXPECT_EQ(state, DWT_MainDialog_SendOK_Message);
-    EXPECT_EQ(changeList(), text("IP address: Fixed address > Automatic (DHCP)"));
+    EXPECT_EQ(changeList(), text("Address assignment: Fixed address > Automatic (DHCP)"));
     EXPECT_EQ(address()->text(), text("10.0.0.9"));
     EXPECT_FALSE(address()->isEnabled() || mask()->isEnabled() || gateway()->isEnabled());
     gateway()->setText(text("1.2"));
