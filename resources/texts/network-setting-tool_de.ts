@@ -930,5 +930,20 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_AddressAssignment">
         <translation>Adresszuweisung</translation>
     </message>
+    <message id="DWT_Localize_Drawing_Printer">
+        <translation>Zeichnung: ein Etikettendrucker, der über Funk verbunden ist</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_Choice">
+        <translation>Zeichnung: ein Drucker, mit einem Computer über ein USB-Kabel und mit einem WLAN-Router über Funk verbunden</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_USB">
+        <translation>Zeichnung: ein USB-Kabel zwischen einem Computer und einem Drucker</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_WPSPrepare">
+        <translation>Zeichnung: ein Drucker neben einem WLAN-Router, dessen WPS-Taste hervorgehoben ist</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_WPSPress">
+        <translation>Zeichnung: Ein Pfeil zeigt auf die WPS-Taste eines WLAN-Routers; Drucker und Router tauschen Funksignale aus</translation>
+    </message>
 </context>
 </TS>

@@ -930,5 +930,20 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_AddressAssignment">
         <translation>Address assignment</translation>
     </message>
+    <message id="DWT_Localize_Drawing_Printer">
+        <translation>Drawing: a label printer that is connected wirelessly</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_Choice">
+        <translation>Drawing: a printer, connected to a computer with a USB cable and to a wireless router by radio</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_USB">
+        <translation>Drawing: a USB cable between a computer and a printer</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_WPSPrepare">
+        <translation>Drawing: a printer beside a wireless router, whose WPS button stands out</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_WPSPress">
+        <translation>Drawing: an arrow points to the WPS button of a wireless router, and printer and router exchange radio signals</translation>
+    </message>
 </context>
 </TS>

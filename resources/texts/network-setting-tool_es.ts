@@ -930,5 +930,20 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_AddressAssignment">
         <translation>Asignación de la dirección</translation>
     </message>
+    <message id="DWT_Localize_Drawing_Printer">
+        <translation>Dibujo: una impresora de etiquetas conectada sin cables</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_Choice">
+        <translation>Dibujo: una impresora conectada a un equipo con un cable USB y a un router Wi-Fi por radio</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_USB">
+        <translation>Dibujo: un cable USB entre un equipo y una impresora</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_WPSPrepare">
+        <translation>Dibujo: una impresora junto a un router Wi-Fi cuyo botón WPS está resaltado</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_WPSPress">
+        <translation>Dibujo: una flecha señala el botón WPS de un router Wi-Fi; la impresora y el router intercambian señales de radio</translation>
+    </message>
 </context>
 </TS>

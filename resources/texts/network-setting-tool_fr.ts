@@ -930,5 +930,20 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_AddressAssignment">
         <translation>Attribution de l’adresse</translation>
     </message>
+    <message id="DWT_Localize_Drawing_Printer">
+        <translation>Dessin : une imprimante d’étiquettes connectée sans fil</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_Choice">
+        <translation>Dessin : une imprimante reliée à un ordinateur par un câble USB et à un routeur Wi-Fi par ondes radio</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_USB">
+        <translation>Dessin : un câble USB entre un ordinateur et une imprimante</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_WPSPrepare">
+        <translation>Dessin : une imprimante à côté d’un routeur Wi-Fi dont le bouton WPS est mis en évidence</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_WPSPress">
+        <translation>Dessin : une flèche indique le bouton WPS d’un routeur Wi-Fi ; l’imprimante et le routeur échangent des signaux radio</translation>
+    </message>
 </context>
 </TS>

@@ -930,5 +930,20 @@
     <message id="DWT_Localize_AddressAssignment">
         <translation>アドレスの割り当て</translation>
     </message>
+    <message id="DWT_Localize_Drawing_Printer">
+        <translation>図: 無線で接続されたラベルプリンター</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_Choice">
+        <translation>図: USB ケーブルでコンピューターに、無線でルーターに接続されたプリンター</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_USB">
+        <translation>図: コンピューターとプリンターをつなぐ USB ケーブル</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_WPSPrepare">
+        <translation>図: プリンターと、WPS ボタンが強調された無線 LAN ルーター</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_WPSPress">
+        <translation>図: 無線 LAN ルーターの WPS ボタンを指す矢印と、電波をやり取りするプリンターとルーター</translation>
+    </message>
 </context>
 </TS>

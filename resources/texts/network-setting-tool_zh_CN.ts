@@ -930,5 +930,20 @@
     <message id="DWT_Localize_AddressAssignment">
         <translation>地址分配方式</translation>
     </message>
+    <message id="DWT_Localize_Drawing_Printer">
+        <translation>图：通过无线方式连接的标签打印机</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_Choice">
+        <translation>图：用 USB 电缆连接到计算机、通过无线信号连接到无线路由器的打印机</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_USB">
+        <translation>图：连接计算机和打印机的 USB 电缆</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_WPSPrepare">
+        <translation>图：打印机，旁边是突出显示 WPS 按钮的无线路由器</translation>
+    </message>
+    <message id="DWT_Localize_Drawing_WPSPress">
+        <translation>图：箭头指向无线路由器的 WPS 按钮，打印机与路由器交换无线信号</translation>
+    </message>
 </context>
 </TS>

@@ -1,11 +1,7 @@
 #include "mainwindow/WPSGuide.h"
 
-#include <QEvent>
-#include <QIcon>
-
 WPSGuide::WPSGuide(QWidget *container) : QObject(container) {
     setupUi(container);
-    view_WPS2->installEventFilter(this);
     const auto forward = [this](QAbstractButton *button, void (WPSGuide::*pushed)()) {
         connect(button, &QAbstractButton::clicked, this, pushed);
     };
@@ -20,13 +16,4 @@ WPSGuide::WPSGuide(QWidget *container) : QObject(container) {
 void WPSGuide::hideBack() {
     button_WPS1Back->hide();
     button_WPS2Back->hide();
-}
-
-bool WPSGuide::eventFilter(QObject *watched, QEvent *event) {
-    if (event->type() == QEvent::Show) {
-        const QIcon picture(QStringLiteral(":/pictures/wps.svg"));
-        imageView_WPS2->setPixmap(picture.pixmap(imageView_WPS2->minimumSize()));
-        watched->removeEventFilter(this);
-    }
-    return false;
 }

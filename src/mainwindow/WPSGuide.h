@@ -26,8 +26,4 @@ class WPSGuide : public QObject, private Ui::WPSGuide {
     void next2();
     void back2();
     void exit2();
-
-  protected:
-    // Draws the picture when its view is first shown; drawing it earlier would delay the start.
-    bool eventFilter(QObject *watched, QEvent *event) override;
 };

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QLabel>
 #include <QMenuBar>
@@ -108,6 +109,27 @@ TEST_F(Selector, EveryStepOfTheGuideLeadsToItsView) {
         });
         EXPECT_EQ(quit, c.view == nullptr) << (c.clicks.isEmpty() ? "" : c.clicks.last());
         EXPECT_TRUE(quit || visibleView() == text(c.view)) << qPrintable(visibleView());
+    }
+}
+
+TEST_F(Selector, DrawingsOfTheGuideFollowTheColoursAndSayWhatTheyShow) {
+    const ArgumentOverride installer("-Installer");
+    walk.launch();
+    auto *const drawing = controlOf<QLabel>(window(), "imageView_ToolPerform");
+    const QAccessibleInterface *told = QAccessible::queryAccessibleInterface(drawing);
+    EXPECT_EQ(told->role(), QAccessible::Graphic);
+    EXPECT_TRUE(told->text(QAccessible::Name).startsWith(text("Drawing: a label printer")));
+    for (const QColor &surface : {QColor(250, 250, 250), QColor(20, 30, 40)}) {
+        QPalette colours(surface);
+        colours.setColor(QPalette::Base, surface);
+        colours.setColor(QPalette::Highlight, Qt::red);
+        window()->setPalette(colours);
+        const QImage drawn = drawing->pixmap().toImage();
+        QSet<QRgb> found;
+        for (int i = 0; i < drawn.width() * drawn.height(); ++i)
+            found << drawn.pixel(i % drawn.width(), i / drawn.width());
+        for (const auto role : {QPalette::WindowText, QPalette::Base, QPalette::Highlight})
+            EXPECT_TRUE(found.contains(colours.color(role).rgba())) << role;
     }
 }
 
