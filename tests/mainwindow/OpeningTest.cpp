@@ -82,6 +82,9 @@ TEST_F(Opening, ValuesThatCannotBeChangedCanBeCopiedAndReadWell) {
     EXPECT_EQ(QApplication::clipboard()->text(), text("5"));
     EXPECT_EQ(seconds->text(), text("5")) << "a value out of its range was put right";
     EXPECT_FALSE(isEnabled("textField_InfrastructurePSK") || isEnabled("button_MainSend"));
+    const QPalette &button = control("button_InfrastructureSelectSSID")->palette();
+    EXPECT_NE(button.color(QPalette::Disabled, QPalette::ButtonText),
+              button.color(QPalette::Active, QPalette::ButtonText));
     const QPalette &colours = control("radioButton_InfrastructureIPAddressSetting")->palette();
     EXPECT_EQ(colours.color(QPalette::Disabled, QPalette::WindowText),
               colours.color(QPalette::Active, QPalette::WindowText));
@@ -153,6 +156,31 @@ TEST_F(Opening, TheOutlineSwitchesPagesAndStoresTheOneLeft) {
     QTest::keyClick(control("outlineView_Main"), Qt::Key_Up);
     EXPECT_EQ(name(), text("bad name"));
     EXPECT_TRUE(control("textField_NetworkBonjour")->isVisible());
+}
+
+TEST_F(Opening, TheOutlineShowsWhetherItHasTheFocus) {
+    open("{}");
+    auto *const outline = control<OutlineView>("outlineView_Main");
+    const auto colours = [&] {  // of the selected row: at its edge, and further inside
+        QRect row = outline->visualRect(outline->currentIndex());
+        row.setLeft(0);
+        const QImage image = outline->viewport()->grab(row).toImage();
+        return std::pair(image.pixelColor(row.width() / 2, 1),
+                         image.pixelColor(row.width() - 4, row.height() / 2));
+    };
+    for (const QColor &base : {QColor(250, 250, 250), QColor(20, 30, 40)}) {
+        QPalette palette(base);
+        palette.setColor(QPalette::Base, base);
+        outline->setPalette(palette);
+        outline->setFocus();
+        const auto [frame, highlight] = colours();
+        EXPECT_GT(std::abs(frame.lightness() - highlight.lightness()), 60);
+        QTest::keyClick(outline, Qt::Key_Tab);
+        const auto [edge, pale] = colours();
+        EXPECT_EQ(edge, pale);
+        EXPECT_GT(std::abs(highlight.lightness() - pale.lightness()), 30);
+        EXPECT_NE(pale, base);
+    }
 }
 
 TEST_F(Opening, TabReachesEveryControlInReadingOrderAlsoOnASmallScreen) {

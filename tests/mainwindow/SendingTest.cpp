@@ -2,6 +2,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QRadioButton>
+#include <QWindow>
 
 #include "PrinterWindow.h"
 
@@ -231,7 +232,13 @@ TEST_F(Sending, TheEndNamesWhatThePrinterDidNotTake) {
 
 TEST_F(Sending, EscapeCancelsWhereTheViewCanBeCancelled) {
     openAndType(passwordProfile);
-    const auto close = [](QWidget *window) { window->close(); };
+    const auto hasCloseBox = [](QWidget *window) {
+        return window->windowHandle()->flags().testFlag(Qt::WindowCloseButtonHint);
+    };
+    const auto close = [&](QWidget *window) {
+        EXPECT_TRUE(hasCloseBox(window));
+        window->close();
+    };
     warned().key("view_SendLogin", Qt::Key_Escape);
     send();
     expectUnsent();
@@ -244,8 +251,9 @@ TEST_F(Sending, EscapeCancelsWhereTheViewCanBeCancelled) {
     dialogs.on("view_SendChangeCheck", close);
     EXPECT_FALSE(main->terminateNetworkTool());
     expectUnsent();
-    const auto tryToLeave = [](const char *view) {
-        return [view](QWidget *dialog) {
+    const auto tryToLeave = [&](const char *view) {
+        return [=](QWidget *dialog) {
+            EXPECT_TRUE(QTest::qWaitFor([&] { return !hasCloseBox(dialog); })) << view;
             QTest::keyClick(dialog, Qt::Key_Escape);
             dialog->close();
             EXPECT_TRUE(controlOf(dialog, view)->isVisible());

@@ -4,7 +4,9 @@
 #include <QFocusEvent>
 #include <QFontDatabase>
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QStyle>
 #include <QStyleOptionFrame>
 
@@ -60,6 +62,12 @@ void keepLegible(QWidget *panel, bool on) {
         for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
             palette.setBrush(QPalette::Disabled, role, palette.brush(QPalette::Active, role));
     panel->setPalette(palette);
+    QPalette disabled;
+    if (on)
+        disabled.setBrush(
+            QPalette::Disabled, QPalette::ButtonText,
+            QGuiApplication::palette().brush(QPalette::Disabled, QPalette::ButtonText));
+    for (auto *button : panel->findChildren<QPushButton *>()) button->setPalette(disabled);
 }
 
 void showAsDigits(QLineEdit *field) {

@@ -17,7 +17,8 @@ void keepSelectionInMenus(QLineEdit *field);
 void showAsValue(QLineEdit *field, bool on = true);
 
 // Lets the disabled controls of a panel show their texts in the colours of the enabled ones, for a
-// panel that is there to be read; off gives them back the looks of disabled ones.
+// panel that is there to be read; off gives them back the looks of disabled ones. Push buttons,
+// which tell nothing, always look as disabled as they are.
 void keepLegible(QWidget *panel, bool on);
 
 // The same for a value of digits that are compared one by one, such as a MAC address: in the

@@ -2,10 +2,13 @@
 
 #include <QAbstractItemModel>
 #include <QHeaderView>
+#include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <memory>
 #include <vector>
+
+#include "platform/ui/Colours.h"
 
 // The data source as Qt's model sees it: the tree is fetched as a whole at every reload.
 class OutlineModel : public QAbstractItemModel {
@@ -97,10 +100,20 @@ class OutlineModel : public QAbstractItemModel {
 
 namespace {
 
-// Draws the mark of an item after its text.
+// How much of the highlight's colour a selected row keeps without the focus, in hundredths.
+constexpr int pale = 35;
+
+// The room above and below a row's text, in pixels.
+constexpr int rowMargin = 3;
+
+// Draws the mark of an item after its text, with room for the frame of a row.
 class MarkDelegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 2 * rowMargin);
+    }
 
   protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {
@@ -230,6 +243,23 @@ void OutlineView::focusInEvent(QFocusEvent *event) {
     selectionOf(this)->frozen = true;
     QTreeView::focusInEvent(event);
     selectionOf(this)->frozen = false;
+}
+
+void OutlineView::drawRow(QPainter *painter, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const {
+    QStyleOptionViewItem row = option;
+    QPalette &colours = row.palette;
+    if (!hasFocus()) {
+        colours.setColor(QPalette::Highlight, mixed(colours.color(QPalette::Highlight),
+                                                    colours.color(QPalette::Base), pale));
+        colours.setColor(QPalette::HighlightedText, colours.color(QPalette::Text));
+    }
+    QTreeView::drawRow(painter, row, index);
+    if (!hasFocus() || index != currentIndex()) return;
+    painter->save();
+    painter->setPen(colours.color(QPalette::HighlightedText));
+    painter->drawRect(row.rect.adjusted(1, 1, -2, -2));
+    painter->restore();
 }
 
 QModelIndex OutlineView::indexAtRow(int row) const {

@@ -69,6 +69,9 @@ class OutlineView : public QTreeView {
 
   protected:
     void focusInEvent(QFocusEvent *event) override;
+    // The selected row is pale while the outline has no focus, and framed while it has it.
+    void drawRow(QPainter *painter, const QStyleOptionViewItem &option,
+                 const QModelIndex &index) const override;
 
   private:
     QModelIndex indexAtRow(int row) const;

@@ -3,14 +3,12 @@
 #include <QPainter>
 #include <QStyleOption>
 
+#include "platform/ui/Colours.h"
+
 namespace {
 
 // Backgrounds below this lightness (0..255) count as dark.
 constexpr int darkest = 100;
-
-QColor between(const QColor &a, const QColor &b) {
-    return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
-}
 
 }  // namespace
 
@@ -28,7 +26,7 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *
     if (!field && !box && !radio) return;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing, !box);
-    painter->setPen(between(window, option->palette.color(QPalette::WindowText)));
+    painter->setPen(mixed(window, option->palette.color(QPalette::WindowText), 50));
     painter->setBrush(Qt::NoBrush);
     const QRectF outline = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
     if (radio)

@@ -10,6 +10,7 @@
 #include <QToolTip>
 #include <utility>
 
+#include "platform/ui/Colours.h"
 #include "platform/ui/TableModel.h"
 
 namespace {
@@ -22,14 +23,6 @@ constexpr int quiet = 70;
 
 // So many rows have a say in the width of a column, besides those in sight.
 constexpr int rowsMeasured = 50;
-
-QColor mixed(const QColor &text, const QColor &base) {
-    const auto part = [](int one, int other) {
-        return (one * quiet + other * (100 - quiet)) / 100;
-    };
-    return {part(text.red(), base.red()), part(text.green(), base.green()),
-            part(text.blue(), base.blue())};
-}
 
 // Draws a cell with a second line.
 class DetailDelegate : public QStyledItemDelegate {
@@ -70,7 +63,8 @@ class DetailDelegate : public QStyledItemDelegate {
         painter->save();
         painter->setFont(option.font);
         draw(text, 0, colour);
-        draw(detail, 1, selected ? colour : mixed(colour, option.palette.color(QPalette::Base)));
+        draw(detail, 1,
+             selected ? colour : mixed(colour, option.palette.color(QPalette::Base), quiet));
         painter->restore();
     }
 };
