@@ -6,14 +6,10 @@
 #include <QDir>
 #include <QProgressBar>
 
-#include "app/DWTPrinterSelector.h"
-#include "link/Binding.h"
 #include "platform/core/Texts.h"
 #include "support/Arguments.h"
-#include "support/DialogScript.h"
 #include "support/PluggedSource.h"
-#include "virtualprinter/VirtualPrinter.h"
-#include "zmlib/CatalogueSource.h"
+#include "support/Walk.h"
 
 char **programArguments = nullptr;
 
@@ -56,22 +52,28 @@ void setFaults(const char *uri, const Faults &faults) {
     demo().virtualPrinters[QLatin1String(uri)]->setFaults(faults);
 }
 
-PrinterEntry printer(const char *uri) {
-    for (const PrinterEntry &entry : demo().entries)
-        if (entry.value(QStringLiteral("DeviceURI")) == QLatin1String(uri)) return entry;
-    qFatal("no demo printer %s", uri);
+Faults unplugged() {
+    Faults faults;
+    faults.refuseConnection = true;
+    return faults;
 }
 
-std::shared_ptr<DWTMainSettingWindow> open(const char *uri) {
-    auto window = make<DWTMainSettingWindow>();
-    window->showWindow();
-    window->initializeData(printer(uri));
-    return window;
+// So that work with the printer is half done when its picture is taken.
+Faults slow() {
+    Faults faults;
+    faults.delay = 150;
+    return faults;
+}
+
+// Opens a demo printer from the list, as users do, so that its window has all its parts.
+void open(Walk &walk, const char *name) {
+    walk.launch();
+    if (!walk.open(text(name))) qFatal("cannot open %s", name);
 }
 
 void shootSelector() {
-    const auto selector = make<DWTPrinterSelector>();
-    selector->awakeFromNib();
+    const Walk walk(demo());
+    const auto &selector = walk.selector;
     QWidget *const window = selector->window();
     {
         const ArgumentOverride installer("-Installer");
@@ -94,34 +96,36 @@ void shootSelector() {
     nothing->awakeFromNib();
     nothing->applicationDidFinishLaunching();
     shoot(nothing->window(), "printers-none");
-    installLibrary(catalogueLibrary(demo()));
 }
 
 void shootPages() {
-    const auto main = open("virtual://packing-desk");
-    auto *outline = controlOf<OutlineView>(main->window(), "outlineView_Main");
+    Walk walk(demo());
+    open(walk, "Packing-Desk");
+    auto *outline = controlOf<OutlineView>(walk.main(), "outlineView_Main");
     outline->setFocus();
     const char *const names[] = {"page-network",        "page-ethernet", "page-wireless",
                                  "page-infrastructure", "page-simpleap", "page-password"};
     for (const char *name : names) {
-        shoot(main->window(), name);
+        shoot(walk.main(), name);
         QTest::keyClick(outline, Qt::Key_Down);
     }
     for (int i = 0; i < 6; ++i) QTest::keyClick(outline, Qt::Key_Up);
-    shoot(main->window(), "page-firmware");
-    const auto readOnly = open("virtual://goods-in");
-    shoot(readOnly->window(), "page-read-only");
+    shoot(walk.main(), "page-firmware");
+    walk.main()->close();
+    open(walk, "Goods in (first floor)");
+    shoot(walk.main(), "page-read-only");
 }
 
 void shootSendDialog() {
-    const auto main = open("virtual://dispatch");
-    QWidget *const window = main->window();
+    Walk walk(demo());
+    open(walk, "Dispatch");
+    QWidget *const window = walk.main();
     QTest::keyClicks(controlOf<QLineEdit>(window, "textField_NetworkBonjour"),
                      QStringLiteral("-2"));
-    DialogScript dialogs;
+    DialogScript &dialogs = walk.dialogs();
     dialogs.on("view_SendChangeCheck", shooting("send-change-check"),
                "button_SendChangeCheckCancel");
-    main->terminateNetworkTool();
+    press(window, "button_MainCancel");
     dialogs.on("view_UpdateChangeCheck", shooting("send-update-check"),
                "button_UpdateChangeCheckCancel");
     press(window, "button_MainNewSetting");
@@ -138,16 +142,17 @@ void shootSendDialog() {
         .on("view_SendConfirm",
             [](QWidget *dialog) {
                 shoot(dialog, "send-confirm");
+                setFaults("virtual://dispatch", slow());
                 press(dialog, "button_SendConfirmTransmission");
                 auto *progress = controlOf<QProgressBar>(dialog, "progress_SendProgress");
-                if (!QTest::qWaitFor([&] { return progress->value() >= 50; })) qFatal("no send");
+                const auto isHalfWay = [&] { return progress->value() >= 50; };
+                if (!QTest::qWaitFor(isHalfWay, 20000)) qFatal("no send");
                 shoot(dialog, "send-progress");
+                setFaults("virtual://dispatch", {});
             })
         .on("view_SendEnd", shooting("send-end"), "button_SendEndOK");
     press(window, "button_MainSend");
-    Faults unplugged;
-    unplugged.refuseConnection = true;
-    setFaults("virtual://dispatch", unplugged);
+    setFaults("virtual://dispatch", unplugged());
     QTest::keyClicks(controlOf<QLineEdit>(window, "textField_NetworkBonjourService"),
                      QStringLiteral("!"));
     dialogs.on("", [](QWidget *alert) { QTest::keyClick(alert, Qt::Key_Return); })
@@ -157,9 +162,10 @@ void shootSendDialog() {
 }
 
 void shootOthers() {
-    const auto main = open("virtual://packing-desk");
-    QWidget *const window = main->window();
-    DialogScript dialogs;
+    Walk walk(demo());
+    open(walk, "Packing-Desk");
+    QWidget *const window = walk.main();
+    DialogScript &dialogs = walk.dialogs();
     const auto shootNetworks = [](QWidget *dialog) {
         controlOf<TableView>(dialog, "tableView_SelectSSIDWindow")->selectRow(1);
         shoot(dialog, "networks");
@@ -172,15 +178,17 @@ void shootOthers() {
     typeInto(controlOf<QLineEdit>(window, "textField_NetworkBonjour"), text("no spaces, please"));
     dialogs.on("", shootAndDismiss("alert-input"));
     press(window, "button_MainSend");
-    Faults slow;
-    slow.delay = 100;
-    setFaults("virtual://packing-desk", slow);
+    setFaults("virtual://packing-desk", slow());
     QTimer::singleShot(1000, window, [&] { shoot(controlOf(window, "progress_Wait"), "wait"); });
     dialogs.on("view_UpdateChangeCheck", "button_UpdateChangeCheckOK");
     press(window, "button_MainNewSetting");
     setFaults("virtual://packing-desk", {});
+    window->close();
     dialogs.on("", shootAndDismiss("alert-not-reached"));
-    open("virtual://store-room");
+    walk.launch();
+    setFaults("virtual://dispatch", unplugged());
+    walk.open(text("Dispatch"));
+    setFaults("virtual://dispatch", {});
 }
 
 void useDarkColours() {
@@ -213,7 +221,6 @@ int main(int argc, char **argv) {
     wanted.removeAll(QStringLiteral("dark"));
     wanted.removeAll(QStringLiteral("light"));
     installTexts();
-    installLibrary(catalogueLibrary(demo()));
     folder = arguments[1];
     QDir().mkpath(folder);
     shootSelector();
