@@ -126,6 +126,7 @@ void DWTBaseView::enableAllItems(bool enabled) {
 void DWTBaseView::showForReading(bool reading) {
     keepLegible(view_Base, reading);
     for (const Field &field : m_fields) {
+        if (auto *popup = qobject_cast<PopUpButton *>(field.control)) popup->showAsValue(reading);
         if (!field.edited || !field.isText() || (field.rule && field.rule->secret)) continue;
         showAsValue(field.line(), reading);
         if (reading) field.control->setEnabled(true);

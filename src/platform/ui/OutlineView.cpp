@@ -45,10 +45,10 @@ class OutlineModel : public QAbstractItemModel {
             case Qt::DisplayRole:
                 return source->objectValueForTableColumn(m_outline, column, item);
             case Qt::DecorationRole:
-                return source->markOfItem(m_outline, item).sign;
+                return node(index)->mark.sign;
             case Qt::ToolTipRole:
             case Qt::AccessibleDescriptionRole:
-                return source->markOfItem(m_outline, item).meaning;
+                return node(index)->mark.meaning;
             default:
                 return {};
         }
@@ -64,6 +64,8 @@ class OutlineModel : public QAbstractItemModel {
     void reloadMarks(const QModelIndex &top = {}) {
         const int rows = rowCount(top);
         if (rows == 0) return;
+        for (const auto &below : node(top)->children)
+            below->mark = source->markOfItem(m_outline, below->item);
         Q_EMIT dataChanged(index(0, 0, top), index(rows - 1, 0, top),
                            {Qt::DecorationRole, Qt::ToolTipRole, Qt::AccessibleDescriptionRole});
         for (int row = 0; row < rows; ++row) reloadMarks(index(row, 0, top));
@@ -72,6 +74,7 @@ class OutlineModel : public QAbstractItemModel {
   private:
     struct Node {
         QVariantMap item;
+        OutlineDataSource::Mark mark;  // as it was fetched last
         Node *parent = nullptr;
         int row = 0;
         std::vector<std::unique_ptr<Node>> children;
@@ -84,6 +87,7 @@ class OutlineModel : public QAbstractItemModel {
         for (int i = 0; i < count; ++i) {
             auto below = std::make_unique<Node>();
             below->item = source->child(m_outline, i, above.item);
+            below->mark = source->markOfItem(m_outline, below->item);
             below->parent = &above;
             below->row = i;
             fetch(*below);
