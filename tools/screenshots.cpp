@@ -203,6 +203,7 @@ void useDarkColours() {
         dark.setColor(role, QColor(235, 235, 235));
         dark.setColor(QPalette::Disabled, role, QColor(140, 143, 147));
     }
+    dark.setColor(QPalette::Disabled, QPalette::Base, QColor(45, 48, 52));
     dark.setColor(QPalette::PlaceholderText, QColor(160, 160, 160));
     dark.setColor(QPalette::Highlight, QColor(48, 120, 190));
     dark.setColor(QPalette::HighlightedText, Qt::white);

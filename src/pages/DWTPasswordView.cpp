@@ -61,7 +61,7 @@ QList<DWTBaseView::Change> DWTPasswordView::changes() const {
 
 // The two fields are compared where the password is confirmed.
 QString DWTPasswordView::faultOf(const Field &field) const {
-    const QString broken = DWTBaseView::faultOf(field);
+    QString broken = DWTBaseView::faultOf(field);
     if (!broken.isEmpty() || field.control != secureTextField_PasswordReinput ||
         !field.control->isEnabled() || fieldsAgree())
         return broken;
