@@ -1,6 +1,6 @@
-// Starts an empty window and the tool in turn and prints the medians of the time to the first
-// painted window and of the resident memory half a second later; beside it, what looking for real
-// printers adds to that time.
+// Starts an empty window, a plain one like the tool's first, and the tool in turn, and prints the
+// medians of the time to the first painted window and of the resident memory half a second later,
+// with the tool's ratio to either; beside it, what looking for real printers adds to that time.
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -56,19 +56,22 @@ int main(int argc, char **argv) {
     const QTemporaryDir runtime;  // beside a tool that runs already
     qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
     const QString folder = QCoreApplication::applicationDirPath();
-    QList<Start> empty, tool, real;
+    QList<Start> empty, plain, tool, real;
     for (int i = 0; i < rounds; ++i) {
         empty << startOnce(folder + QStringLiteral("/start-empty"), {});
+        plain << startOnce(folder + QStringLiteral("/start-plain"), {});
         tool << startOnce(folder + QStringLiteral("/start-tool"), QStringLiteral("demo"));
         real << startOnce(folder + QStringLiteral("/start-tool"), {});
     }
-    const double time[] = {median(empty, &Start::milliseconds), median(tool, &Start::milliseconds)};
-    const double memory[] = {median(empty, &Start::mebibytes), median(tool, &Start::mebibytes)};
-    std::printf("first window: empty %.1f ms, tool %.1f ms, ratio %.2f\n", time[0], time[1],
-                time[1] / time[0]);
+    const auto print = [&](const char *what, double Start::*value, const char *unit) {
+        const double ours = median(tool, value);
+        std::printf("%s: empty %.1f %s, plain %.1f %s, tool %.1f %s, ratio %.2f and %.2f\n", what,
+                    median(empty, value), unit, median(plain, value), unit, ours, unit,
+                    ours / median(empty, value), ours / median(plain, value));
+    };
+    print("first window", &Start::milliseconds, "ms");
+    print("resident memory", &Start::mebibytes, "MiB");
     std::printf("first window on real printers: %.1f ms more\n",
-                median(real, &Start::milliseconds) - time[1]);
-    std::printf("resident memory: empty %.1f MiB, tool %.1f MiB, ratio %.2f\n", memory[0],
-                memory[1], memory[1] / memory[0]);
+                median(real, &Start::milliseconds) - median(tool, &Start::milliseconds));
     return 0;
 }

@@ -1,11 +1,25 @@
 #include <benchmark/benchmark.h>
 
+#include <QBoxLayout>
 #include <QPushButton>
 #include <QTest>
 #include <functional>
 
 #include "app/DWTPrinterSelector.h"
 #include "platform/core/Texts.h"
+#include "platform/ui/ModalWindow.h"
+#include "ui_EthernetPage.h"
+#include "ui_FirmwarePage.h"
+#include "ui_InfrastructurePage.h"
+#include "ui_MainWindow.h"
+#include "ui_NetworkList.h"
+#include "ui_NetworkPage.h"
+#include "ui_PasswordPage.h"
+#include "ui_SendDialog.h"
+#include "ui_SimpleAPPage.h"
+#include "ui_WPSGuide.h"
+#include "ui_WaitWindow.h"
+#include "ui_WirelessPage.h"
 
 namespace {
 
@@ -30,6 +44,66 @@ void openPrinter(benchmark::State &state) {
     }
 }
 BENCHMARK(openPrinter)->Unit(benchmark::kMillisecond);
+
+template <typename Form, typename Widget>
+Form madeIn(Widget *widget) {
+    Form form;
+    form.setupUi(widget);
+    return form;
+}
+
+template <typename Page>
+void addPage(QWidget *container) {
+    auto *const panel = new QWidget;
+    madeIn<Page>(panel);
+    auto *const page = new PanelScroller(panel);
+    container->layout()->addWidget(page);
+    page->setVisible(container->layout()->count() == 1);
+}
+
+void showUntilPainted(QWidget &window) {
+    window.show();
+    while (!window.windowHandle()->isExposed()) QApplication::processEvents();
+    window.repaint();
+}
+
+// What Qt and the window system take of that: the same forms, made, shown over a list and painted,
+// with no printer and none of our code behind them.
+void openForms(benchmark::State &state) {
+    QWidget list;
+    showUntilPainted(list);
+    std::unique_ptr<Window> opened;
+    for (auto _ : state) {
+        QWidget waiting(&list, Qt::Dialog);
+        madeIn<Ui::WaitWindow>(&waiting);
+        waiting.setWindowModality(Qt::WindowModal);
+        showUntilPainted(waiting);
+        opened = std::make_unique<Window>();
+        QWidget *const pages = madeIn<Ui::MainWindow>(opened.get()).view_Main;
+        new QVBoxLayout(pages);
+        addPage<Ui::NetworkPage>(pages);
+        addPage<Ui::WirelessPage>(pages);
+        addPage<Ui::InfrastructurePage>(pages);
+        addPage<Ui::SimpleAPPage>(pages);
+        addPage<Ui::EthernetPage>(pages);
+        addPage<Ui::FirmwarePage>(pages);
+        addPage<Ui::PasswordPage>(pages);
+        madeIn<Ui::SendDialog>(new ModalWindow(opened.get()));
+        madeIn<Ui::NetworkList>(new ModalWindow(opened.get()));
+        madeIn<Ui::WPSGuide>(new QWidget(opened.get(), Qt::Dialog));
+        madeIn<Ui::WaitWindow>(new QWidget(opened.get(), Qt::Dialog));
+        opened->fitToScreen();
+        showUntilPainted(*opened);
+        waiting.hide();
+        list.hide();
+        QApplication::processEvents();
+        state.PauseTiming();
+        opened->close();
+        showUntilPainted(list);
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(openForms)->Unit(benchmark::kMillisecond);
 
 // A list of many printers, shown anew after a reload, a sorted reload and a letter in the filter.
 class ManyPrinters : public TableDataSource {

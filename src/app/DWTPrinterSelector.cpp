@@ -1,7 +1,6 @@
 #include "app/DWTPrinterSelector.h"
 
 #include <QShortcut>
-#include <QStyle>
 #include <algorithm>
 
 #include "app/MainMenu.h"
@@ -158,10 +157,6 @@ void DWTPrinterSelector::DWT_UIInitialize() {
     table.setTableDelegate(this);
     textField_PrinterlistFilter->setTable(&table);
     textField_PrinterlistFilter->hide();
-    const int iconSize = window_PrinterSelector->style()->pixelMetric(QStyle::PM_SmallIconSize);
-    icon_Problems->setPixmap(window_PrinterSelector->style()
-                                 ->standardIcon(QStyle::SP_MessageBoxWarning)
-                                 .pixmap(iconSize));
     view_Problems->hide();
     m_showing.setSingleShot(true);
     m_showing.callOnTimeout([this] { tableView_Printerlist->reloadData(); });

@@ -1,6 +1,5 @@
 #include "mainwindow/SendDialog.h"
 
-#include <QStyle>
 #include <algorithm>
 
 #include "platform/ui/FieldLooks.h"
@@ -31,9 +30,6 @@ SendDialog::SendDialog(QWidget *parent) : ModalWindow(parent) {
                 {DWT_View_Key_Send_ConnectError, textField_SendConnectError}};
     for (QLabel *label : std::as_const(m_saying)) m_usualTexts.insert(label, label->text());
     fitWidth(textField_Password, QStringLiteral("00000000"));
-    const int iconSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    icon_SendWarnings->setPixmap(
-        style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(iconSize));
     showChanges(false);
     connectButtons();
     const auto observe = [this](const QString &name,

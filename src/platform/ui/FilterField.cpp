@@ -9,9 +9,6 @@
 #include "platform/ui/TableView.h"
 
 FilterField::FilterField(QWidget *parent) : QLineEdit(parent) {
-    setClearButtonEnabled(true);
-    findChild<QToolButton *>()->setAccessibleName(
-        localized(QStringLiteral("DWT_Localize_Field_Clear")));
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
         setFocus(Qt::ShortcutFocusReason);
         selectAll();
@@ -21,6 +18,14 @@ FilterField::FilterField(QWidget *parent) : QLineEdit(parent) {
 void FilterField::setTable(TableView *table) {
     m_table = table;
     connect(this, &QLineEdit::textChanged, table, &TableView::setFilter);
+}
+
+// Only then, since Qt looks through the icon themes for the picture of the button.
+void FilterField::showEvent(QShowEvent *event) {
+    setClearButtonEnabled(true);
+    findChild<QToolButton *>()->setAccessibleName(
+        localized(QStringLiteral("DWT_Localize_Field_Clear")));
+    QLineEdit::showEvent(event);
 }
 
 void FilterField::keyPressEvent(QKeyEvent *event) {

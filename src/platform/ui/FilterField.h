@@ -16,6 +16,7 @@ class FilterField : public QLineEdit {
     void setTable(TableView *table);
 
   protected:
+    void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
   private:
