@@ -53,8 +53,7 @@ class Faults : public testing::Test {
 
     void setFault(const QByteArray &item, const Fault *fault) {
         const QByteArray items = fault ? "\"" + item + "\": {" + fault->description + "}" : "";
-        served.printer().setFaults(
-            printerOf("{\"faults\": {\"items\": {" + items + "}}}")->faults());
+        served.setFaults("{\"items\": {" + items + "}}");
     }
     void change(const QString &viewKey, const CategoryDictionary &values) {
         auto category = manager->setupDataFromChangeData(viewKey).value_or(CategoryDictionary());
@@ -192,9 +191,7 @@ TEST_F(Faults, OfTheConnectionInASearchOrALoginEndThemAtOnce) {
     manager->setScanInterval(std::chrono::milliseconds(100));
     for (const char *frames : {"1", "2", "3"}) {
         SCOPED_TRACE(frames);
-        const auto close =
-            printerOf(QByteArray("{\"faults\": {\"closeAfterFrames\": ") + frames + "}}");
-        served.printer().setFaults(close->faults());
+        served.setFaults(QByteArray("{\"closeAfterFrames\": ") + frames + "}");
         const QDeadlineTimer soon(500);
         EXPECT_EQ(manager->SSIDList(), std::nullopt);
         EXPECT_FALSE(soon.hasExpired()) << "polled a closed connection";

@@ -43,14 +43,8 @@ const std::pair<QString, const char *> asRead[] = {
     {DWT_View_Key_Firmware, "Firmware='1.20A' Firmware_Timeout=90"},
     {DWT_View_Key_Password, "Password_Change=0 Password_Password=''"}};
 
-class Reading : public testing::TestWithParam<Transport> {
-  protected:
-    void SetUp() override {
-        if (!isThere(GetParam())) GTEST_SKIP();
-    }
-};
-
-INSTANTIATE_TEST_SUITE_P(, Reading, allTransports, [](const auto &p) { return nameOf(p.param); });
+using Reading = EveryTransport;
+INSTANTIATE_TEST_SUITE_P(, Reading, allTransports, nameOf);
 
 TEST_P(Reading, FillsBothRecordsInTheOrderOfTheWire) {
     ServedManager m(profile, GetParam());

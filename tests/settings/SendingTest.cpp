@@ -7,18 +7,14 @@
 namespace {
 
 using namespace Qt::StringLiterals;
-using Transport = OnePrinterLibrary::Transport;
 
 QStringList address(const QString &dotted) {
     return dotted.split(u'.');
 }
 
 // A manager whose printer has been read, and the notifications of its sends.
-class Send : public testing::TestWithParam<Transport> {
+class Send : public EveryTransport {
   protected:
-    void SetUp() override {
-        if (!isThere(GetParam())) GTEST_SKIP();
-    }
     void read(const QByteArray &profile) {
         m = std::make_unique<ServedManager>(profile, GetParam());
         ASSERT_EQ(m->manager->setupDataFromPrinter(0), 0);
@@ -64,7 +60,7 @@ class Send : public testing::TestWithParam<Transport> {
     QString steps;
 };
 
-INSTANTIATE_TEST_SUITE_P(, Send, allTransports, [](const auto &p) { return nameOf(p.param); });
+INSTANTIATE_TEST_SUITE_P(, Send, allTransports, nameOf);
 
 const QString everyStep =
     u"Start0 Progress16 Progress33 Progress50 Progress66 Progress85 Progress100 Stop0 "_s;

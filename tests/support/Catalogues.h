@@ -11,6 +11,14 @@
 #include "zmlib/CatalogueSource.h"
 #include "zmlib/UsbSource.h"
 
+// A library of printers from one kind of source. Silent printers are given up after `wait` ms.
+template <typename Source>
+std::shared_ptr<PrinterLibrary> libraryOf(int wait, ProbePorts ports = {}) {
+    std::vector<std::unique_ptr<PrinterSource>> sources;
+    sources.push_back(std::make_unique<Source>());
+    return std::make_shared<PrinterLibrary>(std::move(sources), wait, ports);
+}
+
 // A library with the one printer `printer`, reached inside the process ("virtual://printer"), over
 // loopback or over an emulated USB. Silent printers are given up after `wait` ms.
 class OnePrinterLibrary {
@@ -35,9 +43,7 @@ class OnePrinterLibrary {
             m_bed = std::make_unique<UsbBed>();
             m_usb = std::make_unique<UsbEmulator>(*m_bed, m_printer);
             m_entry[PrinterKey::DeviceURI] = QStringLiteral("usb:///Larkfield/L200?serial=0001");
-            std::vector<std::unique_ptr<PrinterSource>> sources;
-            sources.push_back(std::make_unique<UsbSource>());
-            m_library = std::make_shared<PrinterLibrary>(std::move(sources), wait);
+            m_library = libraryOf<UsbSource>(wait);
             return;
         }
         m_entry.insert(more);
@@ -50,6 +56,8 @@ class OnePrinterLibrary {
     QString uri() const { return m_entry[PrinterKey::DeviceURI]; }
     const PrinterEntry &entry() const { return m_entry; }
     UsbEmulator &usb() const { return *m_usb; }
+    // Sets what goes wrong from now on, from the description of the faults.
+    void setFaults(const QByteArray &faults) { m_printer->setFaults(faultsOf(faults)); }
 
     // What the printer received since the last call, as text: "start", "update", "end", "?1006" for
     // a request, "=1006" for a setting frame.
@@ -88,17 +96,22 @@ class OnePrinterLibrary {
     std::shared_ptr<PrinterLibrary> m_library;
 };
 
+// Tests that run over every transport; where there is no USB (the thread sanitizer's run), not over
+// that one.
+class EveryTransport : public testing::TestWithParam<OnePrinterLibrary::Transport> {
+  protected:
+    using Transport = OnePrinterLibrary::Transport;
+    void SetUp() override {
+        if (GetParam() != Transport::Usb) return;
+        const UsbBed bed;
+        if (!UsbBed::isThere()) GTEST_SKIP();
+    }
+};
+
 inline const auto allTransports =
     testing::Values(OnePrinterLibrary::Transport::Virtual, OnePrinterLibrary::Transport::Tcp,
                     OnePrinterLibrary::Transport::Usb);
 
-inline std::string nameOf(OnePrinterLibrary::Transport transport) {
-    return std::array{"Virtual", "Tcp", "Usb"}[static_cast<size_t>(transport)];
-}
-
-// Whether this run has what the transport needs; the thread sanitizer's has no USB.
-inline bool isThere(OnePrinterLibrary::Transport transport) {
-    if (transport != OnePrinterLibrary::Transport::Usb) return true;
-    const UsbBed bed;
-    return UsbBed::isThere();
+inline std::string nameOf(const testing::TestParamInfo<OnePrinterLibrary::Transport> &info) {
+    return std::array{"Virtual", "Tcp", "Usb"}[static_cast<size_t>(info.param)];
 }

@@ -21,10 +21,7 @@ class ServedManager {
 
     VirtualPrinter &printer() { return served.printer(); }
 
-    // Sets what goes wrong from now on, from the description of the faults.
-    void setFaults(const QByteArray &faults) {
-        printer().setFaults(printerOf("{\"faults\": " + faults + "}")->faults());
-    }
+    void setFaults(const QByteArray &faults) { served.setFaults(faults); }
 
     OnePrinterLibrary served;
     std::shared_ptr<DWTDataManager> manager;

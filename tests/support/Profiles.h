@@ -16,6 +16,11 @@ inline std::shared_ptr<VirtualPrinter> printerOf(const QByteArray &json) {
     return std::make_shared<VirtualPrinter>(result.profile.value_or(Profile{}));
 }
 
+// The faults of a description in JSON text.
+inline Faults faultsOf(const QByteArray &json) {
+    return printerOf("{\"faults\": " + json + "}")->faults();
+}
+
 inline QByteArray hex(const char *digits) {
     return QByteArray::fromHex(digits);
 }

@@ -1,57 +1,28 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
-#include "support/Catalogues.h"
+#include "LibraryCalls.h"
 #include "zmlib/Replies.h"
 
 namespace {
 
-using Transport = OnePrinterLibrary::Transport;
-
-const QList<QByteArray> commands{hex("1b7b045501567d"), hex("1b7b0377777d"), hex("1b7b045500557d")};
-const QByteArray readName = hex("1b7b056606107c7d");
-const QByteArray nameAB = hex("43463b08003b06103b41423b4a");
 const QByteArray writeAB = hex("43463b09003b06103b4142003b4a");
 const QByteArray accepted = hex("43523b08003b06103b00003bc7");
-constexpr int limit = 15000;
 
-class Library : public testing::TestWithParam<Transport> {
+class Library : public EveryTransport, protected LibraryCalls {
   protected:
-    void SetUp() override {
-        if (!isThere(GetParam())) GTEST_SKIP();
-    }
     void serve(const QByteArray &profile) {
         served.reset();
         served = std::make_unique<OnePrinterLibrary>(printerOf(profile), GetParam(), PrinterEntry(),
                                                      100);
+        uri = served->uri();
     }
-    void setFaults(const QByteArray &faults) {
-        served->printer().setFaults(printerOf("{\"faults\": " + faults + "}")->faults());
-    }
-    ZMLib &library() { return *served->library(); }
-    int status() { return library().ZMGetEngageStatusSub(served->uri(), limit); }
-    int engage() {
-        return library().ZMEngageConnectAndStartCommand(served->uri(), commands, 20, limit);
-    }
-    int finish() {
-        return library().ZMEndCommandAndEngageDisConnect(served->uri(), commands, 20, limit);
-    }
-    // The reply in hexadecimal digits, or the library's result.
-    std::string get(int area = ZMLib::replyArea) {
-        QByteArray reply;
-        const int result =
-            library().ZMGetSettingData(served->uri(), area, readName, reply, commands, limit);
-        EXPECT_EQ(result == 0, !reply.isEmpty());
-        return result == 0 ? reply.toHex().toStdString() : std::to_string(result);
-    }
-    int check(const QString &target, const char *address) {
-        return library().ZMIOOpenForUDP(target, QLatin1String(address), 20, limit);
-    }
+    ZMLib &library() override { return *served->library(); }
 
     std::unique_ptr<OnePrinterLibrary> served;
 };
 
-INSTANTIATE_TEST_SUITE_P(, Library, allTransports, [](const auto &p) { return nameOf(p.param); });
+INSTANTIATE_TEST_SUITE_P(, Library, allTransports, nameOf);
 
 TEST_P(Library, ATransactionPutsExactlyItsFramesOnTheWire) {
     serve("{}");
@@ -59,18 +30,19 @@ TEST_P(Library, ATransactionPutsExactlyItsFramesOnTheWire) {
     ASSERT_EQ(engage(), 0);
     EXPECT_EQ(status(), 0);
     EXPECT_LT(engage(), 0) << "engaged twice";
-    EXPECT_EQ(library().ZMStartCommand(served->uri(), commands, 20, limit), 0);
-    QByteArray reply("x");
+    EXPECT_EQ(library().ZMStartCommand(uri, commands, 20, limit), 0);
+    reply = "x";
     const int size = static_cast<int>(writeAB.size());
-    EXPECT_EQ(library().ZMSendSettingData(served->uri(), size, writeAB + "beyond", reply, commands,
-                                          limit),
+    EXPECT_EQ(library().ZMSendSettingData(uri, size, writeAB + "beyond", reply, commands, limit),
               0);
     EXPECT_EQ(reply.toHex(), ("x" + accepted).toHex()) << "the buffer grows";
     EXPECT_EQ(finish(), 0);
     EXPECT_EQ(status(), 1);
     ASSERT_EQ(engage(), 0);
-    EXPECT_EQ(get(), nameAB.toHex().toStdString()) << "the update frame did not arrive";
-    EXPECT_EQ(get(6), nameAB.left(6).toHex().toStdString()) << "more than the reply area";
+    EXPECT_EQ(get(), 0);
+    EXPECT_EQ(reply.toHex(), nameAB.toHex()) << "the update frame did not arrive";
+    EXPECT_EQ(get(6), 0);
+    EXPECT_EQ(reply.toHex(), nameAB.left(6).toHex()) << "more than the reply area";
     EXPECT_EQ(finish(), 0);
     EXPECT_EQ(served->receivedUntilEnd(),
               QStringLiteral("start start =1006 update end start ?1006 ?1006 update end"));
@@ -80,7 +52,7 @@ TEST_P(Library, TheConnectionOfTheStatusIsTheOneThatIsEngaged) {
     if (GetParam() == Transport::Tcp) return;  // its peer accepts, or refuses, some time later
     serve("{}");
     EXPECT_EQ(status(), 1);
-    setFaults(R"({"refuseConnection": true})");
+    served->setFaults(R"({"refuseConnection": true})");
     ASSERT_EQ(engage(), 0) << "a second connection";
     EXPECT_EQ(finish(), 0);
 }
@@ -91,13 +63,13 @@ TEST_P(Library, AnswersForTheAddressesOfThePrintersThatCanBeReached) {
               "gateway": "10.0.0.1"}, "0x3108": {"setting": 1, "address": "10.0.0.6",
               "mask": "255.0.0.0", "gateway": "10.0.0.1"}}})");
     EXPECT_EQ(check(ZMLib::anyPrinter, "10.0.0.5"), 0);
-    EXPECT_EQ(check(served->uri(), "10.0.0.6"), 0);
-    EXPECT_LT(check(served->uri(), "10.0.0.1"), 0) << "a gateway is no printer";
+    EXPECT_EQ(check(uri, "10.0.0.6"), 0);
+    EXPECT_LT(check(uri, "10.0.0.1"), 0) << "a gateway is no printer";
     ASSERT_EQ(engage(), 0);
-    EXPECT_EQ(check(served->uri(), "10.0.0.5"), 0) << "while the channel is open";
+    EXPECT_EQ(check(uri, "10.0.0.5"), 0) << "while the channel is open";
     EXPECT_EQ(finish(), 0);
-    setFaults(R"({"refuseConnection": true})");
-    EXPECT_LT(check(served->uri(), "10.0.0.5"), 0) << "an unplugged printer answers nowhere";
+    served->setFaults(R"({"refuseConnection": true})");
+    EXPECT_LT(check(uri, "10.0.0.5"), 0) << "an unplugged printer answers nowhere";
     serve(R"({"faults": {"refuseConnection": true}})");
     EXPECT_EQ(status(), ZMLib::UnknownPrinter);
     EXPECT_LT(engage(), 0);

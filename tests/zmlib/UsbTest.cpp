@@ -3,16 +3,14 @@
 
 #include <QElapsedTimer>
 
-#include "support/Catalogues.h"
+#include "LibraryCalls.h"
 #include "zmlib/DeviceId.h"
 
 namespace {
 
 using namespace Qt::StringLiterals;
 
-const QList<QByteArray> commands{hex("1b7b045501567d"), hex("1b7b0377777d"), hex("1b7b045500557d")};
-const QByteArray readName = hex("1b7b056606107c7d");
-constexpr int limit = 300;
+constexpr int longestWait = 300;
 
 TEST(DeviceId, NamesTheProductAsTheTableOfModelsDoes) {
     const struct {
@@ -38,8 +36,9 @@ TEST(DeviceId, NamesTheProductAsTheTableOfModelsDoes) {
             << c.id.left(40).constData();
 }
 
-class Usb : public testing::Test {
+class Usb : public testing::Test, protected LibraryCalls {
   protected:
+    Usb() { uri = u"usb:///Larkfield/L200?serial=0001"_s; }
     void SetUp() override {
         if (!UsbBed::isThere()) GTEST_SKIP();
     }
@@ -49,12 +48,8 @@ class Usb : public testing::Test {
         usb.push_back(std::make_unique<UsbEmulator>(bed, printers.back(), description));
         return *usb.back();
     }
-    ZMLib &library() {
-        if (!m_library) {
-            std::vector<std::unique_ptr<PrinterSource>> sources;
-            sources.push_back(std::make_unique<UsbSource>());
-            m_library = std::make_shared<PrinterLibrary>(std::move(sources), limit);
-        }
+    ZMLib &library() override {
+        if (!m_library) m_library = libraryOf<UsbSource>(longestWait);
         return *m_library;
     }
     QString listed() {
@@ -64,13 +59,6 @@ class Usb : public testing::Test {
             lines << entry[PrinterKey::DeviceURI] + u' ' + entry[PrinterKey::ProductName];
         return lines.join(u'\n');
     }
-    int status() { return library().ZMGetEngageStatusSub(uri, limit); }
-    int engage() { return library().ZMEngageConnectAndStartCommand(uri, commands, 20, limit); }
-    int get() {
-        QByteArray reply;
-        return library().ZMGetSettingData(uri, 512, readName, reply, commands, limit);
-    }
-    int finish() { return library().ZMEndCommandAndEngageDisConnect(uri, commands, 20, limit); }
     // The problems, as the number of the kind and the subject.
     QString problems() {
         QStringList lines;
@@ -79,7 +67,6 @@ class Usb : public testing::Test {
         return lines.join(u'|');
     }
 
-    const QString uri = u"usb:///Larkfield/L200?serial=0001"_s;
     const UsbBed bed;
     std::vector<std::shared_ptr<VirtualPrinter>> printers;
     std::vector<std::unique_ptr<UsbEmulator>> usb;
@@ -128,9 +115,8 @@ TEST_F(Usb, ATransactionClaimsTheInterfaceOnceAndGivesItBackToTheKernel) {
     ASSERT_EQ(status(), 1);
     ASSERT_EQ(engage(), 0);
     for (int i = 0; i < 2; ++i) {
-        QByteArray reply;
-        EXPECT_EQ(library().ZMGetSettingData(uri, 512, readName, reply, commands, limit), 0);
-        EXPECT_EQ(reply, hex("43463b08003b06103b41423b4a")) << i << ": left over, or not whole";
+        EXPECT_EQ(get(), 0);
+        EXPECT_EQ(reply, nameAB) << i << ": left over, or not whole";
         printer.packet = 512;
         printer.leave(stale);  // comes between the exchanges
     }
@@ -172,7 +158,7 @@ TEST_F(Usb, APrinterThatMisbehavesGivesAResultInTime) {
         QElapsedTimer time;
         time.start();
         EXPECT_EQ(get(), ZMLib::TimedOut);
-        EXPECT_LT(time.elapsed(), 5 * limit);
+        EXPECT_LT(time.elapsed(), 5 * longestWait);
     }
     printer.emptyPackets = false;
     printers[0]->setFaults({});
@@ -199,8 +185,7 @@ TEST_F(Usb, APulledCableIsNoticedAtEveryStep) {
         EXPECT_EQ(result, ZMLib::Closed) << frames;
         EXPECT_EQ(finish(), ZMLib::NotOpen) << frames;
     }
-    printers[0]->setFaults(
-        printerOf(R"({"faults": {"items": {"0x1006": {"noReply": true}}}})")->faults());
+    printers[0]->setFaults(faultsOf(R"({"items": {"0x1006": {"noReply": true}}})"));
     ASSERT_EQ(engage(), 0);
     std::thread puller([&] {
         QThread::msleep(50);  // until the read waits
