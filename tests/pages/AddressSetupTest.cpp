@@ -10,13 +10,13 @@ namespace {
 
 struct Interface {
     const char *name;  // in the names of controls and keys
-    std::shared_ptr<InterfaceView> (*make)();
+    std::shared_ptr<DWTBaseView> (*make)();
 };
 
 // Both pages of an interface, in manual setup or, with another setting, in automatic setup.
 class AddressSetup : public testing::TestWithParam<Interface>, protected PageInWindow {
   protected:
-    explicit AddressSetup(int setting = 1) : AddressSetup(GetParam().make(), setting) {}
+    explicit AddressSetup(int setting = 1) : PageInWindow(GetParam().make(), items(setting)) {}
 
     TextField *address() { return control(named("textField_%1IpAddress")); }
     TextField *mask() { return control(named("textField_%1SubnetMask")); }
@@ -29,11 +29,9 @@ class AddressSetup : public testing::TestWithParam<Interface>, protected PageInW
     int storedSetting() { return changedNumber(named("DWT_SaveData_%1_IPAddressSetting")); }
     static QString named(const char *pattern) { return text(pattern).arg(text(GetParam().name)); }
 
-    const std::shared_ptr<InterfaceView> page;
+    const std::shared_ptr<InterfaceView> page = std::dynamic_pointer_cast<InterfaceView>(view);
 
   private:
-    AddressSetup(const std::shared_ptr<InterfaceView> &made, int setting)
-        : PageInWindow(made, items(setting)), page(made) {}
     static QByteArray items(int setting) {
         const QByteArray value = "{\"setting\": " + QByteArray::number(setting) + R"(,
             "address": "10.0.0.5", "mask": "255.0.0.0", "gateway": "10.0.0.1"})";
@@ -45,10 +43,6 @@ struct AutomaticSetup : AddressSetup {
     AutomaticSetup() : AddressSetup(0) {}
 };
 
-template <typename Page>
-std::shared_ptr<InterfaceView> a() {
-    return make<Page>();
-}
 const Interface interfaces[] = {{"Ethernet", a<DWTEthernetView>},
                                 {"Infrastructure", a<DWTInfrastructureView>}};
 const auto nameOf = [](const auto &info) { return std::string(info.param.name); };

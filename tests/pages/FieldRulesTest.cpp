@@ -7,11 +7,6 @@
 
 namespace {
 
-template <typename Page>
-std::shared_ptr<DWTBaseView> a() {
-    return make<Page>();
-}
-
 // Texts written with "|" between them; "31*a" is 31 times the character.
 QStringList texts(const char *written) {
     QStringList list = text(written).split(u'|');

@@ -94,27 +94,20 @@ TEST_F(InfrastructurePage, ANetworkOfTheListFillsThePageWithItsSecurity) {
 }
 
 TEST_F(InfrastructurePage, ChangingWhatTheListGaveMakesItTheUsersOwn) {
-    const auto taken = [this] {
+    const auto staysTaken = [this](const std::function<void()> &edit) {
+        page->showSSIDFromSelectSSID(network("Lager", 2, 3));
+        edit();
         page->itemSetToDataManager();
         return changedListSSID() == QByteArray("Lager");
     };
-    page->showSSIDFromSelectSSID(network("Lager", 2, 3));
-    type(ssid(), text("Lager"));
-    EXPECT_FALSE(taken()) << "a typed name counts from its first change";
+    EXPECT_FALSE(staysTaken([&] { type(ssid(), text("Lager")); })) << "the same name, but typed";
     EXPECT_EQ(changedText(DWT_SaveData_Infrastructure_SSID), text("Lager"));
-    page->showSSIDFromSelectSSID(network("Lager", 2, 3));
-    choose(encryption(), "TKIP");
-    EXPECT_FALSE(taken());
-    page->showSSIDFromSelectSSID(network("Lager", 2, 3));
-    choose(authentic(), "WPA-Personal");
-    EXPECT_FALSE(taken());
-    page->showSSIDFromSelectSSID(network("Lager", 2, 3));
+    EXPECT_FALSE(staysTaken([&] { choose(encryption(), "TKIP"); }));
+    EXPECT_FALSE(staysTaken([&] { choose(authentic(), "WPA-Personal"); }));
     ssid()->setFocus();
-    QTest::keyClick(ssid(), Qt::Key_Tab);
-    EXPECT_TRUE(taken()) << "looking at the name changed nothing";
+    EXPECT_TRUE(staysTaken([&] { QTest::keyClick(ssid(), Qt::Key_Tab); })) << "nothing was typed";
     EXPECT_FALSE(ssid()->hasFocus());
-    page->showDataManager();
-    EXPECT_FALSE(taken()) << "a new reading forgets the list";
+    EXPECT_FALSE(staysTaken([&] { page->showDataManager(); })) << "a new reading forgets the list";
     EXPECT_TRUE(page->itemCheckDifferentToDataManager());
 }
 

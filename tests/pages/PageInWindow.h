@@ -14,11 +14,17 @@ inline QString text(const char *utf8) {
     return QString::fromUtf8(utf8);
 }
 
+// Makes a page, for tables of pages.
+template <typename Page>
+std::shared_ptr<DWTBaseView> a() {
+    return make<Page>();
+}
+
 // A page in a window, filled from a virtual printer that was read.
 class PageInWindow {
   public:
     PageInWindow(const std::shared_ptr<DWTBaseView> &page, const QByteArray &items)
-        : m("{\"items\": {" + items + "}}", OnePrinterLibrary::Transport::Virtual), m_page(page) {
+        : m("{\"items\": {" + items + "}}", OnePrinterLibrary::Transport::Virtual), view(page) {
         page->mainCustomView()->setParent(&window);
         page->initializeUI();
         page->dataManagerObject(m.manager);
@@ -67,43 +73,39 @@ class PageInWindow {
             QTest::keyClick(box, Qt::Key_Return);
         });
         watch.start(1);
-        EXPECT_EQ(m_page->itemInputCheck(), expected);
+        EXPECT_EQ(view->itemInputCheck(), expected);
         return alerts;
     }
-    CategoryDictionary changed() { return *m.manager->setupDataFromChangeData(m_page->viewKey()); }
+    CategoryDictionary changed() { return *m.manager->setupDataFromChangeData(view->viewKey()); }
     int changedNumber(const QString &key) { return integerValue(changed(), key); }
     QString changedText(const QString &key) { return textValue(changed(), key); }
     QString changedAddress(const QString &key) { return addressValue(changed(), key).join(u'.'); }
     QString changeList() {
         QStringList list;
-        for (const auto &change : m_page->changes())
+        for (const auto &change : view->changes())
             list << QStringLiteral("%1: %2 > %3").arg(change.label, change.oldText, change.newText);
         return list.join(u'|');
     }
     // The page forgets its printer and shows nothing but defaults.
     void showNothing() {
-        m_page->dataManagerObject(make<DWTDataManager>());
-        m_page->showDataManager();
+        view->dataManagerObject(make<DWTDataManager>());
+        view->showDataManager();
     }
 
     ServedManager m;
+    const std::shared_ptr<DWTBaseView> view;
     QWidget window;
     std::vector<NotificationCenter::Observer> observers;
     QString state;        // the send state posted last
     QString explanation;  // of the last alert
     QMessageBox::Icon style = QMessageBox::NoIcon;
-
-  private:
-    const std::shared_ptr<DWTBaseView> m_page;
 };
 
 // The tests of one page, filled from the items (JSON without braces).
 template <typename Page>
 class PageTest : public testing::Test, protected PageInWindow {
   protected:
-    explicit PageTest(const QByteArray &items) : PageTest(make<Page>(), items) {}
-    PageTest(const std::shared_ptr<Page> &made, const QByteArray &items)
-        : PageInWindow(made, items), page(made) {}
+    explicit PageTest(const QByteArray &items) : PageInWindow(make<Page>(), items) {}
 
-    const std::shared_ptr<Page> page;
+    const std::shared_ptr<Page> page = std::dynamic_pointer_cast<Page>(view);
 };

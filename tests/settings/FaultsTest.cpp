@@ -1,4 +1,3 @@
-#include "platform/core/MainThread.h"
 #include "platform/core/NotificationCenter.h"
 #include "settings/Rules.h"
 #include "support/DataManagers.h"
@@ -35,13 +34,11 @@ const Fault faults[] = {{R"("noReply": true)", Effect::Silent},
 
 // A manager on a printer whose values can all be sent, and whose name and settings can be compared
 // with what another manager reads from the same printer.
-class Faults : public testing::Test {
+class Faults : public testing::Test, protected ServedManager {
   protected:
     Faults()
-        : served(printerOf(R"({"password": "abcd1234", "items": {"0x3103": 3, "0x3104": "Net"}})"),
-                 OnePrinterLibrary::Transport::Tcp, {}, wait) {
-        installLibrary(served.library());
-        manager = DWTDataManager::dataManager(served.entry());
+        : ServedManager(R"({"password": "abcd1234", "items": {"0x3103": 3, "0x3104": "Net"}})",
+                        OnePrinterLibrary::Transport::Tcp, wait) {
         stop = NotificationCenter::shared().observe(
             DWT_DataSend_Stop_Message,
             [this](const Notification &n) {
@@ -49,16 +46,10 @@ class Faults : public testing::Test {
             },
             manager.get());
     }
-    ~Faults() override { installLibrary(nullptr); }
 
     void setFault(const QByteArray &item, const Fault *fault) {
         const QByteArray items = fault ? "\"" + item + "\": {" + fault->description + "}" : "";
-        served.setFaults("{\"items\": {" + items + "}}");
-    }
-    void change(const QString &viewKey, const CategoryDictionary &values) {
-        auto category = manager->setupDataFromChangeData(viewKey).value_or(CategoryDictionary());
-        category.insert(values);
-        manager->setupDataFromMainView(category, viewKey);
+        setFaults("{\"items\": {" + items + "}}");
     }
     // Enters another value for every item.
     void changeAll(int encryption) {
@@ -88,8 +79,7 @@ class Faults : public testing::Test {
         manager->disconnectPrinter();
         setFault(item, fault);
         stopped = -1;
-        manager->sendDataToPrinter();
-        MainThread::finishBackgroundWork();
+        sendAndWait();
         setFault({}, nullptr);
     }
     // The items in which the saved data differs from what the printer holds.
@@ -109,8 +99,6 @@ class Faults : public testing::Test {
         return codes;
     }
 
-    OnePrinterLibrary served;
-    std::shared_ptr<DWTDataManager> manager;
     NotificationCenter::Observer stop;
     int stopped = -1;
     int round = 0;
@@ -160,7 +148,7 @@ TEST_F(Faults, OfOneReplyInAReadingWriteNothingThatWasNotTold) {
             SCOPED_TRACE((step + ' ' + fault.description).constData());
             QMap<ItemCode, QByteArray> held;
             for (const SentItem &item : sentItems())
-                held.insert(item.code, served.printer().item(item.code));
+                held.insert(item.code, printer().item(item.code));
             setFault(step, &fault);
             const int result = manager->setupDataFromPrinter(0);
             setFault({}, nullptr);
@@ -180,7 +168,7 @@ TEST_F(Faults, OfOneReplyInAReadingWriteNothingThatWasNotTold) {
             served.receivedUntilEnd();
             held.insert(0x3000, QByteArray(1, char(round % 2 + 1)) + '\0');
             for (auto i = held.begin(); i != held.end(); ++i)
-                EXPECT_EQ(served.printer().item(i.key()), *i) << std::hex << i.key();
+                EXPECT_EQ(printer().item(i.key()), *i) << std::hex << i.key();
             EXPECT_EQ(manager->setupDataFromPrinter(0), 0) << "the next reading";
             EXPECT_EQ(lies(), QList<ItemCode>());
         }
@@ -191,7 +179,7 @@ TEST_F(Faults, OfTheConnectionInASearchOrALoginEndThemAtOnce) {
     manager->setScanInterval(std::chrono::milliseconds(100));
     for (const char *frames : {"1", "2", "3"}) {
         SCOPED_TRACE(frames);
-        served.setFaults(QByteArray("{\"closeAfterFrames\": ") + frames + "}");
+        setFaults(QByteArray("{\"closeAfterFrames\": ") + frames + "}");
         const QDeadlineTimer soon(500);
         EXPECT_EQ(manager->SSIDList(), std::nullopt);
         EXPECT_FALSE(soon.hasExpired()) << "polled a closed connection";

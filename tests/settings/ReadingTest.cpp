@@ -82,8 +82,6 @@ TEST_P(Reading, AMissingReplyEndsTheTrafficAndGivesSix) {
     EXPECT_EQ(read(DWT_View_Key_Ethernet), "Ethernet_MACAddress=' '");
     EXPECT_EQ(read(DWT_View_Key_Firmware), "Firmware=' ' Firmware_Timeout=0");
     EXPECT_EQ(m.manager->isPassword(), 3) << "asks nothing while the read has failed";
-    m.setFaults("{}");
-    EXPECT_EQ(m.manager->setupDataFromPrinter(0), 0) << "a new read starts afresh";
 }
 
 TEST_P(Reading, AForeignReplyLeavesOneDefaultAndEndsItsCategory) {

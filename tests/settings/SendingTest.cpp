@@ -1,16 +1,11 @@
 #include <pthread.h>
 
-#include "platform/core/MainThread.h"
 #include "platform/core/NotificationCenter.h"
 #include "support/DataManagers.h"
 
 namespace {
 
 using namespace Qt::StringLiterals;
-
-QStringList address(const QString &dotted) {
-    return dotted.split(u'.');
-}
 
 // A manager whose printer has been read, and the notifications of its sends.
 class Send : public EveryTransport {
@@ -32,15 +27,12 @@ class Send : public EveryTransport {
                  n.userInfo.value(MSW_Searching_Value_Current).toString() + u' ';
     }
     void change(const QString &viewKey, const CategoryDictionary &values) {
-        CategoryDictionary category = *m->manager->setupDataFromChangeData(viewKey);
-        category.insert(values);
-        m->manager->setupDataFromMainView(category, viewKey);
+        m->change(viewKey, values);
     }
     // Sends; what the printer received.
     QString send() {
         steps.clear();
-        m->manager->sendDataToPrinter();
-        MainThread::finishBackgroundWork();
+        m->sendAndWait();
         return m->served.receivedUntilEnd();
     }
     void logIn() {
@@ -148,8 +140,7 @@ TEST_P(Send, LogsInOnceWithTheRememberedPasswordAndARefusedLoginWritesNothing) {
     m->setFaults("{}");
     logIn();
     m->setFaults(R"({"refuseConnection": true})");
-    m->manager->sendDataToPrinter();
-    MainThread::finishBackgroundWork();
+    m->sendAndWait();
     m->setFaults("{}");
     EXPECT_TRUE(send().startsWith(u"start =1004"_s)) << "a password was kept";
 }

@@ -3,14 +3,16 @@
 #include <QTest>
 
 #include "link/Binding.h"
+#include "platform/core/MainThread.h"
 #include "settings/DWTDataManager.h"
 #include "support/Catalogues.h"
 
 // A data manager on a virtual printer, over either transport.
 class ServedManager {
   public:
-    ServedManager(const QByteArray &profile, OnePrinterLibrary::Transport transport)
-        : served(printerOf(profile), transport) {
+    ServedManager(const QByteArray &profile, OnePrinterLibrary::Transport transport,
+                  int wait = OnePrinterLibrary::longestWait)
+        : served(printerOf(profile), transport, {}, wait) {
         installLibrary(served.library());
         manager = DWTDataManager::dataManager(served.entry());
     }
@@ -22,10 +24,24 @@ class ServedManager {
     VirtualPrinter &printer() { return served.printer(); }
 
     void setFaults(const QByteArray &faults) { served.setFaults(faults); }
+    // Enters these values of a category.
+    void change(const QString &viewKey, const CategoryDictionary &values) {
+        auto category = manager->setupDataFromChangeData(viewKey).value_or(CategoryDictionary());
+        category.insert(values);
+        manager->setupDataFromMainView(category, viewKey);
+    }
+    void sendAndWait() {
+        manager->sendDataToPrinter();
+        MainThread::finishBackgroundWork();
+    }
 
     OnePrinterLibrary served;
     std::shared_ptr<DWTDataManager> manager;
 };
+
+inline QStringList address(const QString &dotted) {
+    return dotted.split(u'.');
+}
 
 // A value as text: texts in quotes, addresses dotted, bytes as hexadecimal digits in brackets.
 struct ValueText {

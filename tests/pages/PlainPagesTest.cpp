@@ -1,0 +1,140 @@
+#include <QComboBox>
+
+#include "PageInWindow.h"
+#include "pages/DWTFirmwareView.h"
+#include "pages/DWTInfrastructureView.h"
+#include "pages/DWTNetworkView.h"
+#include "pages/DWTSimpleAPView.h"
+#include "pages/DWTWirelessView.h"
+
+// The pages of a few fields that need little code of their own.
+
+namespace {
+
+struct NetworkPage : PageTest<DWTNetworkView> {
+    NetworkPage() : PageTest(R"("0x1006": "Desk", "0x1004": "desk", "0x1005": "Desk labels")") {}
+};
+
+TEST_F(NetworkPage, ShowsTheNamesAndFollowsEveryEdit) {
+    auto *printer = control("textField_NetworkPrinterName");
+    auto *bonjour = control("textField_NetworkBonjour");
+    EXPECT_EQ(printer->text() + bonjour->text(), text("Deskdesk"));
+    EXPECT_TRUE(page->itemCheckDifferentToDataManager() && page->itemConnectChangeCheck());
+    printer->setFocus();
+    printer->end(false);
+    QTest::keyClicks(printer, text("s"));
+    EXPECT_EQ(state, DWT_MainDialog_SendOK_Message);
+    QTest::keyClick(printer, Qt::Key_Backspace);
+    EXPECT_EQ(state, DWT_MainDialog_SendNG_Message) << "the saved name was typed again";
+    QTest::keyClicks(printer, text("2"));
+    EXPECT_TRUE(m.manager->isEqualToSaveData()) << "stored before editing has ended";
+    QTest::keyClick(printer, Qt::Key_Tab);
+    EXPECT_EQ(changedText(DWT_SaveData_Network_Printer), text("Desk2"));
+    EXPECT_EQ(state, DWT_MainDialog_SendOK_Message);
+    EXPECT_TRUE(bonjour->hasFocus()) << "the tab order follows the reading order";
+    EXPECT_FALSE(page->itemCheckDifferentToDataManager() || page->itemConnectChangeCheck());
+    type("textField_NetworkBonjourService", text("New"));
+    page->itemSetToDataManager();
+    EXPECT_EQ(changedText(DWT_SaveData_Network_BonjourService), text("New"));
+    EXPECT_EQ(changeList(),
+              text("Printer name: Desk > Desk2|Bonjour service name: Desk labels > New"));
+}
+
+struct WirelessPage : PageTest<DWTWirelessView> {
+    WirelessPage()
+        : PageTest(R"("0x3000": 2, "0x3100": "02004C000102", "0x3200": "02004C000103")") {}
+};
+
+TEST_F(WirelessPage, TheModeReachesTheChangeDataAtEveryChoice) {
+    EXPECT_EQ(page->wirelessCommunicateMode(), CommunicationMode::AccessPoint);
+    EXPECT_EQ(shown("textField_WirelessInfrastructureMACAddress"), text("02004C000102"));
+    EXPECT_EQ(shown("textField_WirelessSimpleAPMACAddress"), text("02004C000103"));
+    pick("buttonCell_WirelessInfrastructure");
+    EXPECT_EQ(changedNumber(DWT_SaveData_Wireless_CommunicateMode),
+              CommunicationMode::Infrastructure);
+    EXPECT_EQ(state, DWT_MainDialog_SendOK_Message);
+    EXPECT_EQ(changeList(),
+              text("Communication mode: Access point: computers join the printer’s own network > "
+                   "Infrastructure: join an existing wireless network"));
+    pick("buttonCell_WirelessSimpleA");
+    EXPECT_EQ(state, DWT_MainDialog_SendNG_Message) << "the first mode was chosen again";
+    showNothing();
+    EXPECT_EQ(page->wirelessCommunicateMode(), CommunicationMode::AccessPoint);
+}
+
+struct SimpleAPPage : PageTest<DWTSimpleAPView> {
+    SimpleAPPage() : PageTest(R"("0x3201": "Desk", "0x3202": " ", "0x3210": 1, "0x3211": 3)") {}
+};
+
+TEST_F(SimpleAPPage, ShowsWhatThePrinterTellsAndStoresNameAndKey) {
+    auto *ssid = control("textField_SimpleAPSSID"), *psk = control("textField_SimpleAPPSK");
+    EXPECT_EQ(ssid->text() + psk->text(), text("Desk"));
+    EXPECT_EQ(shown("textField_SimpleAPAuthentic"), text("WPA2-Personal"));
+    EXPECT_EQ(shown("textField_SimpleAPEncryption"), text("AES"));
+    for (const char *address : {"textField_SimpleAPStartIpAddress", "textField_SimpleAPIpAddress",
+                                "textField_SimpleAPSubnetMask"})
+        EXPECT_NE(shown(address), text("0.0.0.0")) << address;
+    EXPECT_TRUE(alertsOf(true).isEmpty()) << "the key was not filled and not touched";
+    type(ssid, text("é"));
+    type(psk, text("x"));
+    QTest::keyClick(psk, Qt::Key_Return);
+    EXPECT_EQ(changedText(DWT_SaveData_SimpleAP_SSID), text("é"));
+    EXPECT_EQ(changedText(DWT_SaveData_SimpleAP_PSK), text("x"));
+    EXPECT_EQ(changeList(), text("Network name (SSID) of the access point: Desk > é|"
+                                 "WPA key of the access point:  > new"));
+    showNothing();
+    EXPECT_EQ(shown("textField_SimpleAPStartIpAddress"), text("0.0.0.0"));
+    EXPECT_EQ(ssid->text() + psk->text(), QString());
+}
+
+struct FirmwarePage : PageTest<DWTFirmwareView> {
+    FirmwarePage() : PageTest(R"("0x1008": "2.10A", "0x1007": 45)") {}
+};
+
+TEST_F(FirmwarePage, TheTimeOutIsComparedWhileTypingAndForcedIntoItsRangeAfterwards) {
+    auto *timeOut = control("textField_PrintTimeOut");
+    EXPECT_EQ(shown("textField_Firmware") + timeOut->text(), text("2.10A45"));
+    type(timeOut, text("045"));
+    EXPECT_EQ(state, DWT_MainDialog_SendNG_Message);
+    QTest::keyClick(timeOut, Qt::Key_Backspace);
+    EXPECT_EQ(state, DWT_MainDialog_SendOK_Message);
+    EXPECT_TRUE(alertsOf(true).isEmpty());
+    page->itemSetToDataManager();
+    EXPECT_EQ(changedNumber(DWT_SaveData_Firmware_Timeout), 30) << "sent without leaving the field";
+    const struct {
+        const char *typed, *shown, *forced;
+    } cases[] = {
+        {"29", "29", "30"},    {"30", "30", "30"},  {"301", "301", "300"},
+        {"", "", "30"},        {"x", "", "30"},     {"12a34", "1234", "300"},
+        {"300", "300", "300"}, {"\n4５", "", "30"}, {"99999999999999", "99999999999999", "300"}};
+    for (const auto &c : cases) {
+        type(timeOut, text(c.typed));
+        EXPECT_EQ(timeOut->text(), text(c.shown)) << c.typed;
+        QTest::keyClick(timeOut, Qt::Key_Return);
+        EXPECT_EQ(timeOut->text(), text(c.forced)) << c.typed;
+        EXPECT_EQ(changedNumber(DWT_SaveData_Firmware_Timeout), text(c.forced).toInt());
+    }
+    EXPECT_EQ(changeList(), text("Print timeout: 45 > 300"));
+    showNothing();
+    EXPECT_EQ(shown("textField_Firmware") + timeOut->text(), text("2.10A"));
+}
+
+// Codes of the printer that no choice of the pages stands for.
+const char *const codes = R"("0x3000": 9, "0x3101": 77, "0x3102": 9, "0x3103": 12, "0x3210": 9,
+    "0x3211": 4, "0x3212": 65535)";
+
+TEST(UnknownCodes, AreShownAsEmptyTextsAndKept) {
+    for (const auto &makePage :
+         {a<DWTWirelessView>, a<DWTInfrastructureView>, a<DWTSimpleAPView>}) {
+        PageInWindow in(makePage(), codes);
+        const QRegularExpression choices(text("LanMode|Authentic|Encrypt"));
+        for (const auto *field : in.window.findChildren<QLineEdit *>(choices))
+            EXPECT_EQ(field->text(), QString()) << qPrintable(field->objectName());
+        for (const auto *popup : in.window.findChildren<QComboBox *>())
+            EXPECT_EQ(popup->currentText().startsWith(text("Key")),
+                      !popup->currentText().isEmpty());
+        EXPECT_TRUE(in.view->itemCheckDifferentToDataManager()) << qPrintable(in.view->viewKey());
+    }
+}
+
+}  // namespace
