@@ -9,10 +9,7 @@
 #include "pages/DWTBaseView.h"
 #include "platform/core/Texts.h"
 #include "support/DataManagers.h"
-
-inline QString text(const char *utf8) {
-    return QString::fromUtf8(utf8);
-}
+#include "support/DialogScript.h"
 
 // Makes a page, for tables of pages.
 template <typename Page>
@@ -38,14 +35,10 @@ class PageInWindow {
                 name, [this](const Notification &n) { state = n.name; }, page.get()));
     }
     template <typename Widget = TextField>
-    Widget *control(const QString &name) {
-        auto *found = window.findChild<Widget *>(name);
-        EXPECT_TRUE(found) << qPrintable(name);
+    Widget *control(QAnyStringView name) {
+        auto *found = window.findChild<Widget *>(name.toString());
+        EXPECT_TRUE(found) << qPrintable(name.toString());
         return found;
-    }
-    template <typename Widget = TextField>
-    Widget *control(const char *name) {
-        return control<Widget>(text(name));
     }
     QString shown(const char *name) { return control<QLineEdit>(name)->text(); }
     void pick(const char *cell) { control<QRadioButton>(cell)->click(); }

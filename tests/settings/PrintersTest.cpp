@@ -11,6 +11,12 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+PrinterEntry entry(const char *uri, const QString &connection, const char *model) {
+    return {{PrinterKey::DeviceURI, QLatin1String(uri)},
+            {PrinterKey::ConnectionType, connection},
+            {PrinterKey::ProductName, u"Larkfield "_s + QLatin1String(model)}};
+}
+
 class Printers : public testing::Test {
   protected:
     ~Printers() override { installLibrary(nullptr); }
@@ -18,8 +24,8 @@ class Printers : public testing::Test {
     // URI and name of each listed printer.
     QString list() {
         QStringList names;
-        for (const PrinterEntry &entry : manager->printerList().value_or(QList<PrinterEntry>()))
-            names << entry[PrinterKey::DeviceURI] + u'=' + entry.value(PrinterKey::MachineName);
+        for (const PrinterEntry &one : manager->printerList().value_or(QList<PrinterEntry>()))
+            names << one[PrinterKey::DeviceURI] + u'=' + one.value(PrinterKey::MachineName);
         return names.join(u' ');
     }
     // A data manager on a library that answers with this result and reply.
@@ -36,27 +42,24 @@ class Printers : public testing::Test {
 };
 
 TEST_F(Printers, ListsSupportedModelsAndAsksOnlyUsbPrintersForTheirName) {
+    const QString &usb = PrinterConnection::USB, &network = PrinterConnection::Network;
     const struct {
         const char *uri;
-        bool usb;
+        QString connection;
         const char *model;
         const char *profile;
         bool asked;
     } printers[] = {
-        {"net", false, "L400", "{}", false},
-        {"usb", true, "L200", R"({"items": {"0x1006": "Desk"}})", true},
-        {"unsupported", true, "P900", "{}", false},
-        {"refusing", true, "L200", R"({"faults": {"refuseConnection": true}})", false},
-        {"silent", true, "L200", R"({"faults": {"items": {"0x1006": {"noReply": true}}}})", true},
-        {"foreign", true, "L200", R"({"faults": {"items": {"0x1006": {"code": "0x1004"}}}})", true},
-        {"last", true, "L400", R"({"items": {"0x1006": "Last"}})", true}};
+        {"net", network, "L400", "{}", false},
+        {"usb", usb, "L200", R"({"items": {"0x1006": "Desk"}})", true},
+        {"unsupported", usb, "P900", "{}", false},
+        {"refusing", usb, "L200", R"({"faults": {"refuseConnection": true}})", false},
+        {"silent", usb, "L200", R"({"faults": {"items": {"0x1006": {"noReply": true}}}})", true},
+        {"foreign", usb, "L200", R"({"faults": {"items": {"0x1006": {"code": "0x1004"}}}})", true},
+        {"last", usb, "L400", R"({"items": {"0x1006": "Last"}})", true}};
     Catalogue catalogue;
     for (const auto &p : printers) {
-        catalogue.entries << PrinterEntry{
-            {PrinterKey::DeviceURI, QLatin1String(p.uri)},
-            {PrinterKey::ConnectionType,
-             p.usb ? PrinterConnection::USB : PrinterConnection::Network},
-            {PrinterKey::ProductName, u"Larkfield "_s + QLatin1String(p.model)}};
+        catalogue.entries << entry(p.uri, p.connection, p.model);
         catalogue.virtualPrinters.insert(QLatin1String(p.uri), printerOf(p.profile));
     }
     const auto listed = catalogueLibrary(catalogue, 100);
@@ -79,10 +82,7 @@ TEST_F(Printers, ListsSupportedModelsAndAsksOnlyUsbPrintersForTheirName) {
 TEST_F(Printers, AnAdministratorAddsAModelAndIsToldOfAFileThatCannotBeUsed) {
     Catalogue catalogue;
     for (const char *model : {"L200", "New"})
-        catalogue.entries << PrinterEntry{
-            {PrinterKey::DeviceURI, QLatin1String(model)},
-            {PrinterKey::ConnectionType, PrinterConnection::Network},
-            {PrinterKey::ProductName, u"Larkfield "_s + QLatin1String(model)}};
+        catalogue.entries << entry(model, PrinterConnection::Network, model);
     installLibrary(catalogueLibrary(catalogue, 100));
     const QTemporaryDir folder;
     const PropertyList::FolderOverride administrators(folder.path());

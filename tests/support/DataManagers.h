@@ -23,7 +23,8 @@ class ServedManager {
 
     VirtualPrinter &printer() { return served.printer(); }
 
-    void setFaults(const QByteArray &faults) { served.setFaults(faults); }
+    // Sets what goes wrong from now on, from the description of the faults.
+    void setFaults(const QByteArray &faults) { printer().setFaults(faultsOf(faults)); }
     // Enters these values of a category.
     void change(const QString &viewKey, const CategoryDictionary &values) {
         auto category = manager->setupDataFromChangeData(viewKey).value_or(CategoryDictionary());

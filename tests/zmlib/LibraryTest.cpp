@@ -52,7 +52,7 @@ TEST_P(Library, TheConnectionOfTheStatusIsTheOneThatIsEngaged) {
     if (GetParam() == Transport::Tcp) return;  // its peer accepts, or refuses, some time later
     serve("{}");
     EXPECT_EQ(status(), 1);
-    served->setFaults(R"({"refuseConnection": true})");
+    served->printer().setFaults(faultsOf(R"({"refuseConnection": true})"));
     ASSERT_EQ(engage(), 0) << "a second connection";
     EXPECT_EQ(finish(), 0);
 }
@@ -68,7 +68,7 @@ TEST_P(Library, AnswersForTheAddressesOfThePrintersThatCanBeReached) {
     ASSERT_EQ(engage(), 0);
     EXPECT_EQ(check(uri, "10.0.0.5"), 0) << "while the channel is open";
     EXPECT_EQ(finish(), 0);
-    served->setFaults(R"({"refuseConnection": true})");
+    served->printer().setFaults(faultsOf(R"({"refuseConnection": true})"));
     EXPECT_LT(check(uri, "10.0.0.5"), 0) << "an unplugged printer answers nowhere";
     serve(R"({"faults": {"refuseConnection": true}})");
     EXPECT_EQ(status(), ZMLib::UnknownPrinter);
