@@ -26,6 +26,20 @@ class LibraryCalls {
     int check(const QString &target, const char *address) {
         return library().ZMIOOpenForUDP(target, QLatin1String(address), 20, limit);
     }
+    // The list: the values of an entry in a line each, then the problems.
+    QString listed() {
+        QStringList lines;
+        const auto list = library().ZMCreatePrinterURI().value_or(QList<PrinterEntry>());
+        for (const PrinterEntry &entry : list) lines << QStringList(entry.values()).join(u'|');
+        return (lines + problems()).join(u'\n');
+    }
+    // The problems, as the number of the kind and the subject.
+    QStringList problems() {
+        QStringList lines;
+        for (const PrinterProblem &problem : library().problems())
+            lines << QString::number(problem.kind) + problem.subject;
+        return lines;
+    }
 
     QString uri;
     QByteArray reply;

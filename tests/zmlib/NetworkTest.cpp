@@ -20,16 +20,6 @@ class Network : public testing::Test, protected LibraryCalls {
         if (!m_library) m_library = libraryOf<NetworkSource>(3000, ports);
         return *m_library;
     }
-    // The list in a line each, and a number for each problem.
-    QString listed() {
-        QStringList lines;
-        const auto list = library().ZMCreatePrinterURI();
-        for (const PrinterEntry &entry : list.value())
-            lines << QStringList(entry.values()).join(u'|');
-        for (const PrinterProblem &problem : library().problems())
-            lines << QString::number(problem.kind);
-        return lines.join(u'\n');
-    }
     // A line of the list.
     static QString lineOf(const QString &name, const QString &product) {
         return u"127.0.0.1|%1|Network|dnssd:///%2?type=_pdl-datastream._tcp&domain=local|%3"_s.arg(
