@@ -153,12 +153,11 @@ TEST_P(AutomaticSetup, ShowsTheAddressesInUseAndTheResultOfATest) {
     QObject::connect(page.get(), &InterfaceView::connectRequested, [&] { ++asked; });
     test()->click();
     EXPECT_EQ(asked, 1);
-    auto *result = control<QLabel>(named("textField_%1Connection"));
-    EXPECT_EQ(result->text(), text("Not tested yet"));
+    EXPECT_EQ(connection()->text(), text("Not tested yet"));
     page->showConnectResult(true);
-    const QString online = result->text();
+    const QString online = connection()->text();
     page->showConnectResult(false);
-    EXPECT_TRUE(online != text("Not tested yet") && online != result->text());
+    EXPECT_TRUE(online != text("Not tested yet") && online != connection()->text());
     showNothing();
     EXPECT_EQ(address()->text(), text("0.0.0.0"));
 }

@@ -1,5 +1,4 @@
 #include "platform/core/NotificationCenter.h"
-#include "settings/Rules.h"
 #include "support/DataManagers.h"
 
 // Everything that can go wrong with one reply, in every step of a reading and of a send, over TCP.
@@ -8,8 +7,6 @@ namespace {
 
 using Login = SendReport::Login;
 using namespace Qt::StringLiterals;
-
-const QString password = u"abcd1234"_s;  // also the keys
 
 // Short, so that hundreds of silent replies take seconds.
 constexpr int wait = 40;
@@ -51,31 +48,10 @@ class Faults : public testing::Test, protected ServedManager {
         const QByteArray items = fault ? "\"" + item + "\": {" + fault->description + "}" : "";
         setFaults("{\"items\": {" + items + "}}");
     }
-    // Enters another value for every item.
-    void changeAll(int encryption) {
-        using Kind = SentItem::Kind;
-        const QString name = u'n' + QString::number(++round);
-        change(DWT_View_Key_Password, {{DWT_SaveData_Password_Change, 1}});
-        for (const SentItem &item : sentItems()) {
-            const bool key =
-                Rules::ruleOf(item.keys.last()) && Rules::ruleOf(item.keys.last())->secret;
-            CategoryDictionary values{
-                {item.keys[0], item.kind == Kind::Interface ? 1 : round % 2 + 1}};
-            if (item.kind == Kind::Text || item.kind == Kind::CountedText)
-                values = {{item.keys[0], key ? password : name}};
-            if (item.kind == Kind::WEPKey) values.insert(item.keys[1], u"abcde"_s);
-            for (int i = 1; item.kind == Kind::Interface && i < 4; ++i)
-                values.insert(item.keys[i],
-                              QStringList{u"10"_s, QString::number(i), QString::number(round / 200),
-                                          QString::number(round % 200)});
-            if (item.code == 0x3103) values = {{item.keys[0], encryption}};
-            change(item.viewKey, values);
-        }
-    }
     // Logs in and sends, with a fault in the send.
     void sendWith(const QByteArray &item, const Fault *fault) {
         ASSERT_EQ(manager->connectPrinter(), 0);
-        ASSERT_EQ(manager->checkLoginPassword(password), 4);
+        ASSERT_EQ(manager->checkLoginPassword(enteredPassword), 4);
         manager->disconnectPrinter();
         setFault(item, fault);
         stopped = -1;
@@ -112,7 +88,7 @@ TEST_F(Faults, OfOneReplyInASendNeverMakeTheSavedDataLie) {
         const QByteArray step = "0x" + QByteArray::number(code, 16);
         for (const Fault &fault : faults) {
             SCOPED_TRACE((step + ' ' + fault.description).constData());
-            changeAll(code == 0x3106 ? 1 : 3);
+            changeAll(++round, code == 0x3106 ? 1 : 3);
             sendWith(step, &fault);
             const SendReport report = manager->sendReport();
             const Effect effect = fault.effect;
@@ -188,7 +164,7 @@ TEST_F(Faults, OfTheConnectionInASearchOrALoginEndThemAtOnce) {
     }
     ASSERT_EQ(manager->connectPrinter(), 0);
     setFault("0x1001", &faults[8]);
-    EXPECT_EQ(manager->checkLoginPassword(password), SettingResult::NoReply);
+    EXPECT_EQ(manager->checkLoginPassword(enteredPassword), SettingResult::NoReply);
     manager->disconnectPrinter();
     setFault({}, nullptr);
     sendWith({}, nullptr);

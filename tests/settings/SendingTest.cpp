@@ -59,36 +59,24 @@ const QString everyStep =
 
 TEST_P(Send, WritesEveryItemInOrderAndThePrinterHoldsWhatWasSent) {
     read(R"({"items": {"0x3103": 3, "0x3104": "Old"}})");
-    change(DWT_View_Key_Network, {{DWT_SaveData_Network_Printer, u"Name"_s},
-                                  {DWT_SaveData_Network_Bonjour, u"bonjour"_s},
-                                  {DWT_SaveData_Network_BonjourService, u"Service"_s}});
-    change(DWT_View_Key_Ethernet, {{DWT_SaveData_Ethernet_IPAddressSetting, 1},
-                                   {DWT_SaveData_Ethernet_IPAddress, address(u"10.0.0.7"_s)},
-                                   {DWT_SaveData_Ethernet_Subnetmask, address(u"255.0.0.0"_s)},
-                                   {DWT_SaveData_Ethernet_Gateway, address(u"10.0.0.1"_s)}});
-    change(DWT_View_Key_Wireless, {{DWT_SaveData_Wireless_CommunicateMode, 2}});
-    change(DWT_View_Key_Infrastructure,
-           {{DWT_SaveData_Infrastructure_Authentic, 2},
-            {DWT_SaveData_Infrastructure_SSID, u"New"_s},
-            {DWT_SaveData_Infrastructure_PSK, u"secret key"_s},
-            {DWT_SaveData_Infrastructure_IPAddressSetting, 1},
-            {DWT_SaveData_Infrastructure_IPAddress, address(u"10.2.0.7"_s)},
-            {DWT_SaveData_Infrastructure_Subnetmask, address(u"255.255.0.0"_s)},
-            {DWT_SaveData_Infrastructure_Gateway, address(u"10.2.0.1"_s)}});
-    change(DWT_View_Key_SimpleAP,
-           {{DWT_SaveData_SimpleAP_SSID, u"AP"_s}, {DWT_SaveData_SimpleAP_PSK, u"other key"_s}});
-    change(DWT_View_Key_Firmware, {{DWT_SaveData_Firmware_Timeout, 120}});
-    change(DWT_View_Key_Password,
-           {{DWT_SaveData_Password_Change, 1}, {DWT_SaveData_Password_Password, u"new"_s}});
+    m->changeAll(1, 3);
     EXPECT_EQ(send(),
               u"start =1003 =1004 =1005 =1006 =2001 =3000 =3102 =3103 =3104 =3105 =3108 "
               "=3201 =3202 =1007 update end"_s);
     EXPECT_EQ(steps, everyStep);
 
-    EXPECT_EQ(m->printer().password(), "new");
-    EXPECT_EQ(m->printer().item(0x3105), hex("0a00") + "secret key");
-    EXPECT_EQ(m->printer().item(0x3202), hex("0900") + "other key");
-    EXPECT_EQ(m->printer().item(0x3108).toHex(), "01000a020007ffff00000a020001");
+    const std::pair<ItemCode, QByteArray> sent[] = {
+        {0x1004, "n1-1004"},
+        {0x1005, "n1-1005"},
+        {0x1006, "n1-1006"},
+        {0x2001, hex("01000a0100010a0200010a030001")},
+        {0x3104, hex("0700") + "n1-3104"},
+        {0x3105, hex("0800") + enteredPassword.toLatin1()},
+        {0x3108, hex("01000a0100010a0200010a030001")},
+        {0x3201, hex("0700") + "n1-3201"},
+        {0x3202, hex("0800") + enteredPassword.toLatin1()}};
+    for (const auto &[code, value] : sent) EXPECT_EQ(m->printer().item(code), value) << code;
+    EXPECT_EQ(m->printer().password(), enteredPassword.toLatin1());
     EXPECT_NE(saved(DWT_View_Key_SimpleAP).find("PSK='00000000'"), std::string::npos)
         << "a key was taken over";
 }

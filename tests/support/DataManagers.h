@@ -5,7 +5,14 @@
 #include "link/Binding.h"
 #include "platform/core/MainThread.h"
 #include "settings/DWTDataManager.h"
+#include "settings/Rules.h"
 #include "support/Catalogues.h"
+
+inline QStringList address(const QString &dotted) {
+    return dotted.split(u'.');
+}
+
+inline const QString enteredPassword = QStringLiteral("abcd1234");  // also the keys
 
 // A data manager on a virtual printer, over either transport.
 class ServedManager {
@@ -31,6 +38,27 @@ class ServedManager {
         category.insert(values);
         manager->setupDataFromMainView(category, viewKey);
     }
+    // Enters a value for every item, others in every round.
+    void changeAll(int round, int encryption) {
+        using Kind = SentItem::Kind;
+        change(DWT_View_Key_Password, {{DWT_SaveData_Password_Change, 1}});
+        for (const SentItem &item : sentItems()) {
+            const Rules::Rule *rule = Rules::ruleOf(item.keys.last());
+            const QString name = QStringLiteral("n%1-%2").arg(round).arg(item.code, 4, 16);
+            CategoryDictionary values{
+                {item.keys[0], item.kind == Kind::Interface ? 1 : round % 2 + 1}};
+            if (item.kind == Kind::Text || item.kind == Kind::CountedText)
+                values = {{item.keys[0], rule && rule->secret ? enteredPassword : name}};
+            if (item.kind == Kind::WEPKey) values.insert(item.keys[1], QStringLiteral("abcde"));
+            for (int i = 1; item.kind == Kind::Interface && i < 4; ++i)
+                values.insert(
+                    item.keys[i],
+                    address(
+                        QStringLiteral("10.%1.%2.%3").arg(i).arg(round / 200).arg(round % 200)));
+            if (item.code == 0x3103) values = {{item.keys[0], encryption}};
+            change(item.viewKey, values);
+        }
+    }
     void sendAndWait() {
         manager->sendDataToPrinter();
         MainThread::finishBackgroundWork();
@@ -39,10 +67,6 @@ class ServedManager {
     OnePrinterLibrary served;
     std::shared_ptr<DWTDataManager> manager;
 };
-
-inline QStringList address(const QString &dotted) {
-    return dotted.split(u'.');
-}
 
 // A value as text: texts in quotes, addresses dotted, bytes as hexadecimal digits in brackets.
 struct ValueText {
