@@ -9,6 +9,7 @@
 #include "mainwindow/WaitWindow.h"
 #include "platform/core/Texts.h"
 #include "platform/core/Waiting.h"
+#include "settings/PrinterWords.h"
 
 namespace {
 
@@ -37,37 +38,6 @@ constexpr qsizetype printersAtAGlance = 8;
 
 // So many problems are told in words; there is no room for more.
 constexpr qsizetype shownProblems = 4;
-
-QString wordsOf(const PrinterProblem &problem) {
-    QString text;
-    switch (problem.kind) {
-        case PrinterProblem::EmptyCatalogue:
-            return localized(QStringLiteral("DWT_Localize_PrinterList_Empty_Catalogue"));
-        case PrinterProblem::NoNetworkService:
-            return localized(QStringLiteral("DWT_Localize_PrinterList_Problem_NoNetworkService"));
-        case PrinterProblem::NoPermission:
-            text = localized(QStringLiteral("DWT_Localize_PrinterList_Problem_NoPermission"));
-            break;
-        case PrinterProblem::InUse:
-            text = localized(QStringLiteral("DWT_Localize_PrinterList_Problem_InUse"));
-            break;
-        case PrinterProblem::BadFile:
-            text = localized(QStringLiteral("DWT_Localize_PrinterList_Problem_BadFile"));
-            break;
-    }
-    return text.arg(shownText(problem.subject));
-}
-
-// What tells a printer from others of its model, as far as the library knows it.
-QString whereaboutsOf(const PrinterEntry &entry) {
-    if (entry.contains(PrinterKey::SerialNumber))
-        return localized(QStringLiteral("DWT_Localize_PrinterList_SerialNumber"))
-            .arg(entry[PrinterKey::SerialNumber]);
-    if (entry.contains(PrinterKey::Port))
-        return localized(QStringLiteral("DWT_Localize_PrinterList_Port"))
-            .arg(entry[PrinterKey::Port]);
-    return entry.value(PrinterKey::Address);
-}
 
 // The key of what an empty list says; in installer mode only USB is looked at.
 QString keyOfEmptyList(const QList<PrinterProblem> &problems, bool installer) {

@@ -96,9 +96,7 @@ bool DWTCommunicationControl::isClosedByPrinter() const {
 }
 
 int DWTCommunicationControl::checkConnect(const QString &address) {
-    const bool usb =
-        dictionary_PrinterInfomation.value(PrinterKey::ConnectionType) == PrinterConnection::USB;
-    const QString target = usb ? ZMLib::anyPrinter : deviceURI();
+    const QString target = isUSB(dictionary_PrinterInfomation) ? ZMLib::anyPrinter : deviceURI();
     return installedLibrary()->ZMIOOpenForUDP(target, address, qkStatusLength_Integer, callTimeout);
 }
 

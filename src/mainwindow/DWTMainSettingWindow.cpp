@@ -9,6 +9,7 @@
 #include "platform/core/Texts.h"
 #include "platform/core/Waiting.h"
 #include "platform/ui/Alert.h"
+#include "settings/PrinterWords.h"
 
 namespace {
 
@@ -234,11 +235,8 @@ QString DWTMainSettingWindow::ownName() const {
 
 // Its own name as last read, or what the list of printers calls it.
 QString DWTMainSettingWindow::printerName() const {
-    const PrinterEntry &listed = dictionary_PrinterInfo;
-    for (const QString &name : {ownName(), readableText(listed.value(PrinterKey::MachineName)),
-                                shownText(listed.value(PrinterKey::BonjourServiceName))})
-        if (!name.isEmpty()) return name;
-    return shownText(listed.value(PrinterKey::ProductName));
+    const QString name = ownName();
+    return name.isEmpty() ? listedName(dictionary_PrinterInfo) : name;
 }
 
 int DWTMainSettingWindow::statusLengthOf(const QString &productName) {

@@ -15,24 +15,8 @@ QString text(const char *key) {
     return localized(QLatin1String(key));
 }
 
-// A label without what marks it as one: the mnemonic and the colon at its end.
-QString nameIn(const QString &label) {
-    QString name = withoutMnemonic(label);
-    while (!name.isEmpty() &&
-           (name.back().isSpace() || name.back() == u':' || name.back() == u'：'))
-        name.chop(1);
-    return name;
-}
-
 QString nameOf(const char *key) {
-    return nameIn(text(key));
-}
-
-// The digits of a MAC address in pairs with colons between them.
-QString withColons(const QString &digits) {
-    QStringList pairs;
-    for (qsizetype i = 0; i < digits.size(); i += 2) pairs << digits.mid(i, 2);
-    return pairs.join(u':');
+    return nameInLabel(text(key));
 }
 
 }  // namespace
@@ -258,14 +242,14 @@ QString DWTBaseView::shownTextOf(const Field &field) {
         return group->titleOf(group->selectedTag());
     if (const auto *popup = qobject_cast<QComboBox *>(field.control)) return popup->currentText();
     const QString shown = field.line()->text();
-    return field.kind == Kind::Mac ? withColons(shown) : shown;
+    return field.kind == Kind::Mac ? macText(shown) : shown;
 }
 
 QString DWTBaseView::labelOf(const Field &field) const {
     if (field.nameKey) return nameOf(field.nameKey);
-    if (const auto *box = qobject_cast<QCheckBox *>(field.control)) return nameIn(box->text());
+    if (const auto *box = qobject_cast<QCheckBox *>(field.control)) return nameInLabel(box->text());
     for (const QLabel *label : view_Base->findChildren<QLabel *>())
-        if (label->buddy() == field.control) return nameIn(label->text());
+        if (label->buddy() == field.control) return nameInLabel(label->text());
     return {};
 }
 

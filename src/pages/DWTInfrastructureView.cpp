@@ -267,18 +267,17 @@ void DWTInfrastructureView::adjustSecurity() {
 
 void DWTInfrastructureView::selectAuthenticCodeInput() {
     const QVariant authentic = popupbutton_InfrastructureAuthentic->currentData();
-    if (!authentic.isValid())
-        popupbutton_InfrastructureEncryption->clear();
-    else if (authentic.toInt() < Authentication::WPA)
-        offerEncryptions(Encryption::None, Encryption::WEP);
+    if (authentic.isValid())
+        offerEncryptions(Rules::encryptionsOf(authentic.toInt()));
     else
-        offerEncryptions(Encryption::TKIP, Encryption::AES);
+        popupbutton_InfrastructureEncryption->clear();
     selectEncryptionCodeInput();
 }
 
-// Offers the encryptions of two codes that follow each other. The first stays when it was chosen;
-// anything else becomes the second, the better one.
-void DWTInfrastructureView::offerEncryptions(int first, int preferred) {
+// The weaker encryption stays when it was chosen; anything else becomes the one to be preferred,
+// whose code follows it.
+void DWTInfrastructureView::offerEncryptions(Rules::Encryptions offered) {
+    const auto [first, preferred] = offered;
     QComboBox *const popup = popupbutton_InfrastructureEncryption;
     const QVariant chosen = popup->currentData();
     offer(

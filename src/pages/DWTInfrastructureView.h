@@ -57,7 +57,7 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
     void selectAuthenticCodeInput();
     // Enables the key fields that the chosen encryption uses.
     void selectEncryptionCodeInput();
-    void offerEncryptions(int first, int preferred);
+    void offerEncryptions(Rules::Encryptions offered);
     // Says in the empty key fields whose key belongs there; without a network, that an empty one
     // leaves the printer's key unchanged.
     void sayKeyOf(const QString &network);

@@ -38,9 +38,9 @@ struct SendReport {
 // and every exchange that fills the one and writes the other. It owns the link to the printer.
 //
 // Made with the plain init() it has no link; every exchange then fails as its result says. All
-// operations run on the main thread and wait there for the printer, as long as the link's calls
-// take. Only the send runs on a thread of
-// its own; while it does, no other operation is called.
+// operations are called on one thread, and wait there for the printer, as long as the link's calls
+// take. Only sendDataToPrinter() runs on a thread of its own; while it does, no other operation is
+// called. Data managers of different printers can be used on different threads at a time.
 class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<DWTDataManager> {
     DWT_SETUP(DWTDataManager, DWTBaseClass, NDM_Init, NDM_Dealloc)
 
@@ -98,11 +98,17 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // sender and the MSW_Searching_Value_ numbers. The saved data then holds what the printer
     // accepted. Not to be called again before the stop.
     void sendDataToPrinter();
+    // The same on the calling thread; returns after the stop. On another thread than the main one,
+    // the main thread must run an event loop meanwhile.
+    void sendDataToPrinterAndWait() { NDM_SendDataToPrinterThread(); }
     // What happened in the last send; written until its stop.
     const SendReport &sendReport() const { return m_report; }
 
     // --- Printers (DWTDataManagerPrinters.cpp) ---
 
+    // The supported printers that are listed, none of which is asked for anything; only USB
+    // printers in installer mode.
+    QList<PrinterEntry> supportedPrinters();
     // The supported printers that can be reached, USB printers with their own name under
     // PrinterKey::MachineName; only USB printers in installer mode. Nothing when no link can be
     // made. `found` is told of each, in order, as soon as it has answered; a wait that is cancelled

@@ -15,23 +15,29 @@ std::optional<QList<PrinterEntry>> DWTDataManager::printerList(
     const std::function<void(const PrinterEntry &)> &found) {
     const auto link = make<DWTCommunicationControl>();
     if (!link) return {};
-    QList<PrinterEntry> supported;
-    const QVariantMap models =
-        PropertyList::dictionary(QStringLiteral("ZMPrinterStatusTable"), QStringLiteral("plist"));
-    for (PrinterEntry entry : link->printerList().value_or(QList<PrinterEntry>())) {
-        if (!models.contains(entry.value(PrinterKey::ProductName))) continue;
-        const bool installer = checkLunchedMode();
-        if (entry.value(PrinterKey::ConnectionType) == PrinterConnection::USB) {
+    QList<PrinterEntry> reached;
+    for (PrinterEntry entry : supportedPrinters()) {
+        if (isUSB(entry)) {
             if (isWaitCancelled()) continue;
             const QString name = printerName(link, entry);
             if (name == unreadable) continue;
             entry.insert(PrinterKey::MachineName, name);
-        } else if (installer) {
-            continue;
         }
-        supported.append(entry);
+        reached.append(entry);
         if (found) found(entry);
     }
+    return reached;
+}
+
+QList<PrinterEntry> DWTDataManager::supportedPrinters() {
+    const QVariantMap models =
+        PropertyList::dictionary(QStringLiteral("ZMPrinterStatusTable"), QStringLiteral("plist"));
+    const auto listed = make<DWTCommunicationControl>()->printerList();
+    QList<PrinterEntry> supported;
+    for (const PrinterEntry &entry : listed.value_or(QList<PrinterEntry>()))
+        if (models.contains(entry.value(PrinterKey::ProductName)) &&
+            (isUSB(entry) || !checkLunchedMode()))
+            supported.append(entry);
     return supported;
 }
 

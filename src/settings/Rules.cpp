@@ -162,6 +162,11 @@ bool isWEPKey(const QString &text, bool input) {
     return length == 0 && !input;
 }
 
+Encryptions encryptionsOf(int authentication) {
+    if (authentication < Authentication::WPA) return {Encryption::None, Encryption::WEP};
+    return {Encryption::TKIP, Encryption::AES};
+}
+
 int numberInRange(const QString &text, const Rule &rule) {
     return std::clamp(integerOf(text), rule.min, rule.max);
 }

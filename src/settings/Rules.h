@@ -84,6 +84,13 @@ bool isSameAddress(const QStringList &a, const QStringList &b);
 // passes while `input` is false.
 bool isWEPKey(const QString &text, bool input);
 
+// The two encryptions that go with an authentication (both of settings/Codes.h): the weaker one,
+// and the one to be preferred.
+struct Encryptions {
+    int weaker, preferred;
+};
+Encryptions encryptionsOf(int authentication);
+
 // The number that a text stands for (integerOf()), forced into the rule's bounds.
 int numberInRange(const QString &text, const Rule &rule);
 

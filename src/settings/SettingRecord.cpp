@@ -41,6 +41,12 @@ QString readableText(const QString &text) {
     return shownText(isBytes && decoded.toUtf8() == bytes ? decoded : text);
 }
 
+QString macText(const QString &digits) {
+    QStringList pairs;
+    for (qsizetype i = 0; i < digits.size(); i += 2) pairs << digits.mid(i, 2);
+    return pairs.join(u':');
+}
+
 int integerOf(const QString &text) {
     constexpr qint64 lowest = std::numeric_limits<int>::min();
     constexpr qint64 highest = std::numeric_limits<int>::max();

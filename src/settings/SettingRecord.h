@@ -33,6 +33,9 @@ QByteArray bytesValue(const CategoryDictionary &category, const QString &key);
 // read.
 QString readableText(const QString &text);
 
+// A MAC address as a person writes it: the digits of the record in pairs with colons between them.
+QString macText(const QString &digits);
+
 // The integer that a typed text stands for: optional leading spaces and sign, then the leading
 // decimal digits; 0 when there are none, and the nearest int when it would not fit.
 int integerOf(const QString &text);

@@ -32,6 +32,11 @@ inline const QString USB = QStringLiteral("USB");
 inline const QString Network = QStringLiteral("Network");
 }  // namespace PrinterConnection
 
+// Whether a listed printer is connected over USB.
+inline bool isUSB(const PrinterEntry &entry) {
+    return entry.value(PrinterKey::ConnectionType) == PrinterConnection::USB;
+}
+
 // Why a printer is not listed or cannot be used, for who looks for it.
 struct PrinterProblem {
     enum Kind {

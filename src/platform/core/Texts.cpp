@@ -30,6 +30,14 @@ QString withoutMnemonic(QString text) {
     return text.remove(mark);
 }
 
+QString nameInLabel(const QString &label) {
+    QString name = withoutMnemonic(label);
+    while (!name.isEmpty() &&
+           (name.back().isSpace() || name.back() == u':' || name.back() == u'：'))
+        name.chop(1);
+    return name;
+}
+
 QString shownText(const QString &text) {
     QString shown;
     for (const QChar c : text) {

@@ -10,6 +10,9 @@ QString localized(const QString &key);
 // "&Send" and "送信(&S)" become "Send" and "送信".
 QString withoutMnemonic(QString text);
 
+// What a label names: its text without the mark of its mnemonic and the colon at its end.
+QString nameInLabel(const QString &label);
+
 // A text from outside (a printer, a file, the network) as it is shown: on one line, without control
 // characters and without those that change the direction of what follows.
 QString shownText(const QString &text);
