@@ -945,5 +945,251 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Drawing_WPSPress">
         <translation>Dessin : une flèche indique le bouton WPS d’un routeur Wi-Fi ; l’imprimante et le routeur échangent des signaux radio</translation>
     </message>
+    <message id="DWT_Localize_Cli_Help">
+        <translation>Reads and changes the network settings of label printers.
+
+Usage:
+  network-setting list [--json]
+  network-setting show PRINTER [--json]
+  network-setting check FILE
+  network-setting apply PRINTER FILE [--password-file F] [--dry-run] [--yes]
+  network-setting provision TABLE.csv [--template FILE] [--password-file F]
+                            [--result OUT.csv] [--again]
+  network-setting networks PRINTER [--json]
+
+PRINTER is a URI of the list, a printer's own name, or a serial number. FILE holds settings in JSON.
+
+  --json             print JSON
+  --dry-run          only say what would change
+  --yes              do not ask before changing
+  --password-file F  the administrator password is the first line of F
+  --template FILE    settings for every printer of the table
+  --result OUT.csv   add a row for each printer to this file
+  --again            do a printer again that is plugged in again
+  --help             show this text and exit
+  --version          show the version and exit
+
+Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not reached,
+4 login refused, 5 settings not taken over, 6 stopped.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SeeHelp">
+        <translation>“network-setting --help” shows what can be done.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoCommand">
+        <translation>Which command? None is given.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadCommand">
+        <translation>There is no command “%1”.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadArguments">
+        <translation>“%1” takes %2 arguments; %3 are given.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Output">
+        <translation>The output could not be written.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Label_IPInUse">
+        <translation>IP address in use</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Label_MaskInUse">
+        <translation>Subnet mask in use</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Label_GatewayInUse">
+        <translation>Default gateway in use</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Place_Line">
+        <translation>line %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Place_Column">
+        <translation>column %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_NotJson">
+        <translation>This is not valid JSON here.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_NotUtf8">
+        <translation>The text is not UTF-8. Save the file as UTF-8.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_NotCsv">
+        <translation>This is not valid CSV here: a quotation mark is missing or too many.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Unreadable">
+        <translation>%1 cannot be read: %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_TooLong">
+        <translation>%1 is longer than %2 MiB.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Unknown">
+        <translation>There is no setting of this name.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_UnknownColumn">
+        <translation>There is no setting of this name, and it is none of mac, serial and name.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_ReadOnly">
+        <translation>This setting cannot be changed.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Twice">
+        <translation>This name is given twice.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Group">
+        <translation>An object with settings is expected here.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Text">
+        <translation>A text in quotation marks is expected.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Secret">
+        <translation>A text in quotation marks or {"file": "..."} is expected.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Number">
+        <translation>A whole number from %1 to %2 is expected.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Choice">
+        <translation>One of these is expected: %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Mac">
+        <translation>A MAC address of 12 hexadecimal digits is expected.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Cells">
+        <translation>This row should have %1 cells; it has %2.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_NoKnownColumn">
+        <translation>One of the columns mac, serial and name must tell which printer a row is for.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_NoPrinter">
+        <translation>This row does not tell which printer it is for: mac, serial and name are empty.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_NoRows">
+        <translation>The table has no rows.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_SamePrinter">
+        <translation>This printer is in line %1 already.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_SameAddress">
+        <translation>This address is in line %1 already.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Pair">
+        <translation>The encryption %1 does not go with the authentication %2.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_KeyUnused">
+        <translation>This key is not used with the encryption %1.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_NumberAlone">
+        <translation>The number of a WEP key can be given only together with wireless.wepKey.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_AddressUnused">
+        <translation>This address is used only with the mode “fixed”.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoPrinters">
+        <translation>No printer was found.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoNetworks">
+        <translation>The printer found no wireless network.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NotFound">
+        <translation>There is no printer “%1”. “network-setting list” shows the printers.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Ambiguous">
+        <translation>“%1” stands for several printers. Give the URI of one of these:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NotUsb">
+        <translation>%1 is on the network. Settings can be changed only on a printer that is connected over USB.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_InUse">
+        <translation>%1 is in use by another program. Close that program, then try again.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NotReached">
+        <translation>%1 cannot be reached. Check that it is switched on and that its cable is plugged in.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_StoppedAnswering">
+        <translation>%1 stopped answering before everything was read.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NotTold">
+        <translation>%1 did not tell these settings: %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_ReadOnly">
+        <translation>Left out, since these cannot be changed: %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoTerminal">
+        <translation>Without a terminal, nothing is changed unless --yes is given.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_WillChange">
+        <translation>In %1, this will change:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NothingToDo">
+        <translation>%1 has these settings already. Nothing was sent.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Confirm">
+        <translation>Change it? [y/N]</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Yes">
+        <translation>y</translation>
+    </message>
+    <message id="DWT_Localize_Cli_AskPassword">
+        <translation>Administrator password of %1:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoPassword">
+        <translation>%1 has an administrator password, and none was given. Nothing was sent.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_LoginRefused">
+        <translation>%1 did not accept the password. Nothing was sent.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Sending">
+        <translation>Sending to %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Lost">
+        <translation>The connection to %1 was lost. Nothing was applied.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Refused">
+        <translation>%1 did not accept these settings: %2.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Unclear">
+        <translation>It is not clear whether %1 took these settings: %2.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NotVerified">
+        <translation>The settings were sent to %1, but it could not be read again. It is not verified that it has them.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Differs">
+        <translation>%1 was sent as %2, and read back as %3.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SecretDiffers">
+        <translation>%1 was not read back as it was sent.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Changed">
+        <translation>%1 was changed, and has the new settings.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Stopped">
+        <translation>Stopped. Nothing more was sent.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_StoppedBefore">
+        <translation>Stopped before anything was sent to %1.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Stopping">
+        <translation>Stopping. What is being sent is finished first.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Waiting">
+        <translation>Waiting for printers to be plugged in over USB. Ctrl+C ends.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoRow">
+        <translation>%1 has no row in the table, and was left alone.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SeveralRows">
+        <translation>%1 has several rows in the table, and was left alone: lines %2.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SeveralPrinters">
+        <translation>Several printers are called %1, as in line %2. They were left alone.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_RowUsed">
+        <translation>%1 was left alone: the row of line %2 was used for another printer.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_DoneBefore">
+        <translation>%1 was done before, and was left alone.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_RowsLeft">
+        <translation>These printers of the table were not there: %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Unwritable">
+        <translation>%1 cannot be written: %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_ResultsEnd">
+        <translation>%1 cannot be written: %2. No further printer is begun.</translation>
+    </message>
 </context>
 </TS>

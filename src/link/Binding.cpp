@@ -14,7 +14,7 @@ std::mutex mutex;
 std::shared_ptr<ZMLib> library;
 
 std::shared_ptr<ZMLib> libraryOfEnvironment() {
-    if (qEnvironmentVariable("ZMLIB_PRINTERS").isEmpty()) {
+    if (!listsCatalogue()) {
         std::vector<std::unique_ptr<PrinterSource>> sources;
         sources.push_back(std::make_unique<UsbSource>());
         sources.push_back(std::make_unique<NetworkSource>());
@@ -27,6 +27,10 @@ std::shared_ptr<ZMLib> libraryOfEnvironment() {
 }
 
 }  // namespace
+
+bool listsCatalogue() {
+    return !qEnvironmentVariable("ZMLIB_PRINTERS").isEmpty();
+}
 
 std::shared_ptr<ZMLib> installedLibrary() {
     const std::lock_guard lock(mutex);

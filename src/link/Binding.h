@@ -9,6 +9,9 @@
 // (zmlib/Catalogue.h), and what is wrong with that catalogue is said once on standard error.
 std::shared_ptr<ZMLib> installedLibrary();
 
+// Whether that first one lists a catalogue: its printers neither come nor go.
+bool listsCatalogue();
+
 // Installs another library in its place; a null pointer brings the first one back, made anew.
 // Call it while no link is being used.
 void installLibrary(std::shared_ptr<ZMLib> library);

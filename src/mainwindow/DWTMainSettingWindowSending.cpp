@@ -58,15 +58,10 @@ QStringList DWTMainSettingWindow::linesOfChanges() const {
 }
 
 QStringList DWTMainSettingWindow::linesOfWarnings() const {
-    const QMap<SendWarning::Kind, const char *> keys{
-        {SendWarning::KeyKept, "DWT_Localize_Send_Warning_KeyKept"},
-        {SendWarning::NotAMask, "DWT_Localize_Send_Warning_NotAMask"},
-        {SendWarning::GatewayOutside, "DWT_Localize_Send_Warning_GatewayOutside"},
-        {SendWarning::AddressUnreachable, "DWT_Localize_Send_Warning_AddressUnreachable"}};
     QStringList lines;
     for (const SendWarning &warning : dataManager_Object->warnings())
         lines << u"%1: %2"_s.arg(dictionary_ViewManagement.value(warning.viewKey)->pageName(),
-                                 localized(QLatin1String(keys[warning.kind])).arg(warning.subject));
+                                 wordsOf(warning));
     return lines;
 }
 

@@ -22,6 +22,7 @@
 struct SendReport {
     enum class Login { Passed, Refused, NoReply };
     Login login = Login::Passed;  // unless passed, nothing was written
+    bool unreached = false;       // the printer could not be connected, and nothing was written
     // The connection was lost before the update: nothing was applied.
     bool lost = false;
     // The items that were not accepted, with the printer's code, or SettingResult::RefusedUnsent.

@@ -37,7 +37,7 @@ QByteArray networkOfList(const SentItem &item, const CategoryDictionary &change)
 }  // namespace
 
 bool SendReport::isComplete() const {
-    return login == Login::Passed && !lost && refused.isEmpty() && unclear.isEmpty();
+    return login == Login::Passed && !unreached && !lost && refused.isEmpty() && unclear.isEmpty();
 }
 
 bool SendReport::isClean(ItemCode code) const {
@@ -96,6 +96,7 @@ void DWTDataManager::NDM_SendDataToPrinterThread() {
     m_report = {};
     NDM_ProgressSetting(DWT_DataSend_Start_Message, 0);
     if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) {
+        m_report.unreached = true;
         wipe(loginPassword_String);
         NDM_ProgressSetting(DWT_DataSend_Stop_Message, 1);
         return;

@@ -72,6 +72,15 @@ QStringList addressOf(int mode, const SettingRecord &record) {
 
 }  // namespace
 
+QString wordsOf(const SendWarning &warning) {
+    static const QMap<SendWarning::Kind, const char *> keys{
+        {SendWarning::KeyKept, "DWT_Localize_Send_Warning_KeyKept"},
+        {SendWarning::NotAMask, "DWT_Localize_Send_Warning_NotAMask"},
+        {SendWarning::GatewayOutside, "DWT_Localize_Send_Warning_GatewayOutside"},
+        {SendWarning::AddressUnreachable, "DWT_Localize_Send_Warning_AddressUnreachable"}};
+    return localized(QLatin1String(keys[warning.kind])).arg(warning.subject);
+}
+
 QList<SendWarning> warningsOf(const SettingRecord &saved, const SettingRecord &changed) {
     QList<SendWarning> warnings;
     const auto differs = [&](const QString &key) { return saved.value(key) != changed.value(key); };

@@ -18,6 +18,9 @@ struct SendWarning {
     QString subject;  // a network's name as it is shown, or an address
 };
 
+// A warning as a sentence.
+QString wordsOf(const SendWarning &warning);
+
 // The warnings about sending `changed` to a printer that holds `saved`. A category that did not
 // change has none.
 QList<SendWarning> warningsOf(const SettingRecord &saved, const SettingRecord &changed);

@@ -1,0 +1,34 @@
+#include "cli/Interrupt.h"
+
+#include <atomic>
+#include <csignal>
+
+namespace {
+
+// How often the main thread looks, while it waits, whether it is to stop.
+constexpr std::chrono::milliseconds lookInterval{50};
+
+std::atomic<bool> requested{false};
+static_assert(std::atomic<bool>::is_always_lock_free);  // a signal handler writes it
+
+}  // namespace
+
+void Interrupt::watch() {
+    struct sigaction noting {};
+    noting.sa_handler = [](int) { requested = true; };
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) ::sigaction(signal, &noting, nullptr);
+    struct sigaction ignoring {};
+    ignoring.sa_handler = SIG_IGN;
+    for (const int signal : {SIGPIPE, SIGXFSZ}) ::sigaction(signal, &ignoring, nullptr);
+}
+
+bool Interrupt::isRequested() {
+    return requested;
+}
+
+InterruptibleWait::InterruptibleWait() : m_wait([](const QObject *) { return false; }) {
+    m_timer.callOnTimeout([this] {
+        if (Interrupt::isRequested()) m_wait.cancel();
+    });
+    m_timer.start(lookInterval);
+}

@@ -1,0 +1,28 @@
+#include "cli/Passwords.h"
+
+#include <cstdlib>
+
+#include "cli/SettingsFile.h"
+#include "cli/Terminal.h"
+#include "platform/core/Texts.h"
+#include "settings/Wipe.h"
+
+Passwords::~Passwords() {
+    if (m_password) wipe(*m_password);
+}
+
+bool Passwords::load(const QString &file, Fault &fault) {
+    if (!file.isEmpty()) {
+        m_password = readSecret(file, fault);
+        return m_password.has_value();
+    }
+    if (const char *const given = std::getenv(variable)) m_password = QString::fromUtf8(given);
+    return true;
+}
+
+std::optional<QString> Passwords::forPrinter(const QString &printer) {
+    if (!m_password)
+        m_password = Terminal::askPassword(
+            localized(QStringLiteral("DWT_Localize_Cli_AskPassword")).arg(printer));
+    return m_password ? std::optional(ownCopy(*m_password)) : std::nullopt;
+}

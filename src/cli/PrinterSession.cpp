@@ -1,0 +1,168 @@
+#include "cli/PrinterSession.h"
+
+#include "platform/core/Texts.h"
+#include "settings/PrinterWords.h"
+#include "settings/Wipe.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString text(const char *key) {
+    return localized(QLatin1String(key));
+}
+
+// The name by which files know the value that a record holds.
+QString nameOf(const QString &viewKey, const QString &key) {
+    const Setting *const setting = settingOf(viewKey, key);
+    return setting ? setting->name : QString();
+}
+
+QString namesOf(const QList<ItemCode> &codes) {
+    QStringList names;
+    for (const ItemCode code : codes) {
+        const SentItem *const item = sentItem(code);
+        for (const QString &key : item ? item->keys : QStringList())
+            names << nameOf(item->viewKey, key);
+    }
+    return names.join(u", "_s);
+}
+
+}  // namespace
+
+CategoryDictionary listedCategory(const PrinterEntry &entry) {
+    CategoryDictionary category;
+    for (auto i = entry.begin(); i != entry.end(); ++i) category.insert(i.key(), i.value());
+    category.insert(PrinterKey::ConnectionType,
+                    isUSB(entry) ? QStringLiteral("usb") : QStringLiteral("network"));
+    return category;
+}
+
+PrinterSession::PrinterSession(PrinterEntry entry)
+    : m_entry(std::move(entry)), m_manager(DWTDataManager::dataManager(m_entry)) {}
+
+QString PrinterSession::name() const {
+    const QString own =
+        readableText(textValue(m_record.value(DWT_View_Key_Network), DWT_SaveData_Network_Printer));
+    return own.isEmpty() ? listedName(m_entry) : own;
+}
+
+Ending PrinterSession::read(const DWTDataManager::Progress &progress) {
+    const int result = m_manager->setupDataFromPrinter(0, progress);
+    m_record = {{QString(), listedCategory(m_entry)}};
+    for (const Page &page : settingPages())
+        m_record.insert(
+            page.viewKey,
+            m_manager->setupDataToMainView(page.viewKey).value_or(CategoryDictionary()));
+    // What stands in the place of a value that was not told is none.
+    for (const ItemCode code : m_manager->notTold())
+        for (const QString &key : sentItem(code)->keys)
+            m_record[sentItem(code)->viewKey].remove(key);
+    m_record[QString()].insert(PrinterKey::MachineName, name());
+    if (result == ReadResult::Complete) return {};
+    if (result != ReadResult::MissingReply) return notReached();
+    return {NotReached, text("DWT_Localize_Cli_StoppedAnswering").arg(name())};
+}
+
+QStringList PrinterSession::notTold() const {
+    QStringList names;
+    for (const ItemCode code : m_manager->notTold()) names << namesOf({code});
+    return names;
+}
+
+std::optional<QList<SSIDEntry>> PrinterSession::networks(const DWTDataManager::Progress &progress) {
+    return m_manager->SSIDList(progress);
+}
+
+Ending PrinterSession::change(const Plan &plan, const AskPassword &password,
+                              const std::function<bool()> &mayBegin) {
+    for (const Plan::Change &change : plan.changes) {
+        const QString &viewKey = change.setting->viewKey;
+        auto category = m_manager->setupDataFromChangeData(viewKey).value_or(CategoryDictionary());
+        const CategoryDictionary planned = plan.record.value(viewKey);
+        category.insert(change.setting->key, planned.value(change.setting->key));
+        if (viewKey == DWT_View_Key_Password)
+            category.insert(DWT_SaveData_Password_Change,
+                            planned.value(DWT_SaveData_Password_Change));
+        m_manager->setupDataFromMainView(category, viewKey);
+    }
+    if (const Ending login = logIn(password); login.code != Done) return login;
+    if (!mayBegin()) return {Stopped, text("DWT_Localize_Cli_StoppedBefore").arg(name())};
+    m_manager->sendDataToPrinterAndWait();
+    const Ending sent = endingOfSend();
+    return sent.code == Done ? verify(plan) : sent;
+}
+
+// With what the system says of the printer's device.
+Ending PrinterSession::notReached() const {
+    QStringList sentences{text("DWT_Localize_Cli_NotReached").arg(name())};
+    for (const PrinterProblem &problem : m_manager->printerProblems())
+        if (problem.kind == PrinterProblem::NoPermission || problem.kind == PrinterProblem::InUse)
+            sentences << wordsOf(problem);
+    return {NotReached, sentences.join(u' ')};
+}
+
+Ending PrinterSession::logIn(const AskPassword &password) {
+    const int state = m_manager->isPassword();
+    if (state == PasswordState::NotSet) return {};
+    if (state != PasswordState::Set) return notReached();
+    auto given = password();
+    if (!given) return {LoginRefused, text("DWT_Localize_Cli_NoPassword").arg(name())};
+    if (m_manager->connectPrinter() != 0) return notReached();
+    const int login = m_manager->checkLoginPassword(*given);
+    m_manager->disconnectPrinter();
+    wipe(*given);
+    if (login == LoginResult::Accepted) return {};
+    if (login == SettingResult::NoReply) return notReached();
+    return {LoginRefused, text("DWT_Localize_Cli_LoginRefused").arg(name())};
+}
+
+Ending PrinterSession::endingOfSend() const {
+    const SendReport &report = m_manager->sendReport();
+    if (report.isComplete()) return {};
+    if (report.unreached) return notReached();
+    if (report.lost) return {NotReached, text("DWT_Localize_Cli_Lost").arg(name())};
+    if (report.login == SendReport::Login::Refused)
+        return {LoginRefused, text("DWT_Localize_Cli_LoginRefused").arg(name())};
+    if (report.login == SendReport::Login::NoReply) return notReached();
+    QList<ItemCode> refused;
+    for (const auto &[code, result] : report.refused) refused << code;
+    QStringList sentences;
+    if (!refused.isEmpty())
+        sentences << text("DWT_Localize_Cli_Refused").arg(name(), namesOf(refused));
+    if (!report.unclear.isEmpty())
+        sentences << text("DWT_Localize_Cli_Unclear").arg(name(), namesOf(report.unclear));
+    return {NotAccepted, sentences.join(u' ')};
+}
+
+// Everything that a send writes and the printer tells must be as it was sent.
+Ending PrinterSession::verify(const Plan &plan) {
+    const QString called = name();
+    if (const Ending again = read(); again.code != Done)
+        return {NotReached, text("DWT_Localize_Cli_NotVerified").arg(called)};
+    QStringList differences;
+    for (const SentItem &item : sentItems()) {
+        for (const QString &key : item.keys) {
+            const Setting &setting = *settingOf(item.viewKey, key);
+            const CategoryDictionary sent = plan.record.value(item.viewKey),
+                                     held = m_record.value(item.viewKey);
+            if (!m_manager->isTold(key) || !sent.contains(key) ||
+                meansTheSame(setting, sent.value(key), held.value(key)))
+                continue;
+            const QString words = setting.isSecret()
+                                      ? text("DWT_Localize_Cli_SecretDiffers").arg(setting.name)
+                                      : text("DWT_Localize_Cli_Differs")
+                                            .arg(setting.name, valueOrEmpty(setting, sent),
+                                                 valueOrEmpty(setting, held));
+            differences << words;
+        }
+    }
+    const CategoryDictionary password = plan.record.value(DWT_View_Key_Password);
+    if (integerValue(password, DWT_SaveData_Password_Change) != 0 &&
+        m_manager->isPassword() != (textValue(password, DWT_SaveData_Password_Password).isEmpty()
+                                        ? PasswordState::NotSet
+                                        : PasswordState::Set))
+        differences << text("DWT_Localize_Cli_SecretDiffers").arg(u"password.administrator"_s);
+    if (differences.isEmpty()) return {};
+    return {NotAccepted, differences.join(u' ')};
+}

@@ -1,0 +1,252 @@
+#include "cli/SettingsFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+#include <QStringDecoder>
+#include <algorithm>
+#include <iterator>
+#include <limits>
+#include <nlohmann/json.hpp>
+
+#include "platform/core/Texts.h"
+#include "settings/Wipe.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using nlohmann::json;
+
+// The key of an object that names the file of a secret.
+const QString fileKey = u"file"_s;
+
+QString text(const char *key) {
+    return localized(QLatin1String(key));
+}
+
+// The bytes of a text, of which the line of the last one read is known.
+class CountedBytes {
+  public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = char;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const char *;
+    using reference = const char &;
+
+    explicit CountedBytes(const char *at, int *line = nullptr) : m_at(at), m_line(line) {}
+    reference operator*() const { return *m_at; }
+    CountedBytes &operator++() {
+        if (m_line && *m_at == '\n') ++*m_line;
+        ++m_at;
+        return *this;
+    }
+    CountedBytes operator++(int) {
+        const CountedBytes before = *this;
+        ++*this;
+        return before;
+    }
+    bool operator==(const CountedBytes &other) const { return m_at == other.m_at; }
+
+  private:
+    const char *m_at;
+    int *m_line;
+};
+
+// Takes the values of the text as they come.
+class Handler : public nlohmann::json_sax<json> {
+  public:
+    Handler(GivenSettings &result, QString file, const int &line)
+        : m_result(result), m_file(std::move(file)), m_line(line) {}
+
+    bool key(string_t &key) override {
+        const QString &group = m_open.last().name;
+        m_name = QString::fromStdString(key);
+        if (!group.isEmpty()) m_name.prepend(group + u'.');
+        m_nameLine = m_line;
+        if (isUsed() && m_seen.contains(m_name)) addFault(text("DWT_Localize_Cli_Fault_Twice"));
+        m_seen.insert(m_name);
+        return true;
+    }
+    bool null() override { return settingOf(m_name) || isGroup(m_name) ? true : wrongKind(); }
+    bool boolean(bool) override { return wrongKind(); }
+    bool number_float(number_float_t, const string_t &) override { return wrongKind(); }
+    bool binary(binary_t &) override { return wrongKind(); }
+    bool number_integer(number_integer_t number) override {
+        return take([&](const Setting &setting, Fault &fault) {
+            return valueFromNumber(setting, number, fault);
+        });
+    }
+    bool number_unsigned(number_unsigned_t number) override {
+        return number_integer(static_cast<number_integer_t>(
+            std::min<number_unsigned_t>(number, std::numeric_limits<int>::max())));
+    }
+    bool string(string_t &value) override {
+        QString given = QString::fromStdString(value);
+        std::fill(value.begin(), value.end(), '\0');  // it may be a key
+        if (isUsed() && isSecret(m_open.last().name)) {
+            given = QFileInfo(m_file).dir().filePath(given);
+            return takeSecretFile(m_open.last().name, given);
+        }
+        return take([&](const Setting &setting, Fault &fault) -> std::optional<GivenValue> {
+            if (setting.kind != Setting::Kind::Number) return valueFromText(setting, given, fault);
+            fault.text = wordsOfExpected(setting);
+            return {};
+        });
+    }
+    bool start_object(std::size_t) override {
+        const bool used = isUsed() && (m_open.isEmpty() || isGroup(m_name) || isSecret(m_name));
+        if (!used) wrongKind();
+        m_open.append({m_name, used});
+        return true;
+    }
+    bool end_object() override {
+        const Open closed = m_open.takeLast();
+        if (!closed.used || !isSecret(closed.name) || m_seen.contains(fileNameOf(closed.name)))
+            return true;
+        m_name = closed.name;
+        return wrongKind();
+    }
+    bool start_array(std::size_t) override {
+        wrongKind();
+        m_open.append({m_name, false});
+        return true;
+    }
+    bool end_array() override {
+        m_open.removeLast();
+        return true;
+    }
+    bool parse_error(std::size_t, const std::string &, const json::exception &) override {
+        m_result.faults << Fault{m_file, m_line, {}, text("DWT_Localize_Cli_Fault_NotJson")};
+        return false;
+    }
+
+  private:
+    // An object or an array whose end has not come yet.
+    struct Open {
+        QString name;
+        bool used;  // false: what is in it is passed over
+    };
+
+    bool isUsed() const { return m_open.isEmpty() || m_open.last().used; }
+
+    static bool isSecret(const QString &name) {
+        const Setting *const setting = settingOf(name);
+        return setting && setting->isSecret();
+    }
+    static QString fileNameOf(const QString &secret) { return secret + u'.' + fileKey; }
+
+    bool addFault(const QString &words) {
+        m_result.faults << Fault{m_file, m_nameLine, m_name, words};
+        return true;
+    }
+
+    // The value that comes is of a kind that its name does not have.
+    bool wrongKind() {
+        if (!isUsed()) return true;
+        if (m_open.isEmpty() || isGroup(m_name))
+            return addFault(text("DWT_Localize_Cli_Fault_Group"));
+        const Setting *const setting =
+            settingOf(isSecret(m_open.last().name) ? m_open.last().name : m_name);
+        return addFault(setting ? wordsOfExpected(*setting)
+                                : text("DWT_Localize_Cli_Fault_Unknown"));
+    }
+
+    // Takes the value that comes, which `parse` makes of it for the setting of its name.
+    template <typename Parse>
+    bool take(const Parse &parse) {
+        const Setting *const setting = m_open.isEmpty() ? nullptr : settingOf(m_name);
+        if (!isUsed() || !setting) return wrongKind();
+        if (setting->access == Setting::Access::Read) {
+            m_result.readOnly << setting->name;
+            return true;
+        }
+        Fault fault{m_file, m_nameLine, m_name, {}};
+        if (const std::optional<GivenValue> value = parse(*setting, fault))
+            m_result.values << *value;
+        else
+            m_result.faults << fault;
+        return true;
+    }
+
+    bool takeSecretFile(const QString &name, const QString &path) {
+        if (m_name != fileNameOf(name)) return wrongKind();
+        m_name = name;
+        return take([&](const Setting &setting, Fault &fault) -> std::optional<GivenValue> {
+            const auto secret = readSecret(path, fault);
+            return secret ? valueFromText(setting, *secret, fault) : std::nullopt;
+        });
+    }
+
+    GivenSettings &m_result;
+    const QString m_file;
+    const int &m_line;  // of the byte that was read last
+    QString m_name;     // of the value that comes, with its groups: "wired.address.ip"
+    int m_nameLine = 0;
+    QList<Open> m_open;
+    QSet<QString> m_seen;
+};
+
+}  // namespace
+
+std::optional<QByteArray> readInput(const QString &path, Fault &fault) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        fault.text = text("DWT_Localize_Cli_Fault_Unreadable").arg(path, file.errorString());
+        return {};
+    }
+    QByteArray bytes;
+    // A pipe hands over what it has at the moment.
+    while (bytes.size() <= longestInput) {
+        const QByteArray more = file.read(longestInput + 1 - bytes.size());
+        if (more.isEmpty()) break;
+        bytes += more;
+    }
+    if (file.error() != QFileDevice::NoError)
+        fault.text = text("DWT_Localize_Cli_Fault_Unreadable").arg(path, file.errorString());
+    else if (bytes.size() > longestInput)
+        fault.text = text("DWT_Localize_Cli_Fault_TooLong").arg(path).arg(longestInput >> 20);
+    else
+        return bytes;
+    return {};
+}
+
+std::optional<QString> readSecret(const QString &path, Fault &fault) {
+    auto bytes = readInput(path, fault);
+    if (!bytes) return {};
+    qsizetype end = bytes->indexOf('\n');
+    if (end < 0) end = bytes->size();
+    if (end > 0 && bytes->at(end - 1) == '\r') --end;
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
+    const QString secret = decoder.decode(QByteArrayView(*bytes).first(end));
+    wipe(*bytes);
+    if (!decoder.hasError()) return secret;
+    fault.text = text("DWT_Localize_Cli_Fault_NotUtf8");
+    return {};
+}
+
+QList<Fault> GivenSettings::allFaults() const {
+    QList<Fault> all = faults;
+    for (const GivenValue &value : values)
+        if (!value.place.text.isEmpty()) all << value.place;
+    std::stable_sort(all.begin(), all.end(),
+                     [](const Fault &a, const Fault &b) { return a.line < b.line; });
+    return all;
+}
+
+GivenSettings settingsFromJson(const QByteArray &bytes, const QString &file) {
+    GivenSettings result;
+    int line = 1;
+    Handler handler(result, file, line);
+    const char *const begin = bytes.constData();
+    json::sax_parse(CountedBytes(begin, &line), CountedBytes(begin + bytes.size()), &handler);
+    return result;
+}
+
+GivenSettings settingsFromFile(const QString &path) {
+    Fault fault;
+    const auto bytes = readInput(path, fault);
+    if (bytes) return settingsFromJson(*bytes, path);
+    return {{}, {fault}, {}};
+}

@@ -1,0 +1,225 @@
+#include "cli/Table.h"
+
+#include <csv.h>
+
+#include <QHash>
+#include <QStringDecoder>
+#include <algorithm>
+
+#include "platform/core/Texts.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString text(const char *key) {
+    return localized(QLatin1String(key));
+}
+
+struct Line {
+    int number;  // where it begins
+    QStringList cells;
+};
+
+// The lines of CSV text that is UTF-8; ends before the first that is not CSV, which `fault` tells.
+class Lines {
+  public:
+    static QList<Line> of(const QByteArray &csv, Fault &fault) {
+        Lines lines;
+        csv_parser parser;
+        csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI);
+        const QByteArray first = csv.left(csv.indexOf('\n'));
+        if (!first.contains(',') && first.contains(';')) csv_set_delim(&parser, ';');
+        bool whole = true;
+        for (qsizetype i = 0; i < csv.size() && whole; ++i) {
+            const char c = csv[i];
+            if (lines.m_begins && c != '\n' && c != '\r') lines.begin();
+            whole = csv_parse(&parser, &c, 1, cell, end, &lines) == 1;
+            if (c == '\n') ++lines.m_number;
+        }
+        if (whole) whole = csv_fini(&parser, cell, end, &lines) == 0;
+        csv_free(&parser);
+        if (whole) return lines.m_lines;
+        if (!lines.m_begins) lines.m_lines.removeLast();
+        fault.line = lines.m_number;
+        fault.text = text("DWT_Localize_Cli_Fault_NotCsv");
+        return lines.m_lines;
+    }
+
+  private:
+    static void cell(void *bytes, size_t size, void *self) {
+        auto &lines = *static_cast<Lines *>(self);
+        if (lines.m_begins) lines.begin();
+        lines.m_lines.last().cells
+            << QString::fromUtf8(static_cast<const char *>(bytes), static_cast<qsizetype>(size));
+    }
+    static void end(int, void *self) { static_cast<Lines *>(self)->m_begins = true; }
+
+    void begin() {
+        m_lines.append(Line{m_number, {}});
+        m_begins = false;
+    }
+
+    QList<Line> m_lines;
+    int m_number = 1;
+    bool m_begins = true;  // what comes is the first of its line
+};
+
+// What a column holds: a setting, or by what a printer is known.
+struct Column {
+    QString name;
+    const Setting *setting = nullptr;
+    QString TableRow::*known = nullptr;
+};
+
+constexpr std::pair<QLatin1StringView, QString TableRow::*> knownBy[] = {
+    {"mac"_L1, &TableRow::mac}, {"serial"_L1, &TableRow::serial}, {"name"_L1, &TableRow::name}};
+
+// Makes the rows of the lines of a table.
+class Reader {
+  public:
+    Reader(Table &table, QString file) : m_table(table), m_file(std::move(file)) {}
+
+    void readColumns(const Line &line) {
+        for (const QString &name : line.cells) {
+            Column column{name, settingOf(name)};
+            for (const auto &[known, member] : knownBy)
+                if (name == known) column.known = member;
+            m_anyKnown |= column.known != nullptr;
+            if (!column.setting && !column.known)
+                addFault(line.number, name, text("DWT_Localize_Cli_Fault_UnknownColumn"));
+            else if (column.setting && column.setting->access == Setting::Access::Read)
+                addFault(line.number, name, text("DWT_Localize_Cli_Fault_ReadOnly"));
+            if (std::any_of(m_columns.begin(), m_columns.end(),
+                            [&](const Column &other) { return other.name == name; }))
+                addFault(line.number, name, text("DWT_Localize_Cli_Fault_Twice"));
+            m_columns << column;
+        }
+        if (!m_anyKnown) addFault(line.number, {}, text("DWT_Localize_Cli_Fault_NoKnownColumn"));
+    }
+
+    // A row without any cell that is filled is none.
+    void readRow(const Line &line) {
+        if (std::all_of(line.cells.begin(), line.cells.end(),
+                        [](const QString &cell) { return cell.isEmpty(); }))
+            return;
+        if (line.cells.size() != m_columns.size()) {
+            addFault(
+                line.number, {},
+                text("DWT_Localize_Cli_Fault_Cells")
+                    .arg(QString::number(m_columns.size()), QString::number(line.cells.size())));
+            return;
+        }
+        TableRow row{line.number, {}, {}, {}, {}};
+        for (qsizetype i = 0; i < m_columns.size(); ++i)
+            if (!line.cells[i].isEmpty()) readCell(row, m_columns[i], line.cells[i]);
+        checkPrinter(row);
+        m_table.rows << row;
+    }
+
+  private:
+    void addFault(int line, const QString &name, const QString &words) {
+        m_table.faults << Fault{m_file, line, name, words, true};
+    }
+
+    void readCell(TableRow &row, const Column &column, const QString &cell) {
+        if (column.known) {
+            row.*column.known = column.known == &TableRow::mac ? macDigits(cell) : cell;
+            if ((row.*column.known).isEmpty())
+                addFault(row.line, column.name, text("DWT_Localize_Cli_Fault_Mac"));
+        } else if (column.setting && column.setting->access != Setting::Access::Read) {
+            Fault fault{m_file, row.line, column.name, {}, true};
+            const auto value = valueFromText(*column.setting, cell, fault);
+            if (value && value->place.text.isEmpty()) {
+                row.values << *value;
+                checkAddress(*value);
+            } else {
+                m_table.faults << (value ? value->place : fault);
+            }
+        }
+    }
+
+    // Finds out whether a row before has the same of a kind: `kind` and `value`.
+    void checkOnce(const QString &kind, const QString &value, const Fault &place, const char *key) {
+        const auto seen = m_seen.constFind({kind, value});
+        if (seen == m_seen.constEnd())
+            m_seen.insert({kind, value}, place.line);
+        else
+            addFault(place.line, place.name, text(key).arg(*seen));
+    }
+
+    // Of the addresses of all interfaces, each may be there once.
+    void checkAddress(const GivenValue &value) {
+        if (value.setting->name.endsWith(u".address.ip"_s))
+            checkOnce(u"address"_s, std::get<QStringList>(value.value).join(u'.'), value.place,
+                      "DWT_Localize_Cli_Fault_SameAddress");
+    }
+
+    void checkPrinter(const TableRow &row) {
+        for (const auto &[name, member] : knownBy)
+            if (!(row.*member).isEmpty())
+                checkOnce(name, row.*member, {m_file, row.line, name, {}, true},
+                          "DWT_Localize_Cli_Fault_SamePrinter");
+        if (m_anyKnown && row.printer().isEmpty())
+            addFault(row.line, {}, text("DWT_Localize_Cli_Fault_NoPrinter"));
+    }
+
+    Table &m_table;
+    const QString m_file;
+    QList<Column> m_columns;
+    bool m_anyKnown = false;  // whether a column tells which printer a row is for
+    QHash<std::pair<QString, QString>, int> m_seen;  // the line of the first
+};
+
+}  // namespace
+
+QString TableRow::printer() const {
+    if (!mac.isEmpty()) return macText(mac);
+    return serial.isEmpty() ? name : serial;
+}
+
+QString macDigits(const QString &text) {
+    QString digits = text.toUpper();
+    const bool hasMarks = digits.size() == 17;
+    for (qsizetype i = 14; hasMarks && i > 0; i -= 3)
+        if (digits[i] == u':' || digits[i] == u'-') digits.remove(i, 1);
+    const bool isMac =
+        digits.size() == 12 && Rules::isText(digits, Rules::hexadecimalCharacters, 12, 12, true);
+    return isMac ? digits : QString();
+}
+
+Table tableFromCsv(const QByteArray &bytes, const QString &file) {
+    Table table;
+    Fault fault{file, 0, {}, {}};
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
+    const QString decoded = decoder.decode(bytes);
+    if (decoder.hasError()) {
+        fault.text = text("DWT_Localize_Cli_Fault_NotUtf8");
+        table.faults << fault;
+        return table;
+    }
+    const QList<Line> lines = Lines::of(decoded.toUtf8(), fault);
+    Reader reader(table, file);
+    if (!lines.isEmpty()) reader.readColumns(lines.first());
+    for (qsizetype i = 1; i < lines.size(); ++i) reader.readRow(lines[i]);
+    if (table.rows.isEmpty() && fault.text.isEmpty() && table.faults.isEmpty())
+        fault.text = text("DWT_Localize_Cli_Fault_NoRows");
+    if (!fault.text.isEmpty()) table.faults << fault;
+    return table;
+}
+
+Table tableFromFile(const QString &path) {
+    Fault fault;
+    const auto bytes = readInput(path, fault);
+    if (bytes) return tableFromCsv(*bytes, path);
+    return {{}, {fault}};
+}
+
+QList<GivenValue> laidOver(const QList<GivenValue> &below, const QList<GivenValue> &above) {
+    QList<GivenValue> values;
+    for (const GivenValue &value : below)
+        if (std::none_of(above.begin(), above.end(),
+                         [&](const GivenValue &other) { return other.setting == value.setting; }))
+            values << value;
+    return values + above;
+}

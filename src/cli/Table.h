@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include "cli/SettingsFile.h"
+
+// The printers of a table, a row each, and what is to be set in each.
+struct TableRow {
+    int line = 0;  // where it begins
+    // Which printer it is for: the first of these that is filled counts.
+    QString mac;  // 12 capital hexadecimal digits
+    QString serial;
+    QString name;  // the printer's own
+    QList<GivenValue> values;
+
+    // What the row calls its printer.
+    QString printer() const;
+};
+
+struct Table {
+    QList<TableRow> rows;
+    QList<Fault> faults;  // broken rules included
+};
+
+// Reads a table from CSV text (RFC 4180; UTF-8, with or without a mark in front; commas or, where
+// the first line has no comma, semicolons). The first line names the columns: "mac", "serial",
+// "name" and settings. An empty cell gives nothing. Takes any bytes.
+Table tableFromCsv(const QByteArray &csv, const QString &file);
+
+// The same from a file.
+Table tableFromFile(const QString &path);
+
+// The values of a row laid over those of a template.
+QList<GivenValue> laidOver(const QList<GivenValue> &below, const QList<GivenValue> &above);
+
+// The 12 digits of a MAC address that is written with or without colons or hyphens; empty for
+// anything else.
+QString macDigits(const QString &text);

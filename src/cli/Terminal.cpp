@@ -1,0 +1,171 @@
+#include "cli/Terminal.h"
+
+#include <bsd/readpassphrase.h>
+#include <unistd.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cwchar>
+
+#include "cli/Interrupt.h"
+#include "platform/core/Texts.h"
+#include "settings/PrinterWords.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Longest password or answer that is typed, in bytes.
+constexpr size_t longestAnswer = 256;
+
+const QString programName = u"network-setting"_s;
+
+void put(std::FILE *stream, const QString &text) {
+    std::fputs(text.toLocal8Bit().constData(), stream);
+}
+
+// In columns of the terminal, of which some characters take two.
+int widthOf(const QString &text) {
+    const std::wstring wide = text.toStdWString();
+    return std::max(0, ::wcswidth(wide.c_str(), wide.size()));
+}
+
+QString wordsForTerminal(const PrinterProblem &problem) {
+    if (problem.kind == PrinterProblem::InUse)
+        return localized(u"DWT_Localize_Cli_InUse"_s).arg(shownText(problem.subject));
+    return wordsOf(problem);
+}
+
+}  // namespace
+
+QString wordsOf(const Fault &fault) {
+    QStringList place;
+    if (fault.line > 0) place << localized(u"DWT_Localize_Cli_Place_Line"_s).arg(fault.line);
+    const QString quoted = u'"' + fault.name + u'"';
+    if (!fault.name.isEmpty())
+        place << (fault.isColumn ? localized(u"DWT_Localize_Cli_Place_Column"_s).arg(quoted)
+                                 : quoted);
+    QStringList parts;
+    if (!fault.file.isEmpty()) parts << fault.file;
+    if (!place.isEmpty()) parts << place.join(u", "_s);
+    return (parts << fault.text).join(u": "_s);
+}
+
+void Terminal::print(const QString &line) {
+    showProgress({});
+    put(stdout, terminalText(line) + u'\n');
+}
+
+void Terminal::print(const QList<QStringList> &rows) {
+    QList<int> widths;
+    for (const QStringList &row : rows)
+        for (qsizetype i = 0; i < row.size(); ++i) {
+            if (widths.size() <= i) widths << 0;
+            widths[i] = std::max(widths[i], widthOf(terminalText(row[i])));
+        }
+    for (const QStringList &row : rows) {
+        QString line;
+        int end = 0;  // of the cells so far
+        for (qsizetype i = 0; i < row.size(); ++i) {
+            const QString cell = terminalText(row[i]);
+            line += cell;
+            end += widths[i] + 2;
+            if (i + 1 < row.size()) line += QString(std::max(2, end - widthOf(line)), u' ');
+        }
+        while (line.endsWith(u' ')) line.chop(1);
+        print(line);
+    }
+}
+
+void Terminal::print(const QJsonValue &value) {
+    const QJsonDocument document =
+        value.isArray() ? QJsonDocument(value.toArray()) : QJsonDocument(value.toObject());
+    std::fputs(document.toJson().constData(), stdout);
+}
+
+bool Terminal::flush() {
+    return std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+}
+
+ExitCode Terminal::fail(ExitCode code, const QString &text, const QStringList &candidates) {
+    if (m_json) {
+        QJsonObject error{{u"code"_s, code}, {u"message"_s, text}};
+        if (!candidates.isEmpty())
+            error.insert(u"candidates"_s, QJsonArray::fromStringList(candidates));
+        printError(QString::fromUtf8(QJsonDocument(error).toJson(QJsonDocument::Compact)));
+    } else {
+        printError(programName + u": "_s + terminalText(text));
+        for (const QString &candidate : candidates) printError(u"  "_s + terminalText(candidate));
+    }
+    return code;
+}
+
+ExitCode Terminal::fail(const QList<Fault> &faults) {
+    for (const Fault &fault : faults) {
+        if (!m_json) {
+            printError(terminalText(wordsOf(fault)));
+            continue;
+        }
+        QJsonObject error{{u"code"_s, InputRefused}, {u"message"_s, fault.text}};
+        if (!fault.file.isEmpty()) error.insert(u"file"_s, fault.file);
+        if (fault.line > 0) error.insert(u"line"_s, fault.line);
+        if (!fault.name.isEmpty()) error.insert(u"name"_s, fault.name);
+        printError(QString::fromUtf8(QJsonDocument(error).toJson(QJsonDocument::Compact)));
+    }
+    return InputRefused;
+}
+
+void Terminal::note(const QString &text) {
+    if (m_json)
+        printError(QString::fromUtf8(
+            QJsonDocument(QJsonObject{{u"note"_s, text}}).toJson(QJsonDocument::Compact)));
+    else
+        printError(terminalText(text));
+}
+
+void Terminal::note(const QList<PrinterProblem> &problems) {
+    for (const PrinterProblem &problem : problems) note(wordsForTerminal(problem));
+}
+
+void Terminal::showProgress(const QString &text) {
+    if (!::isatty(STDERR_FILENO) || (text.isEmpty() && !m_progress)) return;
+    put(stderr, u"\r\x1b[K"_s + terminalText(text));
+    m_progress = !text.isEmpty();
+}
+
+bool Terminal::canAsk() {
+    return ::isatty(STDIN_FILENO) != 0;
+}
+
+bool Terminal::confirm(const QString &question) {
+    showProgress({});
+    flush();
+    put(stderr, question + u' ');
+    std::array<char, longestAnswer> answer{};
+    if (Interrupt::isRequested() || !std::fgets(answer.data(), answer.size(), stdin)) {
+        put(stderr, u"\n"_s);
+        return false;
+    }
+    const QString said = QString::fromLocal8Bit(answer.data()).trimmed().toLower();
+    return said == u"y" || said == localized(u"DWT_Localize_Cli_Yes"_s);
+}
+
+std::optional<QString> Terminal::askPassword(const QString &question) {
+    std::array<char, longestAnswer> answer{};
+    const QByteArray asked = (terminalText(question) + u' ').toLocal8Bit();
+    const bool answered = ::readpassphrase(asked.constData(), answer.data(), answer.size(),
+                                           RPP_ECHO_OFF | RPP_REQUIRE_TTY) != nullptr;
+    const QString password = QString::fromUtf8(answer.data());
+    ::explicit_bzero(answer.data(), answer.size());
+    return answered ? std::optional(password) : std::nullopt;
+}
+
+void Terminal::printError(const QString &line) {
+    showProgress({});
+    flush();  // so that the two streams stay in order on one terminal
+    put(stderr, line + u'\n');
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QJsonValue>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+#include "cli/ExitCode.h"
+#include "cli/Values.h"
+#include "zmlib/ZMLib.h"
+
+// What the program tells on its standard output and standard error, and what it asks. What comes
+// from outside (names, files) is shown without control characters. Main thread.
+class Terminal {
+  public:
+    // With `json`, errors are objects in JSON, one a line.
+    explicit Terminal(bool json) : m_json(json) {}
+
+    // --- Results, on standard output ---
+
+    void print(const QString &line);
+    // Rows of cells in columns, one wide enough for its cells each.
+    void print(const QList<QStringList> &rows);
+    void print(const QJsonValue &value);
+    // Hands what was printed to the system. False when it was not taken.
+    static bool flush();
+
+    // --- What happens beside, on standard error ---
+
+    // An error, and the code with which the program will end; `candidates` are what could have been
+    // meant. The code, for the caller to return.
+    ExitCode fail(ExitCode code, const QString &text, const QStringList &candidates = {});
+    // Faults of input. Always InputRefused.
+    ExitCode fail(const QList<Fault> &faults);
+    // What is no error.
+    void note(const QString &text);
+    void note(const QList<PrinterProblem> &problems);
+    // What is being done at the moment; only on a terminal. Replaced by what is told next.
+    void showProgress(const QString &text);
+
+    // --- Questions ---
+
+    // Whether there is a person to ask.
+    static bool canAsk();
+    // Whether the person says yes; anything else is no.
+    bool confirm(const QString &question);
+    // A password, typed without being shown; nothing when there is no terminal, or no answer.
+    static std::optional<QString> askPassword(const QString &question);
+
+  private:
+    void printError(const QString &line);
+
+    const bool m_json;
+    bool m_progress = false;  // a line of progress stands on the terminal
+};
+
+// A fault with its place: "table.csv: line 7, column "address": ...".
+QString wordsOf(const Fault &fault);

@@ -1,0 +1,10 @@
+#include <QCoreApplication>
+
+#include "cli/Commands.h"
+#include "platform/core/Texts.h"
+
+int main(int argc, char **argv) {
+    const QCoreApplication application(argc, argv);
+    installTexts();
+    return runCommandLine(QCoreApplication::arguments());
+}
