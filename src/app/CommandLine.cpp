@@ -1,8 +1,10 @@
 #include "app/CommandLine.h"
 
 #include <QCoreApplication>
+#include <cstdio>
 #include <cstring>
 
+#include "link/Binding.h"
 #include "platform/core/Texts.h"
 
 std::optional<QString> commandLineAnswer(int argc, char **argv) {
@@ -21,4 +23,13 @@ std::optional<QString> commandLineAnswer(int argc, char **argv) {
 void applyOptions(int argc, char **argv) {
     for (int i = 1; i < argc; ++i)
         if (std::strcmp(argv[i], "--demo") == 0) qputenv("ZMLIB_PRINTERS", "demo");
+}
+
+void sayProblemsOfCatalogue() {
+    if (!listsCatalogue()) return;
+    const auto library = installedLibrary();
+    library->ZMCreatePrinterURI();
+    for (const PrinterProblem &problem : library->problems())
+        if (problem.kind == PrinterProblem::BadFile)
+            std::fprintf(stderr, "%s\n", qUtf8Printable(terminalText(problem.subject)));
 }

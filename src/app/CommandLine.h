@@ -9,3 +9,6 @@ std::optional<QString> commandLineAnswer(int argc, char **argv);
 
 // Takes up what else is asked for: "--demo" lists the demo printers, as ZMLIB_PRINTERS=demo does.
 void applyOptions(int argc, char **argv);
+
+// Says on standard error what is wrong with the catalogue that the environment names, if any.
+void sayProblemsOfCatalogue();

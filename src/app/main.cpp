@@ -9,5 +9,8 @@ int main(int argc, char **argv) {
         return 0;
     }
     applyOptions(argc, argv);
-    return Application::main(argc, argv, [] { return make<DWTPrinterSelector>(); });
+    return Application::main(argc, argv, [] {
+        sayProblemsOfCatalogue();
+        return make<DWTPrinterSelector>();
+    });
 }

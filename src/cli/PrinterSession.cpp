@@ -1,6 +1,7 @@
 #include "cli/PrinterSession.h"
 
 #include "platform/core/Texts.h"
+#include "platform/core/Waiting.h"
 #include "settings/PrinterWords.h"
 #include "settings/Wipe.h"
 
@@ -64,6 +65,15 @@ Ending PrinterSession::read(const DWTDataManager::Progress &progress) {
     return {NotReached, text("DWT_Localize_Cli_StoppedAnswering").arg(name())};
 }
 
+Ending PrinterSession::readWhenReady(const std::function<bool()> &goOn) {
+    Ending ending = read();
+    for (int i = 1; i < readTries && ending.code != Done && goOn(); ++i) {
+        waitFor(readPause);
+        ending = read();
+    }
+    return ending;
+}
+
 QStringList PrinterSession::notTold() const {
     QStringList names;
     for (const ItemCode code : m_manager->notTold()) names << namesOf({code});
@@ -86,8 +96,9 @@ Ending PrinterSession::change(const Plan &plan, const AskPassword &password,
                             planned.value(DWT_SaveData_Password_Change));
         m_manager->setupDataFromMainView(category, viewKey);
     }
-    if (const Ending login = logIn(password); login.code != Done) return login;
+    const Ending login = logIn(password);
     if (!mayBegin()) return {Stopped, text("DWT_Localize_Cli_StoppedBefore").arg(name())};
+    if (login.code != Done) return login;
     m_manager->sendDataToPrinterAndWait();
     const Ending sent = endingOfSend();
     return sent.code == Done ? verify(plan) : sent;
@@ -138,7 +149,7 @@ Ending PrinterSession::endingOfSend() const {
 // Everything that a send writes and the printer tells must be as it was sent.
 Ending PrinterSession::verify(const Plan &plan) {
     const QString called = name();
-    if (const Ending again = read(); again.code != Done)
+    if (const Ending again = readWhenReady(); again.code != Done)
         return {NotReached, text("DWT_Localize_Cli_NotVerified").arg(called)};
     QStringList differences;
     for (const SentItem &item : sentItems()) {
@@ -146,7 +157,7 @@ Ending PrinterSession::verify(const Plan &plan) {
             const Setting &setting = *settingOf(item.viewKey, key);
             const CategoryDictionary sent = plan.record.value(item.viewKey),
                                      held = m_record.value(item.viewKey);
-            if (!m_manager->isTold(key) || !sent.contains(key) ||
+            if (!item.told || !sent.contains(key) ||
                 meansTheSame(setting, sent.value(key), held.value(key)))
                 continue;
             const QString words = setting.isSecret()

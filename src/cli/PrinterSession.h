@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -27,6 +28,11 @@ class PrinterSession {
 
     // Reads every setting. Anything but Done says why not all could be read; what could is there.
     Ending read(const DWTDataManager::Progress &progress = {});
+    // The same for a printer that may not be ready yet, since it was plugged in or changed just
+    // now: up to readTries times, readPause apart, until `goOn` says no.
+    static constexpr int readTries = 3;
+    static constexpr std::chrono::milliseconds readPause{500};
+    Ending readWhenReady(const std::function<bool()> &goOn = [] { return true; });
     // What the printer told, and what the list knows of it (without a category).
     const SettingRecord &record() const { return m_record; }
     // The labels of what it was asked for and did not tell.

@@ -146,7 +146,7 @@ void Provision::work(const PrinterEntry &entry) {
 }
 
 Provision::Outcome Provision::provision(PrinterSession &session) {
-    const Ending read = session.read();
+    const Ending read = session.readWhenReady([this] { return !m_stopping.load(); });
     if (read.code != Done) return {read.code, wordOf(read.code), read.text};
     Outcome outcome;
     MainThread::callAndWait([&] { outcome = claimRow(session); });

@@ -61,9 +61,8 @@ class Handler : public nlohmann::json_sax<json> {
         : m_result(result), m_file(std::move(file)), m_line(line) {}
 
     bool key(string_t &key) override {
-        const QString &group = m_open.last().name;
         m_name = QString::fromStdString(key);
-        if (!group.isEmpty()) m_name.prepend(group + u'.');
+        if (!group().isEmpty()) m_name.prepend(group() + u'.');
         m_nameLine = m_line;
         if (isUsed() && m_seen.contains(m_name)) addFault(text("DWT_Localize_Cli_Fault_Twice"));
         m_seen.insert(m_name);
@@ -85,9 +84,9 @@ class Handler : public nlohmann::json_sax<json> {
     bool string(string_t &value) override {
         QString given = QString::fromStdString(value);
         std::fill(value.begin(), value.end(), '\0');  // it may be a key
-        if (isUsed() && isSecret(m_open.last().name)) {
+        if (isUsed() && isSecret(group())) {
             given = QFileInfo(m_file).dir().filePath(given);
-            return takeSecretFile(m_open.last().name, given);
+            return takeSecretFile(group(), given);
         }
         return take([&](const Setting &setting, Fault &fault) -> std::optional<GivenValue> {
             if (setting.kind != Setting::Kind::Number) return valueFromText(setting, given, fault);
@@ -129,6 +128,8 @@ class Handler : public nlohmann::json_sax<json> {
         bool used;  // false: what is in it is passed over
     };
 
+    // The name of the innermost open object; empty for the outermost, and outside of it.
+    QString group() const { return m_open.isEmpty() ? QString() : m_open.last().name; }
     bool isUsed() const { return m_open.isEmpty() || m_open.last().used; }
 
     static bool isSecret(const QString &name) {
@@ -147,8 +148,7 @@ class Handler : public nlohmann::json_sax<json> {
         if (!isUsed()) return true;
         if (m_open.isEmpty() || isGroup(m_name))
             return addFault(text("DWT_Localize_Cli_Fault_Group"));
-        const Setting *const setting =
-            settingOf(isSecret(m_open.last().name) ? m_open.last().name : m_name);
+        const Setting *const setting = settingOf(isSecret(group()) ? group() : m_name);
         return addFault(setting ? wordsOfExpected(*setting)
                                 : text("DWT_Localize_Cli_Fault_Unknown"));
     }

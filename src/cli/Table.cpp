@@ -35,7 +35,8 @@ class Lines {
             const char c = csv[i];
             if (lines.m_begins && c != '\n' && c != '\r') lines.begin();
             whole = csv_parse(&parser, &c, 1, cell, end, &lines) == 1;
-            if (c == '\n') ++lines.m_number;
+            const bool isPair = c == '\r' && csv.mid(i + 1, 1) == "\n";
+            if (c == '\n' || (c == '\r' && !isPair)) ++lines.m_number;
         }
         if (whole) whole = csv_fini(&parser, cell, end, &lines) == 0;
         csv_free(&parser);
@@ -155,13 +156,13 @@ class Reader {
                       "DWT_Localize_Cli_Fault_SameAddress");
     }
 
+    // Only the first that is filled tells which printer it is.
     void checkPrinter(const TableRow &row) {
         for (const auto &[name, member] : knownBy)
             if (!(row.*member).isEmpty())
-                checkOnce(name, row.*member, {m_file, row.line, name, {}, true},
-                          "DWT_Localize_Cli_Fault_SamePrinter");
-        if (m_anyKnown && row.printer().isEmpty())
-            addFault(row.line, {}, text("DWT_Localize_Cli_Fault_NoPrinter"));
+                return checkOnce(name, row.*member, {m_file, row.line, name, {}, true},
+                                 "DWT_Localize_Cli_Fault_SamePrinter");
+        if (m_anyKnown) addFault(row.line, {}, text("DWT_Localize_Cli_Fault_NoPrinter"));
     }
 
     Table &m_table;

@@ -1,9 +1,7 @@
 #include "link/Binding.h"
 
-#include <cstdio>
 #include <mutex>
 
-#include "platform/core/Texts.h"
 #include "zmlib/CatalogueSource.h"
 #include "zmlib/NetworkSource.h"
 #include "zmlib/UsbSource.h"
@@ -20,10 +18,7 @@ std::shared_ptr<ZMLib> libraryOfEnvironment() {
         sources.push_back(std::make_unique<NetworkSource>());
         return std::make_shared<PrinterLibrary>(std::move(sources));
     }
-    Catalogue catalogue = catalogueFromEnvironment();
-    for (const QString &problem : std::as_const(catalogue.problems))
-        std::fprintf(stderr, "%s\n", qUtf8Printable(terminalText(problem)));
-    return catalogueLibrary(std::move(catalogue));
+    return catalogueLibrary(catalogueFromEnvironment());
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 
 // The communication library that every link calls. Until one is installed it lists the real
 // printers; with the environment variable ZMLIB_PRINTERS those of a catalogue instead
-// (zmlib/Catalogue.h), and what is wrong with that catalogue is said once on standard error.
+// (zmlib/Catalogue.h).
 std::shared_ptr<ZMLib> installedLibrary();
 
 // Whether that first one lists a catalogue: its printers neither come nor go.

@@ -1,0 +1,124 @@
+// Runs the command line and prints the medians of its process time (user and system) and of its
+// duration: for its help, for showing a demo printer, and for provisioning 40 printers over TCP
+// that answer in 2 ms.
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <vector>
+
+#include "support/PrinterServerThread.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int rounds = 51;
+constexpr int provisionRounds = 5;
+constexpr int printerCount = 40;
+
+struct Cost {
+    double process;   // ms of the processor
+    double duration;  // ms
+};
+
+double childTime() {
+    rusage usage{};
+    ::getrusage(RUSAGE_CHILDREN, &usage);
+    const auto ms = [](const timeval &time) {
+        return double(time.tv_sec) * 1e3 + double(time.tv_usec) / 1e3;
+    };
+    return ms(usage.ru_utime) + ms(usage.ru_stime);
+}
+
+Cost runOnce(const QStringList &arguments, const QString &printers) {
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"ZMLIB_PRINTERS"_s, printers);
+    process.setProcessEnvironment(environment);
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    const double before = childTime();
+    QElapsedTimer clock;
+    clock.start();
+    process.start(QCoreApplication::applicationDirPath() + u"/../src/cli/network-setting"_s,
+                  arguments);
+    process.waitForFinished(-1);
+    const double duration = double(clock.nsecsElapsed()) / 1e6;
+    if (process.exitCode() != 0) qFatal("ended with %d", process.exitCode());
+    return {childTime() - before, duration};
+}
+
+Cost median(const QStringList &arguments, const QString &printers, int count = rounds) {
+    std::vector<double> process, duration;
+    for (int i = 0; i < count; ++i) {
+        const Cost cost = runOnce(arguments, printers);
+        process.push_back(cost.process);
+        duration.push_back(cost.duration);
+    }
+    const auto middle = [](std::vector<double> &values) {
+        std::sort(values.begin(), values.end());
+        return values[values.size() / 2];
+    };
+    return {middle(process), middle(duration)};
+}
+
+void print(const char *what, const Cost &cost) {
+    std::printf("%s: %.1f ms process time, %.1f ms\n", what, cost.process, cost.duration);
+}
+
+void write(const QString &path, const QByteArray &bytes) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) qFatal("%s cannot be written", qPrintable(path));
+    file.write(bytes);
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    const QCoreApplication application(argc, argv);
+    const Cost help = median({u"list"_s, u"--help"_s}, u"demo"_s);
+    const Cost show = median({u"show"_s, u"virtual://packing-desk"_s}, u"demo"_s);
+    print("list --help", help);
+    print("show, a demo printer", show);
+    std::printf("show above list --help: %.1f ms process time\n", show.process - help.process);
+
+    std::vector<std::unique_ptr<PrinterServerThread>> servers;
+    QJsonArray entries;
+    for (int i = 0; i < printerCount; ++i) {
+        Profile profile = *profileFromJson({{u"faults"_s, QJsonObject{{u"delay"_s, 2}}}}).profile;
+        servers.push_back(std::make_unique<PrinterServerThread>(
+            std::make_shared<VirtualPrinter>(std::move(profile))));
+        entries << QJsonObject{{u"DeviceURI"_s, servers.back()->uri()},
+                               {u"ConnectionType"_s, u"USB"_s},
+                               {u"ProductName"_s, u"Larkfield L200"_s},
+                               {u"SerialNumber"_s, u"S%1"_s.arg(i)}};
+    }
+    const QTemporaryDir folder;
+    const QString catalogue = folder.filePath(u"catalogue.json"_s);
+    const QString table = folder.filePath(u"table.csv"_s);
+    write(catalogue, QJsonDocument(QJsonObject{{u"printers"_s, entries}}).toJson());
+    std::vector<Cost> costs;
+    for (int round = 0; round < provisionRounds; ++round) {
+        QByteArray rows = "serial,names.printer,wired.address.ip\n";
+        for (int i = 0; i < printerCount; ++i)
+            rows += u"S%1,Desk-%2-%1,10.0.%2.%3\n"_s.arg(i).arg(round).arg(i + 1).toLatin1();
+        write(table, rows);
+        costs.push_back(runOnce({u"provision"_s, table}, catalogue));
+    }
+    std::sort(costs.begin(), costs.end(),
+              [](const Cost &a, const Cost &b) { return a.duration < b.duration; });
+    print("provision, 40 printers", costs[costs.size() / 2]);
+    return 0;
+}

@@ -1,0 +1,269 @@
+// The real program, on processes of virtual-printer.
+
+#include <fcntl.h>
+#include <pty.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "cli/ExitCode.h"
+#include "cli/Programs.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QByteArray protectedPrinter = R"({"password": "open123"})";
+
+QJsonObject jsonOf(const QByteArray &bytes) {
+    return QJsonDocument::fromJson(bytes).object();
+}
+
+}  // namespace
+
+TEST(Commands, ListsWhatTheWindowLists) {
+    Printers printers(
+        {R"({"items": {"0x1006": "Desk"}})", R"({"faults": {"refuseConnection": true}})"});
+    printers.add({{PrinterKey::DeviceURI, u"tcp://127.0.0.1:1"_s},
+                  {PrinterKey::ConnectionType, PrinterConnection::Network},
+                  {PrinterKey::ProductName, u"Larkfield L400"_s},
+                  {PrinterKey::BonjourServiceName, u"Goods\x1b in"_s}});
+    printers.add({{PrinterKey::DeviceURI, u"tcp://127.0.0.1:2"_s}});
+    const Ended people = run(printers, {u"list"_s});
+    EXPECT_EQ(people.code, Done);
+    const QList<QByteArray> lines = people.out.trimmed().split('\n');
+    ASSERT_EQ(lines.size(), 2) << people.out.constData();
+    EXPECT_TRUE(lines[0].startsWith("Desk") && lines[0].contains("serial number S1"));
+    EXPECT_EQ(lines[0].indexOf("Larkfield"), lines[1].indexOf("Larkfield"));
+    EXPECT_TRUE(people.err.contains("printers[3]")) << people.err.constData();
+
+    const Ended programs = run(printers, {u"list"_s, u"--json"_s});
+    const QJsonArray array = QJsonDocument::fromJson(programs.out).array();
+    ASSERT_EQ(array.size(), 2);
+    EXPECT_EQ(array[0][u"name"], u"Desk"_s);
+    EXPECT_EQ(array[0][u"connection"], u"usb"_s);
+    EXPECT_EQ(array[0][u"serial"], u"S1"_s);
+    EXPECT_TRUE(array[1][u"serial"].isNull());
+    EXPECT_TRUE(jsonOf(programs.err).contains(u"note")) << programs.err.constData();
+}
+
+TEST(Commands, ShowEverythingButSecrets) {
+    const Printers printers({R"({"items": {
+        "0x1006": "Desk", "0x1005": "Caf\u00e9", "0x2000": "02004C0A1B01", "0x3000": 7,
+        "0x2001": {"setting": 1, "address": "10.0.0.5", "mask": "255.0.0.0", "gateway": "10.0.0.1"},
+        "0x3105": "secret-psk", "0x3202": "secret-ap"},
+        "faults": {"items": {"0x1007": {"code": "0x7777"}}}})"});
+    for (const QString &name : {u"Desk"_s, u"S1"_s}) {
+        const Ended shown = run(printers, {u"show"_s, name});
+        EXPECT_EQ(shown.code, Done);
+        EXPECT_TRUE(shown.out.contains("\n  MAC address  ") ||
+                    shown.out.contains("02:00:4C:0A:1B:01"));
+        EXPECT_TRUE(shown.out.contains("Fixed address")) << shown.out.constData();
+        EXPECT_FALSE(shown.out.contains("secret"));
+        EXPECT_TRUE(shown.err.contains("device.timeout")) << shown.err.constData();
+    }
+    const Ended json = run(printers, {u"show"_s, u"S1"_s, u"--json"_s});
+    EXPECT_FALSE(json.out.contains("secret"));
+    const QJsonObject record = jsonOf(json.out);
+    EXPECT_EQ(record[u"names"][u"service"], u"Café"_s);
+    EXPECT_EQ(record[u"wired"][u"mac"], u"02:00:4C:0A:1B:01"_s);
+    EXPECT_EQ(record[u"wired"][u"address"], (QJsonObject{{u"mode"_s, u"fixed"_s},
+                                                         {u"ip"_s, u"10.0.0.5"_s},
+                                                         {u"mask"_s, u"255.0.0.0"_s},
+                                                         {u"gateway"_s, u"10.0.0.1"_s}}));
+    EXPECT_EQ(record[u"wireless"][u"mode"], 7);
+    EXPECT_TRUE(record[u"device"][u"timeout"].isNull());
+    // What is shown can be applied, and changes nothing.
+    const QString file = printers.write(u"all.json"_s, json.out);
+    const Ended applied = run(printers, {u"apply"_s, u"S1"_s, file, u"--yes"_s});
+    EXPECT_EQ(applied.code, Done) << applied.err.constData();
+    EXPECT_TRUE(applied.out.contains("Nothing was sent"));
+}
+
+TEST(Commands, ApplyOneFileAndVerifyIt) {
+    const Printers printers({protectedPrinter});
+    const QString file = printers.write(u"office.json"_s, R"({
+        "names": {"printer": "Desk-1"}, "device": {"timeout": 90},
+        "wired": {"address": {"ip": "10.0.0.5", "mask": "255.255.255.0", "gateway": "10.0.1.1"}},
+        "wireless": {"ssid": "Office", "authentication": "wpa2", "encryption": "aes",
+                     "key": {"file": "key.txt"}},
+        "password": {"administrator": "next-1"}})");
+    printers.write(u"key.txt"_s, "office-key-1\r\nsecond line\n");
+    const QStringList apply{u"apply"_s, u"S1"_s, file};
+    const std::string before = printers.stateOf(1);
+
+    const Ended dry = run(printers, apply + QStringList{u"--dry-run"_s});
+    EXPECT_EQ(dry.code, Done);
+    EXPECT_TRUE(dry.out.contains("device.timeout: 60 → 90")) << dry.out.constData();
+    EXPECT_TRUE(dry.err.contains("10.0.1.1"));  // a gateway outside the subnet
+    EXPECT_EQ(run(printers, apply).code, UsedWrongly);
+    EXPECT_EQ(run(printers, apply + QStringList{u"--yes"_s}).code, LoginRefused);
+    EXPECT_EQ(printers.stateOf(1), before);
+
+    const QString password = printers.write(u"password"_s, "open123\n");
+    const Ended applied =
+        run(printers, apply + QStringList{u"--yes"_s, u"--password-file"_s, password});
+    EXPECT_EQ(applied.code, Done) << applied.err.constData();
+    EXPECT_EQ(printers.stateOf(1), "Desk-1 10.0.0.5 90");
+    for (const QByteArray &secret : {QByteArray("office-key"), QByteArray("next-1")})
+        EXPECT_FALSE((dry.out + applied.out + applied.err).contains(secret));
+    // The old password is refused now; the new one, from the environment, is not.
+    EXPECT_EQ(run(printers, apply + QStringList{u"--yes"_s}, "open123").code, LoginRefused);
+    EXPECT_EQ(run(printers, apply + QStringList{u"--yes"_s}, "next-1").code, Done);
+}
+
+TEST(Commands, EndWithTheCodeOfWhatHappened) {
+    struct Row {
+        const char *profile;
+        const char *file;  // nothing: no command "apply"
+        QStringList arguments;
+        ExitCode code;
+        const char *said;
+    };
+    const char *const name = R"({"names": {"printer": "Desk-1"}})";
+    const QStringList yes{u"--yes"_s};
+    const Row rows[] = {
+        {"{}", nullptr, {}, UsedWrongly, "command"},
+        {"{}", nullptr, {u"paint"_s}, UsedWrongly, "paint"},
+        {"{}", nullptr, {u"show"_s}, UsedWrongly, "1 arguments"},
+        {"{}", nullptr, {u"list"_s, u"--yes"_s}, UsedWrongly, "yes"},
+        {"{}", nullptr, {u"check"_s, u"/nowhere/x.json"_s}, InputRefused, "/nowhere/x.json"},
+        {"{}", nullptr, {u"show"_s, u"Nobody"_s, u"--json"_s}, NotReached, "\"code\":3"},
+        {"{}", R"({"names": {"printer": "a b"}, "device": {"timeout": 5}})", yes, InputRefused,
+         "\"device.timeout\""},
+        {R"({"items": {"0x3102": 0, "0x3103": 0}})", R"({"wireless": {"key": "long enough"}})", yes,
+         InputRefused, "wireless.key"},
+        {"{}", R"({"wired": {"address": {"mode": "automatic", "ip": "10.9.9.9"}}})", yes,
+         InputRefused, "wired.address.ip"},
+        {R"({"items": {"0x2001": {"setting": 0, "address": "0.0.0.0", "mask": "0.0.0.0",
+            "gateway": "0.0.0.0"}}})",
+         R"({"wired": {"address": {"mode": "fixed"}}})", yes, InputRefused, "wired.address.ip"},
+        {R"({"faults": {"closeAfterFrames": 9}})", name, yes, NotReached, "answering"},
+        {R"({"faults": {"items": {"0x1004": {"closed": true}}}})", name, yes, NotReached,
+         "answering"},
+        {R"({"faults": {"items": {"0x1006": {"result": 9}}}})", name, yes, NotAccepted,
+         "names.printer"},
+        {R"({"faults": {"items": {"0x1005": {"code": "0x7777"}}}})",
+         R"({"names": {"service": "Labels"}})", yes, NotAccepted, "not clear"},
+        // Accepted, and read back as nothing.
+        {R"({"faults": {"items": {"0x1006": {"length": 6}}}})", name, yes, NotAccepted,
+         "read back"},
+    };
+    for (const Row &row : rows) {
+        const Printers printers({row.profile});
+        QStringList arguments = row.arguments;
+        if (row.file)
+            arguments =
+                QStringList{u"apply"_s, u"S1"_s, printers.write(u"f.json"_s, row.file)} + arguments;
+        const Ended ended = run(printers, arguments);
+        EXPECT_EQ(ended.code, row.code) << row.said << ended.err.constData();
+        EXPECT_TRUE(ended.err.contains(row.said)) << row.said << ended.err.constData();
+    }
+}
+
+TEST(Commands, NameEveryPrinterThatIsMeant) {
+    const Printers printers(
+        {R"({"items": {"0x1006": "Desk"}})", R"({"items": {"0x1006": "Desk"}})"});
+    const Ended ambiguous = run(printers, {u"show"_s, u"Desk"_s, u"--json"_s});
+    EXPECT_EQ(ambiguous.code, NotReached);
+    EXPECT_EQ(jsonOf(ambiguous.err)[u"candidates"].toArray().size(), 2);
+    EXPECT_EQ(run(printers, {u"show"_s, u"S2"_s}).code, Done);
+}
+
+TEST(Commands, ChangeNothingOverTheNetwork) {
+    Printers printers({"{}"});
+    PrinterEntry entry;
+    const QJsonArray listed = jsonOf(printers.read(u"catalogue.json"_s))[u"printers"].toArray();
+    printers.add({{PrinterKey::DeviceURI,
+                   listed[0][u"DeviceURI"].toString().replace(u"127.0.0.1"_s, u"localhost"_s)},
+                  {PrinterKey::ConnectionType, PrinterConnection::Network},
+                  {PrinterKey::ProductName, u"Larkfield L400"_s},
+                  {PrinterKey::BonjourServiceName, u"Goods in"_s}});
+    const QString file = printers.write(u"f.json"_s, R"({"names": {"printer": "Desk-1"}})");
+    EXPECT_EQ(run(printers, {u"show"_s, u"Goods in"_s}).code, Done);
+    EXPECT_EQ(run(printers, {u"apply"_s, u"Goods in"_s, file, u"--yes"_s}).code, UsedWrongly);
+    EXPECT_EQ(run(printers, {u"networks"_s, u"Goods in"_s}).code, UsedWrongly);
+}
+
+TEST(Commands, ListTheNetworksThatThePrinterFinds) {
+    const Printers printers({R"({"networks": [
+        {"ssid": "Office", "mode": 2, "authentic": 3, "encryption": 4, "signal": -61},
+        {"ssidHex": "436166c3a9", "mode": 2, "authentic": 0, "encryption": 9, "signal": -70}],
+        "scanPolls": 0})"});
+    const Ended people = run(printers, {u"networks"_s, u"S1"_s});
+    EXPECT_EQ(people.code, Done) << people.err.constData();
+    EXPECT_TRUE(people.out.contains("Office  wpa/wpa2  tkip/aes  -61 dBm"))
+        << people.out.constData();
+    const auto array =
+        QJsonDocument::fromJson(run(printers, {u"networks"_s, u"S1"_s, u"--json"_s}).out).array();
+    ASSERT_EQ(array.size(), 2);
+    EXPECT_EQ(array[1].toObject(), (QJsonObject{{u"ssid"_s, u"Café"_s},
+                                                {u"ssidHex"_s, u"436166c3a9"_s},
+                                                {u"authentication"_s, u"open"_s},
+                                                {u"encryption"_s, 9},
+                                                {u"signal"_s, -70}}));
+}
+
+namespace {
+
+// A conversation with the program on a terminal: for each text that it prints, what is typed.
+struct Conversation {
+    using Turn = std::pair<QByteArray, QByteArray>;
+    Conversation(const Printers &printers, const QStringList &arguments, const QList<Turn> &turns) {
+        qputenv("ZMLIB_PRINTERS", printers.catalogue().toUtf8());
+        QList<QByteArray> words{NST_PROGRAM};
+        for (const QString &argument : arguments) words << argument.toUtf8();
+        std::vector<char *> argv;
+        for (QByteArray &word : words) argv.push_back(word.data());
+        argv.push_back(nullptr);
+        int terminal = -1;
+        const pid_t child = ::forkpty(&terminal, nullptr, nullptr, nullptr);
+        if (child == 0) {
+            ::execv(NST_PROGRAM, argv.data());
+            ::_exit(99);
+        }
+        for (const auto &[printed, typed] : turns) {
+            while (!said.mid(m_heard).contains(printed) && hear(terminal)) {
+            }
+            m_heard = said.size();
+            EXPECT_EQ(::write(terminal, typed.constData(), size_t(typed.size())), typed.size());
+        }
+        while (hear(terminal)) {
+        }
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        ::close(terminal);
+        qunsetenv("ZMLIB_PRINTERS");
+        code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+
+    int code = -1;
+    QByteArray said;
+
+  private:
+    bool hear(int terminal) {
+        char buffer[1000];
+        const ssize_t n = ::read(terminal, buffer, sizeof buffer);
+        if (n > 0) said.append(buffer, n);
+        return n > 0;
+    }
+    qsizetype m_heard = 0;
+};
+
+}  // namespace
+
+TEST(Commands, AskAtTheTerminal) {
+    const Printers printers({protectedPrinter});
+    const QStringList apply{u"apply"_s, u"S1"_s,
+                            printers.write(u"f.json"_s, R"({"names": {"printer": "Desk-1"}})")};
+    const std::string before = printers.stateOf(1);
+    EXPECT_EQ(Conversation(printers, apply, {{"[y/N]", "\n"}}).code, Stopped);
+    EXPECT_EQ(Conversation(printers, apply, {{"[y/N]", "\x03"}}).code, Stopped);
+    EXPECT_EQ(Conversation(printers, apply, {{"[y/N]", "y\n"}, {"password", "\x03"}}).code,
+              Stopped);
+    EXPECT_EQ(printers.stateOf(1), before);
+    const Conversation changed(printers, apply, {{"[y/N]", "y\n"}, {"password", "open123\n"}});
+    EXPECT_EQ(changed.code, Done) << changed.said.constData();
+    EXPECT_FALSE(changed.said.contains("open123")) << changed.said.constData();
+    EXPECT_TRUE(changed.said.contains("Reading")) << changed.said.constData();
+    EXPECT_NE(printers.stateOf(1), before);
+}

@@ -1,0 +1,191 @@
+// What files and tables give, and what is said of those that cannot be used.
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "cli/Plan.h"
+#include "cli/Table.h"
+#include "platform/core/Texts.h"
+#include "settings/SettingKeys.h"
+#include "support/DataManagers.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Input : public testing::Test {
+  protected:
+    static void SetUpTestSuite() { installTexts(); }
+};
+
+// Values and faults as lines of text: "wired.address.ip=10.0.0.1", "3 names.printer!" for a broken
+// rule, "3 names.printer" for any other fault.
+std::string asText(const QList<GivenValue> &values, const QList<Fault> &faults) {
+    QStringList lines;
+    for (const GivenValue &value : values)
+        lines << (value.place.text.isEmpty()
+                      ? value.setting->name + u'=' + std::visit(ValueText(), value.value)
+                      : u"%1 %2!"_s.arg(value.place.line).arg(value.place.name));
+    for (const Fault &fault : faults) lines << u"%1 %2"_s.arg(fault.line).arg(fault.name).trimmed();
+    return lines.join(u" | "_s).toStdString();
+}
+
+std::string ofJson(const QByteArray &json) {
+    const GivenSettings given = settingsFromJson(json, {});
+    return asText(given.values, given.faults) +
+           (given.readOnly.isEmpty() ? "" : " - " + given.readOnly.join(u' ').toStdString());
+}
+
+std::string ofCsv(const QByteArray &csv) {
+    const Table table = tableFromCsv(csv, {});
+    QStringList rows;
+    for (const TableRow &row : table.rows)
+        rows << u"%1 %2: "_s.arg(row.line).arg(row.printer()) +
+                    QString::fromStdString(asText(row.values, {}));
+    for (const Fault &fault : table.faults)
+        rows << u"%1 %2"_s.arg(fault.line).arg(fault.name).trimmed();
+    return rows.join(u" / "_s).toStdString();
+}
+
+}  // namespace
+
+TEST_F(Input, OfSettingsInJson) {
+    const std::pair<QByteArray, const char *> rows[] = {
+        {R"({"names": {"printer": "A-1", "bonjour": null}, "device": {"timeout": 30}})",
+         "names.printer='A-1' | device.timeout=30"},
+        {"\xEF\xBB\xBF{\r\n\r\n\"device\": {\"timeout\": 29}}", "3 device.timeout!"},
+        {R"({"device": {"timeout": 4294967326}})", "1 device.timeout!"},
+        {R"({"device": {"timeout": 60.0}})", "1 device.timeout"},
+        {R"({"device": {"timeout": "60"}})", "1 device.timeout"},
+        {R"({"names": {"printer": 5, "service": true}})", "1 names.printer | 1 names.service"},
+        {R"({"wired": {"address": {"ip": "010.0.0.5", "mask": "1.2.3.256", "gateway": "x"}}})",
+         "wired.address.ip=10.0.0.5 | 1 wired.address.mask! | 1 wired.address.gateway"},
+        {R"({"wired": {"address": {"ip": 10}}})", "1 wired.address.ip"},
+        {R"({"wireless": {"mode": "access-point", "encryption": "AES", "authentication": 3}})",
+         "wireless.mode=2 | 1 wireless.encryption | 1 wireless.authentication"},
+        {R"({"wireless": {"encryption": 9}})", "1 wireless.encryption!"},
+        {R"({"wireless": {"wepKey": "abcde", "wepKeyNumber": 4, "key": "short"}})",
+         "wireless.wepKey='abcde' | wireless.wepKeyNumber=4 | 1 wireless.key!"},
+        {R"({"password": {"administrator": ""}})", "password.administrator=''"},
+        {R"({"password": {"administrator": {"file": "/nowhere"}}})", "1 password.administrator"},
+        {R"({"wireless": {"key": {}, "wepKey": {"path": "x"}, "ssid": {"file": "x"}}})",
+         "1 wireless.key | 1 wireless.wepKey.path | 1 wireless.wepKey | 1 wireless.ssid"},
+        {R"({"printer": {"uri": "x"}, "wired": {"mac": 5, "inUse": null}})",
+         " - printer.uri wired.mac"},
+        {R"({"wired": {"adress": {"ip": "10.0.0.1", "more": [1, {"a": 2}]}}, "x": null})",
+         "1 wired.adress | 1 x"},
+        {R"({"names": [{"printer": "A"}], "wired": "x", "a.b": 1, "": 2})",
+         "1 names | 1 wired | 1 a.b | 1"},
+        {R"({"names": {"printer": "A"}, "names.printer": "B"})",
+         "names.printer='A' | names.printer='B' | 1 names.printer"},
+        {"{\"names\": {\"printer\": \"A\",\n\"printer\": \"B\"}}",
+         "names.printer='A' | names.printer='B' | 2 names.printer"},
+        {"[1]", "0"},
+        {"null", "0"},
+        {"\"x\"", "0"},
+        {"", "1"},
+        {"{\n\"device\": {\"timeout\": 60},\n}", "device.timeout=60 | 3"},
+        {"{\"names\": {\"printer\": \"\xFF\"}}", "1"},
+        {"{} {}", "1"},
+    };
+    for (const auto &[json, expected] : rows) EXPECT_EQ(ofJson(json), expected) << json.constData();
+}
+
+TEST_F(Input, OfSecretsInFiles) {
+    const QTemporaryDir folder;
+    const auto write = [&](const QString &name, const QByteArray &bytes) {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    };
+    write(u"key"_s, " key with spaces \r\nmore");
+    write(u"long"_s, QByteArray(longestInput + 1, 'x'));
+    write(u"bytes"_s, "\xFF\xFE");
+    write(u"f.json"_s, R"({"wireless": {"key": {"file": "key"}, "wepKey": {"file": "long"}},
+                           "password": {"administrator": {"file": "bytes"}}})");
+    const GivenSettings given = settingsFromFile(folder.filePath(u"f.json"_s));
+    EXPECT_EQ(asText(given.values, given.faults),
+              "wireless.key=' key with spaces ' | 1 wireless.wepKey | 2 password.administrator");
+}
+
+TEST_F(Input, OfTables) {
+    const std::pair<QByteArray, const char *> rows[] = {
+        {"mac,serial,name,names.printer\n02:00:00:00:00:0a,S1,,A\n,S2,N2,B\n,,\"N\"\"3\",\n",
+         "2 02:00:00:00:00:0A: names.printer='A' / 3 S2: names.printer='B' / 4 N\"3: "},
+        {"\xEF\xBB\xBFserial;device.timeout\r\nS1;60\r\n\r\n;\r\nS2;61\rS3;x",
+         "2 S1: device.timeout=60 / 5 S2: device.timeout=61 / 6 S3:  / 6 device.timeout"},
+        {"name,names.service\n\"two\nlines\",\"a,b\"\nnext,c\n",
+         "2 two\nlines: names.service='a,b' / 4 next: names.service='c'"},
+        {"serial,device.timeout\nS1,29\nS2,x\nS3\nS4,60,1\n",
+         "2 S1:  / 3 S2:  / 2 device.timeout / "
+         "3 device.timeout / 4 / 5"},
+        {"serial,colour,wired.mac,serial\n", "1 colour / 1 wired.mac / 1 serial"},
+        {"device.timeout\n60\n", "2 : device.timeout=60 / 1"},
+        {"serial,device.timeout\n", "0"},
+        {"", "0"},
+        {"serial\nS1\nS1\n", "2 S1:  / 3 S1:  / 3 serial"},
+        {"mac,device.timeout\n02000000000G,60\n020000000001,60\n02:00:00:00:00:01,60\n",
+         "2 : device.timeout=60 / 3 02:00:00:00:00:01: device.timeout=60 / 4 02:00:00:00:00:01: "
+         "device.timeout=60 / 2 mac / 2 / 4 mac"},
+        {"serial,wired.address.ip,wireless.address.ip\nS1,10.0.0.1,\nS2,,10.00.0.1\n",
+         "2 S1: wired.address.ip=10.0.0.1 / 3 S2: wireless.address.ip=10.0.0.1 / "
+         "3 wireless.address.ip"},
+        {"serial\n\"S1\nS2\n", "4"},
+        {"serial\nS\"1\n", "2"},
+        {"serial\n\xE9\n", "0"},
+        {QByteArray("serial,names.printer\nS1,a\0b\n", 28), "2 S1:  / 2 names.printer"},
+    };
+    for (const auto &[csv, expected] : rows) EXPECT_EQ(ofCsv(csv), expected) << csv.constData();
+}
+
+TEST_F(Input, AgainstWhatAPrinterHolds) {
+    const auto category = [](const QString &viewKey, const CategoryDictionary &values) {
+        return SettingRecord{{viewKey, values}};
+    };
+    const SettingRecord security =
+        category(DWT_View_Key_Infrastructure, {{DWT_SaveData_Infrastructure_Authentic, 3},
+                                               {DWT_SaveData_Infrastructure_Encryption, 3},
+                                               {DWT_SaveData_Infrastructure_SSID, u"\u00e9"_s},
+                                               {DWT_SaveData_Infrastructure_PSK, QString()}});
+    const SettingRecord fixed = category(
+        DWT_View_Key_Ethernet, {{DWT_SaveData_Ethernet_IPAddressSetting, 1},
+                                {DWT_SaveData_Ethernet_IPAddress, address(u"10.0.0.5"_s)},
+                                {DWT_SaveData_Ethernet_Subnetmask, address(u"255.0.0.0"_s)},
+                                {DWT_SaveData_Ethernet_Gateway, address(u"0.0.0.0"_s)}});
+    struct Row {
+        const SettingRecord &saved;
+        const char *json;
+        const char *changes;  // then the faults
+    };
+    const Row rows[] = {
+        {security, R"({"wireless": {"ssid": "é", "encryption": "aes"}})", "|"},
+        {security, R"({"wireless": {"ssid": "è"}})", "| wireless.ssid"},
+        {security, R"({"wireless": {"encryption": "tkip", "key": "12345678"}})",
+         "wireless.encryption wireless.key |"},
+        {security, R"({"wireless": {"encryption": "wep", "wepKey": "abcde"}})",
+         "wireless.encryption wireless.wepKey | wireless.encryption"},
+        {security, R"({"wireless": {"authentication": "open", "encryption": "wep",
+                                    "key": "12345678"}})",
+         "wireless.authentication wireless.encryption wireless.key | wireless.key"},
+        {security, R"({"wireless": {"authentication": "shared"}})",
+         "wireless.authentication | wireless.authentication"},
+        {security, R"({"wireless": {"wepKeyNumber": 2}})",
+         "wireless.wepKeyNumber | wireless.wepKeyNumber"},
+        {fixed, R"({"wired": {"address": {"gateway": "0.0.0.0", "ip": "010.0.0.5"}}})", "|"},
+        {fixed, R"({"wired": {"address": {"ip": "10.0.0.6"}}})",
+         "wired.address.ip | wired.address.gateway"},
+        {fixed, R"({"wired": {"address": {"mode": "automatic"}}})", "wired.address.mode |"},
+        {fixed, R"({"wired": {"address": {"mode": "automatic", "ip": "10.0.0.6"}}})",
+         "wired.address.mode wired.address.ip | wired.address.ip"},
+        {fixed, R"({"password": {"administrator": ""}})", "password.administrator |"},
+    };
+    for (const Row &row : rows) {
+        const Plan plan = planOf(row.saved, settingsFromJson(row.json, {}).values);
+        QStringList words;
+        for (const Plan::Change &change : plan.changes) words << change.setting->name;
+        words << u"|"_s;
+        for (const Fault &fault : plan.faults) words << fault.name;
+        EXPECT_EQ(words.join(u' ').toStdString(), row.changes) << row.json;
+    }
+}
