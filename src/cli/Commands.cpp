@@ -231,7 +231,7 @@ class Run {
 
     Ending read(PrinterSession &session) {
         const QString name = session.name();
-        const Ending read = session.read([&](int done, int total) {
+        Ending read = session.read([&](int done, int total) {
             m_terminal.showProgress(text("DWT_Localize_Wait_Reading")
                                         .arg(name, QString::number(done), QString::number(total)));
         });

@@ -13,18 +13,11 @@ QString text(const char *key) {
     return localized(QLatin1String(key));
 }
 
-// The name by which files know the value that a record holds.
-QString nameOf(const QString &viewKey, const QString &key) {
-    const Setting *const setting = settingOf(viewKey, key);
-    return setting ? setting->name : QString();
-}
-
 QString namesOf(const QList<ItemCode> &codes) {
     QStringList names;
     for (const ItemCode code : codes) {
-        const SentItem *const item = sentItem(code);
-        for (const QString &key : item ? item->keys : QStringList())
-            names << nameOf(item->viewKey, key);
+        if (const SentItem *const item = sentItem(code))
+            for (const QString &key : item->keys) names << settingOf(item->viewKey, key)->name;
     }
     return names.join(u", "_s);
 }
@@ -96,7 +89,7 @@ Ending PrinterSession::change(const Plan &plan, const AskPassword &password,
                             planned.value(DWT_SaveData_Password_Change));
         m_manager->setupDataFromMainView(category, viewKey);
     }
-    const Ending login = logIn(password);
+    Ending login = logIn(password);
     if (!mayBegin()) return {Stopped, text("DWT_Localize_Cli_StoppedBefore").arg(name())};
     if (login.code != Done) return login;
     m_manager->sendDataToPrinterAndWait();
