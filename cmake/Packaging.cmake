@@ -1,14 +1,17 @@
 # What `cmake --install` puts where, and the Debian package that CPack makes of it.
 include(GNUInstallDirs)
 set(NST_NAME network-setting-tool)
-install(TARGETS ${NST_NAME} DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS ${NST_NAME} network-setting DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(FILES packaging/network-setting.bash
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME network-setting)
+install(FILES docs/command-line.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES packaging/${NST_NAME}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/${NST_NAME}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 # Always in lib, wherever the libraries go: that is where udev looks.
 install(FILES packaging/70-${NST_NAME}.rules DESTINATION lib/udev/rules.d)
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
 # Documents that the system keeps compressed.
-foreach(document ${NST_NAME}.1 debian/changelog)
+foreach(document ${NST_NAME}.1 network-setting.1 debian/changelog)
   cmake_path(GET document FILENAME name)
   set(compressed ${PROJECT_BINARY_DIR}/${name}.gz)
   add_custom_command(OUTPUT ${compressed} DEPENDS packaging/${document} VERBATIM
@@ -17,7 +20,8 @@ foreach(document ${NST_NAME}.1 debian/changelog)
 endforeach()
 add_custom_target(documents DEPENDS ${NST_DOCUMENTS})
 add_dependencies(${NST_NAME} documents)
-install(FILES ${PROJECT_BINARY_DIR}/${NST_NAME}.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${PROJECT_BINARY_DIR}/${NST_NAME}.1.gz ${PROJECT_BINARY_DIR}/network-setting.1.gz
+  DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${PROJECT_BINARY_DIR}/changelog.gz DESTINATION ${CMAKE_INSTALL_DOCDIR})
 file(STRINGS packaging/debian/changelog release LIMIT_COUNT 1)
 if(NOT release MATCHES "^${NST_NAME} \\(${PROJECT_VERSION}\\)")
@@ -38,7 +42,9 @@ set(CPACK_PACKAGE_DESCRIPTION
   "Lists the label printers that are reachable over USB or the network, reads all
 network settings of one, shows them on seven pages, checks what is typed, and
 writes everything back in one transaction, after a login where the printer has
-an administrator password. Only a printer connected over USB can be changed.")
+an administrator password. Only a printer connected over USB can be changed. The
+program network-setting does the same from a terminal or a script, for one
+printer or for a table of many.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

@@ -1,5 +1,5 @@
-// Tables, on arbitrary bytes: without a fault, every row says which printer it is for, and gives only
-// what keeps its rule.
+// Tables, on arbitrary bytes: without a fault, every row says which printer it is for, and gives
+// only what keeps its rule.
 
 #include "cli/Table.h"
 

@@ -2,7 +2,8 @@
 set -euo pipefail
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev qt6-tools-dev qt6-tools-dev-tools
-  qt6-l10n-tools libplist-dev libusb-1.0-0-dev libavahi-client-dev libqt6svg6
+  qt6-l10n-tools libplist-dev libusb-1.0-0-dev libavahi-client-dev libbsd-dev libcsv-dev
+  nlohmann-json3-dev libqt6svg6
   qt6-translations-l10n fonts-dejavu-core"
 TEST_PACKAGES="libgtest-dev libumockdev-dev umockdev avahi-daemon fonts-wqy-microhei"
 

@@ -946,9 +946,9 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
         <translation>Zeichnung: Ein Pfeil zeigt auf die WPS-Taste eines WLAN-Routers; Drucker und Router tauschen Funksignale aus</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>Reads and changes the network settings of label printers.
+        <translation>Liest und ändert die Netzwerkeinstellungen von Etikettendruckern.
 
-Usage:
+Aufruf:
   network-setting list [--json]
   network-setting show PRINTER [--json]
   network-setting check FILE
@@ -957,239 +957,239 @@ Usage:
                             [--result OUT.csv] [--again]
   network-setting networks PRINTER [--json]
 
-PRINTER is a URI of the list, a printer's own name, or a serial number. FILE holds settings in JSON.
+PRINTER: URI der Liste, eigener Name des Druckers oder Seriennummer. FILE: Einstellungen in JSON.
 
-  --json             print JSON
-  --dry-run          only say what would change
-  --yes              do not ask before changing
-  --password-file F  the administrator password is the first line of F
-  --template FILE    settings for every printer of the table
-  --result OUT.csv   add a row for each printer to this file
-  --again            do a printer again that is plugged in again
-  --help             show this text and exit
-  --version          show the version and exit
+  --json             JSON ausgeben
+  --dry-run          nur sagen, was sich ändern würde
+  --yes              vor dem Ändern nicht fragen
+  --password-file F  die erste Zeile von F ist das Administratorpasswort
+  --template FILE    Einstellungen für jeden Drucker der Tabelle
+  --result OUT.csv   für jeden Drucker eine Zeile an diese Datei anhängen
+  --again            einen Drucker, der wieder angeschlossen wird, noch einmal bearbeiten
+  --help             diesen Text zeigen
+  --version          die Version zeigen
 
-Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not reached,
-4 login refused, 5 settings not taken over, 6 stopped.</translation>
+Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefunden oder erreicht,
+4 Anmeldung abgelehnt, 5 Einstellungen nicht übernommen, 6 abgebrochen.</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
-        <translation>“network-setting --help” shows what can be done.</translation>
+        <translation>„network-setting --help“ zeigt, was möglich ist.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
-        <translation>Which command? None is given.</translation>
+        <translation>Es ist kein Befehl angegeben.</translation>
     </message>
     <message id="DWT_Localize_Cli_BadCommand">
-        <translation>There is no command “%1”.</translation>
+        <translation>Es gibt keinen Befehl „%1“.</translation>
     </message>
     <message id="DWT_Localize_Cli_BadArguments">
-        <translation>“%1” takes %2 arguments; %3 are given.</translation>
+        <translation>„%1“ erwartet %2 Argumente; angegeben sind %3.</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
-        <translation>The output could not be written.</translation>
+        <translation>Die Ausgabe konnte nicht geschrieben werden.</translation>
     </message>
     <message id="DWT_Localize_Cli_Label_IPInUse">
-        <translation>IP address in use</translation>
+        <translation>Verwendete IP-Adresse</translation>
     </message>
     <message id="DWT_Localize_Cli_Label_MaskInUse">
-        <translation>Subnet mask in use</translation>
+        <translation>Verwendete Subnetzmaske</translation>
     </message>
     <message id="DWT_Localize_Cli_Label_GatewayInUse">
-        <translation>Default gateway in use</translation>
+        <translation>Verwendetes Standardgateway</translation>
     </message>
     <message id="DWT_Localize_Cli_Place_Line">
-        <translation>line %1</translation>
+        <translation>Zeile %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Place_Column">
-        <translation>column %1</translation>
+        <translation>Spalte %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotJson">
-        <translation>This is not valid JSON here.</translation>
+        <translation>Hier ist dies kein gültiges JSON.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
-        <translation>The text is not UTF-8. Save the file as UTF-8.</translation>
+        <translation>Der Text ist nicht in UTF-8. Speichern Sie die Datei als UTF-8.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
-        <translation>This is not valid CSV here: a quotation mark is missing or too many.</translation>
+        <translation>Hier ist dies kein gültiges CSV: Ein Anführungszeichen fehlt oder ist zu viel.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
-        <translation>%1 cannot be read: %2</translation>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_TooLong">
-        <translation>%1 is longer than %2 MiB.</translation>
+        <translation>%1 ist länger als %2 MiB.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unknown">
-        <translation>There is no setting of this name.</translation>
+        <translation>Es gibt keine Einstellung mit diesem Namen.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_UnknownColumn">
-        <translation>There is no setting of this name, and it is none of mac, serial and name.</translation>
+        <translation>Es gibt keine Einstellung mit diesem Namen, und er ist nicht mac, serial oder name.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
-        <translation>This setting cannot be changed.</translation>
+        <translation>Diese Einstellung kann nicht geändert werden.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
-        <translation>This name is given twice.</translation>
+        <translation>Dieser Name ist zweimal angegeben.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
-        <translation>An object with settings is expected here.</translation>
+        <translation>Hier wird ein Objekt mit Einstellungen erwartet.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Text">
-        <translation>A text in quotation marks is expected.</translation>
+        <translation>Ein Text in Anführungszeichen wird erwartet.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
-        <translation>A text in quotation marks or {"file": "..."} is expected.</translation>
+        <translation>Ein Text in Anführungszeichen oder {"file": "..."} wird erwartet.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
-        <translation>A whole number from %1 to %2 is expected.</translation>
+        <translation>Eine ganze Zahl von %1 bis %2 wird erwartet.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Choice">
-        <translation>One of these is expected: %1</translation>
+        <translation>Eines davon wird erwartet: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Mac">
-        <translation>A MAC address of 12 hexadecimal digits is expected.</translation>
+        <translation>Eine MAC-Adresse aus 12 hexadezimalen Ziffern wird erwartet.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Cells">
-        <translation>This row should have %1 cells; it has %2.</translation>
+        <translation>Diese Zeile soll %1 Zellen haben; sie hat %2.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NoKnownColumn">
-        <translation>One of the columns mac, serial and name must tell which printer a row is for.</translation>
+        <translation>Eine der Spalten mac, serial und name muss sagen, für welchen Drucker eine Zeile ist.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NoPrinter">
-        <translation>This row does not tell which printer it is for: mac, serial and name are empty.</translation>
+        <translation>Diese Zeile sagt nicht, für welchen Drucker sie ist: mac, serial und name sind leer.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NoRows">
-        <translation>The table has no rows.</translation>
+        <translation>Die Tabelle hat keine Zeilen.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_SamePrinter">
-        <translation>This printer is in line %1 already.</translation>
+        <translation>Dieser Drucker steht schon in Zeile %1.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_SameAddress">
-        <translation>This address is in line %1 already.</translation>
+        <translation>Diese Adresse steht schon in Zeile %1.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Pair">
-        <translation>The encryption %1 does not go with the authentication %2.</translation>
+        <translation>Die Verschlüsselung %1 passt nicht zur Authentifizierung %2.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_KeyUnused">
-        <translation>This key is not used with the encryption %1.</translation>
+        <translation>Mit der Verschlüsselung %1 wird dieser Schlüssel nicht verwendet.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NumberAlone">
-        <translation>The number of a WEP key can be given only together with wireless.wepKey.</translation>
+        <translation>Die Nummer eines WEP-Schlüssels kann nur zusammen mit wireless.wepKey angegeben werden.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_AddressUnused">
-        <translation>This address is used only with the mode “fixed”.</translation>
+        <translation>Diese Adresse wird nur mit „fixed“ als mode verwendet.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoPrinters">
-        <translation>No printer was found.</translation>
+        <translation>Es wurde kein Drucker gefunden.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoNetworks">
-        <translation>The printer found no wireless network.</translation>
+        <translation>Der Drucker hat kein WLAN gefunden.</translation>
     </message>
     <message id="DWT_Localize_Cli_NotFound">
-        <translation>There is no printer “%1”. “network-setting list” shows the printers.</translation>
+        <translation>Es gibt keinen Drucker „%1“. „network-setting list“ zeigt die Drucker.</translation>
     </message>
     <message id="DWT_Localize_Cli_Ambiguous">
-        <translation>“%1” stands for several printers. Give the URI of one of these:</translation>
+        <translation>„%1“ steht für mehrere Drucker. Geben Sie die URI von einem an:</translation>
     </message>
     <message id="DWT_Localize_Cli_NotUsb">
-        <translation>%1 is on the network. Settings can be changed only on a printer that is connected over USB.</translation>
+        <translation>%1 ist im Netzwerk. Einstellungen können nur bei einem Drucker geändert werden, der über USB angeschlossen ist.</translation>
     </message>
     <message id="DWT_Localize_Cli_InUse">
-        <translation>%1 is in use by another program. Close that program, then try again.</translation>
+        <translation>%1 wird von einem anderen Programm verwendet. Schließen Sie es und versuchen Sie es noch einmal.</translation>
     </message>
     <message id="DWT_Localize_Cli_NotReached">
-        <translation>%1 cannot be reached. Check that it is switched on and that its cable is plugged in.</translation>
+        <translation>%1 ist nicht erreichbar. Prüfen Sie, ob der Drucker eingeschaltet und sein Kabel angeschlossen ist.</translation>
     </message>
     <message id="DWT_Localize_Cli_StoppedAnswering">
-        <translation>%1 stopped answering before everything was read.</translation>
+        <translation>%1 hat aufgehört zu antworten, bevor alles gelesen war.</translation>
     </message>
     <message id="DWT_Localize_Cli_NotTold">
-        <translation>%1 did not tell these settings: %2</translation>
+        <translation>%1 hat diese Einstellungen nicht mitgeteilt: %2</translation>
     </message>
     <message id="DWT_Localize_Cli_ReadOnly">
-        <translation>Left out, since these cannot be changed: %1</translation>
+        <translation>Weggelassen, da nicht änderbar: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>Without a terminal, nothing is changed unless --yes is given.</translation>
+        <translation>Ohne Terminal wird nur mit --yes etwas geändert.</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
-        <translation>In %1, this will change:</translation>
+        <translation>In %1 wird sich ändern:</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
-        <translation>%1 has these settings already. Nothing was sent.</translation>
+        <translation>%1 hat diese Einstellungen schon. Es wurde nichts gesendet.</translation>
     </message>
     <message id="DWT_Localize_Cli_Confirm">
-        <translation>Change it? [y/N]</translation>
+        <translation>Ändern? [j/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
-        <translation>y</translation>
+        <translation>j</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
-        <translation>Administrator password of %1:</translation>
+        <translation>Administratorpasswort von %1:</translation>
     </message>
     <message id="DWT_Localize_Cli_NoPassword">
-        <translation>%1 has an administrator password, and none was given. Nothing was sent.</translation>
+        <translation>%1 hat ein Administratorpasswort, und es wurde keines angegeben. Es wurde nichts gesendet.</translation>
     </message>
     <message id="DWT_Localize_Cli_LoginRefused">
-        <translation>%1 did not accept the password. Nothing was sent.</translation>
+        <translation>%1 hat das Passwort nicht angenommen. Es wurde nichts gesendet.</translation>
     </message>
     <message id="DWT_Localize_Cli_Sending">
-        <translation>Sending to %1</translation>
+        <translation>Senden an %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Lost">
-        <translation>The connection to %1 was lost. Nothing was applied.</translation>
+        <translation>Die Verbindung zu %1 ging verloren. Es wurde nichts übernommen.</translation>
     </message>
     <message id="DWT_Localize_Cli_Refused">
-        <translation>%1 did not accept these settings: %2.</translation>
+        <translation>%1 hat diese Einstellungen nicht angenommen: %2.</translation>
     </message>
     <message id="DWT_Localize_Cli_Unclear">
-        <translation>It is not clear whether %1 took these settings: %2.</translation>
+        <translation>Es ist nicht sicher, ob %1 diese Einstellungen übernommen hat: %2.</translation>
     </message>
     <message id="DWT_Localize_Cli_NotVerified">
-        <translation>The settings were sent to %1, but it could not be read again. It is not verified that it has them.</translation>
+        <translation>Die Einstellungen wurden an %1 gesendet, aber der Drucker konnte nicht noch einmal gelesen werden. Ob er sie hat, ist nicht geprüft.</translation>
     </message>
     <message id="DWT_Localize_Cli_Differs">
-        <translation>%1 was sent as %2, and read back as %3.</translation>
+        <translation>%1 wurde als %2 gesendet und als %3 zurückgelesen.</translation>
     </message>
     <message id="DWT_Localize_Cli_SecretDiffers">
-        <translation>%1 was not read back as it was sent.</translation>
+        <translation>%1 wurde nicht so zurückgelesen, wie es gesendet wurde.</translation>
     </message>
     <message id="DWT_Localize_Cli_Changed">
-        <translation>%1 was changed, and has the new settings.</translation>
+        <translation>%1 wurde geändert und hat die neuen Einstellungen.</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopped">
-        <translation>Stopped. Nothing more was sent.</translation>
+        <translation>Abgebrochen. Es wurde nichts weiter gesendet.</translation>
     </message>
     <message id="DWT_Localize_Cli_StoppedBefore">
-        <translation>Stopped before anything was sent to %1.</translation>
+        <translation>Abgebrochen, bevor etwas an %1 gesendet wurde.</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopping">
-        <translation>Stopping. What is being sent is finished first.</translation>
+        <translation>Wird abgebrochen. Was gerade gesendet wird, wird noch zu Ende gebracht.</translation>
     </message>
     <message id="DWT_Localize_Cli_Waiting">
-        <translation>Waiting for printers to be plugged in over USB. Ctrl+C ends.</translation>
+        <translation>Warten auf Drucker, die über USB angeschlossen werden. Strg+C beendet.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoRow">
-        <translation>%1 has no row in the table, and was left alone.</translation>
+        <translation>%1 hat keine Zeile in der Tabelle und wurde nicht verändert.</translation>
     </message>
     <message id="DWT_Localize_Cli_SeveralRows">
-        <translation>%1 has several rows in the table, and was left alone: lines %2.</translation>
+        <translation>%1 hat mehrere Zeilen in der Tabelle und wurde nicht verändert: Zeilen %2.</translation>
     </message>
     <message id="DWT_Localize_Cli_SeveralPrinters">
-        <translation>Several printers are called %1, as in line %2. They were left alone.</translation>
+        <translation>Mehrere Drucker heißen %1, wie in Zeile %2. Sie wurden nicht verändert.</translation>
     </message>
     <message id="DWT_Localize_Cli_RowUsed">
-        <translation>%1 was left alone: the row of line %2 was used for another printer.</translation>
+        <translation>%1 wurde nicht verändert: Zeile %2 wurde für einen anderen Drucker verwendet.</translation>
     </message>
     <message id="DWT_Localize_Cli_DoneBefore">
-        <translation>%1 was done before, and was left alone.</translation>
+        <translation>%1 wurde schon bearbeitet und nicht noch einmal verändert.</translation>
     </message>
     <message id="DWT_Localize_Cli_RowsLeft">
-        <translation>These printers of the table were not there: %1</translation>
+        <translation>Diese Drucker der Tabelle waren nicht da: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Unwritable">
-        <translation>%1 cannot be written: %2</translation>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>%1 cannot be written: %2. No further printer is begun.</translation>
+        <translation>%1 kann nicht geschrieben werden: %2. Es wird kein weiterer Drucker begonnen.</translation>
     </message>
 </context>
 </TS>

@@ -946,9 +946,9 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
         <translation>Dibujo: una flecha señala el botón WPS de un router Wi-Fi; la impresora y el router intercambian señales de radio</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>Reads and changes the network settings of label printers.
+        <translation>Lee y cambia los ajustes de red de impresoras de etiquetas.
 
-Usage:
+Uso:
   network-setting list [--json]
   network-setting show PRINTER [--json]
   network-setting check FILE
@@ -957,239 +957,239 @@ Usage:
                             [--result OUT.csv] [--again]
   network-setting networks PRINTER [--json]
 
-PRINTER is a URI of the list, a printer's own name, or a serial number. FILE holds settings in JSON.
+PRINTER: URI de la lista, nombre propio de la impresora o número de serie. FILE: ajustes en JSON.
 
-  --json             print JSON
-  --dry-run          only say what would change
-  --yes              do not ask before changing
-  --password-file F  the administrator password is the first line of F
-  --template FILE    settings for every printer of the table
-  --result OUT.csv   add a row for each printer to this file
-  --again            do a printer again that is plugged in again
-  --help             show this text and exit
-  --version          show the version and exit
+  --json             escribir JSON
+  --dry-run          decir solo qué cambiaría
+  --yes              no preguntar antes de cambiar
+  --password-file F  la contraseña de administrador es la primera línea de F
+  --template FILE    ajustes para cada impresora de la tabla
+  --result OUT.csv   añadir a este archivo una fila por impresora
+  --again            repetir una impresora que se vuelve a conectar
+  --help             mostrar este texto
+  --version          mostrar la versión
 
-Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not reached,
-4 login refused, 5 settings not taken over, 6 stopped.</translation>
+Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encontrada o sin acceso,
+4 inicio de sesión rechazado, 5 ajustes no aceptados, 6 detenido.</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
-        <translation>“network-setting --help” shows what can be done.</translation>
+        <translation>«network-setting --help» muestra lo que se puede hacer.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
-        <translation>Which command? None is given.</translation>
+        <translation>No se ha indicado ninguna orden.</translation>
     </message>
     <message id="DWT_Localize_Cli_BadCommand">
-        <translation>There is no command “%1”.</translation>
+        <translation>No existe la orden «%1».</translation>
     </message>
     <message id="DWT_Localize_Cli_BadArguments">
-        <translation>“%1” takes %2 arguments; %3 are given.</translation>
+        <translation>«%1» espera %2 argumentos; se han indicado %3.</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
-        <translation>The output could not be written.</translation>
+        <translation>No se ha podido escribir la salida.</translation>
     </message>
     <message id="DWT_Localize_Cli_Label_IPInUse">
-        <translation>IP address in use</translation>
+        <translation>Dirección IP en uso</translation>
     </message>
     <message id="DWT_Localize_Cli_Label_MaskInUse">
-        <translation>Subnet mask in use</translation>
+        <translation>Máscara de subred en uso</translation>
     </message>
     <message id="DWT_Localize_Cli_Label_GatewayInUse">
-        <translation>Default gateway in use</translation>
+        <translation>Puerta de enlace en uso</translation>
     </message>
     <message id="DWT_Localize_Cli_Place_Line">
-        <translation>line %1</translation>
+        <translation>línea %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Place_Column">
-        <translation>column %1</translation>
+        <translation>columna %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotJson">
-        <translation>This is not valid JSON here.</translation>
+        <translation>Aquí, esto no es JSON válido.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
-        <translation>The text is not UTF-8. Save the file as UTF-8.</translation>
+        <translation>El texto no está en UTF-8. Guarde el archivo como UTF-8.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
-        <translation>This is not valid CSV here: a quotation mark is missing or too many.</translation>
+        <translation>Aquí, esto no es CSV válido: falta o sobra una comilla.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
-        <translation>%1 cannot be read: %2</translation>
+        <translation>No se puede leer %1: %2</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_TooLong">
-        <translation>%1 is longer than %2 MiB.</translation>
+        <translation>%1 supera los %2 MiB.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unknown">
-        <translation>There is no setting of this name.</translation>
+        <translation>No hay ningún ajuste con este nombre.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_UnknownColumn">
-        <translation>There is no setting of this name, and it is none of mac, serial and name.</translation>
+        <translation>No hay ningún ajuste con este nombre, y no es mac, serial ni name.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
-        <translation>This setting cannot be changed.</translation>
+        <translation>Este ajuste no se puede cambiar.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
-        <translation>This name is given twice.</translation>
+        <translation>Este nombre está indicado dos veces.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
-        <translation>An object with settings is expected here.</translation>
+        <translation>Aquí se espera un objeto con ajustes.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Text">
-        <translation>A text in quotation marks is expected.</translation>
+        <translation>Se espera un texto entre comillas.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
-        <translation>A text in quotation marks or {"file": "..."} is expected.</translation>
+        <translation>Se espera un texto entre comillas o {"file": "..."}.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
-        <translation>A whole number from %1 to %2 is expected.</translation>
+        <translation>Se espera un número entero de %1 a %2.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Choice">
-        <translation>One of these is expected: %1</translation>
+        <translation>Se espera uno de estos: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Mac">
-        <translation>A MAC address of 12 hexadecimal digits is expected.</translation>
+        <translation>Se espera una dirección MAC de 12 dígitos hexadecimales.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Cells">
-        <translation>This row should have %1 cells; it has %2.</translation>
+        <translation>Esta fila debería tener %1 celdas; tiene %2.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NoKnownColumn">
-        <translation>One of the columns mac, serial and name must tell which printer a row is for.</translation>
+        <translation>Una de las columnas mac, serial y name debe decir para qué impresora es una fila.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NoPrinter">
-        <translation>This row does not tell which printer it is for: mac, serial and name are empty.</translation>
+        <translation>Esta fila no dice para qué impresora es: mac, serial y name están vacíos.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NoRows">
-        <translation>The table has no rows.</translation>
+        <translation>La tabla no tiene filas.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_SamePrinter">
-        <translation>This printer is in line %1 already.</translation>
+        <translation>Esta impresora ya está en la línea %1.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_SameAddress">
-        <translation>This address is in line %1 already.</translation>
+        <translation>Esta dirección ya está en la línea %1.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Pair">
-        <translation>The encryption %1 does not go with the authentication %2.</translation>
+        <translation>El cifrado %1 no es compatible con la autenticación %2.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_KeyUnused">
-        <translation>This key is not used with the encryption %1.</translation>
+        <translation>Esta clave no se usa con el cifrado %1.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NumberAlone">
-        <translation>The number of a WEP key can be given only together with wireless.wepKey.</translation>
+        <translation>El número de una clave WEP solo se puede indicar junto con wireless.wepKey.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_AddressUnused">
-        <translation>This address is used only with the mode “fixed”.</translation>
+        <translation>Esta dirección solo se usa con el modo «fixed».</translation>
     </message>
     <message id="DWT_Localize_Cli_NoPrinters">
-        <translation>No printer was found.</translation>
+        <translation>No se ha encontrado ninguna impresora.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoNetworks">
-        <translation>The printer found no wireless network.</translation>
+        <translation>La impresora no encontró ninguna red Wi-Fi.</translation>
     </message>
     <message id="DWT_Localize_Cli_NotFound">
-        <translation>There is no printer “%1”. “network-setting list” shows the printers.</translation>
+        <translation>No hay ninguna impresora «%1». «network-setting list» muestra las impresoras.</translation>
     </message>
     <message id="DWT_Localize_Cli_Ambiguous">
-        <translation>“%1” stands for several printers. Give the URI of one of these:</translation>
+        <translation>«%1» corresponde a varias impresoras. Indique el URI de una de ellas:</translation>
     </message>
     <message id="DWT_Localize_Cli_NotUsb">
-        <translation>%1 is on the network. Settings can be changed only on a printer that is connected over USB.</translation>
+        <translation>%1 está en la red. Los ajustes solo se pueden cambiar en una impresora conectada por USB.</translation>
     </message>
     <message id="DWT_Localize_Cli_InUse">
-        <translation>%1 is in use by another program. Close that program, then try again.</translation>
+        <translation>Otro programa está usando %1. Ciérrelo e inténtelo de nuevo.</translation>
     </message>
     <message id="DWT_Localize_Cli_NotReached">
-        <translation>%1 cannot be reached. Check that it is switched on and that its cable is plugged in.</translation>
+        <translation>No se puede acceder a %1. Compruebe que la impresora está encendida y que su cable está conectado.</translation>
     </message>
     <message id="DWT_Localize_Cli_StoppedAnswering">
-        <translation>%1 stopped answering before everything was read.</translation>
+        <translation>%1 dejó de responder antes de que se leyera todo.</translation>
     </message>
     <message id="DWT_Localize_Cli_NotTold">
-        <translation>%1 did not tell these settings: %2</translation>
+        <translation>%1 no comunicó estos ajustes: %2</translation>
     </message>
     <message id="DWT_Localize_Cli_ReadOnly">
-        <translation>Left out, since these cannot be changed: %1</translation>
+        <translation>Omitidos, porque no se pueden cambiar: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>Without a terminal, nothing is changed unless --yes is given.</translation>
+        <translation>Sin terminal no se cambia nada, salvo con --yes.</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
-        <translation>In %1, this will change:</translation>
+        <translation>En %1 cambiará lo siguiente:</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
-        <translation>%1 has these settings already. Nothing was sent.</translation>
+        <translation>%1 ya tiene estos ajustes. No se ha enviado nada.</translation>
     </message>
     <message id="DWT_Localize_Cli_Confirm">
-        <translation>Change it? [y/N]</translation>
+        <translation>¿Cambiarlo? [s/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
-        <translation>y</translation>
+        <translation>s</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
-        <translation>Administrator password of %1:</translation>
+        <translation>Contraseña de administrador de %1:</translation>
     </message>
     <message id="DWT_Localize_Cli_NoPassword">
-        <translation>%1 has an administrator password, and none was given. Nothing was sent.</translation>
+        <translation>%1 tiene una contraseña de administrador y no se ha indicado ninguna. No se ha enviado nada.</translation>
     </message>
     <message id="DWT_Localize_Cli_LoginRefused">
-        <translation>%1 did not accept the password. Nothing was sent.</translation>
+        <translation>%1 no aceptó la contraseña. No se ha enviado nada.</translation>
     </message>
     <message id="DWT_Localize_Cli_Sending">
-        <translation>Sending to %1</translation>
+        <translation>Enviando a %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Lost">
-        <translation>The connection to %1 was lost. Nothing was applied.</translation>
+        <translation>Se perdió la conexión con %1. No se ha aplicado nada.</translation>
     </message>
     <message id="DWT_Localize_Cli_Refused">
-        <translation>%1 did not accept these settings: %2.</translation>
+        <translation>%1 no aceptó estos ajustes: %2.</translation>
     </message>
     <message id="DWT_Localize_Cli_Unclear">
-        <translation>It is not clear whether %1 took these settings: %2.</translation>
+        <translation>No está claro si %1 tomó estos ajustes: %2.</translation>
     </message>
     <message id="DWT_Localize_Cli_NotVerified">
-        <translation>The settings were sent to %1, but it could not be read again. It is not verified that it has them.</translation>
+        <translation>Los ajustes se enviaron a %1, pero la impresora no se pudo volver a leer. No se ha comprobado que los tenga.</translation>
     </message>
     <message id="DWT_Localize_Cli_Differs">
-        <translation>%1 was sent as %2, and read back as %3.</translation>
+        <translation>%1 se envió como %2 y se leyó como %3.</translation>
     </message>
     <message id="DWT_Localize_Cli_SecretDiffers">
-        <translation>%1 was not read back as it was sent.</translation>
+        <translation>%1 no se leyó tal como se envió.</translation>
     </message>
     <message id="DWT_Localize_Cli_Changed">
-        <translation>%1 was changed, and has the new settings.</translation>
+        <translation>%1 se ha cambiado y tiene los nuevos ajustes.</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopped">
-        <translation>Stopped. Nothing more was sent.</translation>
+        <translation>Detenido. No se ha enviado nada más.</translation>
     </message>
     <message id="DWT_Localize_Cli_StoppedBefore">
-        <translation>Stopped before anything was sent to %1.</translation>
+        <translation>Detenido antes de enviar nada a %1.</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopping">
-        <translation>Stopping. What is being sent is finished first.</translation>
+        <translation>Deteniendo. Antes se termina lo que se está enviando.</translation>
     </message>
     <message id="DWT_Localize_Cli_Waiting">
-        <translation>Waiting for printers to be plugged in over USB. Ctrl+C ends.</translation>
+        <translation>Esperando impresoras que se conecten por USB. Ctrl+C termina.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoRow">
-        <translation>%1 has no row in the table, and was left alone.</translation>
+        <translation>%1 no tiene fila en la tabla y no se ha tocado.</translation>
     </message>
     <message id="DWT_Localize_Cli_SeveralRows">
-        <translation>%1 has several rows in the table, and was left alone: lines %2.</translation>
+        <translation>%1 tiene varias filas en la tabla y no se ha tocado: líneas %2.</translation>
     </message>
     <message id="DWT_Localize_Cli_SeveralPrinters">
-        <translation>Several printers are called %1, as in line %2. They were left alone.</translation>
+        <translation>Varias impresoras se llaman %1, como en la línea %2. No se han tocado.</translation>
     </message>
     <message id="DWT_Localize_Cli_RowUsed">
-        <translation>%1 was left alone: the row of line %2 was used for another printer.</translation>
+        <translation>%1 no se ha tocado: la línea %2 se usó para otra impresora.</translation>
     </message>
     <message id="DWT_Localize_Cli_DoneBefore">
-        <translation>%1 was done before, and was left alone.</translation>
+        <translation>%1 ya se había hecho y no se ha vuelto a tocar.</translation>
     </message>
     <message id="DWT_Localize_Cli_RowsLeft">
-        <translation>These printers of the table were not there: %1</translation>
+        <translation>Estas impresoras de la tabla no estaban: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Unwritable">
-        <translation>%1 cannot be written: %2</translation>
+        <translation>No se puede escribir %1: %2</translation>
     </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>%1 cannot be written: %2. No further printer is begun.</translation>
+        <translation>No se puede escribir %1: %2. No se empieza ninguna impresora más.</translation>
     </message>
 </context>
 </TS>

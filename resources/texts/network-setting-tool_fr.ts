@@ -946,9 +946,9 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
         <translation>Dessin : une flèche indique le bouton WPS d’un routeur Wi-Fi ; l’imprimante et le routeur échangent des signaux radio</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>Reads and changes the network settings of label printers.
+        <translation>Lit et modifie les réglages réseau d’imprimantes d’étiquettes.
 
-Usage:
+Utilisation :
   network-setting list [--json]
   network-setting show PRINTER [--json]
   network-setting check FILE
@@ -957,239 +957,239 @@ Usage:
                             [--result OUT.csv] [--again]
   network-setting networks PRINTER [--json]
 
-PRINTER is a URI of the list, a printer's own name, or a serial number. FILE holds settings in JSON.
+PRINTER : URI de la liste, nom propre de l’imprimante ou numéro de série. FILE : réglages en JSON.
 
-  --json             print JSON
-  --dry-run          only say what would change
-  --yes              do not ask before changing
-  --password-file F  the administrator password is the first line of F
-  --template FILE    settings for every printer of the table
-  --result OUT.csv   add a row for each printer to this file
-  --again            do a printer again that is plugged in again
-  --help             show this text and exit
-  --version          show the version and exit
+  --json             écrire du JSON
+  --dry-run          dire seulement ce qui changerait
+  --yes              ne pas demander avant de modifier
+  --password-file F  le mot de passe administrateur est la première ligne de F
+  --template FILE    réglages pour chaque imprimante de la table
+  --result OUT.csv   ajouter à ce fichier une ligne pour chaque imprimante
+  --again            refaire une imprimante qui est rebranchée
+  --help             afficher ce texte
+  --version          afficher la version
 
-Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not reached,
-4 login refused, 5 settings not taken over, 6 stopped.</translation>
+Se termine par 0 fait, 1 mauvaise utilisation, 2 entrée refusée, 3 imprimante introuvable ou
+injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
-        <translation>“network-setting --help” shows what can be done.</translation>
+        <translation>« network-setting --help » montre ce qui est possible.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
-        <translation>Which command? None is given.</translation>
+        <translation>Aucune commande n’est indiquée.</translation>
     </message>
     <message id="DWT_Localize_Cli_BadCommand">
-        <translation>There is no command “%1”.</translation>
+        <translation>Il n’y a pas de commande « %1 ».</translation>
     </message>
     <message id="DWT_Localize_Cli_BadArguments">
-        <translation>“%1” takes %2 arguments; %3 are given.</translation>
+        <translation>« %1 » attend %2 arguments ; %3 sont indiqués.</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
-        <translation>The output could not be written.</translation>
+        <translation>La sortie n’a pas pu être écrite.</translation>
     </message>
     <message id="DWT_Localize_Cli_Label_IPInUse">
-        <translation>IP address in use</translation>
+        <translation>Adresse IP utilisée</translation>
     </message>
     <message id="DWT_Localize_Cli_Label_MaskInUse">
-        <translation>Subnet mask in use</translation>
+        <translation>Masque de sous-réseau utilisé</translation>
     </message>
     <message id="DWT_Localize_Cli_Label_GatewayInUse">
-        <translation>Default gateway in use</translation>
+        <translation>Passerelle par défaut utilisée</translation>
     </message>
     <message id="DWT_Localize_Cli_Place_Line">
-        <translation>line %1</translation>
+        <translation>ligne %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Place_Column">
-        <translation>column %1</translation>
+        <translation>colonne %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotJson">
-        <translation>This is not valid JSON here.</translation>
+        <translation>Ici, ce n’est pas du JSON valide.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
-        <translation>The text is not UTF-8. Save the file as UTF-8.</translation>
+        <translation>Le texte n’est pas en UTF-8. Enregistrez le fichier en UTF-8.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
-        <translation>This is not valid CSV here: a quotation mark is missing or too many.</translation>
+        <translation>Ici, ce n’est pas du CSV valide : un guillemet manque ou est de trop.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
-        <translation>%1 cannot be read: %2</translation>
+        <translation>%1 ne peut pas être lu : %2</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_TooLong">
-        <translation>%1 is longer than %2 MiB.</translation>
+        <translation>%1 dépasse %2 Mio.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unknown">
-        <translation>There is no setting of this name.</translation>
+        <translation>Il n’y a pas de réglage de ce nom.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_UnknownColumn">
-        <translation>There is no setting of this name, and it is none of mac, serial and name.</translation>
+        <translation>Il n’y a pas de réglage de ce nom, et ce n’est ni mac, ni serial, ni name.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
-        <translation>This setting cannot be changed.</translation>
+        <translation>Ce réglage ne peut pas être modifié.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
-        <translation>This name is given twice.</translation>
+        <translation>Ce nom est indiqué deux fois.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
-        <translation>An object with settings is expected here.</translation>
+        <translation>Un objet avec des réglages est attendu ici.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Text">
-        <translation>A text in quotation marks is expected.</translation>
+        <translation>Un texte entre guillemets est attendu.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
-        <translation>A text in quotation marks or {"file": "..."} is expected.</translation>
+        <translation>Un texte entre guillemets ou {"file": "..."} est attendu.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
-        <translation>A whole number from %1 to %2 is expected.</translation>
+        <translation>Un nombre entier de %1 à %2 est attendu.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Choice">
-        <translation>One of these is expected: %1</translation>
+        <translation>L’un d’eux est attendu : %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Mac">
-        <translation>A MAC address of 12 hexadecimal digits is expected.</translation>
+        <translation>Une adresse MAC de 12 chiffres hexadécimaux est attendue.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Cells">
-        <translation>This row should have %1 cells; it has %2.</translation>
+        <translation>Cette ligne devrait avoir %1 cellules ; elle en a %2.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NoKnownColumn">
-        <translation>One of the columns mac, serial and name must tell which printer a row is for.</translation>
+        <translation>L’une des colonnes mac, serial et name doit dire pour quelle imprimante est une ligne.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NoPrinter">
-        <translation>This row does not tell which printer it is for: mac, serial and name are empty.</translation>
+        <translation>Cette ligne ne dit pas pour quelle imprimante elle est : mac, serial et name sont vides.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NoRows">
-        <translation>The table has no rows.</translation>
+        <translation>La table n’a pas de lignes.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_SamePrinter">
-        <translation>This printer is in line %1 already.</translation>
+        <translation>Cette imprimante est déjà à la ligne %1.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_SameAddress">
-        <translation>This address is in line %1 already.</translation>
+        <translation>Cette adresse est déjà à la ligne %1.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Pair">
-        <translation>The encryption %1 does not go with the authentication %2.</translation>
+        <translation>Le chiffrement %1 ne va pas avec l’authentification %2.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_KeyUnused">
-        <translation>This key is not used with the encryption %1.</translation>
+        <translation>Cette clé n’est pas utilisée avec le chiffrement %1.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NumberAlone">
-        <translation>The number of a WEP key can be given only together with wireless.wepKey.</translation>
+        <translation>Le numéro d’une clé WEP ne peut être indiqué qu’avec wireless.wepKey.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_AddressUnused">
-        <translation>This address is used only with the mode “fixed”.</translation>
+        <translation>Cette adresse n’est utilisée qu’avec le mode « fixed ».</translation>
     </message>
     <message id="DWT_Localize_Cli_NoPrinters">
-        <translation>No printer was found.</translation>
+        <translation>Aucune imprimante n’a été trouvée.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoNetworks">
-        <translation>The printer found no wireless network.</translation>
+        <translation>L’imprimante n’a détecté aucun réseau Wi-Fi.</translation>
     </message>
     <message id="DWT_Localize_Cli_NotFound">
-        <translation>There is no printer “%1”. “network-setting list” shows the printers.</translation>
+        <translation>Il n’y a pas d’imprimante « %1 ». « network-setting list » montre les imprimantes.</translation>
     </message>
     <message id="DWT_Localize_Cli_Ambiguous">
-        <translation>“%1” stands for several printers. Give the URI of one of these:</translation>
+        <translation>« %1 » désigne plusieurs imprimantes. Indiquez l’URI de l’une d’elles :</translation>
     </message>
     <message id="DWT_Localize_Cli_NotUsb">
-        <translation>%1 is on the network. Settings can be changed only on a printer that is connected over USB.</translation>
+        <translation>%1 est sur le réseau. Les réglages ne peuvent être modifiés que sur une imprimante connectée en USB.</translation>
     </message>
     <message id="DWT_Localize_Cli_InUse">
-        <translation>%1 is in use by another program. Close that program, then try again.</translation>
+        <translation>%1 est utilisée par un autre programme. Fermez-le, puis réessayez.</translation>
     </message>
     <message id="DWT_Localize_Cli_NotReached">
-        <translation>%1 cannot be reached. Check that it is switched on and that its cable is plugged in.</translation>
+        <translation>%1 est injoignable. Vérifiez que l’imprimante est allumée et que son câble est branché.</translation>
     </message>
     <message id="DWT_Localize_Cli_StoppedAnswering">
-        <translation>%1 stopped answering before everything was read.</translation>
+        <translation>%1 a cessé de répondre avant que tout soit lu.</translation>
     </message>
     <message id="DWT_Localize_Cli_NotTold">
-        <translation>%1 did not tell these settings: %2</translation>
+        <translation>%1 n’a pas communiqué ces réglages : %2</translation>
     </message>
     <message id="DWT_Localize_Cli_ReadOnly">
-        <translation>Left out, since these cannot be changed: %1</translation>
+        <translation>Laissés de côté, car ils ne peuvent pas être modifiés : %1</translation>
     </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>Without a terminal, nothing is changed unless --yes is given.</translation>
+        <translation>Sans terminal, rien n’est modifié, sauf avec --yes.</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
-        <translation>In %1, this will change:</translation>
+        <translation>Dans %1, ceci changera :</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
-        <translation>%1 has these settings already. Nothing was sent.</translation>
+        <translation>%1 a déjà ces réglages. Rien n’a été envoyé.</translation>
     </message>
     <message id="DWT_Localize_Cli_Confirm">
-        <translation>Change it? [y/N]</translation>
+        <translation>Modifier ? [o/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
-        <translation>y</translation>
+        <translation>o</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
-        <translation>Administrator password of %1:</translation>
+        <translation>Mot de passe administrateur de %1 :</translation>
     </message>
     <message id="DWT_Localize_Cli_NoPassword">
-        <translation>%1 has an administrator password, and none was given. Nothing was sent.</translation>
+        <translation>%1 a un mot de passe administrateur, et aucun n’a été indiqué. Rien n’a été envoyé.</translation>
     </message>
     <message id="DWT_Localize_Cli_LoginRefused">
-        <translation>%1 did not accept the password. Nothing was sent.</translation>
+        <translation>%1 n’a pas accepté le mot de passe. Rien n’a été envoyé.</translation>
     </message>
     <message id="DWT_Localize_Cli_Sending">
-        <translation>Sending to %1</translation>
+        <translation>Envoi à %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Lost">
-        <translation>The connection to %1 was lost. Nothing was applied.</translation>
+        <translation>La connexion à %1 a été perdue. Rien n’a été appliqué.</translation>
     </message>
     <message id="DWT_Localize_Cli_Refused">
-        <translation>%1 did not accept these settings: %2.</translation>
+        <translation>%1 n’a pas accepté ces réglages : %2.</translation>
     </message>
     <message id="DWT_Localize_Cli_Unclear">
-        <translation>It is not clear whether %1 took these settings: %2.</translation>
+        <translation>Il n’est pas certain que %1 ait repris ces réglages : %2.</translation>
     </message>
     <message id="DWT_Localize_Cli_NotVerified">
-        <translation>The settings were sent to %1, but it could not be read again. It is not verified that it has them.</translation>
+        <translation>Les réglages ont été envoyés à %1, mais l’imprimante n’a pas pu être relue. Il n’est pas vérifié qu’elle les a.</translation>
     </message>
     <message id="DWT_Localize_Cli_Differs">
-        <translation>%1 was sent as %2, and read back as %3.</translation>
+        <translation>%1 a été envoyé comme %2 et relu comme %3.</translation>
     </message>
     <message id="DWT_Localize_Cli_SecretDiffers">
-        <translation>%1 was not read back as it was sent.</translation>
+        <translation>%1 n’a pas été relu tel qu’il a été envoyé.</translation>
     </message>
     <message id="DWT_Localize_Cli_Changed">
-        <translation>%1 was changed, and has the new settings.</translation>
+        <translation>%1 a été modifiée et a les nouveaux réglages.</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopped">
-        <translation>Stopped. Nothing more was sent.</translation>
+        <translation>Arrêté. Rien d’autre n’a été envoyé.</translation>
     </message>
     <message id="DWT_Localize_Cli_StoppedBefore">
-        <translation>Stopped before anything was sent to %1.</translation>
+        <translation>Arrêté avant que quoi que ce soit ait été envoyé à %1.</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopping">
-        <translation>Stopping. What is being sent is finished first.</translation>
+        <translation>Arrêt en cours. Ce qui est en train d’être envoyé est d’abord terminé.</translation>
     </message>
     <message id="DWT_Localize_Cli_Waiting">
-        <translation>Waiting for printers to be plugged in over USB. Ctrl+C ends.</translation>
+        <translation>En attente d’imprimantes branchées en USB. Ctrl+C termine.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoRow">
-        <translation>%1 has no row in the table, and was left alone.</translation>
+        <translation>%1 n’a pas de ligne dans la table et n’a pas été modifiée.</translation>
     </message>
     <message id="DWT_Localize_Cli_SeveralRows">
-        <translation>%1 has several rows in the table, and was left alone: lines %2.</translation>
+        <translation>%1 a plusieurs lignes dans la table et n’a pas été modifiée : lignes %2.</translation>
     </message>
     <message id="DWT_Localize_Cli_SeveralPrinters">
-        <translation>Several printers are called %1, as in line %2. They were left alone.</translation>
+        <translation>Plusieurs imprimantes s’appellent %1, comme à la ligne %2. Elles n’ont pas été modifiées.</translation>
     </message>
     <message id="DWT_Localize_Cli_RowUsed">
-        <translation>%1 was left alone: the row of line %2 was used for another printer.</translation>
+        <translation>%1 n’a pas été modifiée : la ligne %2 a servi à une autre imprimante.</translation>
     </message>
     <message id="DWT_Localize_Cli_DoneBefore">
-        <translation>%1 was done before, and was left alone.</translation>
+        <translation>%1 a déjà été faite et n’a pas été modifiée de nouveau.</translation>
     </message>
     <message id="DWT_Localize_Cli_RowsLeft">
-        <translation>These printers of the table were not there: %1</translation>
+        <translation>Ces imprimantes de la table n’étaient pas là : %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Unwritable">
-        <translation>%1 cannot be written: %2</translation>
+        <translation>%1 ne peut pas être écrit : %2</translation>
     </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>%1 cannot be written: %2. No further printer is begun.</translation>
+        <translation>%1 ne peut pas être écrit : %2. Aucune autre imprimante n’est commencée.</translation>
     </message>
 </context>
 </TS>

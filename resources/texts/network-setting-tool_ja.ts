@@ -946,9 +946,9 @@
         <translation>図: 無線 LAN ルーターの WPS ボタンを指す矢印と、電波をやり取りするプリンターとルーター</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>Reads and changes the network settings of label printers.
+        <translation>ラベルプリンターのネットワーク設定を表示・変更します。
 
-Usage:
+使い方:
   network-setting list [--json]
   network-setting show PRINTER [--json]
   network-setting check FILE
@@ -957,239 +957,239 @@ Usage:
                             [--result OUT.csv] [--again]
   network-setting networks PRINTER [--json]
 
-PRINTER is a URI of the list, a printer's own name, or a serial number. FILE holds settings in JSON.
+PRINTER は一覧の URI、プリンター名、またはシリアル番号です。FILE は JSON 形式の設定です。
 
-  --json             print JSON
-  --dry-run          only say what would change
-  --yes              do not ask before changing
-  --password-file F  the administrator password is the first line of F
-  --template FILE    settings for every printer of the table
-  --result OUT.csv   add a row for each printer to this file
-  --again            do a printer again that is plugged in again
-  --help             show this text and exit
-  --version          show the version and exit
+  --json             JSON で出力する
+  --dry-run          変更される内容を表示するだけにする
+  --yes              変更の前に確認しない
+  --password-file F  F の 1 行目を管理者パスワードとして使う
+  --template FILE    表のすべてのプリンターに共通の設定
+  --result OUT.csv   プリンターごとに 1 行をこのファイルに追加する
+  --again            もう一度接続されたプリンターをもう一度処理する
+  --help             この説明を表示して終了する
+  --version          バージョンを表示して終了する
 
-Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not reached,
-4 login refused, 5 settings not taken over, 6 stopped.</translation>
+終了コード: 0 完了、1 使い方の誤り、2 入力の誤り、3 プリンターが見つからない、または応答しない、
+4 ログイン拒否、5 設定が反映されない、6 中止。</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
-        <translation>“network-setting --help” shows what can be done.</translation>
+        <translation>使い方は「network-setting --help」で表示できます。</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
-        <translation>Which command? None is given.</translation>
+        <translation>コマンドが指定されていません。</translation>
     </message>
     <message id="DWT_Localize_Cli_BadCommand">
-        <translation>There is no command “%1”.</translation>
+        <translation>「%1」というコマンドはありません。</translation>
     </message>
     <message id="DWT_Localize_Cli_BadArguments">
-        <translation>“%1” takes %2 arguments; %3 are given.</translation>
+        <translation>「%1」の引数は %2 個です。%3 個指定されています。</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
-        <translation>The output could not be written.</translation>
+        <translation>出力を書き込めませんでした。</translation>
     </message>
     <message id="DWT_Localize_Cli_Label_IPInUse">
-        <translation>IP address in use</translation>
+        <translation>使用中の IP アドレス</translation>
     </message>
     <message id="DWT_Localize_Cli_Label_MaskInUse">
-        <translation>Subnet mask in use</translation>
+        <translation>使用中のサブネットマスク</translation>
     </message>
     <message id="DWT_Localize_Cli_Label_GatewayInUse">
-        <translation>Default gateway in use</translation>
+        <translation>使用中のデフォルトゲートウェイ</translation>
     </message>
     <message id="DWT_Localize_Cli_Place_Line">
-        <translation>line %1</translation>
+        <translation>%1 行目</translation>
     </message>
     <message id="DWT_Localize_Cli_Place_Column">
-        <translation>column %1</translation>
+        <translation>列 %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotJson">
-        <translation>This is not valid JSON here.</translation>
+        <translation>ここが正しい JSON ではありません。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
-        <translation>The text is not UTF-8. Save the file as UTF-8.</translation>
+        <translation>UTF-8 のテキストではありません。UTF-8 で保存してください。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
-        <translation>This is not valid CSV here: a quotation mark is missing or too many.</translation>
+        <translation>ここが正しい CSV ではありません。引用符が足りないか、多すぎます。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
-        <translation>%1 cannot be read: %2</translation>
+        <translation>%1 を読み取れません: %2</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_TooLong">
-        <translation>%1 is longer than %2 MiB.</translation>
+        <translation>%1 が %2 MiB を超えています。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unknown">
-        <translation>There is no setting of this name.</translation>
+        <translation>この名前の設定はありません。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_UnknownColumn">
-        <translation>There is no setting of this name, and it is none of mac, serial and name.</translation>
+        <translation>この名前の設定はなく、mac、serial、name のどれでもありません。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
-        <translation>This setting cannot be changed.</translation>
+        <translation>この設定は変更できません。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
-        <translation>This name is given twice.</translation>
+        <translation>この名前が 2 回指定されています。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
-        <translation>An object with settings is expected here.</translation>
+        <translation>ここには設定を含むオブジェクトが必要です。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Text">
-        <translation>A text in quotation marks is expected.</translation>
+        <translation>引用符で囲んだ文字列が必要です。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
-        <translation>A text in quotation marks or {"file": "..."} is expected.</translation>
+        <translation>引用符で囲んだ文字列、または {"file": "..."} が必要です。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
-        <translation>A whole number from %1 to %2 is expected.</translation>
+        <translation>%1 から %2 までの整数が必要です。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Choice">
-        <translation>One of these is expected: %1</translation>
+        <translation>次のどれかが必要です: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Mac">
-        <translation>A MAC address of 12 hexadecimal digits is expected.</translation>
+        <translation>16 進数 12 桁の MAC アドレスが必要です。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Cells">
-        <translation>This row should have %1 cells; it has %2.</translation>
+        <translation>この行のセルは %1 個のはずですが、%2 個あります。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NoKnownColumn">
-        <translation>One of the columns mac, serial and name must tell which printer a row is for.</translation>
+        <translation>どのプリンターの行かを示すため、mac、serial、name のどれかの列が必要です。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NoPrinter">
-        <translation>This row does not tell which printer it is for: mac, serial and name are empty.</translation>
+        <translation>どのプリンターの行かわかりません。mac、serial、name がすべて空です。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NoRows">
-        <translation>The table has no rows.</translation>
+        <translation>表に行がありません。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_SamePrinter">
-        <translation>This printer is in line %1 already.</translation>
+        <translation>このプリンターはすでに %1 行目にあります。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_SameAddress">
-        <translation>This address is in line %1 already.</translation>
+        <translation>このアドレスはすでに %1 行目にあります。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Pair">
-        <translation>The encryption %1 does not go with the authentication %2.</translation>
+        <translation>暗号化方式 %1 は認証方式 %2 と組み合わせられません。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_KeyUnused">
-        <translation>This key is not used with the encryption %1.</translation>
+        <translation>暗号化方式 %1 ではこのキーは使われません。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NumberAlone">
-        <translation>The number of a WEP key can be given only together with wireless.wepKey.</translation>
+        <translation>WEP キーの番号は wireless.wepKey と一緒に指定してください。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_AddressUnused">
-        <translation>This address is used only with the mode “fixed”.</translation>
+        <translation>このアドレスは mode が “fixed” のときだけ使われます。</translation>
     </message>
     <message id="DWT_Localize_Cli_NoPrinters">
-        <translation>No printer was found.</translation>
+        <translation>プリンターが見つかりませんでした。</translation>
     </message>
     <message id="DWT_Localize_Cli_NoNetworks">
-        <translation>The printer found no wireless network.</translation>
+        <translation>無線ネットワークが見つかりませんでした。</translation>
     </message>
     <message id="DWT_Localize_Cli_NotFound">
-        <translation>There is no printer “%1”. “network-setting list” shows the printers.</translation>
+        <translation>プリンター「%1」はありません。「network-setting list」で一覧を表示できます。</translation>
     </message>
     <message id="DWT_Localize_Cli_Ambiguous">
-        <translation>“%1” stands for several printers. Give the URI of one of these:</translation>
+        <translation>「%1」にあてはまるプリンターが複数あります。次のどれかの URI を指定してください:</translation>
     </message>
     <message id="DWT_Localize_Cli_NotUsb">
-        <translation>%1 is on the network. Settings can be changed only on a printer that is connected over USB.</translation>
+        <translation>%1 はネットワーク上にあります。設定を変更できるのは USB で接続されたプリンターだけです。</translation>
     </message>
     <message id="DWT_Localize_Cli_InUse">
-        <translation>%1 is in use by another program. Close that program, then try again.</translation>
+        <translation>%1 はほかのプログラムが使用中です。そのプログラムを終了してから、もう一度実行してください。</translation>
     </message>
     <message id="DWT_Localize_Cli_NotReached">
-        <translation>%1 cannot be reached. Check that it is switched on and that its cable is plugged in.</translation>
+        <translation>%1 に接続できません。電源が入っていること、ケーブルが接続されていることを確認してください。</translation>
     </message>
     <message id="DWT_Localize_Cli_StoppedAnswering">
-        <translation>%1 stopped answering before everything was read.</translation>
+        <translation>%1 は、すべてを読み取る前に応答しなくなりました。</translation>
     </message>
     <message id="DWT_Localize_Cli_NotTold">
-        <translation>%1 did not tell these settings: %2</translation>
+        <translation>%1 は次の設定を知らせませんでした: %2</translation>
     </message>
     <message id="DWT_Localize_Cli_ReadOnly">
-        <translation>Left out, since these cannot be changed: %1</translation>
+        <translation>変更できないため、次の項目は除きました: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>Without a terminal, nothing is changed unless --yes is given.</translation>
+        <translation>端末がないときは、--yes を指定しない限り変更しません。</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
-        <translation>In %1, this will change:</translation>
+        <translation>%1 で次の設定が変更されます:</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
-        <translation>%1 has these settings already. Nothing was sent.</translation>
+        <translation>%1 はすでにこの設定になっています。何も送信していません。</translation>
     </message>
     <message id="DWT_Localize_Cli_Confirm">
-        <translation>Change it? [y/N]</translation>
+        <translation>変更しますか? [y/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
         <translation>y</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
-        <translation>Administrator password of %1:</translation>
+        <translation>%1 の管理者パスワード:</translation>
     </message>
     <message id="DWT_Localize_Cli_NoPassword">
-        <translation>%1 has an administrator password, and none was given. Nothing was sent.</translation>
+        <translation>%1 には管理者パスワードが設定されていますが、指定されていません。何も送信していません。</translation>
     </message>
     <message id="DWT_Localize_Cli_LoginRefused">
-        <translation>%1 did not accept the password. Nothing was sent.</translation>
+        <translation>%1 はパスワードを受け付けませんでした。何も送信していません。</translation>
     </message>
     <message id="DWT_Localize_Cli_Sending">
-        <translation>Sending to %1</translation>
+        <translation>%1 に送信しています</translation>
     </message>
     <message id="DWT_Localize_Cli_Lost">
-        <translation>The connection to %1 was lost. Nothing was applied.</translation>
+        <translation>%1 との接続が切れました。何も反映されていません。</translation>
     </message>
     <message id="DWT_Localize_Cli_Refused">
-        <translation>%1 did not accept these settings: %2.</translation>
+        <translation>%1 は次の設定を受け付けませんでした: %2。</translation>
     </message>
     <message id="DWT_Localize_Cli_Unclear">
-        <translation>It is not clear whether %1 took these settings: %2.</translation>
+        <translation>%1 が次の設定を反映したかどうかわかりません: %2。</translation>
     </message>
     <message id="DWT_Localize_Cli_NotVerified">
-        <translation>The settings were sent to %1, but it could not be read again. It is not verified that it has them.</translation>
+        <translation>設定を %1 に送信しましたが、もう一度読み取ることができませんでした。反映されたかどうかは確認できていません。</translation>
     </message>
     <message id="DWT_Localize_Cli_Differs">
-        <translation>%1 was sent as %2, and read back as %3.</translation>
+        <translation>%1 は %2 として送信しましたが、%3 と読み取られました。</translation>
     </message>
     <message id="DWT_Localize_Cli_SecretDiffers">
-        <translation>%1 was not read back as it was sent.</translation>
+        <translation>%1 は送信したとおりに読み取られませんでした。</translation>
     </message>
     <message id="DWT_Localize_Cli_Changed">
-        <translation>%1 was changed, and has the new settings.</translation>
+        <translation>%1 を変更し、新しい設定になったことを確認しました。</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopped">
-        <translation>Stopped. Nothing more was sent.</translation>
+        <translation>中止しました。これ以上は送信していません。</translation>
     </message>
     <message id="DWT_Localize_Cli_StoppedBefore">
-        <translation>Stopped before anything was sent to %1.</translation>
+        <translation>%1 に何も送信しないうちに中止しました。</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopping">
-        <translation>Stopping. What is being sent is finished first.</translation>
+        <translation>中止します。送信中のものは最後まで送信します。</translation>
     </message>
     <message id="DWT_Localize_Cli_Waiting">
-        <translation>Waiting for printers to be plugged in over USB. Ctrl+C ends.</translation>
+        <translation>USB でプリンターが接続されるのを待っています。Ctrl+C で終了します。</translation>
     </message>
     <message id="DWT_Localize_Cli_NoRow">
-        <translation>%1 has no row in the table, and was left alone.</translation>
+        <translation>%1 は表に行がないため、変更していません。</translation>
     </message>
     <message id="DWT_Localize_Cli_SeveralRows">
-        <translation>%1 has several rows in the table, and was left alone: lines %2.</translation>
+        <translation>%1 は表に複数の行があるため、変更していません: %2 行目。</translation>
     </message>
     <message id="DWT_Localize_Cli_SeveralPrinters">
-        <translation>Several printers are called %1, as in line %2. They were left alone.</translation>
+        <translation>%1 という名前のプリンターが複数あるため (%2 行目)、変更していません。</translation>
     </message>
     <message id="DWT_Localize_Cli_RowUsed">
-        <translation>%1 was left alone: the row of line %2 was used for another printer.</translation>
+        <translation>%1 は変更していません。%2 行目は別のプリンターに使いました。</translation>
     </message>
     <message id="DWT_Localize_Cli_DoneBefore">
-        <translation>%1 was done before, and was left alone.</translation>
+        <translation>%1 は処理済みのため、変更していません。</translation>
     </message>
     <message id="DWT_Localize_Cli_RowsLeft">
-        <translation>These printers of the table were not there: %1</translation>
+        <translation>表の次のプリンターはありませんでした: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Unwritable">
-        <translation>%1 cannot be written: %2</translation>
+        <translation>%1 に書き込めません: %2</translation>
     </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>%1 cannot be written: %2. No further printer is begun.</translation>
+        <translation>%1 に書き込めません: %2。次のプリンターには進みません。</translation>
     </message>
 </context>
 </TS>

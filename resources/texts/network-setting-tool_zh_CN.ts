@@ -946,9 +946,9 @@
         <translation>图：箭头指向无线路由器的 WPS 按钮，打印机与路由器交换无线信号</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>Reads and changes the network settings of label printers.
+        <translation>查看和更改标签打印机的网络设置。
 
-Usage:
+用法：
   network-setting list [--json]
   network-setting show PRINTER [--json]
   network-setting check FILE
@@ -957,239 +957,239 @@ Usage:
                             [--result OUT.csv] [--again]
   network-setting networks PRINTER [--json]
 
-PRINTER is a URI of the list, a printer's own name, or a serial number. FILE holds settings in JSON.
+PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JSON 格式的设置。
 
-  --json             print JSON
-  --dry-run          only say what would change
-  --yes              do not ask before changing
-  --password-file F  the administrator password is the first line of F
-  --template FILE    settings for every printer of the table
-  --result OUT.csv   add a row for each printer to this file
-  --again            do a printer again that is plugged in again
-  --help             show this text and exit
-  --version          show the version and exit
+  --json             以 JSON 输出
+  --dry-run          只显示将要更改的内容
+  --yes              更改之前不询问
+  --password-file F  管理员密码是 F 的第一行
+  --template FILE    表中每台打印机共用的设置
+  --result OUT.csv   为每台打印机向此文件添加一行
+  --again            再次处理重新插入的打印机
+  --help             显示此说明并退出
+  --version          显示版本并退出
 
-Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not reached,
-4 login refused, 5 settings not taken over, 6 stopped.</translation>
+退出码：0 完成，1 用法错误，2 输入有误，3 找不到或无法连接打印机，
+4 登录被拒绝，5 设置未生效，6 已停止。</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
-        <translation>“network-setting --help” shows what can be done.</translation>
+        <translation>“network-setting --help”显示可以执行的操作。</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
-        <translation>Which command? None is given.</translation>
+        <translation>没有指定命令。</translation>
     </message>
     <message id="DWT_Localize_Cli_BadCommand">
-        <translation>There is no command “%1”.</translation>
+        <translation>没有命令“%1”。</translation>
     </message>
     <message id="DWT_Localize_Cli_BadArguments">
-        <translation>“%1” takes %2 arguments; %3 are given.</translation>
+        <translation>“%1”需要 %2 个参数，但指定了 %3 个。</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
-        <translation>The output could not be written.</translation>
+        <translation>无法写入输出。</translation>
     </message>
     <message id="DWT_Localize_Cli_Label_IPInUse">
-        <translation>IP address in use</translation>
+        <translation>正在使用的 IP 地址</translation>
     </message>
     <message id="DWT_Localize_Cli_Label_MaskInUse">
-        <translation>Subnet mask in use</translation>
+        <translation>正在使用的子网掩码</translation>
     </message>
     <message id="DWT_Localize_Cli_Label_GatewayInUse">
-        <translation>Default gateway in use</translation>
+        <translation>正在使用的默认网关</translation>
     </message>
     <message id="DWT_Localize_Cli_Place_Line">
-        <translation>line %1</translation>
+        <translation>第 %1 行</translation>
     </message>
     <message id="DWT_Localize_Cli_Place_Column">
-        <translation>column %1</translation>
+        <translation>列 %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotJson">
-        <translation>This is not valid JSON here.</translation>
+        <translation>此处不是有效的 JSON。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
-        <translation>The text is not UTF-8. Save the file as UTF-8.</translation>
+        <translation>文本不是 UTF-8。请将文件保存为 UTF-8。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
-        <translation>This is not valid CSV here: a quotation mark is missing or too many.</translation>
+        <translation>此处不是有效的 CSV：缺少或多出引号。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
-        <translation>%1 cannot be read: %2</translation>
+        <translation>无法读取 %1：%2</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_TooLong">
-        <translation>%1 is longer than %2 MiB.</translation>
+        <translation>%1 超过 %2 MiB。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unknown">
-        <translation>There is no setting of this name.</translation>
+        <translation>没有此名称的设置。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_UnknownColumn">
-        <translation>There is no setting of this name, and it is none of mac, serial and name.</translation>
+        <translation>没有此名称的设置，它也不是 mac、serial 或 name。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
-        <translation>This setting cannot be changed.</translation>
+        <translation>此设置无法更改。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
-        <translation>This name is given twice.</translation>
+        <translation>此名称指定了两次。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
-        <translation>An object with settings is expected here.</translation>
+        <translation>此处应为包含设置的对象。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Text">
-        <translation>A text in quotation marks is expected.</translation>
+        <translation>应为带引号的文本。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
-        <translation>A text in quotation marks or {"file": "..."} is expected.</translation>
+        <translation>应为带引号的文本或 {"file": "..."}。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
-        <translation>A whole number from %1 to %2 is expected.</translation>
+        <translation>应为 %1 到 %2 的整数。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Choice">
-        <translation>One of these is expected: %1</translation>
+        <translation>应为以下之一：%1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Mac">
-        <translation>A MAC address of 12 hexadecimal digits is expected.</translation>
+        <translation>应为由 12 位十六进制数字组成的 MAC 地址。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Cells">
-        <translation>This row should have %1 cells; it has %2.</translation>
+        <translation>此行应有 %1 个单元格，实际有 %2 个。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NoKnownColumn">
-        <translation>One of the columns mac, serial and name must tell which printer a row is for.</translation>
+        <translation>必须有 mac、serial、name 中的一列来说明某行用于哪台打印机。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NoPrinter">
-        <translation>This row does not tell which printer it is for: mac, serial and name are empty.</translation>
+        <translation>此行没有说明用于哪台打印机：mac、serial 和 name 都为空。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NoRows">
-        <translation>The table has no rows.</translation>
+        <translation>表中没有行。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_SamePrinter">
-        <translation>This printer is in line %1 already.</translation>
+        <translation>此打印机已在第 %1 行中。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_SameAddress">
-        <translation>This address is in line %1 already.</translation>
+        <translation>此地址已在第 %1 行中。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Pair">
-        <translation>The encryption %1 does not go with the authentication %2.</translation>
+        <translation>加密 %1 不能与身份验证 %2 一起使用。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_KeyUnused">
-        <translation>This key is not used with the encryption %1.</translation>
+        <translation>使用加密 %1 时不使用此密钥。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NumberAlone">
-        <translation>The number of a WEP key can be given only together with wireless.wepKey.</translation>
+        <translation>WEP 密钥的编号只能与 wireless.wepKey 一起指定。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_AddressUnused">
-        <translation>This address is used only with the mode “fixed”.</translation>
+        <translation>只有 mode 为“fixed”时才使用此地址。</translation>
     </message>
     <message id="DWT_Localize_Cli_NoPrinters">
-        <translation>No printer was found.</translation>
+        <translation>没有找到打印机。</translation>
     </message>
     <message id="DWT_Localize_Cli_NoNetworks">
-        <translation>The printer found no wireless network.</translation>
+        <translation>打印机未找到无线网络。</translation>
     </message>
     <message id="DWT_Localize_Cli_NotFound">
-        <translation>There is no printer “%1”. “network-setting list” shows the printers.</translation>
+        <translation>没有打印机“%1”。“network-setting list”显示打印机列表。</translation>
     </message>
     <message id="DWT_Localize_Cli_Ambiguous">
-        <translation>“%1” stands for several printers. Give the URI of one of these:</translation>
+        <translation>“%1”对应多台打印机。请指定其中一台的 URI：</translation>
     </message>
     <message id="DWT_Localize_Cli_NotUsb">
-        <translation>%1 is on the network. Settings can be changed only on a printer that is connected over USB.</translation>
+        <translation>%1 在网络上。只能更改通过 USB 连接的打印机的设置。</translation>
     </message>
     <message id="DWT_Localize_Cli_InUse">
-        <translation>%1 is in use by another program. Close that program, then try again.</translation>
+        <translation>%1 正由其他程序使用。请关闭该程序，然后重试。</translation>
     </message>
     <message id="DWT_Localize_Cli_NotReached">
-        <translation>%1 cannot be reached. Check that it is switched on and that its cable is plugged in.</translation>
+        <translation>无法连接 %1。请检查打印机是否已开机、电缆是否已插好。</translation>
     </message>
     <message id="DWT_Localize_Cli_StoppedAnswering">
-        <translation>%1 stopped answering before everything was read.</translation>
+        <translation>%1 在读取完成之前停止了响应。</translation>
     </message>
     <message id="DWT_Localize_Cli_NotTold">
-        <translation>%1 did not tell these settings: %2</translation>
+        <translation>%1 没有提供以下设置：%2</translation>
     </message>
     <message id="DWT_Localize_Cli_ReadOnly">
-        <translation>Left out, since these cannot be changed: %1</translation>
+        <translation>以下项目无法更改，已略过：%1</translation>
     </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>Without a terminal, nothing is changed unless --yes is given.</translation>
+        <translation>没有终端时，除非指定 --yes，否则不会更改任何设置。</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
-        <translation>In %1, this will change:</translation>
+        <translation>%1 将更改以下设置：</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
-        <translation>%1 has these settings already. Nothing was sent.</translation>
+        <translation>%1 已经是这些设置。没有发送任何内容。</translation>
     </message>
     <message id="DWT_Localize_Cli_Confirm">
-        <translation>Change it? [y/N]</translation>
+        <translation>要更改吗？[y/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
         <translation>y</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
-        <translation>Administrator password of %1:</translation>
+        <translation>%1 的管理员密码：</translation>
     </message>
     <message id="DWT_Localize_Cli_NoPassword">
-        <translation>%1 has an administrator password, and none was given. Nothing was sent.</translation>
+        <translation>%1 设有管理员密码，但没有提供密码。没有发送任何内容。</translation>
     </message>
     <message id="DWT_Localize_Cli_LoginRefused">
-        <translation>%1 did not accept the password. Nothing was sent.</translation>
+        <translation>%1 没有接受密码。没有发送任何内容。</translation>
     </message>
     <message id="DWT_Localize_Cli_Sending">
-        <translation>Sending to %1</translation>
+        <translation>正在发送到 %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Lost">
-        <translation>The connection to %1 was lost. Nothing was applied.</translation>
+        <translation>与 %1 的连接已断开。没有任何设置生效。</translation>
     </message>
     <message id="DWT_Localize_Cli_Refused">
-        <translation>%1 did not accept these settings: %2.</translation>
+        <translation>%1 没有接受以下设置：%2。</translation>
     </message>
     <message id="DWT_Localize_Cli_Unclear">
-        <translation>It is not clear whether %1 took these settings: %2.</translation>
+        <translation>不清楚 %1 是否采用了以下设置：%2。</translation>
     </message>
     <message id="DWT_Localize_Cli_NotVerified">
-        <translation>The settings were sent to %1, but it could not be read again. It is not verified that it has them.</translation>
+        <translation>设置已发送到 %1，但无法再次读取打印机。尚未确认设置是否生效。</translation>
     </message>
     <message id="DWT_Localize_Cli_Differs">
-        <translation>%1 was sent as %2, and read back as %3.</translation>
+        <translation>%1 发送的是 %2，读回的是 %3。</translation>
     </message>
     <message id="DWT_Localize_Cli_SecretDiffers">
-        <translation>%1 was not read back as it was sent.</translation>
+        <translation>%1 读回的内容与发送的不同。</translation>
     </message>
     <message id="DWT_Localize_Cli_Changed">
-        <translation>%1 was changed, and has the new settings.</translation>
+        <translation>%1 已更改，新设置已确认。</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopped">
-        <translation>Stopped. Nothing more was sent.</translation>
+        <translation>已停止。没有再发送任何内容。</translation>
     </message>
     <message id="DWT_Localize_Cli_StoppedBefore">
-        <translation>Stopped before anything was sent to %1.</translation>
+        <translation>在向 %1 发送任何内容之前已停止。</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopping">
-        <translation>Stopping. What is being sent is finished first.</translation>
+        <translation>正在停止。先完成正在进行的发送。</translation>
     </message>
     <message id="DWT_Localize_Cli_Waiting">
-        <translation>Waiting for printers to be plugged in over USB. Ctrl+C ends.</translation>
+        <translation>正在等待通过 USB 插入打印机。按 Ctrl+C 结束。</translation>
     </message>
     <message id="DWT_Localize_Cli_NoRow">
-        <translation>%1 has no row in the table, and was left alone.</translation>
+        <translation>%1 在表中没有对应的行，未作更改。</translation>
     </message>
     <message id="DWT_Localize_Cli_SeveralRows">
-        <translation>%1 has several rows in the table, and was left alone: lines %2.</translation>
+        <translation>%1 在表中有多行，未作更改：第 %2 行。</translation>
     </message>
     <message id="DWT_Localize_Cli_SeveralPrinters">
-        <translation>Several printers are called %1, as in line %2. They were left alone.</translation>
+        <translation>有多台打印机名为 %1（见第 %2 行），均未作更改。</translation>
     </message>
     <message id="DWT_Localize_Cli_RowUsed">
-        <translation>%1 was left alone: the row of line %2 was used for another printer.</translation>
+        <translation>%1 未作更改：第 %2 行已用于另一台打印机。</translation>
     </message>
     <message id="DWT_Localize_Cli_DoneBefore">
-        <translation>%1 was done before, and was left alone.</translation>
+        <translation>%1 已处理过，未再更改。</translation>
     </message>
     <message id="DWT_Localize_Cli_RowsLeft">
-        <translation>These printers of the table were not there: %1</translation>
+        <translation>表中的以下打印机不在：%1</translation>
     </message>
     <message id="DWT_Localize_Cli_Unwritable">
-        <translation>%1 cannot be written: %2</translation>
+        <translation>无法写入 %1：%2</translation>
     </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>%1 cannot be written: %2. No further printer is begun.</translation>
+        <translation>无法写入 %1：%2。不再处理后面的打印机。</translation>
     </message>
 </context>
 </TS>

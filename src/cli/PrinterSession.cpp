@@ -48,10 +48,7 @@ Ending PrinterSession::read(const DWTDataManager::Progress &progress) {
         m_record.insert(
             page.viewKey,
             m_manager->setupDataToMainView(page.viewKey).value_or(CategoryDictionary()));
-    // What stands in the place of a value that was not told is none.
-    for (const ItemCode code : m_manager->notTold())
-        for (const QString &key : sentItem(code)->keys)
-            m_record[sentItem(code)->viewKey].remove(key);
+    forgetUntold(result == ReadResult::Complete);
     m_record[QString()].insert(PrinterKey::MachineName, name());
     if (result == ReadResult::Complete) return {};
     if (result != ReadResult::MissingReply) return notReached();
@@ -59,12 +56,28 @@ Ending PrinterSession::read(const DWTDataManager::Progress &progress) {
 }
 
 Ending PrinterSession::readWhenReady(const std::function<bool()> &goOn) {
+    const QDeadlineTimer deadline(readyWithin);
     Ending ending = read();
-    for (int i = 1; i < readTries && ending.code != Done && goOn(); ++i) {
+    while (ending.code != Done && !deadline.hasExpired() && goOn()) {
         waitFor(readPause);
         ending = read();
     }
     return ending;
+}
+
+// What stands in the place of a value that was not told is none.
+void PrinterSession::forgetUntold(bool complete) {
+    for (const SentItem &item : sentItems())
+        for (const QString &key : item.keys)
+            if (item.told && !m_manager->isTold(key)) m_record[item.viewKey].remove(key);
+    if (complete) return;
+    // Of the codes that are only shown, 0 may also stand for one that was not asked for any more.
+    for (const Setting &setting : settings()) {
+        CategoryDictionary &category = m_record[setting.viewKey];
+        if (setting.kind == Setting::Kind::Choice && setting.access == Setting::Access::Read &&
+            integerValue(category, setting.key) == 0)
+            category.remove(setting.key);
+    }
 }
 
 QStringList PrinterSession::notTold() const {

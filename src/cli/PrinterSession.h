@@ -29,9 +29,9 @@ class PrinterSession {
     // Reads every setting. Anything but Done says why not all could be read; what could is there.
     Ending read(const DWTDataManager::Progress &progress = {});
     // The same for a printer that may not be ready yet, since it was plugged in or changed just
-    // now: up to readTries times, readPause apart, until `goOn` says no.
-    static constexpr int readTries = 3;
+    // now: again and again, readPause apart, for readyWithin or until `goOn` says no.
     static constexpr std::chrono::milliseconds readPause{500};
+    static constexpr std::chrono::milliseconds readyWithin{2000};
     Ending readWhenReady(const std::function<bool()> &goOn = [] { return true; });
     // What the printer told, and what the list knows of it (without a category).
     const SettingRecord &record() const { return m_record; }
@@ -49,6 +49,7 @@ class PrinterSession {
                   const std::function<bool()> &mayBegin);
 
   private:
+    void forgetUntold(bool complete);
     Ending notReached() const;
     Ending logIn(const AskPassword &password);
     Ending endingOfSend() const;

@@ -77,6 +77,7 @@ TEST(Commands, ShowEverythingButSecrets) {
     const Ended applied = run(printers, {u"apply"_s, u"S1"_s, file, u"--yes"_s});
     EXPECT_EQ(applied.code, Done) << applied.err.constData();
     EXPECT_TRUE(applied.out.contains("Nothing was sent"));
+    EXPECT_TRUE(applied.err.contains("Left out")) << applied.err.constData();
 }
 
 TEST(Commands, ApplyOneFileAndVerifyIt) {

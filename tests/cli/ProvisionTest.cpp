@@ -84,6 +84,7 @@ TEST(Provision, FortyPrintersOfWhichSomeFail) {
     const auto outcomes = outcomesOf(printers);
     EXPECT_EQ(outcomes.size(), forty + 1);
     EXPECT_EQ(first.out.count('\n'), forty + 1);
+    EXPECT_EQ(first.out.count("new settings"), forty - 4);
     for (int i = 1; i <= forty; ++i) {
         const QByteArray outcome = outcomes["S" + QByteArray::number(i)];
         if (i == 3) {
@@ -165,7 +166,7 @@ TEST(Provision, NothingIsSentFromATableWithAFault) {
     const Ended first = run(printers, {u"provision"_s, table});
     EXPECT_EQ(first.code, InputRefused);
     EXPECT_EQ(first.err.count('\n'), 3) << first.err.constData();
-    EXPECT_TRUE(first.err.contains("line 4, column \"device.timeout\": "));
+    EXPECT_TRUE(first.err.contains("table.csv: line 4, column \"device.timeout\": "));
     EXPECT_EQ(printers.stateOf(1), oldState(1));
 }
 

@@ -1,0 +1,38 @@
+# Completion of network-setting for bash: commands, their options, and names of files.
+
+_network_setting() {
+  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]-}
+  local options='' files=0 given=0 i
+  COMPREPLY=()
+  if [ "$COMP_CWORD" -eq 1 ]; then
+    mapfile -t COMPREPLY < <(compgen -W 'list show check apply provision networks --help --version' -- "$word")
+    return
+  fi
+  # "files" is the argument, counted from 1, that names a file.
+  case $command in
+    list | show | networks) options='--json --help' ;;
+    check) options='--help' files=1 ;;
+    apply) options='--password-file --dry-run --yes --help' files=2 ;;
+    provision) options='--template --password-file --result --again --help' files=1 ;;
+    *) return ;;
+  esac
+  case $before in
+    --password-file | --template | --result)
+      mapfile -t COMPREPLY < <(compgen -f -- "$word")
+      return
+      ;;
+  esac
+  if [[ $word == -* ]]; then
+    mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
+    return
+  fi
+  for ((i = 2; i <= COMP_CWORD; i++)); do
+    case ${COMP_WORDS[i - 1]} in --password-file | --template | --result) continue ;; esac
+    [[ ${COMP_WORDS[i]} == -* ]] || given=$((given + 1))
+  done
+  if [ "$given" -eq "$files" ]; then
+    mapfile -t COMPREPLY < <(compgen -f -- "$word")
+  fi
+}
+
+complete -o filenames -F _network_setting network-setting
