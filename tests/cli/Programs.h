@@ -1,11 +1,14 @@
 #pragma once
 
+#include <sys/prctl.h>
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <csignal>
 #include <memory>
 #include <vector>
 
@@ -88,6 +91,7 @@ class Printers {
   private:
     void start(const QByteArray &profile) {
         auto process = std::make_unique<QProcess>();
+        process->setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
         const QString name = QStringLiteral("printer-%1.json").arg(m_processes.size());
         process->start(QStringLiteral(NST_VIRTUAL_PRINTER),
                        {QStringLiteral("--listen"), QStringLiteral("127.0.0.1:0"),
