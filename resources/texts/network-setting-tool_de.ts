@@ -1191,5 +1191,8 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
     <message id="DWT_Localize_Cli_ResultsEnd">
         <translation>%1 kann nicht geschrieben werden: %2. Es wird kein weiterer Drucker begonnen.</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_EmptySecret">
+        <translation>In der ersten Zeile von %1 steht kein Schlüssel oder Passwort.</translation>
+    </message>
 </context>
 </TS>

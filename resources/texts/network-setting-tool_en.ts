@@ -1191,5 +1191,8 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
     <message id="DWT_Localize_Cli_ResultsEnd">
         <translation>%1 cannot be written: %2. No further printer is begun.</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_EmptySecret">
+        <translation>The first line of %1 holds no key or password.</translation>
+    </message>
 </context>
 </TS>

@@ -1191,5 +1191,8 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
     <message id="DWT_Localize_Cli_ResultsEnd">
         <translation>No se puede escribir %1: %2. No se empieza ninguna impresora más.</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_EmptySecret">
+        <translation>La primera línea de %1 no contiene ninguna clave ni contraseña.</translation>
+    </message>
 </context>
 </TS>

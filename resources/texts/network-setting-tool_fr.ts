@@ -1191,5 +1191,8 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
     <message id="DWT_Localize_Cli_ResultsEnd">
         <translation>%1 ne peut pas être écrit : %2. Aucune autre imprimante n’est commencée.</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_EmptySecret">
+        <translation>La première ligne de %1 ne contient ni clé ni mot de passe.</translation>
+    </message>
 </context>
 </TS>

@@ -1191,5 +1191,8 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
     <message id="DWT_Localize_Cli_ResultsEnd">
         <translation>%1 に書き込めません: %2。次のプリンターには進みません。</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_EmptySecret">
+        <translation>%1 の 1 行目にキーまたはパスワードがありません。</translation>
+    </message>
 </context>
 </TS>

@@ -1191,5 +1191,8 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
     <message id="DWT_Localize_Cli_ResultsEnd">
         <translation>无法写入 %1：%2。不再处理后面的打印机。</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_EmptySecret">
+        <translation>%1 的第一行没有密钥或密码。</translation>
+    </message>
 </context>
 </TS>

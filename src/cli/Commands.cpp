@@ -3,6 +3,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <algorithm>
+#include <cerrno>
 
 #include "cli/Interrupt.h"
 #include "cli/Options.h"
@@ -168,6 +169,7 @@ class Run {
             faults += faultsBetween(row.values);
             rows << row;
         }
+        if (table.faults.isEmpty()) faults += repeatedAddresses(rows);
         Fault fault;
         if (!m_passwords.load(m_options.passwordFile, fault)) faults << fault;
         if (!faults.isEmpty()) return m_terminal.fail(faults);
@@ -360,7 +362,8 @@ int runCommandLine(const QStringList &arguments) {
         Interrupt::watch();
         code = Run(options).run();
     }
-    if (!Terminal::flush() && code == Done)
+    // Who reads only the beginning of a pipe has got what was wanted.
+    if (!Terminal::flush() && errno != EPIPE && code == Done)
         code = terminal.fail(InputRefused, text("DWT_Localize_Cli_Output"));
     return code;
 }

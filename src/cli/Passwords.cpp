@@ -16,7 +16,8 @@ bool Passwords::load(const QString &file, Fault &fault) {
         m_password = readSecret(file, fault);
         return m_password.has_value();
     }
-    if (const char *const given = std::getenv(variable)) m_password = QString::fromUtf8(given);
+    const char *const given = std::getenv(variable);
+    if (given && *given) m_password = QString::fromUtf8(given);
     return true;
 }
 

@@ -221,8 +221,9 @@ std::optional<QString> readSecret(const QString &path, Fault &fault) {
     QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
     const QString secret = decoder.decode(QByteArrayView(*bytes).first(end));
     wipe(*bytes);
-    if (!decoder.hasError()) return secret;
-    fault.text = text("DWT_Localize_Cli_Fault_NotUtf8");
+    if (!decoder.hasError() && !secret.isEmpty()) return secret;
+    fault.text = secret.isEmpty() ? text("DWT_Localize_Cli_Fault_EmptySecret").arg(path)
+                                  : u"%1: %2"_s.arg(path, text("DWT_Localize_Cli_Fault_NotUtf8"));
     return {};
 }
 

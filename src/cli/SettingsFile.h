@@ -13,8 +13,8 @@ inline constexpr qint64 longestInput = qint64{4} * 1024 * 1024;
 // `fault` says so.
 std::optional<QByteArray> readInput(const QString &path, Fault &fault);
 
-// A key or password of a file: its first line. Nothing when it cannot be read or is not UTF-8, and
-// `fault` says so.
+// A key or password of a file: its first line. Nothing when it cannot be read, is empty or not
+// UTF-8, and `fault` says so.
 std::optional<QString> readSecret(const QString &path, Fault &fault);
 
 // Settings that a file gives, in its order.

@@ -133,35 +133,24 @@ class Reader {
             const auto value = valueFromText(*column.setting, cell, fault);
             if (value && value->place.text.isEmpty()) {
                 row.values << *value;
-                checkAddress(*value);
             } else {
                 m_table.faults << (value ? value->place : fault);
             }
         }
     }
 
-    // Finds out whether a row before has the same of a kind: `kind` and `value`.
-    void checkOnce(const QString &kind, const QString &value, const Fault &place, const char *key) {
-        const auto seen = m_seen.constFind({kind, value});
-        if (seen == m_seen.constEnd())
-            m_seen.insert({kind, value}, place.line);
-        else
-            addFault(place.line, place.name, text(key).arg(*seen));
-    }
-
-    // Of the addresses of all interfaces, each may be there once.
-    void checkAddress(const GivenValue &value) {
-        if (value.setting->name.endsWith(u".address.ip"_s))
-            checkOnce(u"address"_s, std::get<QStringList>(value.value).join(u'.'), value.place,
-                      "DWT_Localize_Cli_Fault_SameAddress");
-    }
-
     // Only the first that is filled tells which printer it is.
     void checkPrinter(const TableRow &row) {
-        for (const auto &[name, member] : knownBy)
-            if (!(row.*member).isEmpty())
-                return checkOnce(name, row.*member, {m_file, row.line, name, {}, true},
-                                 "DWT_Localize_Cli_Fault_SamePrinter");
+        for (const auto &[name, member] : knownBy) {
+            const QString &value = row.*member;
+            if (value.isEmpty()) continue;
+            const auto seen = m_seen.constFind({name, value});
+            if (seen == m_seen.constEnd())
+                m_seen.insert({name, value}, row.line);
+            else
+                addFault(row.line, name, text("DWT_Localize_Cli_Fault_SamePrinter").arg(*seen));
+            return;
+        }
         if (m_anyKnown) addFault(row.line, {}, text("DWT_Localize_Cli_Fault_NoPrinter"));
     }
 
@@ -206,6 +195,7 @@ Table tableFromCsv(const QByteArray &bytes, const QString &file) {
     if (table.rows.isEmpty() && fault.text.isEmpty() && table.faults.isEmpty())
         fault.text = text("DWT_Localize_Cli_Fault_NoRows");
     if (!fault.text.isEmpty()) table.faults << fault;
+    table.faults += repeatedAddresses(table.rows);
     return table;
 }
 
@@ -214,6 +204,23 @@ Table tableFromFile(const QString &path) {
     const auto bytes = readInput(path, fault);
     if (bytes) return tableFromCsv(*bytes, path);
     return {{}, {fault}};
+}
+
+QList<Fault> repeatedAddresses(const QList<TableRow> &rows) {
+    QList<Fault> faults;
+    QHash<QString, int> seen;  // the line of the first row
+    for (const TableRow &row : rows)
+        for (const GivenValue &value : row.values) {
+            if (!value.setting->name.endsWith(u".address.ip"_s)) continue;
+            const QString address = std::get<QStringList>(value.value).join(u'.');
+            if (const auto first = seen.constFind(address); first != seen.constEnd()) {
+                faults << value.place;
+                faults.last().text = text("DWT_Localize_Cli_Fault_SameAddress").arg(*first);
+            } else {
+                seen.insert(address, row.line);
+            }
+        }
+    return faults;
 }
 
 QList<GivenValue> laidOver(const QList<GivenValue> &below, const QList<GivenValue> &above) {

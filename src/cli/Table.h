@@ -31,6 +31,9 @@ Table tableFromCsv(const QByteArray &csv, const QString &file);
 // The same from a file.
 Table tableFromFile(const QString &path);
 
+// The faults of addresses that more than one row gives: at the value of every row but the first.
+QList<Fault> repeatedAddresses(const QList<TableRow> &rows);
+
 // The values of a row laid over those of a template.
 QList<GivenValue> laidOver(const QList<GivenValue> &below, const QList<GivenValue> &above);
 

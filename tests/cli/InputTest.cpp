@@ -101,12 +101,15 @@ TEST_F(Input, OfSecretsInFiles) {
     };
     write(u"key"_s, " key with spaces \r\nmore");
     write(u"long"_s, QByteArray(longestInput + 1, 'x'));
+    write(u"empty"_s, "\nsecond");
     write(u"bytes"_s, "\xFF\xFE");
     write(u"f.json"_s, R"({"wireless": {"key": {"file": "key"}, "wepKey": {"file": "long"}},
+                           "accessPoint": {"key": {"file": "empty"}},
                            "password": {"administrator": {"file": "bytes"}}})");
     const GivenSettings given = settingsFromFile(folder.filePath(u"f.json"_s));
     EXPECT_EQ(asText(given.values, given.faults),
-              "wireless.key=' key with spaces ' | 1 wireless.wepKey | 2 password.administrator");
+              "wireless.key=' key with spaces ' | 1 wireless.wepKey | 2 accessPoint.key | "
+              "3 password.administrator");
 }
 
 TEST_F(Input, OfTables) {

@@ -168,6 +168,12 @@ TEST(Provision, NothingIsSentFromATableWithAFault) {
     EXPECT_EQ(first.err.count('\n'), 3) << first.err.constData();
     EXPECT_TRUE(first.err.contains("table.csv: line 4, column \"device.timeout\": "));
     EXPECT_EQ(printers.stateOf(1), oldState(1));
+    // An address of the template would be that of two printers.
+    printers.write(u"table.csv"_s, "serial\nS1\nS2\n");
+    const QString common = printers.write(
+        u"common.json"_s, R"({"wired": {"address": {"mode": "fixed", "ip": "10.0.0.1"}}})");
+    EXPECT_EQ(run(printers, {u"provision"_s, table, u"--template"_s, common}).code, InputRefused);
+    EXPECT_EQ(printers.stateOf(1), oldState(1));
 }
 
 TEST(Provision, LeaveAloneWhatIsNotOnePrinterOfOneRow) {
