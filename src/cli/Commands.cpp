@@ -92,7 +92,7 @@ class Run {
         const auto problems = manager->printerProblems();
         m_terminal.note(problems);
         if (isWaitCancelled()) return stopped();
-        if (printers.isEmpty() && problems.isEmpty() && !m_options.json)
+        if (printers.isEmpty() && !m_options.json)
             m_terminal.note(text("DWT_Localize_Cli_NoPrinters"));
         return Done;
     }
@@ -166,7 +166,8 @@ class Run {
         QList<TableRow> rows;
         for (TableRow row : table.rows) {
             row.values = laidOver(given.values, row.values);
-            faults += faultsBetween(row.values);
+            for (const Fault &fault : faultsBetween(row.values))
+                if (!faults.contains(fault)) faults << fault;  // the template's once
             rows << row;
         }
         if (table.faults.isEmpty()) faults += repeatedAddresses(rows);

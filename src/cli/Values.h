@@ -14,6 +14,8 @@ struct Fault {
     QString name = {};      // of a setting, or of a column
     QString text = {};      // in words, without the place
     bool isColumn = false;  // `name` is that of a column
+
+    bool operator==(const Fault &) const = default;
 };
 
 // A value that a file gives for a setting.
