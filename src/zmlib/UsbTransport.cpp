@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <vector>
 
@@ -20,7 +21,8 @@ using Context = std::shared_ptr<libusb_context>;
 constexpr int readSize = 4096;
 constexpr int smallestPacket = 8;
 
-// One bulk transfer, waited for in slices on whatever thread it is.
+// One bulk transfer, waited for in slices on whatever thread it is. Its end may be noticed by
+// another thread, which waits for a transfer of its own.
 class Transfer {
   public:
     Transfer(Context context, libusb_device_handle *device, quint8 endpoint)
@@ -37,7 +39,8 @@ class Transfer {
         m_ended = 0;
         libusb_fill_bulk_transfer(
             m_transfer.get(), m_device, m_endpoint, reinterpret_cast<unsigned char *>(data), size,
-            [](libusb_transfer *t) { *static_cast<int *>(t->user_data) = 1; }, &m_ended, 0);
+            [](libusb_transfer *t) { std::atomic_ref(*static_cast<int *>(t->user_data)).store(1); },
+            &m_ended, 0);
         m_running = libusb_submit_transfer(m_transfer.get()) == LIBUSB_SUCCESS;
         return m_running;
     }
@@ -46,7 +49,7 @@ class Transfer {
     bool wait(const QDeadlineTimer &deadline) {
         look(std::chrono::milliseconds(0));
         const auto pause = [this](std::chrono::milliseconds slice) { look(slice); };
-        const bool ended = waitUntil([this] { return m_ended != 0; }, deadline, pause);
+        const bool ended = waitUntil([this] { return hasEnded(); }, deadline, pause);
         m_running = !ended;
         return ended;
     }
@@ -55,7 +58,7 @@ class Transfer {
     void cancel() {
         if (!m_running) return;
         libusb_cancel_transfer(m_transfer.get());
-        while (!m_ended) look(waitSlice);
+        while (!hasEnded()) look(waitSlice);
         m_running = false;
     }
 
@@ -69,9 +72,11 @@ class Transfer {
     }
 
   private:
+    bool hasEnded() { return std::atomic_ref(m_ended).load() != 0; }
+
     void look(std::chrono::milliseconds time) {
         timeval slice{0, static_cast<suseconds_t>(time.count() * 1000)};
-        if (!m_ended) libusb_handle_events_timeout_completed(m_context.get(), &slice, &m_ended);
+        if (!hasEnded()) libusb_handle_events_timeout_completed(m_context.get(), &slice, &m_ended);
     }
 
     const Context m_context;

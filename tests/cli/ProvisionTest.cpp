@@ -9,6 +9,7 @@
 #include "cli/ExitCode.h"
 #include "cli/Programs.h"
 #include "cli/Provision.h"
+#include "support/OnePrinterLibrary.h"
 
 using namespace Qt::StringLiterals;
 
@@ -168,11 +169,13 @@ TEST(Provision, NothingIsSentFromATableWithAFault) {
     EXPECT_EQ(first.err.count('\n'), 3) << first.err.constData();
     EXPECT_TRUE(first.err.contains("table.csv: line 4, column \"device.timeout\": "));
     EXPECT_EQ(printers.stateOf(1), oldState(1));
+    EXPECT_EQ(run(printers, {u"check"_s, table}).err, first.err);
     // An address of the template would be that of two printers.
     printers.write(u"table.csv"_s, "serial\nS1\nS2\n");
     const QString common = printers.write(
         u"common.json"_s, R"({"wired": {"address": {"mode": "fixed", "ip": "10.0.0.1"}}})");
     EXPECT_EQ(run(printers, {u"provision"_s, table, u"--template"_s, common}).code, InputRefused);
+    EXPECT_EQ(run(printers, {u"check"_s, common}).code, Done);
     EXPECT_EQ(printers.stateOf(1), oldState(1));
 }
 
@@ -258,4 +261,30 @@ TEST(Provision, PrintersAreDoneAsTheyArePluggedInEachOnce) {
                                                "S2 done"}));
         installLibrary(nullptr);
     }
+}
+
+TEST(Provision, SeveralPrintersOverUsbAtATime) {
+    const UsbBed bed;
+    if (!UsbBed::isThere()) GTEST_SKIP();
+    constexpr int count = 5;
+    std::vector<std::shared_ptr<VirtualPrinter>> printers;
+    std::vector<std::unique_ptr<UsbEmulator>> usb;
+    QByteArray csv = "serial,device.timeout\n";
+    for (int i = 1; i <= count; ++i) {
+        const QByteArray n = QByteArray::number(i);
+        printers.push_back(printerOf(profileOf(i, "}}")));
+        UsbEmulator::Description description;
+        description.port = "1-" + n;
+        description.address = i;
+        description.serial = "S" + n;
+        usb.push_back(std::make_unique<UsbEmulator>(bed, printers.back(), description));
+        usb.back()->plug();
+        csv += "S" + n + ",9" + n + '\n';
+    }
+    installLibrary(libraryOf<UsbSource>(5000));
+    Terminal terminal(false);
+    Passwords passwords;
+    EXPECT_EQ(Provision(terminal, passwords, tableFromCsv(csv, {}).rows, false).run({}), Done);
+    for (int i = 1; i <= count; ++i) EXPECT_EQ(printers[size_t(i) - 1]->item(0x1007)[0], 90 + i);
+    installLibrary(nullptr);
 }
