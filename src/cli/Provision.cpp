@@ -92,16 +92,20 @@ ExitCode Provision::run(const QString &resultFile) {
 void Provision::tick() {
     if (!m_stopping && Interrupt::isRequested()) {
         m_stopping = true;
-        if (m_running > 0) m_terminal.note(text("DWT_Localize_Cli_Stopping"));
+        if (!m_working.isEmpty()) m_terminal.note(text("DWT_Localize_Cli_Stopping"));
     }
-    if (!m_stopping && !listsCatalogue() && make<DWTDataManager>()->hasPrinterListChanged()) look();
+    const bool follow = !m_stopping && !listsCatalogue();
+    if (follow && (m_lookAgain || make<DWTDataManager>()->hasPrinterListChanged())) look();
+    startNext();
     if (isEnd()) m_loop.quit();
 }
 
 // The name of a printer is asked only where a row is found by it: no two printers may have it then.
+// One that comes again while it is still worked on has its turn afterwards.
 void Provision::look() {
     if (m_looking) return;
     m_looking = true;
+    m_lookAgain = false;
     const auto manager = make<DWTDataManager>();
     const auto link = make<DWTCommunicationControl>();
     const bool byName = std::any_of(m_rows.begin(), m_rows.end(), isByName);
@@ -112,6 +116,10 @@ void Provision::look() {
         const QString uri = entry.value(PrinterKey::DeviceURI);
         if (const auto known = before.constFind(uri); known != before.constEnd()) {
             m_present.insert(uri, *known);
+            continue;
+        }
+        if (m_working.contains(uri)) {
+            m_lookAgain = true;
             continue;
         }
         if (byName) entry.insert(PrinterKey::MachineName, manager->printerName(link, entry));
@@ -128,13 +136,14 @@ void Provision::look() {
 }
 
 void Provision::startNext() {
-    while (!m_stopping && !m_looking && m_running < printersAtATime && !m_waiting.isEmpty()) {
+    while (!m_stopping && !m_looking && m_working.size() < printersAtATime &&
+           !m_waiting.isEmpty()) {
         const PrinterEntry entry = m_waiting.takeFirst();
         if (!MainThread::startBackgroundWork([this, entry] { work(entry); })) {
             m_waiting.prepend(entry);  // the system has no thread for it at the moment
             break;
         }
-        ++m_running;
+        m_working.insert(entry.value(PrinterKey::DeviceURI));
     }
 }
 
@@ -220,7 +229,7 @@ void Provision::finish(const PrinterSession &session, const Outcome &outcome) {
     }
     m_worst = std::max(m_worst, outcome.code);
     note(session, outcome);
-    --m_running;
+    m_working.remove(session.entry().value(PrinterKey::DeviceURI));
     startNext();
     if (isEnd()) m_loop.quit();
 }
@@ -232,9 +241,8 @@ void Provision::note(const PrinterSession &session, const Outcome &outcome) {
     m_terminal.print(u"%1: %2"_s.arg(whereabouts.isEmpty() ? uri : whereabouts, outcome.text));
     Terminal::flush();
     if (!m_results.isOpen() || m_writeFailed) return;
-    const QDateTime now = QDateTime::currentDateTime();
-    if (m_results.add({now.toOffsetFromUtc(now.offsetFromUtc()).toString(Qt::ISODate),
-                       session.name(), entry.value(PrinterKey::SerialNumber), uri,
+    if (m_results.add({QDateTime::currentDateTimeUtc().toString(Qt::ISODate), session.name(),
+                       entry.value(PrinterKey::SerialNumber), uri,
                        outcome.row ? QString::number(outcome.row->line) : QString(), outcome.word,
                        outcome.text}))
         return;
@@ -252,7 +260,7 @@ bool Provision::isAllDone() const {
 }
 
 bool Provision::isEnd() const {
-    if (m_running > 0 || m_looking) return false;
+    if (!m_working.isEmpty() || m_looking) return false;
     return m_stopping || (m_waiting.isEmpty() && (isAllDone() || listsCatalogue()));
 }
 

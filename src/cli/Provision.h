@@ -3,6 +3,7 @@
 #include <QEventLoop>
 #include <QList>
 #include <QMap>
+#include <QSet>
 #include <QString>
 #include <QTimer>
 #include <atomic>
@@ -68,8 +69,9 @@ class Provision {
     QMap<QString, PrinterEntry> m_present;  // the printers of the last look, by URI
     QList<PrinterProblem> m_problems;       // of the last look
     QList<PrinterEntry> m_waiting;
-    int m_running = 0;
+    QSet<QString> m_working;  // URIs of the printers that are worked on
     bool m_looking = false;
+    bool m_lookAgain = false;             // a printer came that was still worked on
     std::atomic<bool> m_stopping{false};  // read by the workers
     bool m_writeFailed = false;
     ExitCode m_worst = Done;
