@@ -1,6 +1,7 @@
 #include "cli/Terminal.h"
 
 #include <bsd/readpassphrase.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <QJsonArray>
@@ -13,6 +14,7 @@
 
 #include "cli/Interrupt.h"
 #include "platform/core/Texts.h"
+#include "platform/core/Waiting.h"
 #include "settings/PrinterWords.h"
 
 using namespace Qt::StringLiterals;
@@ -145,6 +147,10 @@ bool Terminal::confirm(const QString &question) {
     showProgress({});
     flush();
     put(stderr, question + u' ');
+    // A signal that comes right before the read would not end it.
+    pollfd input{STDIN_FILENO, POLLIN, 0};
+    while (!Interrupt::isRequested() && ::poll(&input, 1, waitSlice.count()) <= 0) {
+    }
     std::array<char, longestAnswer> answer{};
     if (Interrupt::isRequested() || !std::fgets(answer.data(), answer.size(), stdin)) {
         put(stderr, u"\n"_s);

@@ -259,7 +259,7 @@ TEST(Commands, AskAtTheTerminal) {
     const std::string before = printers.stateOf(1);
     EXPECT_EQ(Conversation(printers, apply, {{"[y/N]", "\n"}}).code, Stopped);
     EXPECT_EQ(Conversation(printers, apply, {{"[y/N]", "\x03"}}).code, Stopped);
-    EXPECT_EQ(Conversation(printers, apply, {{"[y/N]", "y\n"}, {"password", "\x03"}}).code,
+    EXPECT_EQ(Conversation(printers, apply, {{"[y/N]", "y\n"}, {"password", "\x03\n"}}).code,
               Stopped);
     EXPECT_EQ(printers.stateOf(1), before);
     const Conversation changed(printers, apply, {{"[y/N]", "y\n"}, {"password", "open123\n"}});
