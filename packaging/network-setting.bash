@@ -1,10 +1,16 @@
 # Completion of network-setting for bash: commands, their options, and names of files.
 
 _network_setting() {
-  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]-}
-  local options='' files=0 given=0 i
+  local words=() options='' files=0 given=0 i
+  # bash takes "--template=FILE" apart at the "=".
+  for ((i = 0; i <= COMP_CWORD; i++)); do
+    [ "${COMP_WORDS[i]}" = = ] || words+=("${COMP_WORDS[i]}")
+  done
+  [ "${COMP_WORDS[COMP_CWORD]}" != = ] || words+=('')
+  local last=$((${#words[@]} - 1)) command=${words[1]-}
+  local word=${words[last]}
   COMPREPLY=()
-  if [ "$COMP_CWORD" -eq 1 ]; then
+  if [ "$last" -eq 1 ]; then
     mapfile -t COMPREPLY < <(compgen -W 'list show check apply provision networks --help --version' -- "$word")
     return
   fi
@@ -16,7 +22,7 @@ _network_setting() {
     provision) options='--template --password-file --result --again --help' files=1 ;;
     *) return ;;
   esac
-  case $before in
+  case ${words[last - 1]} in
     --password-file | --template | --result)
       mapfile -t COMPREPLY < <(compgen -f -- "$word")
       return
@@ -26,9 +32,9 @@ _network_setting() {
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
     return
   fi
-  for ((i = 2; i <= COMP_CWORD; i++)); do
-    case ${COMP_WORDS[i - 1]} in --password-file | --template | --result) continue ;; esac
-    [[ ${COMP_WORDS[i]} == -* ]] || given=$((given + 1))
+  for ((i = 2; i <= last; i++)); do
+    case ${words[i - 1]} in --password-file | --template | --result) continue ;; esac
+    [[ ${words[i]} == -* ]] || given=$((given + 1))
   done
   if [ "$given" -eq "$files" ]; then
     mapfile -t COMPREPLY < <(compgen -f -- "$word")

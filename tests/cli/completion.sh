@@ -29,6 +29,7 @@ expect '' network-setting apply ''
 expect 'office.json' network-setting apply Desk-1 --yes o
 expect '--dry-run' network-setting apply Desk-1 --d
 expect 'office.json table.csv' network-setting provision --template ''
-expect 'table.csv' network-setting provision --template office.json t
+expect 'table.csv' network-setting provision --template = office.json t
+expect 'office.json table.csv' network-setting apply Desk-1 --password-file =
 expect '' network-setting paint ''
 exit "$failed"
