@@ -42,8 +42,8 @@ set(CPACK_PACKAGE_DESCRIPTION
   "Lists the label printers that are reachable over USB or the network, reads all
 network settings of one, shows them on seven pages, checks what is typed, and
 writes everything back in one transaction, after a login where the printer has
-an administrator password. Only a printer connected over USB can be changed. The
-program network-setting does the same from a terminal or a script, for one
+an administrator password. Only a printer connected over USB can be changed.
+The program network-setting does the same from a terminal or a script, for one
 printer or for a table of many.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)

@@ -17,7 +17,7 @@ _network_setting() {
   # "files" is the argument, counted from 1, that names a file.
   case $command in
     list | show | networks) options='--json --help' ;;
-    check) options='--help' files=1 ;;
+    check) options='--json --help' files=1 ;;
     apply) options='--password-file --dry-run --yes --help' files=2 ;;
     provision) options='--template --password-file --result --again --help' files=1 ;;
     *) return ;;

@@ -951,7 +951,7 @@
 使い方:
   network-setting list [--json]
   network-setting show PRINTER [--json]
-  network-setting check FILE
+  network-setting check FILE [--json]
   network-setting apply PRINTER FILE [--password-file F] [--dry-run] [--yes]
   network-setting provision TABLE.csv [--template FILE] [--password-file F]
                             [--result OUT.csv] [--again]

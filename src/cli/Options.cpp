@@ -20,7 +20,7 @@ const QList<Command> &commands() {
     static const QList<Command> all{
         {u"list"_s, 0, {u"json"_s}, {}},
         {u"show"_s, 1, {u"json"_s}, {}},
-        {u"check"_s, 1, {}, {}},
+        {u"check"_s, 1, {u"json"_s}, {}},
         {u"apply"_s, 2, {u"dry-run"_s, u"yes"_s}, {u"password-file"_s}},
         {u"provision"_s, 1, {u"again"_s}, {u"template"_s, u"password-file"_s, u"result"_s}},
         {u"networks"_s, 1, {u"json"_s}, {}}};
@@ -58,6 +58,10 @@ Options optionsOf(const QStringList &arguments) {
         return options;
     }
     options.command = name;
+    const auto has = [&](const QString &flag) {
+        return command->flags.contains(flag) && parser.isSet(flag);
+    };
+    options.json = has(u"json"_s);
     options.arguments = parser.positionalArguments().mid(1);
     if (options.arguments.size() != command->arguments) {
         options.error = localized(u"DWT_Localize_Cli_BadArguments"_s)
@@ -65,13 +69,9 @@ Options optionsOf(const QStringList &arguments) {
                                  QString::number(options.arguments.size()));
         return options;
     }
-    const auto has = [&](const QString &flag) {
-        return command->flags.contains(flag) && parser.isSet(flag);
-    };
     const auto file = [&](const QString &option) {
         return command->files.contains(option) ? parser.value(option) : QString();
     };
-    options.json = has(u"json"_s);
     options.dryRun = has(u"dry-run"_s);
     options.yes = has(u"yes"_s);
     options.again = has(u"again"_s);

@@ -127,6 +127,7 @@ TEST(Commands, EndWithTheCodeOfWhatHappened) {
         {"{}", nullptr, {u"paint"_s}, UsedWrongly, "paint"},
         {"{}", nullptr, {u"show"_s}, UsedWrongly, "1 arguments"},
         {"{}", nullptr, {u"list"_s, u"--yes"_s}, UsedWrongly, "yes"},
+        {"{}", nullptr, {u"list"_s, u"--json"_s, u"S1"_s}, UsedWrongly, "\"code\":1"},
         {"{}", nullptr, {u"check"_s, u"/nowhere/x.json"_s}, InputRefused, "/nowhere/x.json"},
         {"{}", nullptr, {u"show"_s, u"Nobody"_s, u"--json"_s}, NotReached, "\"code\":3"},
         {"{}", R"({"names": {"printer": "a b"}, "device": {"timeout": 5}})", yes, InputRefused,
@@ -158,6 +159,26 @@ TEST(Commands, EndWithTheCodeOfWhatHappened) {
         const Ended ended = run(printers, arguments);
         EXPECT_EQ(ended.code, row.code) << row.said << ended.err.constData();
         EXPECT_TRUE(ended.err.contains(row.said)) << row.said << ended.err.constData();
+    }
+}
+
+TEST(Commands, TellFaultsWithTheirPlacesInJson) {
+    const Printers printers({});
+    const QString file = printers.write(
+        u"f.json"_s, "{\"device\":\n {\"timeout\": 5},\n \"names\": {\"printer\": \"a b\"}}");
+    const Ended ended = run(printers, {u"check"_s, file, u"--json"_s});
+    EXPECT_EQ(ended.code, InputRefused);
+    const QList<QByteArray> lines = ended.err.trimmed().split('\n');
+    ASSERT_EQ(lines.size(), 2) << ended.err.constData();
+    const std::pair<int, QString> faults[] = {{2, u"device.timeout"_s}, {3, u"names.printer"_s}};
+    for (int i = 0; i < 2; ++i) {
+        QJsonObject fault = jsonOf(lines[i]);
+        EXPECT_FALSE(fault.take(u"message"_s).toString().isEmpty());
+        EXPECT_EQ(fault, (QJsonObject{{u"code"_s, 2},
+                                      {u"file"_s, file},
+                                      {u"line"_s, faults[i].first},
+                                      {u"name"_s, faults[i].second}}))
+            << lines[i].constData();
     }
 }
 
