@@ -1,5 +1,6 @@
 #include "mainwindow/SendDialog.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 
 #include "platform/ui/FieldLooks.h"
@@ -94,7 +95,17 @@ void SendDialog::MSW_SendUISelector(const QString &viewKey) {
     showChanges(viewKey == DWT_View_Key_Send_Confirm);
     dictionary_SendViewManagement->select(viewKey);
     dictionary_SendViewManagement->focusFirstControl();
-    // What is said instead of the usual may be longer.
+    if (isVisible()) makeRoom();
+}
+
+// The layouts of a window that is not shown yet are not active, and tell the sizes of before.
+void SendDialog::showEvent(QShowEvent *event) {
+    ModalWindow::showEvent(event);
+    makeRoom();
+}
+
+void SendDialog::makeRoom() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     const int needed = layout()->totalHeightForWidth(width());
     if (needed > height()) resize(width(), needed);
 }

@@ -69,7 +69,12 @@ class SendDialog : public ModalWindow, private Ui::SendDialog {
     // The end of a send was read.
     void endPushed();
 
+  protected:
+    void showEvent(QShowEvent *event) override;
+
   private:
+    // Grows to what the shown view needs.
+    void makeRoom();
     void connectButtons();
     void showChanges(bool shown);
     void push_SendChangeCheckCancel();

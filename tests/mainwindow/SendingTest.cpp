@@ -5,6 +5,7 @@
 #include <QWindow>
 
 #include "PrinterWindow.h"
+#include "support/Rectangles.h"
 
 namespace {
 
@@ -156,7 +157,10 @@ TEST_F(Sending, WhatWillChangeIsListedAndWarnedOfBeforeItIsSent) {
                        "no key was entered. The printer keeps its old key."));
         QTest::keyClick(list, Qt::Key_Return);
     };
-    warned().on("view_SendConfirm", reads).on("view_SendEnd", "button_SendEndOK");
+    warned()
+        .on("view_SendConfirm", expectNothingIsCovered)
+        .on("view_SendConfirm", reads)
+        .on("view_SendEnd", "button_SendEndOK");
     send();
     EXPECT_EQ(held(), QByteArray("desk-2"));
     EXPECT_EQ(markOf("Names") + markOf("Infrastructure"), QString());
