@@ -20,8 +20,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
         ItemCodec::integer(reply, code);
         ItemCodec::addresses(reply, code);
         ItemCodec::integerAndAddresses(reply, code);
-        const int result = ItemCodec::result(reply, code);
-        if (result < -1 || result > 0xFFFF) __builtin_trap();
+        const auto result = ItemCodec::result(reply, code);
+        if (result && (*result < 0 || *result > 0xFFFF)) __builtin_trap();
     }
     return 0;
 }

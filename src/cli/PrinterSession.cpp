@@ -126,11 +126,11 @@ Ending PrinterSession::logIn(const AskPassword &password) {
     auto given = password();
     if (!given) return {LoginRefused, text("DWT_Localize_Cli_NoPassword").arg(name())};
     if (m_manager->connectPrinter() != 0) return notReached();
-    const int login = m_manager->checkLoginPassword(*given);
+    const WriteResult login = m_manager->checkLoginPassword(*given);
     m_manager->disconnectPrinter();
     wipe(*given);
-    if (login == LoginResult::Accepted) return {};
-    if (login == SettingResult::NoReply) return notReached();
+    if (login.kind == WriteResult::Accepted) return {};
+    if (login.kind == WriteResult::NoReply) return notReached();
     return {LoginRefused, text("DWT_Localize_Cli_LoginRefused").arg(name())};
 }
 
@@ -142,11 +142,9 @@ Ending PrinterSession::endingOfSend() const {
     if (report.login == SendReport::Login::Refused)
         return {LoginRefused, text("DWT_Localize_Cli_LoginRefused").arg(name())};
     if (report.login == SendReport::Login::NoReply) return notReached();
-    QList<ItemCode> refused;
-    for (const auto &[code, result] : report.refused) refused << code;
     QStringList sentences;
-    if (!refused.isEmpty())
-        sentences << text("DWT_Localize_Cli_Refused").arg(name(), namesOf(refused));
+    if (!report.refused.isEmpty())
+        sentences << text("DWT_Localize_Cli_Refused").arg(name(), namesOf(report.refused));
     if (!report.unclear.isEmpty())
         sentences << text("DWT_Localize_Cli_Unclear").arg(name(), namesOf(report.unclear));
     return {NotAccepted, sentences.join(u' ')};

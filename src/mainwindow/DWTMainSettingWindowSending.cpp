@@ -102,12 +102,12 @@ void DWTMainSettingWindow::push_SendLoginOK() {
             window_SendData->sayInstead(DWT_View_Key_Send_Login, unreachable);
             return DWT_View_Key_Send_Login;
         }
-        const int login = dataManager_Object->checkLoginPassword(window_SendData->password());
+        const auto login = dataManager_Object->checkLoginPassword(window_SendData->password());
         dataManager_Object->disconnectPrinter();
         if (isWaitCancelled()) return DWT_View_Key_Send_Login;
-        if (login == SettingResult::NoReply)
+        if (login.kind == WriteResult::NoReply)
             window_SendData->sayInstead(DWT_View_Key_Send_LoginError, unreachable);
-        if (login != LoginResult::Accepted) return DWT_View_Key_Send_LoginError;
+        if (login.kind != WriteResult::Accepted) return DWT_View_Key_Send_LoginError;
         window_SendData->clearPassword();
         return DWT_View_Key_Send_Confirm;
     };
@@ -132,10 +132,8 @@ void DWTMainSettingWindow::sayWhatWasSent() {
         paragraphs << text("DWT_Localize_Send_End_LoginRefused");
     if (report.login == SendReport::Login::NoReply)
         paragraphs << text("DWT_Localize_Send_End_LoginNoReply");
-    QList<ItemCode> refused;
-    for (const auto &[code, result] : report.refused) refused << code;
-    if (!refused.isEmpty())
-        paragraphs << text("DWT_Localize_Send_End_Refused").arg(namesOf(refused, u"\n"_s));
+    if (!report.refused.isEmpty())
+        paragraphs << text("DWT_Localize_Send_End_Refused").arg(namesOf(report.refused, u"\n"_s));
     if (!report.unclear.isEmpty())
         paragraphs << text("DWT_Localize_Send_End_Unclear").arg(namesOf(report.unclear, u"\n"_s));
     if (!paragraphs.isEmpty())

@@ -46,11 +46,17 @@ namespace PasswordState {
 enum Code { NoAnswer = 1, Set = 2, NotSet = 3 };
 }
 
-// Results of DWTDataManager::checkLoginPassword() and of the setting operations, beside the
-// printer's own codes.
-namespace LoginResult {
-enum Code { NoLink = 0, Accepted = 4 };
-}
-namespace SettingResult {
-enum Code { NoReply = -1, Accepted = 0, RefusedUnsent = 1 };
-}
+// What became of an item that was to be written, the login among them. No code of a printer stands
+// for it, since a printer may refuse with any.
+struct WriteResult {
+    enum Kind {
+        Accepted,
+        Refused,  // by the printer, with `code`
+        NoReply,  // or none that can be used
+        Unsent    // there is no link, or the value does not fit into a frame
+    };
+    Kind kind = Unsent;
+    int code = 0;  // 1..65535 of Refused
+
+    bool operator==(const WriteResult &) const = default;
+};

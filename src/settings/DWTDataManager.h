@@ -25,8 +25,8 @@ struct SendReport {
     bool unreached = false;       // the printer could not be connected, and nothing was written
     // The connection was lost before the update: nothing was applied.
     bool lost = false;
-    // The items that were not accepted, with the printer's code, or SettingResult::RefusedUnsent.
-    QList<std::pair<ItemCode, int>> refused;
+    // The items that the printer refused, or that do not fit into a frame.
+    QList<ItemCode> refused;
     // The items without a usable reply: the printer may have taken them.
     QList<ItemCode> unclear;
 
@@ -132,10 +132,9 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // 2: an administrator password is set; 3: none is set; 1: the printer cannot be connected or
     // gives no usable answer.
     int isPassword();
-    // 4: the password is accepted, and kept for the next send; 0: there is no link; 1: refused
-    // unsent; otherwise the printer's code, or -1 for an unusable reply. Call it between
-    // connectPrinter() and disconnectPrinter().
-    int checkLoginPassword(const QString &password);
+    // Tries a password; an accepted one is kept for the next send. Call it between connectPrinter()
+    // and disconnectPrinter().
+    WriteResult checkLoginPassword(const QString &password);
     // The link's results, 0 = connected; 1 without a link.
     int connectPrinter();
     void disconnectPrinter();
@@ -154,7 +153,7 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
 
     // One request; an empty reply clears the read-failure flag.
     QByteArray NDM_SendCommandSettingRequest(ItemCode code);
-    int NDM_ResultDataToInteger(const std::optional<QByteArray> &reply, ItemCode code);
+    WriteResult NDM_ResultDataToInteger(const std::optional<QByteArray> &reply, ItemCode code);
     // Items as values; each asks nothing while the read-failure flag is cleared. A value that
     // cannot be read is " ", 0 or nothing.
     QString NDM_DataToString(ItemCode code);
@@ -187,16 +186,15 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // Forgets what was told of items whose values did not get into the record.
     void forgetMissing();
 
-    // Items written: 0 accepted; 1 there is no link, or the value was refused unsent; -1 no usable
-    // reply; otherwise the printer's code.
-    int NDM_StringToData(ItemCode code, const QString &text);
-    int NDM_IntegerToData(ItemCode code, int value);
-    int NDM_StringAndLengthToData(ItemCode code, const QString &text);
-    int NDM_IntegerAndStringAndLengthToData(ItemCode code, int value, const QString &text);
-    int NDM_DataToData(ItemCode code, const QByteArray &bytes);
-    int NDM_IntegerAndArrayToData(ItemCode code, int value, const QStringList &first,
-                                  const QStringList &second, const QStringList &third);
-    int sendFrame(ItemCode code, std::optional<QByteArray> frame);
+    // Items written.
+    WriteResult NDM_StringToData(ItemCode code, const QString &text);
+    WriteResult NDM_IntegerToData(ItemCode code, int value);
+    WriteResult NDM_StringAndLengthToData(ItemCode code, const QString &text);
+    WriteResult NDM_IntegerAndStringAndLengthToData(ItemCode code, int value, const QString &text);
+    WriteResult NDM_DataToData(ItemCode code, const QByteArray &bytes);
+    WriteResult NDM_IntegerAndArrayToData(ItemCode code, int value, const QStringList &first,
+                                          const QStringList &second, const QStringList &third);
+    WriteResult sendFrame(ItemCode code, std::optional<QByteArray> frame);
 
     // The send, on its own thread.
     void NDM_SendDataToPrinterThread();
@@ -213,8 +211,8 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // Writes one item of the change data.
     void send(ItemCode code, Accepted &accepted);
     bool isWorthSending(const SentItem &item) const;
-    int write(const SentItem &item, const CategoryDictionary &change, bool changed);
-    void report(ItemCode code, int result);
+    WriteResult write(const SentItem &item, const CategoryDictionary &change, bool changed);
+    void report(ItemCode code, const WriteResult &result);
     CategoryDictionary changeOf(const QString &viewKey) const;
     CategoryDictionary savedOf(const QString &viewKey) const;
 

@@ -20,13 +20,13 @@ int DWTDataManager::isPassword() {
     }
 }
 
-int DWTDataManager::checkLoginPassword(const QString &password) {
-    if (!ncc_Object) return LoginResult::NoLink;
-    const int result = NDM_StringToData(0x1001, password);
-    if (result != SettingResult::Accepted) return result;
-    wipe(loginPassword_String);
-    loginPassword_String = ownCopy(password);
-    return LoginResult::Accepted;
+WriteResult DWTDataManager::checkLoginPassword(const QString &password) {
+    const WriteResult result = NDM_StringToData(0x1001, password);
+    if (result.kind == WriteResult::Accepted) {
+        wipe(loginPassword_String);
+        loginPassword_String = ownCopy(password);
+    }
+    return result;
 }
 
 int DWTDataManager::connectPrinter() {

@@ -41,9 +41,7 @@ bool SendReport::isComplete() const {
 }
 
 bool SendReport::isClean(ItemCode code) const {
-    const auto isIt = [code](const auto &entry) { return entry.first == code; };
-    return login == Login::Passed && !lost && !unclear.contains(code) &&
-           std::none_of(refused.begin(), refused.end(), isIt);
+    return login == Login::Passed && !lost && !unclear.contains(code) && !refused.contains(code);
 }
 
 void DWTDataManager::sendDataToPrinter() {
@@ -54,39 +52,43 @@ void DWTDataManager::sendDataToPrinter() {
     NDM_ProgressSetting(DWT_DataSend_Stop_Message, 1);
 }
 
-int DWTDataManager::NDM_ResultDataToInteger(const std::optional<QByteArray> &reply, ItemCode code) {
-    if (!reply || reply->isEmpty()) return SettingResult::NoReply;
-    return ItemCodec::result(*reply, code);
+WriteResult DWTDataManager::NDM_ResultDataToInteger(const std::optional<QByteArray> &reply,
+                                                    ItemCode code) {
+    const auto result = ItemCodec::result(reply.value_or(QByteArray()), code);
+    if (!result) return {WriteResult::NoReply};
+    return {*result == 0 ? WriteResult::Accepted : WriteResult::Refused, *result};
 }
 
-int DWTDataManager::NDM_StringToData(ItemCode code, const QString &text) {
+WriteResult DWTDataManager::NDM_StringToData(ItemCode code, const QString &text) {
     return sendFrame(code, ItemCodec::textFrame(code, text));
 }
 
-int DWTDataManager::NDM_IntegerToData(ItemCode code, int value) {
+WriteResult DWTDataManager::NDM_IntegerToData(ItemCode code, int value) {
     return sendFrame(code, ItemCodec::integerFrame(code, value));
 }
 
-int DWTDataManager::NDM_StringAndLengthToData(ItemCode code, const QString &text) {
+WriteResult DWTDataManager::NDM_StringAndLengthToData(ItemCode code, const QString &text) {
     return sendFrame(code, ItemCodec::textWithLengthFrame(code, text));
 }
 
-int DWTDataManager::NDM_IntegerAndStringAndLengthToData(ItemCode code, int value,
-                                                        const QString &text) {
+WriteResult DWTDataManager::NDM_IntegerAndStringAndLengthToData(ItemCode code, int value,
+                                                                const QString &text) {
     return sendFrame(code, ItemCodec::integerAndTextFrame(code, value, text));
 }
 
-int DWTDataManager::NDM_DataToData(ItemCode code, const QByteArray &bytes) {
+WriteResult DWTDataManager::NDM_DataToData(ItemCode code, const QByteArray &bytes) {
     return sendFrame(code, ItemCodec::bytesFrame(code, bytes));
 }
 
-int DWTDataManager::NDM_IntegerAndArrayToData(ItemCode code, int value, const QStringList &first,
-                                              const QStringList &second, const QStringList &third) {
+WriteResult DWTDataManager::NDM_IntegerAndArrayToData(ItemCode code, int value,
+                                                      const QStringList &first,
+                                                      const QStringList &second,
+                                                      const QStringList &third) {
     return sendFrame(code, ItemCodec::integerAndAddressesFrame(code, value, first, second, third));
 }
 
-int DWTDataManager::sendFrame(ItemCode code, std::optional<QByteArray> frame) {
-    if (!ncc_Object || !frame) return SettingResult::RefusedUnsent;
+WriteResult DWTDataManager::sendFrame(ItemCode code, std::optional<QByteArray> frame) {
+    if (!ncc_Object || !frame) return {WriteResult::Unsent};
     const auto reply = ncc_Object->sendSetting(*frame);
     wipe(*frame);
     return NDM_ResultDataToInteger(reply, code);
@@ -124,12 +126,12 @@ void DWTDataManager::NDM_ProgressSetting(const QString &notification, double ste
 bool DWTDataManager::sendLogin() {
     QString password = std::exchange(loginPassword_String, QString());
     if (password.isEmpty()) return true;
-    const int result = NDM_StringToData(0x1001, password);
+    const WriteResult result = NDM_StringToData(0x1001, password);
     wipe(password);
-    if (result == SettingResult::Accepted) return true;
+    if (result.kind == WriteResult::Accepted) return true;
     m_report.lost = ncc_Object->isClosedByPrinter();
-    m_report.login =
-        result == SettingResult::NoReply ? SendReport::Login::NoReply : SendReport::Login::Refused;
+    m_report.login = result.kind == WriteResult::NoReply ? SendReport::Login::NoReply
+                                                         : SendReport::Login::Refused;
     return false;
 }
 
@@ -181,10 +183,10 @@ void DWTDataManager::send(ItemCode code, Accepted &accepted) {
     const QByteArray chosen = networkOfList(item, change);
     const bool changed = !chosen.isEmpty() || differ(item, change, savedOf(item.viewKey));
     if (m_report.lost || (!changed && !isWorthSending(item))) return;
-    const int result = write(item, change, changed);
+    const WriteResult result = write(item, change, changed);
     report(code, result);
     // Keys and passwords never become saved values.
-    if (result != SettingResult::Accepted || isSecret(item)) return;
+    if (result.kind != WriteResult::Accepted || isSecret(item)) return;
     CategoryDictionary &saved = accepted.record[item.viewKey];
     for (const QString &key : item.keys) saved.insert(key, change.value(key));
     if (!changed) return;
@@ -207,7 +209,8 @@ bool DWTDataManager::isWorthSending(const SentItem &item) const {
 }
 
 // What was not changed goes back as the very bytes that were told.
-int DWTDataManager::write(const SentItem &item, const CategoryDictionary &change, bool changed) {
+WriteResult DWTDataManager::write(const SentItem &item, const CategoryDictionary &change,
+                                  bool changed) {
     const QStringList &keys = item.keys;
     const QByteArray told = m_told.value(item.code), chosen = networkOfList(item, change);
     switch (item.kind) {
@@ -232,10 +235,10 @@ int DWTDataManager::write(const SentItem &item, const CategoryDictionary &change
     return NDM_IntegerToData(item.code, integerValue(change, keys[0]));
 }
 
-void DWTDataManager::report(ItemCode code, int result) {
-    if (result == SettingResult::Accepted) return;
-    if (result != SettingResult::NoReply)
-        m_report.refused.append({code, result});
+void DWTDataManager::report(ItemCode code, const WriteResult &result) {
+    if (result.kind == WriteResult::Accepted) return;
+    if (result.kind != WriteResult::NoReply)
+        m_report.refused.append(code);
     else if (ncc_Object->isClosedByPrinter())
         m_report.lost = true;
     else

@@ -207,9 +207,10 @@ std::optional<QList<SSIDEntry>> ItemCodec::networks(const QByteArray &reply, Ite
     return list;
 }
 
-int ItemCodec::result(const QByteArray &reply, ItemCode code) {
+std::optional<int> ItemCodec::result(const QByteArray &reply, ItemCode code) {
     auto cursor = openReply(reply, 'R', code);
-    return cursor ? cursor->word() : -1;
+    if (!cursor) return {};
+    return cursor->word();
 }
 
 std::optional<QByteArray> ItemCodec::textFrame(ItemCode code, const QString &text) {

@@ -51,9 +51,9 @@ std::optional<ScanStatus> scanStatus(const QByteArray &reply);
 // Items 0x3121 to 0x3124: the networks of one block, in its order, without those that have no name.
 std::optional<QList<SSIDEntry>> networks(const QByteArray &reply, ItemCode code);
 
-// The result code 0..65535 of a "CR" reply to the setting frame of `code`, 0 = accepted; -1 for
-// anything else.
-int result(const QByteArray &reply, ItemCode code);
+// The result code 0..65535 of a "CR" reply to the setting frame of `code`, 0 = accepted; nothing
+// for anything else.
+std::optional<int> result(const QByteArray &reply, ItemCode code);
 
 // --- Setting frames -----------------------------------------------------------------------------
 // Each gives nothing when the value cannot be written: the reasons stand at each. Texts are sent in

@@ -94,9 +94,9 @@ TEST(Decoding, NumbersAndAddressesOfTheirOwnItemsOnly) {
 TEST(Decoding, ResultsAndScans) {
     EXPECT_EQ(result(hex("43523b08003b06103b00003b"), 0x1006), 0);
     EXPECT_EQ(result(hex("43523b08003b06103b05013b"), 0x1006), 0x105);
-    EXPECT_EQ(result(hex("43523b08003b04103b00003b"), 0x1006), -1);
-    EXPECT_EQ(result(hex("43463b08003b06103b00003b"), 0x1006), -1);
-    EXPECT_EQ(result({}, 0x1006), -1);
+    EXPECT_EQ(result(hex("43523b08003b04103b00003b"), 0x1006), std::nullopt);
+    EXPECT_EQ(result(hex("43463b08003b06103b00003b"), 0x1006), std::nullopt);
+    EXPECT_EQ(result({}, 0x1006), std::nullopt);
 
     const auto entry = [](int length, const QByteArray &ssid) {
         return QByteArray(1, static_cast<char>(length)) + '\0' + ssid +

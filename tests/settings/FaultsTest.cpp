@@ -51,7 +51,7 @@ class Faults : public testing::Test, protected ServedManager {
     // Logs in and sends, with a fault in the send.
     void sendWith(const QByteArray &item, const Fault *fault) {
         ASSERT_EQ(manager->connectPrinter(), 0);
-        ASSERT_EQ(manager->checkLoginPassword(enteredPassword), 4);
+        ASSERT_EQ(manager->checkLoginPassword(enteredPassword).kind, WriteResult::Accepted);
         manager->disconnectPrinter();
         setFault(item, fault);
         stopped = -1;
@@ -164,7 +164,7 @@ TEST_F(Faults, OfTheConnectionInASearchOrALoginEndThemAtOnce) {
     }
     ASSERT_EQ(manager->connectPrinter(), 0);
     setFault("0x1001", &faults[8]);
-    EXPECT_EQ(manager->checkLoginPassword(enteredPassword), SettingResult::NoReply);
+    EXPECT_EQ(manager->checkLoginPassword(enteredPassword).kind, WriteResult::NoReply);
     manager->disconnectPrinter();
     setFault({}, nullptr);
     sendWith({}, nullptr);

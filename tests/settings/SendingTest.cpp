@@ -37,11 +37,18 @@ class Send : public EveryTransport {
     }
     void logIn() {
         ASSERT_EQ(m->manager->connectPrinter(), 0);
-        EXPECT_EQ(m->manager->checkLoginPassword(u"no"_s), VirtualPrinter::WrongPassword);
-        EXPECT_EQ(m->manager->checkLoginPassword({}), 1) << "an empty password goes nowhere";
-        EXPECT_EQ(m->manager->checkLoginPassword(u"abc"_s), 4);
+        const auto tried = [&](const QString &password) {
+            const WriteResult result = m->manager->checkLoginPassword(password);
+            return std::pair(result.kind, result.code);
+        };
+        EXPECT_EQ(tried(u"no"_s),
+                  std::pair(WriteResult::Refused, int{VirtualPrinter::WrongPassword}));
+        EXPECT_EQ(tried(u"wrongwrong"_s),
+                  std::pair(WriteResult::Refused, int{VirtualPrinter::BadValue}));
+        EXPECT_EQ(tried({}), std::pair(WriteResult::Unsent, 0)) << "an empty password was sent";
+        EXPECT_EQ(tried(u"abc"_s), std::pair(WriteResult::Accepted, 0));
         m->manager->disconnectPrinter();
-        EXPECT_EQ(m->served.receivedUntilEnd(), u"start =1001 =1001 update end"_s);
+        EXPECT_EQ(m->served.receivedUntilEnd(), u"start =1001 =1001 =1001 update end"_s);
     }
     std::string saved(const QString &viewKey) {
         return asText(m->manager->setupDataToMainView(viewKey));
@@ -108,8 +115,7 @@ TEST_P(Send, WhatTheEncoderRefusesKeepsItsSavedValueAndIsReported) {
     EXPECT_EQ(send(), u"start =1005 =1006 =2001 =3000 =3102 =3103 =3108 =3202 =1007 update end"_s);
     EXPECT_EQ(steps, everyStep);
     EXPECT_EQ(saved(DWT_View_Key_Network), before);
-    const QList<std::pair<ItemCode, int>> refused{{0x1004, 1}, {0x3201, 1}};
-    EXPECT_EQ(m->manager->sendReport().refused, refused);
+    EXPECT_EQ(m->manager->sendReport().refused, (QList<ItemCode>{0x1004, 0x3201}));
 }
 
 TEST_P(Send, LogsInOnceWithTheRememberedPasswordAndARefusedLoginWritesNothing) {

@@ -13,8 +13,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int loginAccepted = 4;
-
 int fail(const char *message, int code = 0) {
     std::printf("usb-kernel-client: %s (%d)\n", message, code);
     return 1;
@@ -43,9 +41,9 @@ int main(int argc, char **argv) {
         return fail("the printer cannot be read", result);
     if (const int result = manager->connectPrinter())
         return fail("no connection for the login", result);
-    const int login = manager->checkLoginPassword(arguments[1]);
+    const WriteResult login = manager->checkLoginPassword(arguments[1]);
     manager->disconnectPrinter();
-    if (login != loginAccepted) return fail("the login is refused", login);
+    if (login.kind != WriteResult::Accepted) return fail("the login is refused", login.code);
 
     auto names = manager->setupDataFromChangeData(DWT_View_Key_Network).value();
     names.insert(DWT_SaveData_Network_Printer, arguments[2]);
