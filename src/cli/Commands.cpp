@@ -266,7 +266,7 @@ class Run {
             title << whereabouts;
         m_terminal.print(title.join(u", "_s));
         QList<QStringList> rows;
-        for (const Page &page : settingPages()) {
+        for (const SettingPage &page : settingPages()) {
             QList<QStringList> lines;
             for (const Setting &setting : settings())
                 if (setting.viewKey == page.viewKey && setting.access != Setting::Access::Enter)

@@ -132,8 +132,7 @@ Plan planOf(const SettingRecord &saved, const QList<GivenValue> &values) {
         CategoryDictionary &category = plan.record[setting.viewKey];
         const bool isPassword = setting.viewKey == DWT_View_Key_Password;
         const auto held = category.constFind(setting.key);
-        if (!isPassword && held != category.constEnd() && meansTheSame(setting, *held, value.value))
-            continue;
+        if (!isPassword && held != category.constEnd() && isSame(*held, value.value)) continue;
         if (!value.place.text.isEmpty()) {
             plan.faults << value.place;
             continue;

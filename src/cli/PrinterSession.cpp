@@ -16,7 +16,7 @@ QString text(const char *key) {
 QString namesOf(const QList<ItemCode> &codes) {
     QStringList names;
     for (const ItemCode code : codes) {
-        if (const SentItem *const item = sentItem(code))
+        if (const Item *const item = itemOf(code))
             for (const QString &key : item->keys) names << settingOf(item->viewKey, key)->name;
     }
     return names.join(u", "_s);
@@ -44,7 +44,7 @@ QString PrinterSession::name() const {
 Ending PrinterSession::read(const DWTDataManager::Progress &progress) {
     const int result = m_manager->setupDataFromPrinter(0, progress);
     m_record = {{QString(), listedCategory(m_entry)}};
-    for (const Page &page : settingPages())
+    for (const SettingPage &page : settingPages())
         m_record.insert(
             page.viewKey,
             m_manager->setupDataToMainView(page.viewKey).value_or(CategoryDictionary()));
@@ -67,9 +67,9 @@ Ending PrinterSession::readWhenReady(const std::function<bool()> &goOn) {
 
 // What stands in the place of a value that was not told is none.
 void PrinterSession::forgetUntold(bool complete) {
-    for (const SentItem &item : sentItems())
+    for (const Item &item : sentItems())
         for (const QString &key : item.keys)
-            if (item.told && !m_manager->isTold(key)) m_record[item.viewKey].remove(key);
+            if (item.readTurn > 0 && !m_manager->isTold(key)) m_record[item.viewKey].remove(key);
     if (complete) return;
     // Of the codes that are only shown, 0 may also stand for one that was not asked for any more.
     for (const Setting &setting : settings()) {
@@ -156,13 +156,13 @@ Ending PrinterSession::verify(const Plan &plan) {
     if (const Ending again = readWhenReady(); again.code != Done)
         return {NotReached, text("DWT_Localize_Cli_NotVerified").arg(called)};
     QStringList differences;
-    for (const SentItem &item : sentItems()) {
+    for (const Item &item : sentItems()) {
         for (const QString &key : item.keys) {
             const Setting &setting = *settingOf(item.viewKey, key);
             const CategoryDictionary sent = plan.record.value(item.viewKey),
                                      held = m_record.value(item.viewKey);
-            if (!item.told || !sent.contains(key) ||
-                meansTheSame(setting, sent.value(key), held.value(key)))
+            if (item.readTurn == 0 || !sent.contains(key) ||
+                isSame(sent.value(key), held.value(key)))
                 continue;
             const QString words = setting.isSecret()
                                       ? text("DWT_Localize_Cli_SecretDiffers").arg(setting.name)

@@ -142,12 +142,3 @@ QString valueOrEmpty(const Setting &setting, const CategoryDictionary &category)
     const QString text = valueForPeople(setting, category);
     return text.isEmpty() ? localized(u"DWT_Localize_Send_Confirm_Empty"_s) : text;
 }
-
-bool meansTheSame(const Setting &setting, const SettingValue &a, const SettingValue &b) {
-    if (a.index() != b.index()) return false;
-    if (setting.kind == Kind::Address)
-        return Rules::isSameAddress(std::get<QStringList>(a), std::get<QStringList>(b));
-    if (setting.kind == Kind::Text)
-        return readableText(std::get<QString>(a)) == readableText(std::get<QString>(b));
-    return a == b;
-}

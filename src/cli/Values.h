@@ -5,7 +5,7 @@
 #include <QString>
 #include <optional>
 
-#include "cli/Schema.h"
+#include "settings/Settings.h"
 
 // What is wrong with something given, and where.
 struct Fault {
@@ -39,7 +39,3 @@ QString wordsOfExpected(const Setting &setting);
 QJsonValue valueAsJson(const Setting &setting, const CategoryDictionary &category);
 QString valueForPeople(const Setting &setting, const CategoryDictionary &category);
 QString valueOrEmpty(const Setting &setting, const CategoryDictionary &category);
-
-// Whether two values of a setting mean the same: texts as people read them, addresses number by
-// number.
-bool meansTheSame(const Setting &setting, const SettingValue &a, const SettingValue &b);

@@ -264,8 +264,8 @@ void DWTMainSettingWindow::showReadState() {
 }
 
 QString DWTMainSettingWindow::nameOf(ItemCode code) const {
-    const SentItem &item = *sentItem(code);
-    const bool isInterface = item.kind == SentItem::Kind::Interface;
+    const Item &item = *itemOf(code);
+    const bool isInterface = item.layout == Item::Layout::IntegerAndAddresses;
     const QString &key = isInterface ? item.keys[1] : item.keys.last();
     const auto page = dictionary_ViewManagement.value(item.viewKey);
     return QStringLiteral("%1: %2").arg(page->pageName(), page->labelOf(key));

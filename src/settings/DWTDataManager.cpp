@@ -8,12 +8,7 @@
 
 namespace {
 
-const QStringList categories{DWT_View_Key_Network,        DWT_View_Key_Wireless,
-                             DWT_View_Key_Infrastructure, DWT_View_Key_SimpleAP,
-                             DWT_View_Key_Ethernet,       DWT_View_Key_Firmware,
-                             DWT_View_Key_Password};
-
-std::optional<CategoryDictionary> categoryOf(const std::optional<SettingRecord> &record,
+std::optional<CategoryDictionary> categoryIn(const std::optional<SettingRecord> &record,
                                              const QString &viewKey) {
     if (!record || !record->contains(viewKey)) return {};
     return record->value(viewKey);
@@ -28,12 +23,12 @@ std::shared_ptr<DWTDataManager> DWTDataManager::dataManager(const PrinterEntry &
 
 std::optional<CategoryDictionary> DWTDataManager::setupDataToMainView(
     const QString &viewKey) const {
-    return categoryOf(dictionary_SaveData, viewKey);
+    return categoryIn(dictionary_SaveData, viewKey);
 }
 
 std::optional<CategoryDictionary> DWTDataManager::setupDataFromChangeData(
     const QString &viewKey) const {
-    return categoryOf(mutableDictionary_ChangeData, viewKey);
+    return categoryIn(mutableDictionary_ChangeData, viewKey);
 }
 
 int DWTDataManager::setupDataFromMainView(const CategoryDictionary &category,
@@ -43,9 +38,9 @@ int DWTDataManager::setupDataFromMainView(const CategoryDictionary &category,
 }
 
 bool DWTDataManager::isEqualToSaveData() const {
-    return std::all_of(categories.begin(), categories.end(), [&](const QString &viewKey) {
-        const auto saved = setupDataToMainView(viewKey);
-        return saved && saved == setupDataFromChangeData(viewKey);
+    return std::all_of(settingPages().begin(), settingPages().end(), [&](const SettingPage &page) {
+        const auto saved = setupDataToMainView(page.viewKey);
+        return saved && saved == setupDataFromChangeData(page.viewKey);
     });
 }
 

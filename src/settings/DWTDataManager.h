@@ -14,9 +14,9 @@
 #include "link/DWTCommunicationControl.h"
 #include "settings/ItemCodec.h"
 #include "settings/SendWarnings.h"
-#include "settings/SentItems.h"
 #include "settings/SettingKeys.h"
 #include "settings/SettingRecord.h"
+#include "settings/Settings.h"
 
 // What happened in a send.
 struct SendReport {
@@ -171,7 +171,10 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     std::optional<QList<SSIDEntry>> NDM_SSIDInfo(ItemCode code);
     QString NDM_DataToPrinterName(const std::shared_ptr<DWTCommunicationControl> &link);
 
-    // The categories, on a connected link.
+    // What an item holds, under its keys; without what cannot be read.
+    CategoryDictionary valuesOf(const Item &item);
+    // The categories, on a connected link: every item of one, in the order of the wire.
+    CategoryDictionary readCategory(const QString &viewKey);
     CategoryDictionary NDM_NetworkDataFromPrinter();
     CategoryDictionary NDM_WirelessDataFromPrinter();
     CategoryDictionary NDM_InfrastructureDataFromPrinter();
@@ -207,11 +210,11 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
         QMap<ItemCode, QByteArray> told;
     };
     Accepted sendCategories();
-    void sendInfrastructure(Accepted &accepted);
+    bool isUsed(const Item &item) const;
     // Writes one item of the change data.
-    void send(ItemCode code, Accepted &accepted);
-    bool isWorthSending(const SentItem &item) const;
-    WriteResult write(const SentItem &item, const CategoryDictionary &change, bool changed);
+    void send(const Item &item, Accepted &accepted);
+    bool isWorthSending(const Item &item) const;
+    WriteResult write(const Item &item, const CategoryDictionary &change, bool changed);
     void report(ItemCode code, const WriteResult &result);
     CategoryDictionary changeOf(const QString &viewKey) const;
     CategoryDictionary savedOf(const QString &viewKey) const;
@@ -222,18 +225,12 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     std::optional<SettingRecord> dictionary_SaveData;
     std::optional<SettingRecord> mutableDictionary_ChangeData;
     std::shared_ptr<DWTCommunicationControl> ncc_Object;
-    // Categories as last read, and the address items inside them.
+    // The categories as last read.
     CategoryDictionary networkData_Dictionary;
     CategoryDictionary wirelessData_Dictionary;
     CategoryDictionary infrastructureData_Dictionary;
-    CategoryDictionary infrastructureAddressInfo_Dictionary;
-    CategoryDictionary infrastructureConnectAddressInfo_Dictionary;
     CategoryDictionary simpleAPData_Dictionary;
-    CategoryDictionary simpleAPAddressData_Dictionary;
-    CategoryDictionary simpleAPStartAddressData_Dictionary;
     CategoryDictionary ethernetData_Dictionary;
-    CategoryDictionary ethernetAddressInfo_Dictionary;
-    CategoryDictionary ethernetConnectAddressInfo_Dictionary;
     CategoryDictionary firmwareData_Dictionary;
     CategoryDictionary passwordData_Dictionary;
     // True while every request since the last full read got a reply, but for those outside it whose

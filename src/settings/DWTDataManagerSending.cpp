@@ -5,31 +5,27 @@
 #include "platform/core/MainThread.h"
 #include "platform/core/NotificationCenter.h"
 #include "settings/DWTDataManager.h"
-#include "settings/Rules.h"
 #include "settings/Wipe.h"
 
 namespace {
 
+using Layout = Item::Layout;
+
 constexpr ItemCode ssidItem = 0x3104;
 constexpr ItemCode passwordItem = 0x1003;
 
+// How far a send is, in percent, whenever a category was written.
+constexpr int progressSteps[] = {16, 33, 50, 66, 85, 100};
+
 // Whether two categories differ in what an item carries.
-bool differ(const SentItem &item, const CategoryDictionary &a, const CategoryDictionary &b) {
+bool differ(const Item &item, const CategoryDictionary &a, const CategoryDictionary &b) {
     return std::any_of(item.keys.begin(), item.keys.end(), [&](const QString &key) {
-        const auto inA = a.constFind(key), inB = b.constFind(key);
-        if (inA == a.constEnd() || inB == b.constEnd())
-            return (inA == a.constEnd()) != (inB == b.constEnd());
-        return *inA != *inB;
+        return a.contains(key) != b.contains(key) || a.value(key) != b.value(key);
     });
 }
 
-bool isSecret(const SentItem &item) {
-    const Rules::Rule *const rule = Rules::ruleOf(item.keys.last());
-    return rule && rule->secret;
-}
-
 // The name of a network of the list, where one is to be sent.
-QByteArray networkOfList(const SentItem &item, const CategoryDictionary &change) {
+QByteArray networkOfList(const Item &item, const CategoryDictionary &change) {
     return item.code == ssidItem ? bytesValue(change, DWT_SaveData_Infrastructure_SSIDList_SSID)
                                  : QByteArray();
 }
@@ -137,99 +133,85 @@ bool DWTDataManager::sendLogin() {
 
 DWTDataManager::Accepted DWTDataManager::sendCategories() {
     Accepted accepted{dictionary_SaveData.value_or(SettingRecord()), m_told};
-    const auto progress = [this](double step) {
-        if (!m_report.lost) NDM_ProgressSetting(DWT_DataSend_Progress_Message, step);
-    };
-    if (integerValue(changeOf(DWT_View_Key_Password), DWT_SaveData_Password_Change) != 0)
-        send(passwordItem, accepted);
-    progress(16);
-    for (const ItemCode code : std::initializer_list<ItemCode>{0x1004, 0x1005, 0x1006})
-        send(code, accepted);
-    progress(33);
-    send(0x2001, accepted);
-    progress(50);
-    send(0x3000, accepted);
-    progress(66);
-    sendInfrastructure(accepted);
-    progress(85);
-    for (const ItemCode code : std::initializer_list<ItemCode>{0x3201, 0x3202})
-        send(code, accepted);
-    progress(100);
-    send(0x1007, accepted);
+    const int *step = progressSteps;
+    QString viewKey = sentItems().first().viewKey;
+    for (const Item &item : sentItems()) {
+        if (item.viewKey != viewKey && !m_report.lost)
+            NDM_ProgressSetting(DWT_DataSend_Progress_Message, *step++);
+        viewKey = item.viewKey;
+        if (isUsed(item)) send(item, accepted);
+    }
     return accepted;
 }
 
-// Of the keys only the one that the encryption uses.
-void DWTDataManager::sendInfrastructure(Accepted &accepted) {
-    for (const ItemCode code : {ItemCode{0x3102}, ItemCode{0x3103}, ssidItem}) send(code, accepted);
-    switch (integerValue(changeOf(DWT_View_Key_Infrastructure),
-                         DWT_SaveData_Infrastructure_Encryption)) {
-        case Encryption::WEP:
-            send(0x3106, accepted);
-            break;
-        case Encryption::TKIP:
-        case Encryption::AES:
-            send(0x3105, accepted);
-            break;
+// Whether the change data uses an item: of the keys only the one that goes with the encryption, and
+// a password only when it was entered.
+bool DWTDataManager::isUsed(const Item &item) const {
+    const CategoryDictionary change = changeOf(item.viewKey);
+    const int encryption = integerValue(change, DWT_SaveData_Infrastructure_Encryption);
+    switch (item.code) {
+        case passwordItem:
+            return integerValue(change, DWT_SaveData_Password_Change) != 0;
+        case 0x3105:
+            return encryption == Encryption::TKIP || encryption == Encryption::AES;
+        case 0x3106:
+            return encryption == Encryption::WEP;
         default:
-            break;
+            return true;
     }
-    send(0x3108, accepted);
 }
 
-void DWTDataManager::send(ItemCode code, Accepted &accepted) {
-    const SentItem &item = *sentItem(code);
+void DWTDataManager::send(const Item &item, Accepted &accepted) {
     const CategoryDictionary change = changeOf(item.viewKey);
     const QByteArray chosen = networkOfList(item, change);
     const bool changed = !chosen.isEmpty() || differ(item, change, savedOf(item.viewKey));
     if (m_report.lost || (!changed && !isWorthSending(item))) return;
     const WriteResult result = write(item, change, changed);
-    report(code, result);
+    report(item.code, result);
     // Keys and passwords never become saved values.
-    if (result.kind != WriteResult::Accepted || isSecret(item)) return;
+    if (result.kind != WriteResult::Accepted || item.isSecret) return;
     CategoryDictionary &saved = accepted.record[item.viewKey];
     for (const QString &key : item.keys) saved.insert(key, change.value(key));
     if (!changed) return;
-    accepted.told.insert(code, textValue(change, item.keys.first()).toUtf8());
-    if (code != ssidItem) return;
+    accepted.told.insert(item.code, textValue(change, item.keys.first()).toUtf8());
+    if (item.code != ssidItem) return;
     saved.insert(DWT_SaveData_Infrastructure_SSIDList_SSID,
                  change.value(DWT_SaveData_Infrastructure_SSIDList_SSID));
     if (chosen.isEmpty()) return;
     saved.insert(DWT_SaveData_Infrastructure_SSID, ItemCodec::textOf(chosen));
-    accepted.told.insert(code, chosen);
+    accepted.told.insert(item.code, chosen);
 }
 
 // An unchanged value is worth it when the printer told it, and it is not an empty text, which no
 // frame can carry but that of the password.
-bool DWTDataManager::isWorthSending(const SentItem &item) const {
+bool DWTDataManager::isWorthSending(const Item &item) const {
     if (item.code == passwordItem) return true;
-    const bool isText =
-        item.kind != SentItem::Kind::Integer && item.kind != SentItem::Kind::Interface;
+    const bool isText = item.layout == Layout::Text || item.layout == Layout::CountedText;
     return m_told.contains(item.code) && !(isText && m_told.value(item.code).isEmpty());
 }
 
 // What was not changed goes back as the very bytes that were told.
-WriteResult DWTDataManager::write(const SentItem &item, const CategoryDictionary &change,
+WriteResult DWTDataManager::write(const Item &item, const CategoryDictionary &change,
                                   bool changed) {
     const QStringList &keys = item.keys;
     const QByteArray told = m_told.value(item.code), chosen = networkOfList(item, change);
-    switch (item.kind) {
-        case SentItem::Kind::Text:
-            if (changed || !item.told)
+    switch (item.layout) {
+        case Layout::Text:
+            if (changed || item.readTurn == 0)
                 return NDM_StringToData(item.code, textValue(change, keys[0]));
             return sendFrame(item.code, ItemCodec::textBytesFrame(item.code, told));
-        case SentItem::Kind::CountedText:
+        case Layout::CountedText:
             if (!chosen.isEmpty()) return NDM_DataToData(item.code, chosen);
             if (!changed) return NDM_DataToData(item.code, told);
             return NDM_StringAndLengthToData(item.code, textValue(change, keys[0]));
-        case SentItem::Kind::WEPKey:
+        case Layout::IntegerAndText:
             return NDM_IntegerAndStringAndLengthToData(item.code, integerValue(change, keys[0]),
                                                        textValue(change, keys[1]));
-        case SentItem::Kind::Interface:
+        case Layout::IntegerAndAddresses:
             return NDM_IntegerAndArrayToData(
                 item.code, integerValue(change, keys[0]), addressValue(change, keys[1]),
                 addressValue(change, keys[2]), addressValue(change, keys[3]));
-        case SentItem::Kind::Integer:
+        default:
             break;
     }
     return NDM_IntegerToData(item.code, integerValue(change, keys[0]));

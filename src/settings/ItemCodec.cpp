@@ -5,12 +5,13 @@
 
 #include "settings/Frames.h"
 #include "settings/ReplyCursor.h"
-#include "settings/SentItems.h"
 #include "settings/SettingKeys.h"
+#include "settings/Settings.h"
 
 namespace {
 
 using Frames::word;
+using Layout = Item::Layout;
 
 // Offsets in a reply, in bytes.
 constexpr qsizetype lengthOffset = 3;
@@ -41,38 +42,10 @@ QStringList address(ReplyCursor &cursor) {
     return parts;
 }
 
-// The keys of an item's address groups, in the order of the groups.
-QStringList addressKeys(ItemCode code) {
-    switch (code) {
-        case 0x2002:
-        case 0x3119:
-            return {DWT_SaveData_Connect_IPAddress, DWT_SaveData_Connect_Subnetmask,
-                    DWT_SaveData_Connect_Gateway};
-        case 0x3204:
-            return {DWT_SaveData_SimpleAP_IPAddress, DWT_SaveData_SimpleAP_Subnetmask};
-        case 0x3205:
-            return {DWT_SaveData_SimpleAP_StartIPAddress};
-        case 0x2001:
-            return {DWT_SaveData_Ethernet_IPAddress, DWT_SaveData_Ethernet_Subnetmask,
-                    DWT_SaveData_Ethernet_Gateway};
-        case 0x3108:
-            return {DWT_SaveData_Infrastructure_IPAddress, DWT_SaveData_Infrastructure_Subnetmask,
-                    DWT_SaveData_Infrastructure_Gateway};
-        default:
-            return {};
-    }
-}
-
-// The key of an item's integer; empty for an item that has addresses only.
-QString settingKey(ItemCode code) {
-    switch (code) {
-        case 0x2001:
-            return DWT_SaveData_Ethernet_IPAddressSetting;
-        case 0x3108:
-            return DWT_SaveData_Infrastructure_IPAddressSetting;
-        default:
-            return {};
-    }
+// The keys of an item of that layout; none for any other item.
+QStringList keysOf(ItemCode code, Layout layout) {
+    const Item *const item = itemOf(code);
+    return item && item->layout == layout ? item->keys : QStringList();
 }
 
 CategoryDictionary addressesUnder(const QStringList &keys, ReplyCursor &cursor) {
@@ -154,36 +127,36 @@ std::optional<QString> ItemCodec::softwareVersion(const QByteArray &reply, ItemC
 
 std::optional<CategoryDictionary> ItemCodec::addresses(const QByteArray &reply, ItemCode code) {
     auto cursor = openReply(reply, 'F', code);
-    const QStringList keys = addressKeys(code);
-    if (!cursor || keys.isEmpty() || !settingKey(code).isEmpty()) return {};
+    const QStringList keys = keysOf(code, Layout::Addresses);
+    if (!cursor || keys.isEmpty()) return {};
     return addressesUnder(keys, *cursor);
 }
 
 std::optional<CategoryDictionary> ItemCodec::integerAndAddresses(const QByteArray &reply,
                                                                  ItemCode code) {
     auto cursor = openReply(reply, 'F', code);
-    const QString key = settingKey(code);
-    if (!cursor || key.isEmpty()) return {};
+    const QStringList keys = keysOf(code, Layout::IntegerAndAddresses);
+    if (!cursor || keys.isEmpty()) return {};
     const int setting = cursor->word();
-    CategoryDictionary values = addressesUnder(addressKeys(code), *cursor);
-    values.insert(key, setting);
+    CategoryDictionary values = addressesUnder(keys.mid(1), *cursor);
+    values.insert(keys.first(), setting);
     return values;
 }
 
 std::optional<QByteArray> ItemCodec::wholeValue(const QByteArray &reply, ItemCode code) {
-    const SentItem *const item = sentItem(code);
+    const Item *const item = itemOf(code);
     auto cursor = openReply(reply, 'F', code);
-    if (!item || !cursor) return {};
+    if (!item || item->sendTurn == 0 || !cursor) return {};
     cursor->seek(lengthOffset);
     const int length = cursor->word();
     if (length < lengthOverhead || countedOffset + length > reply.size()) return {};
     QByteArray data = reply.mid(dataOffset, length - lengthOverhead);
-    if (item->kind == SentItem::Kind::Text) {
+    if (item->layout == Layout::Text) {
         while (data.endsWith('\0')) data.chop(1);
         return data;
     }
-    if (data.size() < (item->kind == SentItem::Kind::Interface ? interfaceSize : 2)) return {};
-    if (item->kind != SentItem::Kind::CountedText) return data;
+    if (data.size() < (item->layout == Layout::IntegerAndAddresses ? interfaceSize : 2)) return {};
+    if (item->layout != Layout::CountedText) return data;
     const qsizetype count = ReplyCursor(data).word();
     if (count > data.size() - 2) return {};
     return data.mid(2, count);

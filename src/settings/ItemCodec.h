@@ -30,16 +30,16 @@ std::optional<QString> textWithLength(const QByteArray &reply, ItemCode code);
 std::optional<QString> macAddress(const QByteArray &reply, ItemCode code);
 // The nibbles of bytes 10 and 9, high byte first, as "H.HHH".
 std::optional<QString> softwareVersion(const QByteArray &reply, ItemCode code);
-// Addresses of four octets each from offset 9, under the keys of the items 0x2002, 0x3119, 0x3204
-// and 0x3205; nothing for another item.
+// Addresses of four octets each from offset 9, under the item's keys; nothing for an item of
+// another layout.
 std::optional<CategoryDictionary> addresses(const QByteArray &reply, ItemCode code);
-// The integer of bytes 9-10 and three addresses from offset 11, under the keys of the items 0x2001
-// and 0x3108; nothing for another item.
+// The integer of bytes 9-10 and three addresses from offset 11, under the item's keys; nothing for
+// an item of another layout.
 std::optional<CategoryDictionary> integerAndAddresses(const QByteArray &reply, ItemCode code);
 
-// The value of a sent item (SentItems.h) as the very bytes that came: of a text those of the text,
-// without zero bytes at its end. Nothing when the reply does not hold all of it, where the decoders
-// above take what is missing as zero and cut what is too long.
+// The raw value bytes of an item that a send writes; trailing zeros of a text are removed. Nothing
+// when the reply does not hold all of them: the decoders above take what is missing as zero and cut
+// what is too long.
 std::optional<QByteArray> wholeValue(const QByteArray &reply, ItemCode code);
 
 // Item 0x3120: how far the printer's search for networks is.

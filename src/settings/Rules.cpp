@@ -1,10 +1,9 @@
 #include "settings/Rules.h"
 
 #include <QList>
-#include <QMap>
 #include <algorithm>
 
-#include "settings/SettingKeys.h"
+#include "settings/Codes.h"
 #include "settings/SettingRecord.h"
 
 namespace Rules {
@@ -27,105 +26,7 @@ constexpr qsizetype parts = 4;
 constexpr int wepTexts[] = {5, 13};
 constexpr int wepDigits[] = {10, 26};
 
-using Kind = Rule::Kind;
-
-Rule text(ItemCode item, const char *nameKey, const char *ruleKey, const QString &characters,
-          int min, int max) {
-    return {item, Kind::Text, nameKey, ruleKey, characters, min, max};
-}
-
-// Of the addresses of an interface, only its own may not be 127.0.0.1.
-Rule address(ItemCode item, const char *nameKey) {
-    return {item, Kind::Address, nameKey, "DWT_Localize_Alert_InfoText_IpAddress_InputErr",
-            addressCharacters};
-}
-Rule mask(ItemCode item, const char *nameKey) {
-    return {item,
-            Kind::Address,
-            nameKey,
-            "DWT_Localize_Alert_InfoText_Subnetmask_InputErr",
-            addressCharacters,
-            0,
-            0,
-            true};
-}
-Rule gateway(ItemCode item, const char *nameKey) {
-    return {item,
-            Kind::Address,
-            nameKey,
-            "DWT_Localize_Alert_InfoText_Router_InputErr",
-            addressCharacters,
-            0,
-            0,
-            true};
-}
-
-Rule secret(Rule rule) {
-    rule.secret = true;
-    return rule;
-}
-
-Rule psk(ItemCode item, const char *nameKey) {
-    return secret(text(item, nameKey, "DWT_Localize_Alert_InfoText_PSK_InputErr",
-                       printableCharacters, shortestPSK, longestPSK));
-}
-
-// Made at the first look-up, when every text above exists.
-const QMap<QString, Rule> &table() {
-    static const QMap<QString, Rule> rules{
-        {DWT_SaveData_Network_Printer,
-         text(0x1006, "DWT_Localize_Alert_MessageText_Network_PrinterName",
-              "DWT_Localize_Alert_InfoText_PrinterName_InputErr", hostNameCharacters, 1,
-              longestPrinterName)},
-        {DWT_SaveData_Network_Bonjour,
-         text(0x1004, "DWT_Localize_Alert_MessageText_Network_BonjourName",
-              "DWT_Localize_Alert_InfoText_BonjourName_InputErr", hostNameCharacters, 1,
-              longestBonjourName)},
-        {DWT_SaveData_Network_BonjourService,
-         text(0x1005, "DWT_Localize_Alert_MessageText_Network_BonjourServiceName",
-              "DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr", printableCharacters, 1,
-              longestServiceName)},
-        {DWT_SaveData_Infrastructure_IPAddress,
-         address(0x3108, "DWT_Localize_Alert_MessageText_Infrastructure_IpAddress")},
-        {DWT_SaveData_Infrastructure_Subnetmask,
-         mask(0x3108, "DWT_Localize_Alert_MessageText_Infrastructure_SubnetMask")},
-        {DWT_SaveData_Infrastructure_Gateway,
-         gateway(0x3108, "DWT_Localize_Alert_MessageText_Infrastructure_Gateway")},
-        {DWT_SaveData_Infrastructure_SSID,
-         text(0x3104, "DWT_Localize_Alert_MessageText_Infrastructure_SSID",
-              "DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr", printableCharacters, 1,
-              longestSSID)},
-        {DWT_SaveData_Infrastructure_PSK,
-         psk(0x3105, "DWT_Localize_Alert_MessageText_Infrastructure_PSK")},
-        {DWT_SaveData_Infrastructure_WEPKey,
-         secret({0x3106, Kind::WEPKey, "DWT_Localize_Alert_MessageText_Infrastructure_WEPKey",
-                 "DWT_Localize_Alert_InfoText_WEPKey_InputErr", printableCharacters})},
-        {DWT_SaveData_SimpleAP_SSID, text(0x3201, "DWT_Localize_Alert_MessageText_SimpleAP_SSID",
-                                          "DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr",
-                                          printableCharacters, 1, longestAccessPointSSID)},
-        {DWT_SaveData_SimpleAP_PSK, psk(0x3202, "DWT_Localize_Alert_MessageText_SimpleAP_PSK")},
-        {DWT_SaveData_Ethernet_IPAddress,
-         address(0x2001, "DWT_Localize_Alert_MessageText_Ethernet_IpAddress")},
-        {DWT_SaveData_Ethernet_Subnetmask,
-         mask(0x2001, "DWT_Localize_Alert_MessageText_Ethernet_SubnetMask")},
-        {DWT_SaveData_Ethernet_Gateway,
-         gateway(0x2001, "DWT_Localize_Alert_MessageText_Ethernet_Gateway")},
-        {DWT_SaveData_Firmware_Timeout,
-         {0x1007, Kind::Number, "DWT_Localize_Firmware_Box_PrintTimeOut", nullptr, digits,
-          shortestTimeOut, longestTimeOut}},
-        {DWT_SaveData_Password_Password,
-         secret(text(0x1003, "DWT_Localize_Alert_MessageText_Password_Password",
-                     "DWT_Localize_Alert_InfoText_Password_InputErr", passwordCharacters, 0,
-                     longestPassword))}};
-    return rules;
-}
-
 }  // namespace
-
-const Rule *ruleOf(const QString &key) {
-    const auto found = table().constFind(key);
-    return found == table().constEnd() ? nullptr : &*found;
-}
 
 bool isText(const QString &text, const QString &characters, int min, int max, bool input) {
     if (text.size() > max || (input && text.size() < min)) return false;

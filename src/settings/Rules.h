@@ -3,8 +3,6 @@
 #include <QString>
 #include <QStringList>
 
-#include "settings/Codes.h"
-
 // The rules that typed values must keep, as pure functions on texts: without window, printer or
 // record. Lengths count UTF-16 units.
 namespace Rules {
@@ -49,7 +47,6 @@ struct Rule {
         WEPKey,   // 5 or 13 printable characters, or 10 or 26 hexadecimal digits
         Number    // `min` to `max`; another number becomes the nearer bound
     };
-    ItemCode item;  // the setting item that carries the value
     Kind kind;
     // Localisation keys: what the value is called, and what is said of one that breaks the rule.
     const char *nameKey;
@@ -65,8 +62,7 @@ struct Rule {
 // do.
 const Rule *ruleOf(const QString &key);
 
-// --- The rules one by one
-// -------------------------------------------------------------------------
+// --- The rules one by one -----------------------------------------------------------------------
 
 // Whether the text has `min` to `max` characters, all among `characters`. The minimum counts only
 // when `input` is true: a value that nobody gave may stay empty.

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "platform/core/Texts.h"
+#include "settings/Rules.h"
 
 namespace {
 
@@ -16,6 +17,16 @@ T valueOf(const CategoryDictionary &category, const QString &key) {
 }
 
 }  // namespace
+
+bool isSame(const SettingValue &a, const SettingValue &b) {
+    if (a == b) return true;
+    if (a.index() != b.index()) return false;
+    if (const auto *address = std::get_if<QStringList>(&a))
+        return Rules::isSameAddress(*address, std::get<QStringList>(b));
+    const auto *text = std::get_if<QString>(&a), *other = std::get_if<QString>(&b);
+    return text && *text != unreadable && *other != unreadable &&
+           readableText(*text) == readableText(*other);
+}
 
 QString textValue(const CategoryDictionary &category, const QString &key) {
     return valueOf<QString>(category, key);

@@ -18,6 +18,10 @@ using SSIDEntry = QMap<QString, SettingValue>;
 // View key -> category.
 using SettingRecord = QMap<QString, CategoryDictionary>;
 
+// Whether two values of a setting mean the same: texts as people read them (one that could not be
+// read is like no other), addresses number by number.
+bool isSame(const SettingValue &a, const SettingValue &b);
+
 // What a text holds that could not be read from the printer.
 inline const QString unreadable = QStringLiteral(" ");
 

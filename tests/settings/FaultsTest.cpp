@@ -63,8 +63,8 @@ class Faults : public testing::Test, protected ServedManager {
         const auto other = DWTDataManager::dataManager(served.entry());
         EXPECT_EQ(other->setupDataFromPrinter(0), 0);
         QList<ItemCode> codes;
-        for (const SentItem &item : sentItems()) {
-            if (!item.told || item.code == 0x3202) continue;
+        for (const Item &item : sentItems()) {
+            if (item.readTurn == 0 || item.code == 0x3202) continue;
             const auto saved =
                 manager->setupDataToMainView(item.viewKey).value_or(CategoryDictionary());
             const auto held = *other->setupDataToMainView(item.viewKey);
@@ -83,7 +83,7 @@ class Faults : public testing::Test, protected ServedManager {
 TEST_F(Faults, OfOneReplyInASendNeverMakeTheSavedDataLie) {
     ASSERT_EQ(manager->setupDataFromPrinter(0), 0);
     QList<ItemCode> steps{0x1001};
-    for (const SentItem &item : sentItems()) steps << item.code;
+    for (const Item &item : sentItems()) steps << item.code;
     for (const ItemCode code : steps) {
         const QByteArray step = "0x" + QByteArray::number(code, 16);
         for (const Fault &fault : faults) {
@@ -123,8 +123,7 @@ TEST_F(Faults, OfOneReplyInAReadingWriteNothingThatWasNotTold) {
         for (const Fault &fault : faults) {
             SCOPED_TRACE((step + ' ' + fault.description).constData());
             QMap<ItemCode, QByteArray> held;
-            for (const SentItem &item : sentItems())
-                held.insert(item.code, printer().item(item.code));
+            for (const Item &item : sentItems()) held.insert(item.code, printer().item(item.code));
             setFault(step, &fault);
             const int result = manager->setupDataFromPrinter(0);
             setFault({}, nullptr);
@@ -134,7 +133,7 @@ TEST_F(Faults, OfOneReplyInAReadingWriteNothingThatWasNotTold) {
             const bool answered =
                 effect == Effect::ClosedAfter ? code == 0x1007 : told || effect == Effect::Foreign;
             EXPECT_EQ(result, answered ? 0 : 6);
-            if (sentItem(code)) {
+            if (itemOf(code)->sendTurn > 0) {
                 EXPECT_EQ(manager->notTold().contains(code), !told);
             }
             change(DWT_View_Key_Wireless,

@@ -40,17 +40,17 @@ class ServedManager {
     }
     // Enters a value for every item, others in every round.
     void changeAll(int round, int encryption) {
-        using Kind = SentItem::Kind;
+        using Layout = Item::Layout;
         change(DWT_View_Key_Password, {{DWT_SaveData_Password_Change, 1}});
-        for (const SentItem &item : sentItems()) {
-            const Rules::Rule *rule = Rules::ruleOf(item.keys.last());
+        for (const Item &item : sentItems()) {
             const QString name = QStringLiteral("n%1-%2").arg(round).arg(item.code, 4, 16);
             CategoryDictionary values{
-                {item.keys[0], item.kind == Kind::Interface ? 1 : round % 2 + 1}};
-            if (item.kind == Kind::Text || item.kind == Kind::CountedText)
-                values = {{item.keys[0], rule && rule->secret ? enteredPassword : name}};
-            if (item.kind == Kind::WEPKey) values.insert(item.keys[1], QStringLiteral("abcde"));
-            for (int i = 1; item.kind == Kind::Interface && i < 4; ++i)
+                {item.keys[0], item.layout == Layout::IntegerAndAddresses ? 1 : round % 2 + 1}};
+            if (item.layout == Layout::Text || item.layout == Layout::CountedText)
+                values = {{item.keys[0], item.isSecret ? enteredPassword : name}};
+            if (item.layout == Layout::IntegerAndText)
+                values.insert(item.keys[1], QStringLiteral("abcde"));
+            for (int i = 1; item.layout == Layout::IntegerAndAddresses && i < 4; ++i)
                 values.insert(
                     item.keys[i],
                     address(

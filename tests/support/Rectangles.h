@@ -17,8 +17,8 @@ inline void expectNothingIsCovered(const QWidget *window) {
         if (label && label->wordWrap()) {
             EXPECT_LE(label->heightForWidth(label->width()), label->height()) << name(label);
         }
-        for (QWidget *other : widget->parentWidget()->findChildren<QWidget *>(
-                 Qt::FindDirectChildrenOnly))
+        for (QWidget *other :
+             widget->parentWidget()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly))
             if (other != widget && seen(other) && !other->isWindow()) {
                 EXPECT_FALSE(other->geometry().intersects(widget->geometry()))
                     << name(other) << " covers " << name(widget);
