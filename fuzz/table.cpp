@@ -12,8 +12,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
         line = row.line;
         if (!table.faults.isEmpty()) continue;
         if (row.printer().isEmpty()) __builtin_trap();
-        for (const GivenValue &value : row.values)
-            if (!value.place.text.isEmpty()) __builtin_trap();
+        for (const WantedValue &value : row.values)
+            if (!value.brokenRule.isEmpty()) __builtin_trap();
     }
     if (table.rows.isEmpty() && table.faults.isEmpty()) __builtin_trap();
     return 0;

@@ -471,7 +471,7 @@
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
         <translation>Nicht alle Einstellungen konnten gelesen werden, daher lässt sich nichts ändern. Prüfen Sie, ob der Drucker eingeschaltet und angeschlossen ist, und wählen Sie dann „Neu einlesen“.</translation>
     </message>
-    <message id="DWT_Localize_MainDialog_Text_NotTold">
+    <message id="DWT_Localize_MainDialog_Text_NotReported">
         <translation>Diese Einstellungen hat der Drucker nicht mitgeteilt; sie werden erst gesendet, wenn Sie etwas dafür eingeben: %1</translation>
     </message>
     <message id="DWT_Localize_Outline_Name">
@@ -555,20 +555,6 @@
     <message id="DWT_Localize_Send_End_TextField">
         <translation>Die Einstellungen wurden gesendet. Um die aktuellen Einstellungen des Druckers zu sehen, wählen Sie „Neu einlesen“.</translation>
     </message>
-    <message id="DWT_Localize_Send_End_Refused">
-        <translation>Diese Einstellungen hat der Drucker nicht angenommen. Im Drucker sind sie wie zuvor, und Ihre Eingaben bleiben erhalten:
-%1</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_Unclear">
-        <translation>Ob der Drucker diese Einstellungen übernommen hat, ist unklar. Um die aktuellen Einstellungen des Druckers zu sehen, wählen Sie „Neu einlesen“:
-%1</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_LoginRefused">
-        <translation>Der Drucker hat das Passwort abgelehnt, und es wurde nichts gesendet. Ihre Änderungen bleiben erhalten.</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_LoginNoReply">
-        <translation>Der Drucker hat auf die Anmeldung nicht geantwortet, und es wurde nichts gesendet. Ihre Änderungen bleiben erhalten.</translation>
-    </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>&amp;OK</translation>
     </message>
@@ -592,9 +578,6 @@
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>Der Drucker ist nicht erreichbar, und es wurde nichts gesendet. Prüfen Sie, ob er eingeschaltet und sein Kabel eingesteckt ist, und senden Sie dann erneut. Ihre Änderungen bleiben erhalten.</translation>
-    </message>
-    <message id="DWT_Localize_Send_ConnectErr_Lost">
-        <translation>Die Verbindung zum Drucker ist abgebrochen. Es wurde nichts übernommen, und Ihre Änderungen bleiben erhalten. Prüfen Sie, ob der Drucker eingeschaltet und sein Kabel eingesteckt ist, und senden Sie dann erneut.</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>&amp;OK</translation>
@@ -921,12 +904,6 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Report_Line">
         <translation>%1: %2</translation>
     </message>
-    <message id="DWT_Localize_Report_Yes">
-        <translation>Ja</translation>
-    </message>
-    <message id="DWT_Localize_Report_No">
-        <translation>Nein</translation>
-    </message>
     <message id="DWT_Localize_AddressAssignment">
         <translation>Adresszuweisung</translation>
     </message>
@@ -1095,13 +1072,13 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
     <message id="DWT_Localize_Cli_InUse">
         <translation>%1 wird von einem anderen Programm verwendet. Schließen Sie es und versuchen Sie es noch einmal.</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotReached">
+    <message id="DWT_Localize_Ending_NotReached">
         <translation>%1 ist nicht erreichbar. Prüfen Sie, ob der Drucker eingeschaltet und sein Kabel angeschlossen ist.</translation>
     </message>
     <message id="DWT_Localize_Cli_StoppedAnswering">
         <translation>%1 hat aufgehört zu antworten, bevor alles gelesen war.</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotTold">
+    <message id="DWT_Localize_Cli_NotReported">
         <translation>%1 hat diese Einstellungen nicht mitgeteilt: %2</translation>
     </message>
     <message id="DWT_Localize_Cli_ReadOnly">
@@ -1125,40 +1102,40 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>Administratorpasswort von %1:</translation>
     </message>
-    <message id="DWT_Localize_Cli_NoPassword">
+    <message id="DWT_Localize_Ending_NoPassword">
         <translation>%1 hat ein Administratorpasswort, und es wurde keines angegeben. Es wurde nichts gesendet.</translation>
     </message>
-    <message id="DWT_Localize_Cli_LoginRefused">
+    <message id="DWT_Localize_Ending_LoginRefused">
         <translation>%1 hat das Passwort nicht angenommen. Es wurde nichts gesendet.</translation>
     </message>
     <message id="DWT_Localize_Cli_Sending">
         <translation>Senden an %1</translation>
     </message>
-    <message id="DWT_Localize_Cli_Lost">
+    <message id="DWT_Localize_Ending_Lost">
         <translation>Die Verbindung zu %1 ging verloren. Es wurde nichts übernommen.</translation>
     </message>
-    <message id="DWT_Localize_Cli_Refused">
-        <translation>%1 hat diese Einstellungen nicht angenommen: %2.</translation>
+    <message id="DWT_Localize_Ending_Refused">
+        <translation>%1 hat diese Einstellungen nicht angenommen: %2</translation>
     </message>
-    <message id="DWT_Localize_Cli_Unclear">
-        <translation>Es ist nicht sicher, ob %1 diese Einstellungen übernommen hat: %2.</translation>
+    <message id="DWT_Localize_Ending_Unclear">
+        <translation>Es ist nicht sicher, ob %1 diese Einstellungen übernommen hat: %2</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotVerified">
+    <message id="DWT_Localize_Ending_NotReadBack">
         <translation>Die Einstellungen wurden an %1 gesendet, aber der Drucker konnte nicht noch einmal gelesen werden. Ob er sie hat, ist nicht geprüft.</translation>
     </message>
-    <message id="DWT_Localize_Cli_Differs">
+    <message id="DWT_Localize_Ending_Differs">
         <translation>%1 wurde als %2 gesendet und als %3 zurückgelesen.</translation>
     </message>
-    <message id="DWT_Localize_Cli_SecretDiffers">
+    <message id="DWT_Localize_Ending_SecretDiffers">
         <translation>%1 wurde nicht so zurückgelesen, wie es gesendet wurde.</translation>
     </message>
-    <message id="DWT_Localize_Cli_Changed">
+    <message id="DWT_Localize_Ending_Verified">
         <translation>%1 wurde geändert und hat die neuen Einstellungen.</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopped">
         <translation>Abgebrochen. Es wurde nichts weiter gesendet.</translation>
     </message>
-    <message id="DWT_Localize_Cli_StoppedBefore">
+    <message id="DWT_Localize_Ending_Stopped">
         <translation>Abgebrochen, bevor etwas an %1 gesendet wurde.</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopping">
@@ -1193,6 +1170,15 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>In der ersten Zeile von %1 steht kein Schlüssel oder Passwort.</translation>
+    </message>
+    <message id="DWT_Localize_Ending_NotComparable">
+        <translation>%1 teilt diese Einstellungen nicht mit; sie wurden angenommen, aber nicht verglichen: %2</translation>
+    </message>
+    <message id="DWT_Localize_Send_Kept">
+        <translation>Ihre Änderungen bleiben erhalten.</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Comparing">
+        <translation>Die Einstellungen werden zum Vergleich zurückgelesen…</translation>
     </message>
 </context>
 </TS>

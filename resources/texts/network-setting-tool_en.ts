@@ -471,7 +471,7 @@
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
         <translation>Not every setting could be read, so nothing can be changed. Check that the printer is switched on and connected, then choose “Read again”.</translation>
     </message>
-    <message id="DWT_Localize_MainDialog_Text_NotTold">
+    <message id="DWT_Localize_MainDialog_Text_NotReported">
         <translation>The printer did not report these settings; they are not sent until you enter something for them: %1</translation>
     </message>
     <message id="DWT_Localize_Outline_Name">
@@ -555,20 +555,6 @@
     <message id="DWT_Localize_Send_End_TextField">
         <translation>The settings have been sent. To see the printer’s current settings, choose “Read again”.</translation>
     </message>
-    <message id="DWT_Localize_Send_End_Refused">
-        <translation>The printer did not accept these settings. They are as they were in the printer, and your entries are kept:
-%1</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_Unclear">
-        <translation>It is not clear whether the printer took these settings. To see the printer’s current settings, choose “Read again”:
-%1</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_LoginRefused">
-        <translation>The printer refused the password, and nothing was sent. Your changes are kept.</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_LoginNoReply">
-        <translation>The printer did not answer when logging in, and nothing was sent. Your changes are kept.</translation>
-    </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>&amp;OK</translation>
     </message>
@@ -592,9 +578,6 @@
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>The printer cannot be reached, and nothing was sent. Check that it is switched on and that its cable is plugged in, then send again. Your changes are kept.</translation>
-    </message>
-    <message id="DWT_Localize_Send_ConnectErr_Lost">
-        <translation>The connection to the printer was lost. Nothing was applied, and your changes are kept. Check that the printer is switched on and that its cable is plugged in, then send again.</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>&amp;OK</translation>
@@ -921,12 +904,6 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Report_Line">
         <translation>%1: %2</translation>
     </message>
-    <message id="DWT_Localize_Report_Yes">
-        <translation>Yes</translation>
-    </message>
-    <message id="DWT_Localize_Report_No">
-        <translation>No</translation>
-    </message>
     <message id="DWT_Localize_AddressAssignment">
         <translation>Address assignment</translation>
     </message>
@@ -1095,14 +1072,14 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
     <message id="DWT_Localize_Cli_InUse">
         <translation>%1 is in use by another program. Close that program, then try again.</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotReached">
+    <message id="DWT_Localize_Ending_NotReached">
         <translation>%1 cannot be reached. Check that it is switched on and that its cable is plugged in.</translation>
     </message>
     <message id="DWT_Localize_Cli_StoppedAnswering">
         <translation>%1 stopped answering before everything was read.</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotTold">
-        <translation>%1 did not tell these settings: %2</translation>
+    <message id="DWT_Localize_Cli_NotReported">
+        <translation>%1 did not report these settings: %2</translation>
     </message>
     <message id="DWT_Localize_Cli_ReadOnly">
         <translation>Left out, since these cannot be changed: %1</translation>
@@ -1125,40 +1102,40 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>Administrator password of %1:</translation>
     </message>
-    <message id="DWT_Localize_Cli_NoPassword">
+    <message id="DWT_Localize_Ending_NoPassword">
         <translation>%1 has an administrator password, and none was given. Nothing was sent.</translation>
     </message>
-    <message id="DWT_Localize_Cli_LoginRefused">
+    <message id="DWT_Localize_Ending_LoginRefused">
         <translation>%1 did not accept the password. Nothing was sent.</translation>
     </message>
     <message id="DWT_Localize_Cli_Sending">
         <translation>Sending to %1</translation>
     </message>
-    <message id="DWT_Localize_Cli_Lost">
+    <message id="DWT_Localize_Ending_Lost">
         <translation>The connection to %1 was lost. Nothing was applied.</translation>
     </message>
-    <message id="DWT_Localize_Cli_Refused">
-        <translation>%1 did not accept these settings: %2.</translation>
+    <message id="DWT_Localize_Ending_Refused">
+        <translation>%1 did not accept these settings: %2</translation>
     </message>
-    <message id="DWT_Localize_Cli_Unclear">
-        <translation>It is not clear whether %1 took these settings: %2.</translation>
+    <message id="DWT_Localize_Ending_Unclear">
+        <translation>It is not clear whether %1 took these settings: %2</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotVerified">
+    <message id="DWT_Localize_Ending_NotReadBack">
         <translation>The settings were sent to %1, but it could not be read again. It is not verified that it has them.</translation>
     </message>
-    <message id="DWT_Localize_Cli_Differs">
+    <message id="DWT_Localize_Ending_Differs">
         <translation>%1 was sent as %2, and read back as %3.</translation>
     </message>
-    <message id="DWT_Localize_Cli_SecretDiffers">
+    <message id="DWT_Localize_Ending_SecretDiffers">
         <translation>%1 was not read back as it was sent.</translation>
     </message>
-    <message id="DWT_Localize_Cli_Changed">
+    <message id="DWT_Localize_Ending_Verified">
         <translation>%1 was changed, and has the new settings.</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopped">
         <translation>Stopped. Nothing more was sent.</translation>
     </message>
-    <message id="DWT_Localize_Cli_StoppedBefore">
+    <message id="DWT_Localize_Ending_Stopped">
         <translation>Stopped before anything was sent to %1.</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopping">
@@ -1193,6 +1170,15 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>The first line of %1 holds no key or password.</translation>
+    </message>
+    <message id="DWT_Localize_Ending_NotComparable">
+        <translation>%1 does not report these settings; they were accepted, but not compared: %2</translation>
+    </message>
+    <message id="DWT_Localize_Send_Kept">
+        <translation>Your changes are kept.</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Comparing">
+        <translation>Reading the settings back to compare them…</translation>
     </message>
 </context>
 </TS>

@@ -471,7 +471,7 @@
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
         <translation>No se pudieron leer todos los ajustes, por lo que no se puede cambiar nada. Compruebe que la impresora está encendida y conectada y elija «Volver a leer».</translation>
     </message>
-    <message id="DWT_Localize_MainDialog_Text_NotTold">
+    <message id="DWT_Localize_MainDialog_Text_NotReported">
         <translation>La impresora no ha comunicado estos ajustes; no se envían hasta que introduzca algo en ellos: %1</translation>
     </message>
     <message id="DWT_Localize_Outline_Name">
@@ -555,20 +555,6 @@
     <message id="DWT_Localize_Send_End_TextField">
         <translation>Los ajustes se han enviado. Para ver los ajustes actuales de la impresora, elija «Volver a leer».</translation>
     </message>
-    <message id="DWT_Localize_Send_End_Refused">
-        <translation>La impresora no ha aceptado estos ajustes. En la impresora siguen como estaban y lo que ha escrito se conserva:
-%1</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_Unclear">
-        <translation>No está claro si la impresora ha tomado estos ajustes. Para ver los ajustes actuales de la impresora, elija «Volver a leer»:
-%1</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_LoginRefused">
-        <translation>La impresora ha rechazado la contraseña y no se ha enviado nada. Sus cambios se conservan.</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_LoginNoReply">
-        <translation>La impresora no ha respondido al inicio de sesión y no se ha enviado nada. Sus cambios se conservan.</translation>
-    </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>&amp;Aceptar</translation>
     </message>
@@ -592,9 +578,6 @@
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>No se puede acceder a la impresora y no se ha enviado nada. Compruebe que está encendida y que su cable está conectado, y vuelva a enviar. Sus cambios se conservan.</translation>
-    </message>
-    <message id="DWT_Localize_Send_ConnectErr_Lost">
-        <translation>Se ha perdido la conexión con la impresora. No se ha aplicado nada y sus cambios se conservan. Compruebe que la impresora está encendida y que su cable está conectado, y vuelva a enviar.</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>&amp;Aceptar</translation>
@@ -921,12 +904,6 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Report_Line">
         <translation>%1: %2</translation>
     </message>
-    <message id="DWT_Localize_Report_Yes">
-        <translation>Sí</translation>
-    </message>
-    <message id="DWT_Localize_Report_No">
-        <translation>No</translation>
-    </message>
     <message id="DWT_Localize_AddressAssignment">
         <translation>Asignación de la dirección</translation>
     </message>
@@ -1095,13 +1072,13 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
     <message id="DWT_Localize_Cli_InUse">
         <translation>Otro programa está usando %1. Ciérrelo e inténtelo de nuevo.</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotReached">
+    <message id="DWT_Localize_Ending_NotReached">
         <translation>No se puede acceder a %1. Compruebe que la impresora está encendida y que su cable está conectado.</translation>
     </message>
     <message id="DWT_Localize_Cli_StoppedAnswering">
         <translation>%1 dejó de responder antes de que se leyera todo.</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotTold">
+    <message id="DWT_Localize_Cli_NotReported">
         <translation>%1 no comunicó estos ajustes: %2</translation>
     </message>
     <message id="DWT_Localize_Cli_ReadOnly">
@@ -1125,40 +1102,40 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>Contraseña de administrador de %1:</translation>
     </message>
-    <message id="DWT_Localize_Cli_NoPassword">
+    <message id="DWT_Localize_Ending_NoPassword">
         <translation>%1 tiene una contraseña de administrador y no se ha indicado ninguna. No se ha enviado nada.</translation>
     </message>
-    <message id="DWT_Localize_Cli_LoginRefused">
+    <message id="DWT_Localize_Ending_LoginRefused">
         <translation>%1 no aceptó la contraseña. No se ha enviado nada.</translation>
     </message>
     <message id="DWT_Localize_Cli_Sending">
         <translation>Enviando a %1</translation>
     </message>
-    <message id="DWT_Localize_Cli_Lost">
+    <message id="DWT_Localize_Ending_Lost">
         <translation>Se perdió la conexión con %1. No se ha aplicado nada.</translation>
     </message>
-    <message id="DWT_Localize_Cli_Refused">
-        <translation>%1 no aceptó estos ajustes: %2.</translation>
+    <message id="DWT_Localize_Ending_Refused">
+        <translation>%1 no aceptó estos ajustes: %2</translation>
     </message>
-    <message id="DWT_Localize_Cli_Unclear">
-        <translation>No está claro si %1 tomó estos ajustes: %2.</translation>
+    <message id="DWT_Localize_Ending_Unclear">
+        <translation>No está claro si %1 tomó estos ajustes: %2</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotVerified">
+    <message id="DWT_Localize_Ending_NotReadBack">
         <translation>Los ajustes se enviaron a %1, pero la impresora no se pudo volver a leer. No se ha comprobado que los tenga.</translation>
     </message>
-    <message id="DWT_Localize_Cli_Differs">
+    <message id="DWT_Localize_Ending_Differs">
         <translation>%1 se envió como %2 y se leyó como %3.</translation>
     </message>
-    <message id="DWT_Localize_Cli_SecretDiffers">
+    <message id="DWT_Localize_Ending_SecretDiffers">
         <translation>%1 no se leyó tal como se envió.</translation>
     </message>
-    <message id="DWT_Localize_Cli_Changed">
+    <message id="DWT_Localize_Ending_Verified">
         <translation>%1 se ha cambiado y tiene los nuevos ajustes.</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopped">
         <translation>Detenido. No se ha enviado nada más.</translation>
     </message>
-    <message id="DWT_Localize_Cli_StoppedBefore">
+    <message id="DWT_Localize_Ending_Stopped">
         <translation>Detenido antes de enviar nada a %1.</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopping">
@@ -1193,6 +1170,15 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>La primera línea de %1 no contiene ninguna clave ni contraseña.</translation>
+    </message>
+    <message id="DWT_Localize_Ending_NotComparable">
+        <translation>%1 no comunica estos ajustes; se aceptaron, pero no se compararon: %2</translation>
+    </message>
+    <message id="DWT_Localize_Send_Kept">
+        <translation>Sus cambios se conservan.</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Comparing">
+        <translation>Volviendo a leer los ajustes para compararlos…</translation>
     </message>
 </context>
 </TS>

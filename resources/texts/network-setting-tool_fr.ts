@@ -471,7 +471,7 @@
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
         <translation>Certains paramètres n’ont pas pu être lus ; rien ne peut donc être modifié. Vérifiez que l’imprimante est allumée et connectée, puis choisissez « Relire les paramètres ».</translation>
     </message>
-    <message id="DWT_Localize_MainDialog_Text_NotTold">
+    <message id="DWT_Localize_MainDialog_Text_NotReported">
         <translation>L’imprimante n’a pas communiqué ces paramètres ; ils ne sont envoyés que si vous y saisissez quelque chose : %1</translation>
     </message>
     <message id="DWT_Localize_Outline_Name">
@@ -555,20 +555,6 @@
     <message id="DWT_Localize_Send_End_TextField">
         <translation>Les paramètres ont été envoyés. Pour voir les paramètres actuels de l’imprimante, choisissez « Relire les paramètres ».</translation>
     </message>
-    <message id="DWT_Localize_Send_End_Refused">
-        <translation>L’imprimante n’a pas accepté ces paramètres. Ils y restent tels quels, et vos saisies sont conservées :
-%1</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_Unclear">
-        <translation>On ne sait pas si l’imprimante a pris ces paramètres en compte. Pour voir les paramètres actuels de l’imprimante, choisissez « Relire les paramètres » :
-%1</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_LoginRefused">
-        <translation>L’imprimante a refusé le mot de passe, et rien n’a été envoyé. Vos modifications sont conservées.</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_LoginNoReply">
-        <translation>L’imprimante n’a pas répondu lors de l’identification, et rien n’a été envoyé. Vos modifications sont conservées.</translation>
-    </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>&amp;OK</translation>
     </message>
@@ -592,9 +578,6 @@
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>L’imprimante est injoignable, et rien n’a été envoyé. Vérifiez qu’elle est allumée et que son câble est branché, puis recommencez l’envoi. Vos modifications sont conservées.</translation>
-    </message>
-    <message id="DWT_Localize_Send_ConnectErr_Lost">
-        <translation>La connexion à l’imprimante a été perdue. Rien n’a été appliqué, et vos modifications sont conservées. Vérifiez que l’imprimante est allumée et que son câble est branché, puis recommencez l’envoi.</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>&amp;OK</translation>
@@ -921,12 +904,6 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Report_Line">
         <translation>%1 : %2</translation>
     </message>
-    <message id="DWT_Localize_Report_Yes">
-        <translation>Oui</translation>
-    </message>
-    <message id="DWT_Localize_Report_No">
-        <translation>Non</translation>
-    </message>
     <message id="DWT_Localize_AddressAssignment">
         <translation>Attribution de l’adresse</translation>
     </message>
@@ -1095,13 +1072,13 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
     <message id="DWT_Localize_Cli_InUse">
         <translation>%1 est utilisée par un autre programme. Fermez-le, puis réessayez.</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotReached">
+    <message id="DWT_Localize_Ending_NotReached">
         <translation>%1 est injoignable. Vérifiez que l’imprimante est allumée et que son câble est branché.</translation>
     </message>
     <message id="DWT_Localize_Cli_StoppedAnswering">
         <translation>%1 a cessé de répondre avant que tout soit lu.</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotTold">
+    <message id="DWT_Localize_Cli_NotReported">
         <translation>%1 n’a pas communiqué ces réglages : %2</translation>
     </message>
     <message id="DWT_Localize_Cli_ReadOnly">
@@ -1125,40 +1102,40 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>Mot de passe administrateur de %1 :</translation>
     </message>
-    <message id="DWT_Localize_Cli_NoPassword">
+    <message id="DWT_Localize_Ending_NoPassword">
         <translation>%1 a un mot de passe administrateur, et aucun n’a été indiqué. Rien n’a été envoyé.</translation>
     </message>
-    <message id="DWT_Localize_Cli_LoginRefused">
+    <message id="DWT_Localize_Ending_LoginRefused">
         <translation>%1 n’a pas accepté le mot de passe. Rien n’a été envoyé.</translation>
     </message>
     <message id="DWT_Localize_Cli_Sending">
         <translation>Envoi à %1</translation>
     </message>
-    <message id="DWT_Localize_Cli_Lost">
+    <message id="DWT_Localize_Ending_Lost">
         <translation>La connexion à %1 a été perdue. Rien n’a été appliqué.</translation>
     </message>
-    <message id="DWT_Localize_Cli_Refused">
-        <translation>%1 n’a pas accepté ces réglages : %2.</translation>
+    <message id="DWT_Localize_Ending_Refused">
+        <translation>%1 n’a pas accepté ces réglages : %2</translation>
     </message>
-    <message id="DWT_Localize_Cli_Unclear">
-        <translation>Il n’est pas certain que %1 ait repris ces réglages : %2.</translation>
+    <message id="DWT_Localize_Ending_Unclear">
+        <translation>Il n’est pas certain que %1 ait repris ces réglages : %2</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotVerified">
+    <message id="DWT_Localize_Ending_NotReadBack">
         <translation>Les réglages ont été envoyés à %1, mais l’imprimante n’a pas pu être relue. Il n’est pas vérifié qu’elle les a.</translation>
     </message>
-    <message id="DWT_Localize_Cli_Differs">
+    <message id="DWT_Localize_Ending_Differs">
         <translation>%1 a été envoyé comme %2 et relu comme %3.</translation>
     </message>
-    <message id="DWT_Localize_Cli_SecretDiffers">
+    <message id="DWT_Localize_Ending_SecretDiffers">
         <translation>%1 n’a pas été relu tel qu’il a été envoyé.</translation>
     </message>
-    <message id="DWT_Localize_Cli_Changed">
+    <message id="DWT_Localize_Ending_Verified">
         <translation>%1 a été modifiée et a les nouveaux réglages.</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopped">
         <translation>Arrêté. Rien d’autre n’a été envoyé.</translation>
     </message>
-    <message id="DWT_Localize_Cli_StoppedBefore">
+    <message id="DWT_Localize_Ending_Stopped">
         <translation>Arrêté avant que quoi que ce soit ait été envoyé à %1.</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopping">
@@ -1193,6 +1170,15 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>La première ligne de %1 ne contient ni clé ni mot de passe.</translation>
+    </message>
+    <message id="DWT_Localize_Ending_NotComparable">
+        <translation>%1 ne communique pas ces réglages ; ils ont été acceptés, mais pas comparés : %2</translation>
+    </message>
+    <message id="DWT_Localize_Send_Kept">
+        <translation>Vos modifications sont conservées.</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Comparing">
+        <translation>Relecture des paramètres pour les comparer…</translation>
     </message>
 </context>
 </TS>

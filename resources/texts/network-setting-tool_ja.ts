@@ -471,7 +471,7 @@
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
         <translation>読み込めなかった設定があるため、設定を変更できません。プリンターの電源と接続を確認してから、［再読み込み］をクリックしてください。</translation>
     </message>
-    <message id="DWT_Localize_MainDialog_Text_NotTold">
+    <message id="DWT_Localize_MainDialog_Text_NotReported">
         <translation>次の設定はプリンターから取得できませんでした。入力するまで送信されません: %1</translation>
     </message>
     <message id="DWT_Localize_Outline_Name">
@@ -555,20 +555,6 @@
     <message id="DWT_Localize_Send_End_TextField">
         <translation>設定を送信しました。プリンターの現在の設定を確認するには、［再読み込み］をクリックしてください。</translation>
     </message>
-    <message id="DWT_Localize_Send_End_Refused">
-        <translation>次の設定はプリンターに受け付けられませんでした。プリンターの設定は元のままで、入力した内容は保持されています。
-%1</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_Unclear">
-        <translation>次の設定がプリンターに反映されたかどうか確認できません。現在の設定を確認するには、［再読み込み］をクリックしてください。
-%1</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_LoginRefused">
-        <translation>プリンターがパスワードを受け付けなかったため、何も送信されていません。変更内容は保持されています。</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_LoginNoReply">
-        <translation>ログインに対するプリンターの応答がなかったため、何も送信されていません。変更内容は保持されています。</translation>
-    </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>&amp;OK</translation>
     </message>
@@ -592,9 +578,6 @@
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>プリンターに接続できないため、何も送信されていません。電源が入っていること、ケーブルが接続されていることを確認して、もう一度送信してください。変更内容は保持されています。</translation>
-    </message>
-    <message id="DWT_Localize_Send_ConnectErr_Lost">
-        <translation>プリンターとの接続が切れました。設定は何も適用されておらず、変更内容は保持されています。電源が入っていること、ケーブルが接続されていることを確認して、もう一度送信してください。</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>&amp;OK</translation>
@@ -921,12 +904,6 @@
     <message id="DWT_Localize_Report_Line">
         <translation>%1: %2</translation>
     </message>
-    <message id="DWT_Localize_Report_Yes">
-        <translation>はい</translation>
-    </message>
-    <message id="DWT_Localize_Report_No">
-        <translation>いいえ</translation>
-    </message>
     <message id="DWT_Localize_AddressAssignment">
         <translation>アドレスの割り当て</translation>
     </message>
@@ -1095,14 +1072,14 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
     <message id="DWT_Localize_Cli_InUse">
         <translation>%1 はほかのプログラムが使用中です。そのプログラムを終了してから、もう一度実行してください。</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotReached">
+    <message id="DWT_Localize_Ending_NotReached">
         <translation>%1 に接続できません。電源が入っていること、ケーブルが接続されていることを確認してください。</translation>
     </message>
     <message id="DWT_Localize_Cli_StoppedAnswering">
         <translation>%1 は、すべてを読み取る前に応答しなくなりました。</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotTold">
-        <translation>%1 は次の設定を知らせませんでした: %2</translation>
+    <message id="DWT_Localize_Cli_NotReported">
+        <translation>%1 から次の設定を取得できませんでした: %2</translation>
     </message>
     <message id="DWT_Localize_Cli_ReadOnly">
         <translation>変更できないため、次の項目は除きました: %1</translation>
@@ -1125,40 +1102,40 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>%1 の管理者パスワード:</translation>
     </message>
-    <message id="DWT_Localize_Cli_NoPassword">
+    <message id="DWT_Localize_Ending_NoPassword">
         <translation>%1 には管理者パスワードが設定されていますが、指定されていません。何も送信していません。</translation>
     </message>
-    <message id="DWT_Localize_Cli_LoginRefused">
+    <message id="DWT_Localize_Ending_LoginRefused">
         <translation>%1 はパスワードを受け付けませんでした。何も送信していません。</translation>
     </message>
     <message id="DWT_Localize_Cli_Sending">
         <translation>%1 に送信しています</translation>
     </message>
-    <message id="DWT_Localize_Cli_Lost">
+    <message id="DWT_Localize_Ending_Lost">
         <translation>%1 との接続が切れました。何も反映されていません。</translation>
     </message>
-    <message id="DWT_Localize_Cli_Refused">
-        <translation>%1 は次の設定を受け付けませんでした: %2。</translation>
+    <message id="DWT_Localize_Ending_Refused">
+        <translation>%1 は次の設定を受け付けませんでした: %2</translation>
     </message>
-    <message id="DWT_Localize_Cli_Unclear">
-        <translation>%1 が次の設定を反映したかどうかわかりません: %2。</translation>
+    <message id="DWT_Localize_Ending_Unclear">
+        <translation>%1 が次の設定を反映したかどうかわかりません: %2</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotVerified">
+    <message id="DWT_Localize_Ending_NotReadBack">
         <translation>設定を %1 に送信しましたが、もう一度読み取ることができませんでした。反映されたかどうかは確認できていません。</translation>
     </message>
-    <message id="DWT_Localize_Cli_Differs">
+    <message id="DWT_Localize_Ending_Differs">
         <translation>%1 は %2 として送信しましたが、%3 と読み取られました。</translation>
     </message>
-    <message id="DWT_Localize_Cli_SecretDiffers">
+    <message id="DWT_Localize_Ending_SecretDiffers">
         <translation>%1 は送信したとおりに読み取られませんでした。</translation>
     </message>
-    <message id="DWT_Localize_Cli_Changed">
+    <message id="DWT_Localize_Ending_Verified">
         <translation>%1 を変更し、新しい設定になったことを確認しました。</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopped">
         <translation>中止しました。これ以上は送信していません。</translation>
     </message>
-    <message id="DWT_Localize_Cli_StoppedBefore">
+    <message id="DWT_Localize_Ending_Stopped">
         <translation>%1 に何も送信しないうちに中止しました。</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopping">
@@ -1193,6 +1170,15 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>%1 の 1 行目にキーまたはパスワードがありません。</translation>
+    </message>
+    <message id="DWT_Localize_Ending_NotComparable">
+        <translation>%1 は次の設定を報告しないため、受け付けられましたが、照合していません: %2</translation>
+    </message>
+    <message id="DWT_Localize_Send_Kept">
+        <translation>変更内容は保持されています。</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Comparing">
+        <translation>照合のために設定を読み直しています…</translation>
     </message>
 </context>
 </TS>

@@ -471,7 +471,7 @@
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_NotRead">
         <translation>有些设置无法读取，因此无法更改任何设置。请检查打印机是否已开机并连接，然后选择“重新读取”。</translation>
     </message>
-    <message id="DWT_Localize_MainDialog_Text_NotTold">
+    <message id="DWT_Localize_MainDialog_Text_NotReported">
         <translation>打印机未提供以下设置；在您输入内容之前不会发送它们：%1</translation>
     </message>
     <message id="DWT_Localize_Outline_Name">
@@ -555,20 +555,6 @@
     <message id="DWT_Localize_Send_End_TextField">
         <translation>设置已发送。要查看打印机当前的设置，请选择“重新读取”。</translation>
     </message>
-    <message id="DWT_Localize_Send_End_Refused">
-        <translation>打印机未接受以下设置。打印机中的设置保持不变，您输入的内容已保留：
-%1</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_Unclear">
-        <translation>不清楚打印机是否采用了以下设置。要查看打印机当前的设置，请选择“重新读取”：
-%1</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_LoginRefused">
-        <translation>打印机拒绝了密码，未发送任何内容。您的更改已保留。</translation>
-    </message>
-    <message id="DWT_Localize_Send_End_LoginNoReply">
-        <translation>打印机未响应登录，未发送任何内容。您的更改已保留。</translation>
-    </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>确定(&amp;O)</translation>
     </message>
@@ -592,9 +578,6 @@
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
         <translation>无法连接打印机，未发送任何内容。请检查打印机是否已开机、电缆是否已插好，然后重新发送。您的更改已保留。</translation>
-    </message>
-    <message id="DWT_Localize_Send_ConnectErr_Lost">
-        <translation>与打印机的连接已断开。未应用任何设置，您的更改已保留。请检查打印机是否已开机、电缆是否已插好，然后重新发送。</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>确定(&amp;O)</translation>
@@ -921,12 +904,6 @@
     <message id="DWT_Localize_Report_Line">
         <translation>%1：%2</translation>
     </message>
-    <message id="DWT_Localize_Report_Yes">
-        <translation>是</translation>
-    </message>
-    <message id="DWT_Localize_Report_No">
-        <translation>否</translation>
-    </message>
     <message id="DWT_Localize_AddressAssignment">
         <translation>地址分配方式</translation>
     </message>
@@ -1095,13 +1072,13 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
     <message id="DWT_Localize_Cli_InUse">
         <translation>%1 正由其他程序使用。请关闭该程序，然后重试。</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotReached">
+    <message id="DWT_Localize_Ending_NotReached">
         <translation>无法连接 %1。请检查打印机是否已开机、电缆是否已插好。</translation>
     </message>
     <message id="DWT_Localize_Cli_StoppedAnswering">
         <translation>%1 在读取完成之前停止了响应。</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotTold">
+    <message id="DWT_Localize_Cli_NotReported">
         <translation>%1 没有提供以下设置：%2</translation>
     </message>
     <message id="DWT_Localize_Cli_ReadOnly">
@@ -1125,40 +1102,40 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>%1 的管理员密码：</translation>
     </message>
-    <message id="DWT_Localize_Cli_NoPassword">
+    <message id="DWT_Localize_Ending_NoPassword">
         <translation>%1 设有管理员密码，但没有提供密码。没有发送任何内容。</translation>
     </message>
-    <message id="DWT_Localize_Cli_LoginRefused">
+    <message id="DWT_Localize_Ending_LoginRefused">
         <translation>%1 没有接受密码。没有发送任何内容。</translation>
     </message>
     <message id="DWT_Localize_Cli_Sending">
         <translation>正在发送到 %1</translation>
     </message>
-    <message id="DWT_Localize_Cli_Lost">
+    <message id="DWT_Localize_Ending_Lost">
         <translation>与 %1 的连接已断开。没有任何设置生效。</translation>
     </message>
-    <message id="DWT_Localize_Cli_Refused">
-        <translation>%1 没有接受以下设置：%2。</translation>
+    <message id="DWT_Localize_Ending_Refused">
+        <translation>%1 没有接受以下设置：%2</translation>
     </message>
-    <message id="DWT_Localize_Cli_Unclear">
-        <translation>不清楚 %1 是否采用了以下设置：%2。</translation>
+    <message id="DWT_Localize_Ending_Unclear">
+        <translation>不清楚 %1 是否采用了以下设置：%2</translation>
     </message>
-    <message id="DWT_Localize_Cli_NotVerified">
+    <message id="DWT_Localize_Ending_NotReadBack">
         <translation>设置已发送到 %1，但无法再次读取打印机。尚未确认设置是否生效。</translation>
     </message>
-    <message id="DWT_Localize_Cli_Differs">
+    <message id="DWT_Localize_Ending_Differs">
         <translation>%1 发送的是 %2，读回的是 %3。</translation>
     </message>
-    <message id="DWT_Localize_Cli_SecretDiffers">
+    <message id="DWT_Localize_Ending_SecretDiffers">
         <translation>%1 读回的内容与发送的不同。</translation>
     </message>
-    <message id="DWT_Localize_Cli_Changed">
+    <message id="DWT_Localize_Ending_Verified">
         <translation>%1 已更改，新设置已确认。</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopped">
         <translation>已停止。没有再发送任何内容。</translation>
     </message>
-    <message id="DWT_Localize_Cli_StoppedBefore">
+    <message id="DWT_Localize_Ending_Stopped">
         <translation>在向 %1 发送任何内容之前已停止。</translation>
     </message>
     <message id="DWT_Localize_Cli_Stopping">
@@ -1193,6 +1170,15 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>%1 的第一行没有密钥或密码。</translation>
+    </message>
+    <message id="DWT_Localize_Ending_NotComparable">
+        <translation>%1 不报告以下设置；它们已被接受，但未经核对：%2</translation>
+    </message>
+    <message id="DWT_Localize_Send_Kept">
+        <translation>您的更改已保留。</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Comparing">
+        <translation>正在读回设置以进行核对…</translation>
     </message>
 </context>
 </TS>

@@ -10,6 +10,7 @@
 #include "platform/core/Texts.h"
 #include "platform/core/Waiting.h"
 #include "settings/PrinterWords.h"
+#include "settings/Printers.h"
 
 namespace {
 
@@ -204,7 +205,7 @@ void DWTPrinterSelector::DWT_UpdatePrinterList() {
     m_showing.stop();
     tableView_Printerlist->setEmptyText(localized(
         isWaitCancelled() ? QStringLiteral("DWT_Localize_PrinterList_Cancelled")
-                          : keyOfEmptyList(ndm_Object->printerProblems(), checkLunchedMode())));
+                          : keyOfEmptyList(Printers::problems(), checkLunchedMode())));
     tableView_Printerlist->reloadData();
     showPart(textField_PrinterlistFilter, array_PrinterList.size() > printersAtAGlance ||
                                               !textField_PrinterlistFilter->text().isEmpty());
@@ -213,7 +214,7 @@ void DWTPrinterSelector::DWT_UpdatePrinterList() {
 }
 
 void DWTPrinterSelector::showProblems() {
-    QList<PrinterProblem> problems = ndm_Object->printerProblems();
+    QList<PrinterProblem> problems = Printers::problems();
     problems.removeIf([](const PrinterProblem &problem) {  // which the list itself says
         return problem.kind == PrinterProblem::EmptyCatalogue;
     });
@@ -236,7 +237,7 @@ void DWTPrinterSelector::followPrinters() {
     const bool idle = view_Printerlist->isVisible() && !window_PrinterSelector->isMinimized() &&
                       !window_Wait->isVisible() && !QApplication::activeModalWidget() &&
                       !QApplication::activePopupWidget();
-    if (idle && ndm_Object && ndm_Object->hasPrinterListChanged()) DWT_UpdatePrinterList();
+    if (idle && ndm_Object && Printers::hasListChanged()) DWT_UpdatePrinterList();
 }
 
 void DWTPrinterSelector::DWT_DoubleAction(int clickedRow) {

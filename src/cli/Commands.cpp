@@ -1,19 +1,18 @@
 #include "cli/Commands.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
 #include <algorithm>
 #include <cerrno>
 
 #include "cli/Interrupt.h"
 #include "cli/Options.h"
 #include "cli/Passwords.h"
-#include "cli/PrinterSession.h"
 #include "cli/Provision.h"
 #include "cli/Table.h"
 #include "cli/Terminal.h"
+#include "cli/Views.h"
 #include "platform/core/Texts.h"
 #include "settings/PrinterWords.h"
+#include "settings/Printers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,39 +25,6 @@ constexpr qsizetype namesAtAGlance = 4;
 
 QString text(const char *key) {
     return localized(QLatin1String(key));
-}
-
-// A group of settings as JSON: those whose names begin with `prefix`, under the rest of their
-// names.
-void insert(QJsonObject &object, const QStringList &path, const QJsonValue &value) {
-    if (path.size() == 1) {
-        object.insert(path.first(), value);
-        return;
-    }
-    QJsonObject group = object.value(path.first()).toObject();
-    insert(group, path.mid(1), value);
-    object.insert(path.first(), group);
-}
-
-// Of the secrets, nothing.
-QJsonObject recordAsJson(const SettingRecord &record) {
-    QJsonObject object;
-    for (const Setting &setting : settings())
-        if (setting.access != Setting::Access::Enter && record.contains(setting.viewKey))
-            insert(object, setting.name.split(u'.'),
-                   valueAsJson(setting, record.value(setting.viewKey)));
-    return object;
-}
-
-QJsonObject entryAsJson(const PrinterEntry &entry) {
-    return recordAsJson({{QString(), listedCategory(entry)}})[u"printer"].toObject();
-}
-
-QStringList cellsOf(const PrinterEntry &entry) {
-    return {listedName(entry), entry.value(PrinterKey::ProductName),
-            text(isUSB(entry) ? "DWT_Localize_PrinterList_BonjourService_USB"
-                              : "DWT_Localize_PrinterList_BonjourService_Network"),
-            whereaboutsOf(entry), entry.value(PrinterKey::DeviceURI)};
 }
 
 // One run of the program.
@@ -78,40 +44,40 @@ class Run {
   private:
     ExitCode list() {
         const InterruptibleWait wait;
-        const auto manager = make<DWTDataManager>();
-        const auto printers = manager->printerList().value_or(QList<PrinterEntry>());
+        const auto printers = DWTDataManager::printerList().value_or(QList<PrinterEntry>());
         if (m_options.json) {
             QJsonArray array;
-            for (const PrinterEntry &entry : printers) array << entryAsJson(entry);
+            for (const PrinterEntry &entry : printers) array << asJson(entry);
             m_terminal.print(array);
         } else if (!printers.isEmpty()) {
             QList<QStringList> rows;
             for (const PrinterEntry &entry : printers) rows << cellsOf(entry);
             m_terminal.print(rows);
         }
-        const auto problems = manager->printerProblems();
-        m_terminal.note(problems);
+        m_terminal.note(Printers::problems());
         if (isWaitCancelled()) return stopped();
         if (printers.isEmpty() && !m_options.json)
             m_terminal.note(text("DWT_Localize_Cli_NoPrinters"));
-        return Done;
+        return ExitCode::Done;
     }
 
     ExitCode show() {
         const InterruptibleWait wait;
         auto session = open();
         if (!session) return m_code;
-        const Ending read = this->read(*session);
+        const Session::Reading reading = read(*session);
         if (isWaitCancelled()) return stopped();
-        if (read.code != Done && session->record().value(DWT_View_Key_Network).isEmpty())
-            return m_terminal.fail(read.code, read.text);
+        const ExitCode code = codeOf(reading);
+        const QString words = session->wordsOf(reading).join(u' ');
+        if (code != ExitCode::Done && session->record().value(DWT_View_Key_Network).isEmpty())
+            return m_terminal.fail(code, words);
         if (m_options.json)
-            m_terminal.print(recordAsJson(session->record()));
+            m_terminal.print(asJson(session->record()));
         else
             printPages(*session);
-        if (read.code != Done) return m_terminal.fail(read.code, read.text);
-        noteNotTold(*session);
-        return Done;
+        if (code != ExitCode::Done) return m_terminal.fail(code, words);
+        noteNotReported(*session);
+        return ExitCode::Done;
     }
 
     ExitCode check() {
@@ -120,17 +86,17 @@ class Run {
             const Table table = tableFromFile(file);
             QList<Fault> faults = table.faults;
             for (const TableRow &row : table.rows) faults += faultsBetween(row.values);
-            return faults.isEmpty() ? Done : m_terminal.fail(faults);
+            return faults.isEmpty() ? ExitCode::Done : m_terminal.fail(faults);
         }
         const GivenSettings given = settingsFromFile(file);
         noteReadOnly(given);
         const QList<Fault> faults = given.allFaults() + faultsBetween(given.values);
-        return faults.isEmpty() ? Done : m_terminal.fail(faults);
+        return faults.isEmpty() ? ExitCode::Done : m_terminal.fail(faults);
     }
 
     ExitCode apply() {
         if (!m_options.yes && !m_options.dryRun && !Terminal::canAsk())
-            return m_terminal.fail(UsedWrongly, text("DWT_Localize_Cli_NoTerminal"));
+            return m_terminal.fail(ExitCode::UsedWrongly, text("DWT_Localize_Cli_NoTerminal"));
         const GivenSettings given = settingsFromFile(m_options.arguments[1]);
         if (!given.faults.isEmpty())
             return m_terminal.fail(given.allFaults() + faultsBetween(given.values));
@@ -140,14 +106,15 @@ class Run {
         auto wait = std::make_unique<InterruptibleWait>();
         auto session = openForChange();
         if (!session) return m_code;
-        const Ending read = this->read(*session);
+        const Session::Reading reading = read(*session);
         if (isWaitCancelled()) return stopped();
-        if (read.code != Done) return m_terminal.fail(read.code, read.text);
-        noteNotTold(*session);
+        if (reading != Session::Reading::Complete)
+            return m_terminal.fail(codeOf(reading), session->wordsOf(reading).join(u' '));
+        noteNotReported(*session);
         const Plan plan = planOf(session->record(), given.values);
         if (!plan.faults.isEmpty()) return m_terminal.fail(plan.faults);
         printPlan(*session, plan);
-        if (plan.changes.isEmpty() || m_options.dryRun) return Done;
+        if (plan.changes.isEmpty() || m_options.dryRun) return ExitCode::Done;
         if (!m_options.yes && !m_terminal.confirm(text("DWT_Localize_Cli_Confirm")))
             return stopped();
         wait.reset();  // what is sent is not broken off
@@ -165,7 +132,7 @@ class Run {
         }
         QList<TableRow> rows;
         for (TableRow row : table.rows) {
-            row.values = laidOver(given.values, row.values);
+            row.values = merged(given.values, row.values);
             for (const Fault &fault : faultsBetween(row.values))
                 if (!faults.contains(fault)) faults << fault;  // the template's once
             rows << row;
@@ -181,43 +148,49 @@ class Run {
         const InterruptibleWait wait;
         auto session = openForChange();
         if (!session) return m_code;
-        const auto found = session->networks([this](int polls, int total) {
+        const auto found = session->manager()->SSIDList([this](int polls, int total) {
             const auto left = DWTDataManager::defaultScanInterval * (total - polls);
             m_terminal.showProgress(
                 text("DWT_Localize_Wait_Searching")
                     .arg(std::chrono::ceil<std::chrono::seconds>(left).count()));
         });
         if (isWaitCancelled()) return stopped();
-        if (!found)
-            return m_terminal.fail(NotReached,
-                                   text("DWT_Localize_Cli_NotReached").arg(session->name()));
-        printNetworks(*found);
-        return Done;
+        if (!found) {
+            const auto reading = Session::Reading::NotReached;
+            return m_terminal.fail(codeOf(reading), session->wordsOf(reading).join(u' '));
+        }
+        if (m_options.json)
+            m_terminal.print(asJson(*found));
+        else
+            m_terminal.print(rowsOf(*found));
+        if (found->isEmpty() && !m_options.json)
+            m_terminal.note(text("DWT_Localize_Cli_NoNetworks"));
+        return ExitCode::Done;
     }
 
     // --- Printers ---
 
     // The printer that the command names; null, and m_code says why.
-    std::optional<PrinterSession> open() {
+    std::optional<Session> open() {
         const QString named = m_options.arguments.first();
-        const auto manager = make<DWTDataManager>();
-        for (const PrinterEntry &entry : manager->supportedPrinters())
-            if (entry.value(PrinterKey::DeviceURI) == named) return PrinterSession(entry);
+        for (const PrinterEntry &entry : Printers::supported())
+            if (entry.value(PrinterKey::DeviceURI) == named) return Session(entry);
         QList<PrinterEntry> meant;
-        for (const PrinterEntry &entry : manager->printerList().value_or(QList<PrinterEntry>()))
+        for (const PrinterEntry &entry :
+             DWTDataManager::printerList().value_or(QList<PrinterEntry>()))
             if (entry.value(PrinterKey::SerialNumber) == named || listedName(entry) == named)
                 meant << entry;
-        if (meant.size() == 1) return PrinterSession(meant.first());
+        if (meant.size() == 1) return Session(meant.first());
         if (isWaitCancelled()) {
             m_code = stopped();
             return {};
         }
-        if (meant.isEmpty()) m_terminal.note(manager->printerProblems());
+        if (meant.isEmpty()) m_terminal.note(Printers::problems());
         QStringList candidates;
         for (const PrinterEntry &entry : std::as_const(meant))
             candidates << cellsOf(entry).join(u"  "_s);
         m_code = m_terminal.fail(
-            NotReached,
+            ExitCode::NotReached,
             text(meant.isEmpty() ? "DWT_Localize_Cli_NotFound" : "DWT_Localize_Cli_Ambiguous")
                 .arg(named),
             candidates);
@@ -225,24 +198,25 @@ class Run {
     }
 
     // The same, if its settings can be changed.
-    std::optional<PrinterSession> openForChange() {
+    std::optional<Session> openForChange() {
         auto session = open();
         if (!session || isUSB(session->entry())) return session;
-        m_code = m_terminal.fail(UsedWrongly, text("DWT_Localize_Cli_NotUsb").arg(session->name()));
+        m_code = m_terminal.fail(ExitCode::UsedWrongly,
+                                 text("DWT_Localize_Cli_NotUsb").arg(session->name()));
         return {};
     }
 
-    Ending read(PrinterSession &session) {
+    Session::Reading read(Session &session) {
         const QString name = session.name();
-        Ending read = session.read([&](int done, int total) {
+        const Session::Reading reading = session.read([&](int done, int total) {
             m_terminal.showProgress(text("DWT_Localize_Wait_Reading")
                                         .arg(name, QString::number(done), QString::number(total)));
         });
         m_terminal.showProgress({});
-        return read;
+        return reading;
     }
 
-    ExitCode change(PrinterSession &session, const Plan &plan) {
+    ExitCode change(Session &session, const Plan &plan) {
         const QString name = session.name();
         const auto password = [&] { return m_passwords.forPrinter(name); };
         const auto mayBegin = [&] {
@@ -250,83 +224,44 @@ class Run {
             return !Interrupt::isRequested();
         };
         const Ending ending = session.change(plan, password, mayBegin);
-        if (ending.code != Done) return m_terminal.fail(ending.code, ending.text);
-        m_terminal.print(text("DWT_Localize_Cli_Changed").arg(name));
-        return Interrupt::isRequested() ? Stopped : Done;
+        const ExitCode code = codeOf(ending);
+        const QString words = session.wordsOf(ending, Naming::Stable).join(u' ');
+        if (code != ExitCode::Done) return m_terminal.fail(code, words);
+        m_terminal.print(words);
+        return Interrupt::isRequested() ? ExitCode::Stopped : ExitCode::Done;
     }
 
-    ExitCode stopped() { return m_terminal.fail(Stopped, text("DWT_Localize_Cli_Stopped")); }
+    ExitCode stopped() {
+        return m_terminal.fail(ExitCode::Stopped, text("DWT_Localize_Cli_Stopped"));
+    }
 
     // --- What is told ---
 
-    void printPages(const PrinterSession &session) {
+    void printPages(const Session &session) {
         const PrinterEntry &entry = session.entry();
         QStringList title{session.name(), entry.value(PrinterKey::ProductName)};
         if (const QString whereabouts = whereaboutsOf(entry); !whereabouts.isEmpty())
             title << whereabouts;
         m_terminal.print(title.join(u", "_s));
-        QList<QStringList> rows;
-        for (const SettingPage &page : settingPages()) {
-            QList<QStringList> lines;
-            for (const Setting &setting : settings())
-                if (setting.viewKey == page.viewKey && setting.access != Setting::Access::Enter)
-                    lines << QStringList{
-                        u"  "_s + nameInLabel(localized(setting.labelKey)),
-                        valueOrEmpty(setting, session.record().value(page.viewKey))};
-            if (!lines.isEmpty())
-                rows << QStringList{} << QStringList{localized(page.titleKey)} << lines;
-        }
-        m_terminal.print(rows);
+        m_terminal.print(rowsOf(session.record()));
     }
 
-    void printPlan(const PrinterSession &session, const Plan &plan) {
+    void printPlan(const Session &session, const Plan &plan) {
         if (plan.changes.isEmpty()) {
             m_terminal.print(text("DWT_Localize_Cli_NothingToDo").arg(session.name()));
             return;
         }
         m_terminal.print(text("DWT_Localize_Cli_WillChange").arg(session.name()));
         for (const Plan::Change &change : plan.changes)
-            m_terminal.print(u"  %1: %2"_s.arg(
-                change.setting->name, change.setting->isSecret()
-                                          ? change.newText
-                                          : u"%1 → %2"_s.arg(change.oldText, change.newText)));
-        for (const QString &warning : plan.warnings) m_terminal.note(warning);
+            m_terminal.print(u"  %1: %2"_s.arg(change.setting->name, change.words()));
+        for (const SendWarning &warning : plan.warnings) m_terminal.note(wordsOf(warning));
     }
 
-    void printNetworks(const QList<SSIDEntry> &networks) {
-        if (!m_options.json) {
-            QList<QStringList> rows;
-            for (const SSIDEntry &network : networks)
-                rows << QStringList{
-                    readableText(textValue(network, DWT_SSIDList_SSID_String)),
-                    listAuthentications.value(integerValue(network, DWT_SSIDList_Authentic)),
-                    listEncryptions.value(integerValue(network, DWT_SSIDList_Encryption)),
-                    u"%1 dBm"_s.arg(integerValue(network, DWT_SSIDList_SignalStrength))};
-            m_terminal.print(rows);
-            if (networks.isEmpty()) m_terminal.note(text("DWT_Localize_Cli_NoNetworks"));
-            return;
-        }
-        QJsonArray array;
-        for (const SSIDEntry &network : networks) {
-            const auto named = [&](const QStringList &names, const QString &key) -> QJsonValue {
-                const int code = integerValue(network, key);
-                if (code >= 0 && code < names.size()) return names[code];
-                return code;
-            };
-            array << QJsonObject{
-                {u"ssid"_s, readableText(textValue(network, DWT_SSIDList_SSID_String))},
-                {u"ssidHex"_s, QString::fromLatin1(bytesValue(network, DWT_SSIDList_SSID).toHex())},
-                {u"authentication"_s, named(listAuthentications, DWT_SSIDList_Authentic)},
-                {u"encryption"_s, named(listEncryptions, DWT_SSIDList_Encryption)},
-                {u"signal"_s, integerValue(network, DWT_SSIDList_SignalStrength)}};
-        }
-        m_terminal.print(array);
-    }
-
-    void noteNotTold(const PrinterSession &session) {
-        if (const QStringList names = session.notTold(); !names.isEmpty())
+    void noteNotReported(const Session &session) {
+        const auto missing = namesOf(session.manager()->notReported(), Naming::Stable);
+        if (!missing.isEmpty())
             m_terminal.note(
-                text("DWT_Localize_Cli_NotTold").arg(session.name(), names.join(u", "_s)));
+                text("DWT_Localize_Cli_NotReported").arg(session.name(), missing.join(u", "_s)));
     }
 
     void noteReadOnly(const GivenSettings &given) {
@@ -336,35 +271,31 @@ class Run {
             m_terminal.note(text("DWT_Localize_Cli_ReadOnly").arg(names.join(u", "_s)));
     }
 
-    // The names of the codes of a network of the list.
-    const QStringList listAuthentications{u"open"_s, u"wpa"_s, u"wpa2"_s, u"wpa/wpa2"_s};
-    const QStringList listEncryptions{u"none"_s, u"wep"_s, u"tkip"_s, u"aes"_s, u"tkip/aes"_s};
-
     const Options m_options;
     Terminal m_terminal;
     Passwords m_passwords;
-    ExitCode m_code = Done;  // why no printer was opened
+    ExitCode m_code = ExitCode::Done;  // why no printer was opened
 };
 
 }  // namespace
 
-int runCommandLine(const QStringList &arguments) {
+ExitCode runCommandLine(const QStringList &arguments) {
     const Options options = optionsOf(arguments);
     Terminal terminal(options.json);
-    ExitCode code = Done;
+    ExitCode code = ExitCode::Done;
     if (options.shown == Options::Shown::Help) {
         for (const QString &line : text("DWT_Localize_Cli_Help").split(u'\n')) terminal.print(line);
     } else if (options.shown == Options::Shown::Version) {
         terminal.print(u"network-setting " NST_VERSION ""_s);
     } else if (!options.error.isEmpty()) {
-        code = terminal.fail(UsedWrongly, options.error);
+        code = terminal.fail(ExitCode::UsedWrongly, options.error);
         terminal.note(text("DWT_Localize_Cli_SeeHelp"));
     } else {
         Interrupt::watch();
         code = Run(options).run();
     }
     // Who reads only the beginning of a pipe has got what was wanted.
-    if (!Terminal::flush() && errno != EPIPE && code == Done)
-        code = terminal.fail(InputRefused, text("DWT_Localize_Cli_Output"));
+    if (!Terminal::flush() && errno != EPIPE && code == ExitCode::Done)
+        code = terminal.fail(ExitCode::InputRefused, text("DWT_Localize_Cli_Output"));
     return code;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-// What the program ends with.
-enum ExitCode : int {
+// What the program ends with. A larger code is a worse ending.
+enum class ExitCode : int {
     Done = 0,          // done and verified, or nothing to do
     UsedWrongly = 1,   // the command line
     InputRefused = 2,  // what is in a file; a file that cannot be read or written

@@ -3,7 +3,7 @@
 #include <QString>
 #include <optional>
 
-#include "cli/Values.h"
+#include "settings/Plan.h"
 
 // Where the administrator password of the printers comes from: a file, otherwise the environment
 // variable below, otherwise the person at the terminal, who is asked once. Main thread.

@@ -5,17 +5,16 @@
 #include <utility>
 
 #include "cli/Interrupt.h"
+#include "cli/Views.h"
 #include "link/Binding.h"
 #include "platform/core/MainThread.h"
 #include "platform/core/Texts.h"
 #include "settings/PrinterWords.h"
+#include "settings/Printers.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// How often is looked for printers that came, and for the user's wish to stop.
-constexpr std::chrono::milliseconds lookInterval{250};
 
 // The columns of the file of results.
 const QStringList resultColumns{u"time"_s, u"printer"_s, u"serial"_s, u"uri"_s,
@@ -25,59 +24,46 @@ QString text(const char *key) {
     return localized(QLatin1String(key));
 }
 
-// The word of an ending that is none of the table's.
+// The word of an ending, for programs.
 QString wordOf(ExitCode code) {
     switch (code) {
-        case Done:
+        case ExitCode::Done:
             return u"done"_s;
-        case InputRefused:
+        case ExitCode::InputRefused:
             return u"refused"_s;
-        case NotReached:
+        case ExitCode::NotReached:
             return u"not-reached"_s;
-        case LoginRefused:
+        case ExitCode::LoginRefused:
             return u"login-refused"_s;
-        case NotAccepted:
+        case ExitCode::NotAccepted:
             return u"not-accepted"_s;
         default:
             return u"stopped"_s;
     }
 }
 
-QStringList macsOf(const SettingRecord &record) {
-    QStringList macs;
+Rows::Printer printerOf(const Session &session) {
+    const PrinterEntry &entry = session.entry();
+    Rows::Printer printer{entry.value(PrinterKey::DeviceURI),
+                          entry.value(PrinterKey::SerialNumber),
+                          session.name(),
+                          {}};
     for (const Setting &setting : settings())
         if (setting.kind == Setting::Kind::Mac)
-            macs << textValue(record.value(setting.viewKey), setting.key);
-    macs.removeAll(unreadable);
-    return macs;
-}
-
-// Whether a row is for a printer: the first of what the row knows of it counts.
-bool isFor(const TableRow &row, const PrinterSession &session) {
-    if (!row.mac.isEmpty()) return macsOf(session.record()).contains(row.mac);
-    if (!row.serial.isEmpty()) return session.entry().value(PrinterKey::SerialNumber) == row.serial;
-    return session.name() == row.name;
-}
-
-bool isByName(const TableRow &row) {
-    return row.mac.isEmpty() && row.serial.isEmpty();
-}
-
-// What stays the same of a printer when it is plugged in elsewhere.
-QString identityOf(const PrinterSession &session) {
-    const QStringList macs = macsOf(session.record());
-    return macs.isEmpty() ? session.entry().value(PrinterKey::DeviceURI) : macs.first();
+            printer.macs << textValue(session.record().value(setting.viewKey), setting.key);
+    printer.macs.removeAll(QString());
+    return printer;
 }
 
 }  // namespace
 
 Provision::Provision(Terminal &terminal, Passwords &passwords, QList<TableRow> rows, bool again)
-    : m_terminal(terminal), m_passwords(passwords), m_rows(std::move(rows)), m_again(again) {}
+    : m_terminal(terminal), m_passwords(passwords), m_rows(std::move(rows), again) {}
 
 ExitCode Provision::run(const QString &resultFile) {
     if (!resultFile.isEmpty() && !m_results.open(resultFile, resultColumns))
         return m_terminal.fail(
-            InputRefused,
+            ExitCode::InputRefused,
             text("DWT_Localize_Cli_Unwritable").arg(resultFile, m_results.errorString()));
     look();
     if (!isEnd()) {
@@ -95,7 +81,7 @@ void Provision::tick() {
         if (!m_working.isEmpty()) m_terminal.note(text("DWT_Localize_Cli_Stopping"));
     }
     const bool follow = !m_stopping && !listsCatalogue();
-    if (follow && (m_lookAgain || make<DWTDataManager>()->hasPrinterListChanged())) look();
+    if (follow && (m_lookAgain || Printers::hasListChanged())) look();
     startNext();
     if (isEnd()) m_loop.quit();
 }
@@ -106,12 +92,10 @@ void Provision::look() {
     if (m_looking) return;
     m_looking = true;
     m_lookAgain = false;
-    const auto manager = make<DWTDataManager>();
     const auto link = make<DWTCommunicationControl>();
-    const bool byName = std::any_of(m_rows.begin(), m_rows.end(), isByName);
     const auto before = std::exchange(m_present, {});
     QList<PrinterEntry> added;
-    for (PrinterEntry entry : manager->supportedPrinters()) {
+    for (PrinterEntry entry : Printers::supported()) {
         if (!isUSB(entry)) continue;
         const QString uri = entry.value(PrinterKey::DeviceURI);
         if (const auto known = before.constFind(uri); known != before.constEnd()) {
@@ -122,11 +106,12 @@ void Provision::look() {
             m_lookAgain = true;
             continue;
         }
-        if (byName) entry.insert(PrinterKey::MachineName, manager->printerName(link, entry));
+        if (m_rows.needNames())
+            entry.insert(PrinterKey::MachineName, DWTDataManager::printerName(link, entry));
         m_present.insert(uri, entry);
         added << entry;
     }
-    auto problems = manager->printerProblems();
+    auto problems = Printers::problems();
     for (const PrinterProblem &problem : std::exchange(m_problems, problems))
         problems.removeOne(problem);
     m_terminal.note(problems);
@@ -149,34 +134,39 @@ void Provision::startNext() {
 
 // On a thread of its own, as provision().
 void Provision::work(const PrinterEntry &entry) {
-    PrinterSession session(entry);
-    const Outcome outcome = provision(session);
-    MainThread::callAndWait([&] { finish(session, outcome); });
+    Session session(entry);
+    const Result result = provision(session);
+    MainThread::callAndWait([&] { finish(session, result); });
 }
 
-Provision::Outcome Provision::provision(PrinterSession &session) {
-    const Ending read = session.readWhenReady([this] { return !m_stopping.load(); });
-    if (read.code != Done) return {read.code, wordOf(read.code), read.text};
-    Outcome outcome;
-    MainThread::callAndWait([&] { outcome = claimRow(session); });
-    if (outcome.claimed) changeByRow(session, outcome);
-    return outcome;
+Provision::Result Provision::provision(Session &session) {
+    const auto read = session.readWhenReady([this] { return !m_stopping.load(); });
+    Result result;
+    if (read == Session::Reading::Complete) {
+        MainThread::callAndWait([&] { result = claim(session); });
+        if (result.granted) changeByRow(session, result);
+        return result;
+    }
+    result.code = codeOf(read);
+    result.word = wordOf(result.code);
+    result.text = session.wordsOf(read).join(u' ');
+    return result;
 }
 
-void Provision::changeByRow(PrinterSession &session, Outcome &outcome) {
+void Provision::changeByRow(Session &session, Result &result) {
     const QString name = session.name();
-    const auto end = [&](ExitCode code, const QString &words) {
-        outcome.code = code;
-        outcome.word = wordOf(code);
-        outcome.text = words;
+    const auto end = [&](ExitCode code, const QStringList &sentences) {
+        result.code = code;
+        result.word = wordOf(code);
+        result.text = sentences.join(u' ');
     };
-    const Plan plan = planOf(session.record(), outcome.row->values);
+    const Plan plan = planOf(session.record(), result.row->values);
     QStringList faults;
     for (const Fault &fault : plan.faults) faults << wordsOf(fault);
-    if (!faults.isEmpty()) return end(InputRefused, faults.join(u' '));
+    if (!faults.isEmpty()) return end(ExitCode::InputRefused, faults);
     if (plan.changes.isEmpty()) {
-        end(Done, text("DWT_Localize_Cli_NothingToDo").arg(name));
-        outcome.word = u"unchanged"_s;
+        end(ExitCode::Done, {text("DWT_Localize_Cli_NothingToDo").arg(name)});
+        result.word = u"unchanged"_s;
         return;
     }
     const auto password = [&] {
@@ -186,92 +176,81 @@ void Provision::changeByRow(PrinterSession &session, Outcome &outcome) {
     };
     const auto mayBegin = [this] { return !m_stopping && !Interrupt::isRequested(); };
     const Ending ending = session.change(plan, password, mayBegin);
-    end(ending.code,
-        ending.code == Done ? text("DWT_Localize_Cli_Changed").arg(name) : ending.text);
+    end(codeOf(ending), session.wordsOf(ending, Naming::Stable));
 }
 
-// The row of a printer, which is its own from then on; unless claimed, there is none for it.
-Provision::Outcome Provision::claimRow(const PrinterSession &session) {
-    const QString name = session.name();
-    QList<const TableRow *> rows;
-    for (const TableRow &row : m_rows)
-        if (isFor(row, session)) rows << &row;
-    if (rows.isEmpty()) return {Done, u"no-row"_s, text("DWT_Localize_Cli_NoRow").arg(name)};
-    const auto refused = [&](const char *key, const QString &what) -> Outcome {
-        return {InputRefused, wordOf(InputRefused), text(key).arg(name, what), rows.first()};
-    };
-    if (rows.size() > 1) {
+Provision::Result Provision::claim(const Session &session) {
+    Result result;
+    result.printer = printerOf(session);
+    const QString &name = result.printer.name;
+    const auto namesakes =
+        std::count_if(m_present.begin(), m_present.end(), [&](const PrinterEntry &entry) {
+            return readableText(entry.value(PrinterKey::MachineName)) == name;
+        });
+    const Rows::Claim claim = m_rows.claim(result.printer, namesakes);
+    result.row = claim.row;
+    using Kind = Rows::Claim::Kind;
+    static const QMap<Kind, const char *> refusals{
+        {Kind::SeveralRows, "DWT_Localize_Cli_SeveralRows"},
+        {Kind::SeveralPrinters, "DWT_Localize_Cli_SeveralPrinters"},
+        {Kind::RowUsed, "DWT_Localize_Cli_RowUsed"}};
+    result.granted = claim.kind == Kind::Granted;
+    if (const char *const key = refusals.value(claim.kind)) {
         QStringList lines;
-        for (const TableRow *row : std::as_const(rows)) lines << QString::number(row->line);
-        return refused("DWT_Localize_Cli_SeveralRows", lines.join(u", "_s));
+        for (const int line : claim.lines) lines << QString::number(line);
+        result.code = ExitCode::InputRefused;
+        result.word = wordOf(result.code);
+        result.text = text(key).arg(name, lines.join(u", "_s));
+    } else if (claim.kind == Kind::NoRow) {
+        result.word = u"no-row"_s;
+        result.text = text("DWT_Localize_Cli_NoRow").arg(name);
+    } else if (claim.kind == Kind::DoneBefore) {
+        result.word = u"done-before"_s;
+        result.text = text("DWT_Localize_Cli_DoneBefore").arg(name);
     }
-    const TableRow &row = *rows.first();
-    const auto named = std::count_if(m_present.begin(), m_present.end(), [&](const auto &entry) {
-        return readableText(entry.value(PrinterKey::MachineName)) == name;
-    });
-    if (isByName(row) && named > 1)
-        return refused("DWT_Localize_Cli_SeveralPrinters", QString::number(row.line));
-    RowState &state = m_states[row.line];
-    const bool isSame = state.doneFor == identityOf(session);
-    if (state.busy || (!state.doneFor.isEmpty() && !isSame))
-        return refused("DWT_Localize_Cli_RowUsed", QString::number(row.line));
-    if (isSame && !m_again)
-        return {Done, u"done-before"_s, text("DWT_Localize_Cli_DoneBefore").arg(name), &row};
-    state.busy = true;
-    return {Done, {}, {}, &row, true};
+    return result;
 }
 
-void Provision::finish(const PrinterSession &session, const Outcome &outcome) {
-    if (outcome.claimed) {
-        RowState &state = m_states[outcome.row->line];
-        state.busy = false;
-        if (outcome.code == Done) state.doneFor = identityOf(session);
-    }
-    m_worst = std::max(m_worst, outcome.code);
-    note(session, outcome);
+void Provision::finish(const Session &session, const Result &result) {
+    if (result.granted) m_rows.release(*result.row, result.printer, result.code == ExitCode::Done);
+    m_worst = std::max(m_worst, result.code);
+    note(session, result);
     m_working.remove(session.entry().value(PrinterKey::DeviceURI));
     startNext();
     if (isEnd()) m_loop.quit();
 }
 
 // On the terminal, and in the file of results.
-void Provision::note(const PrinterSession &session, const Outcome &outcome) {
+void Provision::note(const Session &session, const Result &result) {
     const PrinterEntry &entry = session.entry();
     const QString uri = entry.value(PrinterKey::DeviceURI), whereabouts = whereaboutsOf(entry);
-    m_terminal.print(u"%1: %2"_s.arg(whereabouts.isEmpty() ? uri : whereabouts, outcome.text));
+    m_terminal.print(u"%1: %2"_s.arg(whereabouts.isEmpty() ? uri : whereabouts, result.text));
     Terminal::flush();
     if (!m_results.isOpen() || m_writeFailed) return;
     if (m_results.add({QDateTime::currentDateTimeUtc().toString(Qt::ISODate), session.name(),
                        entry.value(PrinterKey::SerialNumber), uri,
-                       outcome.row ? QString::number(outcome.row->line) : QString(), outcome.word,
-                       outcome.text}))
+                       result.row ? QString::number(result.row->line) : QString(), result.word,
+                       result.text}))
         return;
     m_writeFailed = true;
     m_stopping = true;
     m_terminal.fail(
-        InputRefused,
+        ExitCode::InputRefused,
         text("DWT_Localize_Cli_ResultsEnd").arg(m_results.path(), m_results.errorString()));
-}
-
-bool Provision::isAllDone() const {
-    return std::all_of(m_rows.begin(), m_rows.end(), [this](const TableRow &row) {
-        return !m_states.value(row.line).doneFor.isEmpty();
-    });
 }
 
 bool Provision::isEnd() const {
     if (!m_working.isEmpty() || m_looking) return false;
-    return m_stopping || (m_waiting.isEmpty() && (isAllDone() || listsCatalogue()));
+    return m_stopping || (m_waiting.isEmpty() && (m_rows.isAllDone() || listsCatalogue()));
 }
 
 ExitCode Provision::result() {
-    if (m_writeFailed) return InputRefused;
-    if (isAllDone()) return m_worst;
-    QStringList missing;
-    for (const TableRow &row : m_rows)
-        if (!m_states.contains(row.line)) missing << row.printer();
+    if (m_writeFailed) return ExitCode::InputRefused;
+    if (m_rows.isAllDone()) return m_worst;
+    const QStringList missing = m_rows.unclaimed();
     if (!missing.isEmpty())
         m_terminal.note(text("DWT_Localize_Cli_RowsLeft").arg(missing.join(u", "_s)));
-    if (Interrupt::isRequested()) return m_terminal.fail(Stopped, text("DWT_Localize_Cli_Stopped"));
-    return missing.isEmpty() ? m_worst : std::max(m_worst, NotReached);
+    if (Interrupt::isRequested())
+        return m_terminal.fail(ExitCode::Stopped, text("DWT_Localize_Cli_Stopped"));
+    return missing.isEmpty() ? m_worst : std::max(m_worst, ExitCode::NotReached);
 }

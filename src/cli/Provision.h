@@ -1,26 +1,26 @@
 #pragma once
 
 #include <QEventLoop>
-#include <QList>
 #include <QMap>
 #include <QSet>
-#include <QString>
 #include <QTimer>
 #include <atomic>
 
 #include "cli/ExitCode.h"
 #include "cli/Passwords.h"
-#include "cli/PrinterSession.h"
 #include "cli/ResultFile.h"
-#include "cli/Table.h"
+#include "cli/Rows.h"
 #include "cli/Terminal.h"
+#include "settings/Session.h"
 
 // Changes every printer on USB that has a row in a table, several at a time, those that are plugged
 // in at the start and those that come. Main thread.
 class Provision {
   public:
-    // So many printers are worked on at a time.
+    // Printers that are worked on at a time.
     static constexpr int printersAtATime = 8;
+    // How often it looks for printers that came, and for the user's wish to stop.
+    static constexpr std::chrono::milliseconds lookInterval{250};
 
     // `rows`: with everything that is to be set. `again`: a printer that was done and is plugged in
     // again is done again.
@@ -35,36 +35,30 @@ class Provision {
 
   private:
     // How the work on one printer ended.
-    struct Outcome {
-        ExitCode code = Done;
-        QString word;  // for programs
-        QString text;
+    struct Result {
+        Rows::Printer printer = {};
         const TableRow *row = nullptr;
-        bool claimed = false;  // the row is this printer's
-    };
-    struct RowState {
-        bool busy = false;
-        QString doneFor;  // the printer for which it was done; empty until then
+        bool granted = false;  // the row was this printer's
+        ExitCode code = ExitCode::Done;
+        QString word = {};  // for programs
+        QString text = {};
     };
 
     void tick();
     void look();
     void startNext();
     void work(const PrinterEntry &entry);
-    Outcome provision(PrinterSession &session);
-    Outcome claimRow(const PrinterSession &session);
-    void changeByRow(PrinterSession &session, Outcome &outcome);
-    void finish(const PrinterSession &session, const Outcome &outcome);
-    void note(const PrinterSession &session, const Outcome &outcome);
-    bool isAllDone() const;
+    Result provision(Session &session);
+    Result claim(const Session &session);
+    void changeByRow(Session &session, Result &result);
+    void finish(const Session &session, const Result &result);
+    void note(const Session &session, const Result &result);
     bool isEnd() const;
     ExitCode result();
 
     Terminal &m_terminal;
     Passwords &m_passwords;
-    const QList<TableRow> m_rows;
-    const bool m_again;
-    QMap<int, RowState> m_states;  // by the line of the row
+    Rows m_rows;
     ResultFile m_results;
     QMap<QString, PrinterEntry> m_present;  // the printers of the last look, by URI
     QList<PrinterProblem> m_problems;       // of the last look
@@ -74,7 +68,7 @@ class Provision {
     bool m_lookAgain = false;             // a printer came that was still worked on
     std::atomic<bool> m_stopping{false};  // read by the workers
     bool m_writeFailed = false;
-    ExitCode m_worst = Done;
+    ExitCode m_worst = ExitCode::Done;
     QTimer m_timer;
     QEventLoop m_loop;
 };

@@ -73,9 +73,7 @@ class Handler : public nlohmann::json_sax<json> {
     bool number_float(number_float_t, const string_t &) override { return wrongKind(); }
     bool binary(binary_t &) override { return wrongKind(); }
     bool number_integer(number_integer_t number) override {
-        return take([&](const Setting &setting, Fault &fault) {
-            return valueFromNumber(setting, number, fault);
-        });
+        return take([&](const Setting &setting) { return parsedNumber(setting, number); });
     }
     bool number_unsigned(number_unsigned_t number) override {
         return number_integer(static_cast<number_integer_t>(
@@ -88,10 +86,9 @@ class Handler : public nlohmann::json_sax<json> {
             given = QFileInfo(m_file).dir().filePath(given);
             return takeSecretFile(group(), given);
         }
-        return take([&](const Setting &setting, Fault &fault) -> std::optional<GivenValue> {
-            if (setting.kind != Setting::Kind::Number) return valueFromText(setting, given, fault);
-            fault.text = wordsOfExpected(setting);
-            return {};
+        return take([&](const Setting &setting) {
+            if (setting.kind != Setting::Kind::Number) return parsedText(setting, given);
+            return Parsed{{}, wordsOfExpected(setting)};
         });
     }
     bool start_object(std::size_t) override {
@@ -117,7 +114,7 @@ class Handler : public nlohmann::json_sax<json> {
         return true;
     }
     bool parse_error(std::size_t, const std::string &, const json::exception &) override {
-        m_result.faults << Fault{m_file, m_line, {}, text("DWT_Localize_Cli_Fault_NotJson")};
+        m_result.faults << Fault{{m_file, m_line}, text("DWT_Localize_Cli_Fault_NotJson")};
         return false;
     }
 
@@ -139,9 +136,11 @@ class Handler : public nlohmann::json_sax<json> {
     static QString fileNameOf(const QString &secret) { return secret + u'.' + fileKey; }
 
     bool addFault(const QString &words) {
-        m_result.faults << Fault{m_file, m_nameLine, m_name, words};
+        m_result.faults << Fault{place(), words};
         return true;
     }
+
+    Place place() const { return {m_file, m_nameLine, m_name}; }
 
     // The value that comes is of a kind that its name does not have.
     bool wrongKind() {
@@ -158,24 +157,25 @@ class Handler : public nlohmann::json_sax<json> {
     bool take(const Parse &parse) {
         const Setting *const setting = m_open.isEmpty() ? nullptr : settingOf(m_name);
         if (!isUsed() || !setting) return wrongKind();
-        if (setting->access == Setting::Access::Read) {
+        if (setting->access() == Setting::Access::Read) {
             m_result.readOnly << setting->name;
             return true;
         }
-        Fault fault{m_file, m_nameLine, m_name, {}};
-        if (const std::optional<GivenValue> value = parse(*setting, fault))
-            m_result.values << *value;
+        const Parsed parsed = parse(*setting);
+        if (parsed.value)
+            m_result.values << WantedValue{setting, *parsed.value, place(), parsed.fault};
         else
-            m_result.faults << fault;
+            m_result.faults << Fault{place(), parsed.fault};
         return true;
     }
 
     bool takeSecretFile(const QString &name, const QString &path) {
         if (m_name != fileNameOf(name)) return wrongKind();
         m_name = name;
-        return take([&](const Setting &setting, Fault &fault) -> std::optional<GivenValue> {
+        return take([&](const Setting &setting) {
+            Fault fault;
             const auto secret = readSecret(path, fault);
-            return secret ? valueFromText(setting, *secret, fault) : std::nullopt;
+            return secret ? parsedText(setting, *secret) : Parsed{{}, fault.text};
         });
     }
 
@@ -229,10 +229,10 @@ std::optional<QString> readSecret(const QString &path, Fault &fault) {
 
 QList<Fault> GivenSettings::allFaults() const {
     QList<Fault> all = faults;
-    for (const GivenValue &value : values)
-        if (!value.place.text.isEmpty()) all << value.place;
+    for (const WantedValue &value : values)
+        if (!value.brokenRule.isEmpty()) all << Fault{value.place, value.brokenRule};
     std::stable_sort(all.begin(), all.end(),
-                     [](const Fault &a, const Fault &b) { return a.line < b.line; });
+                     [](const Fault &a, const Fault &b) { return a.place.line < b.place.line; });
     return all;
 }
 

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "cli/Values.h"
+#include "settings/Plan.h"
 
 // Longest file with settings, keys or a table, in bytes.
 inline constexpr qint64 longestInput = qint64{4} * 1024 * 1024;
@@ -19,7 +19,7 @@ std::optional<QString> readSecret(const QString &path, Fault &fault);
 
 // Settings that a file gives, in its order.
 struct GivenSettings {
-    QList<GivenValue> values;
+    QList<WantedValue> values;
     QList<Fault> faults;   // what cannot be used at all; the faults of values beside
     QStringList readOnly;  // names of settings in it that cannot be changed, and are left out
 

@@ -42,7 +42,7 @@ class Lines {
         csv_free(&parser);
         if (whole) return lines.m_lines;
         if (!lines.m_begins) lines.m_lines.removeLast();
-        fault.line = lines.m_number;
+        fault.place.line = lines.m_number;
         fault.text = text("DWT_Localize_Cli_Fault_NotCsv");
         return lines.m_lines;
     }
@@ -89,7 +89,7 @@ class Reader {
             m_anyKnown |= column.known != nullptr;
             if (!column.setting && !column.known)
                 addFault(line.number, name, text("DWT_Localize_Cli_Fault_UnknownColumn"));
-            else if (column.setting && column.setting->access == Setting::Access::Read)
+            else if (column.setting && column.setting->access() == Setting::Access::Read)
                 addFault(line.number, name, text("DWT_Localize_Cli_Fault_ReadOnly"));
             if (std::any_of(m_columns.begin(), m_columns.end(),
                             [&](const Column &other) { return other.name == name; }))
@@ -120,7 +120,7 @@ class Reader {
 
   private:
     void addFault(int line, const QString &name, const QString &words) {
-        m_table.faults << Fault{m_file, line, name, words, true};
+        m_table.faults << Fault{{m_file, line, name, true}, words};
     }
 
     void readCell(TableRow &row, const Column &column, const QString &cell) {
@@ -128,14 +128,13 @@ class Reader {
             row.*column.known = column.known == &TableRow::mac ? macDigits(cell) : cell;
             if ((row.*column.known).isEmpty())
                 addFault(row.line, column.name, text("DWT_Localize_Cli_Fault_Mac"));
-        } else if (column.setting && column.setting->access != Setting::Access::Read) {
-            Fault fault{m_file, row.line, column.name, {}, true};
-            const auto value = valueFromText(*column.setting, cell, fault);
-            if (value && value->place.text.isEmpty()) {
-                row.values << *value;
-            } else {
-                m_table.faults << (value ? value->place : fault);
-            }
+        } else if (column.setting && column.setting->access() != Setting::Access::Read) {
+            const Parsed parsed = parsedText(*column.setting, cell);
+            const Place place{m_file, row.line, column.name, true};
+            if (parsed.fault.isEmpty())
+                row.values << WantedValue{column.setting, *parsed.value, place, {}};
+            else
+                m_table.faults << Fault{place, parsed.fault};
         }
     }
 
@@ -180,7 +179,7 @@ QString macDigits(const QString &text) {
 
 Table tableFromCsv(const QByteArray &bytes, const QString &file) {
     Table table;
-    Fault fault{file, 0, {}, {}};
+    Fault fault{{file}, {}};
     QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
     const QString decoded = decoder.decode(bytes);
     if (decoder.hasError()) {
@@ -210,12 +209,12 @@ QList<Fault> repeatedAddresses(const QList<TableRow> &rows) {
     QList<Fault> faults;
     QHash<QString, int> seen;  // the line of the first row
     for (const TableRow &row : rows)
-        for (const GivenValue &value : row.values) {
+        for (const WantedValue &value : row.values) {
             if (!value.setting->name.endsWith(u".address.ip"_s)) continue;
             const QString address = std::get<QStringList>(value.value).join(u'.');
             if (const auto first = seen.constFind(address); first != seen.constEnd()) {
-                faults << value.place;
-                faults.last().text = text("DWT_Localize_Cli_Fault_SameAddress").arg(*first);
+                faults << Fault{value.place,
+                                text("DWT_Localize_Cli_Fault_SameAddress").arg(*first)};
             } else {
                 seen.insert(address, row.line);
             }
@@ -223,11 +222,11 @@ QList<Fault> repeatedAddresses(const QList<TableRow> &rows) {
     return faults;
 }
 
-QList<GivenValue> laidOver(const QList<GivenValue> &below, const QList<GivenValue> &above) {
-    QList<GivenValue> values;
-    for (const GivenValue &value : below)
+QList<WantedValue> merged(const QList<WantedValue> &below, const QList<WantedValue> &above) {
+    QList<WantedValue> values;
+    for (const WantedValue &value : below)
         if (std::none_of(above.begin(), above.end(),
-                         [&](const GivenValue &other) { return other.setting == value.setting; }))
+                         [&](const WantedValue &other) { return other.setting == value.setting; }))
             values << value;
     return values + above;
 }

@@ -12,7 +12,7 @@ struct TableRow {
     QString mac;  // 12 capital hexadecimal digits
     QString serial;
     QString name;  // the printer's own
-    QList<GivenValue> values;
+    QList<WantedValue> values;
 
     // What the row calls its printer.
     QString printer() const;
@@ -34,8 +34,8 @@ Table tableFromFile(const QString &path);
 // The faults of addresses that more than one row gives: at the value of every row but the first.
 QList<Fault> repeatedAddresses(const QList<TableRow> &rows);
 
-// The values of a row laid over those of a template.
-QList<GivenValue> laidOver(const QList<GivenValue> &below, const QList<GivenValue> &above);
+// The values of a template and a row; a setting of both has that of the row.
+QList<WantedValue> merged(const QList<WantedValue> &below, const QList<WantedValue> &above);
 
 // The 12 digits of a MAC address that is written with or without colons or hyphens; empty for
 // anything else.

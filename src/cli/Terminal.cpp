@@ -46,13 +46,14 @@ QString wordsForTerminal(const PrinterProblem &problem) {
 
 QString wordsOf(const Fault &fault) {
     QStringList place;
-    if (fault.line > 0) place << localized(u"DWT_Localize_Cli_Place_Line"_s).arg(fault.line);
-    const QString quoted = u'"' + fault.name + u'"';
-    if (!fault.name.isEmpty())
-        place << (fault.isColumn ? localized(u"DWT_Localize_Cli_Place_Column"_s).arg(quoted)
-                                 : quoted);
+    if (fault.place.line > 0)
+        place << localized(u"DWT_Localize_Cli_Place_Line"_s).arg(fault.place.line);
+    const QString quoted = u'"' + fault.place.name + u'"';
+    if (!fault.place.name.isEmpty())
+        place << (fault.place.isColumn ? localized(u"DWT_Localize_Cli_Place_Column"_s).arg(quoted)
+                                       : quoted);
     QStringList parts;
-    if (!fault.file.isEmpty()) parts << fault.file;
+    if (!fault.place.file.isEmpty()) parts << fault.place.file;
     if (!place.isEmpty()) parts << place.join(u", "_s);
     return (parts << fault.text).join(u": "_s);
 }
@@ -86,6 +87,7 @@ void Terminal::print(const QList<QStringList> &rows) {
 void Terminal::print(const QJsonValue &value) {
     const QJsonDocument document =
         value.isArray() ? QJsonDocument(value.toArray()) : QJsonDocument(value.toObject());
+    showProgress({});
     std::fputs(document.toJson().constData(), stdout);
 }
 
@@ -95,7 +97,7 @@ bool Terminal::flush() {
 
 ExitCode Terminal::fail(ExitCode code, const QString &text, const QStringList &candidates) {
     if (m_json) {
-        QJsonObject error{{u"code"_s, code}, {u"message"_s, text}};
+        QJsonObject error{{u"code"_s, int(code)}, {u"message"_s, text}};
         if (!candidates.isEmpty())
             error.insert(u"candidates"_s, QJsonArray::fromStringList(candidates));
         printError(QString::fromUtf8(QJsonDocument(error).toJson(QJsonDocument::Compact)));
@@ -112,13 +114,13 @@ ExitCode Terminal::fail(const QList<Fault> &faults) {
             printError(terminalText(wordsOf(fault)));
             continue;
         }
-        QJsonObject error{{u"code"_s, InputRefused}, {u"message"_s, fault.text}};
-        if (!fault.file.isEmpty()) error.insert(u"file"_s, fault.file);
-        if (fault.line > 0) error.insert(u"line"_s, fault.line);
-        if (!fault.name.isEmpty()) error.insert(u"name"_s, fault.name);
+        QJsonObject error{{u"code"_s, int(ExitCode::InputRefused)}, {u"message"_s, fault.text}};
+        if (!fault.place.file.isEmpty()) error.insert(u"file"_s, fault.place.file);
+        if (fault.place.line > 0) error.insert(u"line"_s, fault.place.line);
+        if (!fault.place.name.isEmpty()) error.insert(u"name"_s, fault.place.name);
         printError(QString::fromUtf8(QJsonDocument(error).toJson(QJsonDocument::Compact)));
     }
-    return InputRefused;
+    return ExitCode::InputRefused;
 }
 
 void Terminal::note(const QString &text) {

@@ -7,7 +7,7 @@
 #include <optional>
 
 #include "cli/ExitCode.h"
-#include "cli/Values.h"
+#include "settings/Plan.h"
 #include "zmlib/ZMLib.h"
 
 // What the program tells on its standard output and standard error, and what it asks. What comes

@@ -6,5 +6,5 @@
 int main(int argc, char **argv) {
     const QCoreApplication application(argc, argv);
     installTexts();
-    return runCommandLine(QCoreApplication::arguments());
+    return int(runCommandLine(QCoreApplication::arguments()));
 }

@@ -1,11 +1,8 @@
 #include "mainwindow/DWTMainSettingWindow.h"
 
-#include <QStyle>
-
 #include "mainwindow/SendDialog.h"
 #include "mainwindow/WPSGuideWindow.h"
 #include "mainwindow/WaitWindow.h"
-#include "platform/core/PropertyList.h"
 #include "platform/core/Texts.h"
 #include "platform/core/Waiting.h"
 #include "platform/ui/Alert.h"
@@ -15,11 +12,6 @@ namespace {
 
 QString text(const char *key) {
     return localized(QLatin1String(key));
-}
-
-// Marks a page with unsent changes.
-QIcon changeSign() {
-    return QIcon(QStringLiteral(":/pictures/changed.svg"));
 }
 
 }  // namespace
@@ -46,7 +38,6 @@ void DWTMainSettingWindow::MSW_Dealloc() {
     dictionary_OutlineView.clear();
     DWTBaseClass::BaseClass()->nsObjectRelease(dataManager_Object);
     dictionary_PrinterInfo.clear();
-    dictionary_PrinterStatusTable.clear();
     delete window_Main;  // and every window that belongs to it
 }
 
@@ -56,14 +47,16 @@ void DWTMainSettingWindow::showWindow() {
 
 void DWTMainSettingWindow::awakeFromNib() {
     MSW_UIInitialize();
-    auto &center = NotificationCenter::shared();
-    m_observers.push_back(center.observe(DWT_MainDialog_SendOK_Message,
-                                         [this](const Notification &) { MSW_SendButtonEnable(); }));
-    m_observers.push_back(center.observe(
-        DWT_MainDialog_SendNG_Message, [this](const Notification &) { MSW_SendButtonDisable(); }));
-    for (const QString &edit : {DWT_MainDialog_SendOK_Message, DWT_MainDialog_SendNG_Message})
-        m_observers.push_back(
-            center.observe(edit, [this](const Notification &) { followEdits(); }));
+    // Of its own pages alone: another window's are not its.
+    for (const auto &page : dictionary_ViewManagement)
+        for (const bool differs : {true, false})
+            m_observers.push_back(NotificationCenter::shared().observe(
+                differs ? DWT_MainDialog_SendOK_Message : DWT_MainDialog_SendNG_Message,
+                [this, differs](const Notification &) {
+                    differs ? MSW_SendButtonEnable() : MSW_SendButtonDisable();
+                    followEdits();
+                },
+                page.get()));
 }
 
 void DWTMainSettingWindow::MSW_UIInitialize() {
@@ -122,22 +115,6 @@ void DWTMainSettingWindow::makeDialogs() {
     window_Wait = new WaitWindow(window_Main);
 }
 
-void DWTMainSettingWindow::loadOutline() {
-    dictionary_OutlineView =
-        PropertyList::dictionary(QStringLiteral("OutlineData"), QStringLiteral("plist"));
-    m_pageItems = pageItemsIn(dictionary_OutlineView);
-    for (const QVariantMap &item : std::as_const(m_pageItems))
-        if (const auto page = dictionary_ViewManagement.value(viewKeyOf(item)))
-            page->setPageName(localized(item.value(QStringLiteral("name")).toString()));
-    outlineView_Main->setColumn(QStringLiteral("name"));
-    outlineView_Main->setOutlineDataSource(this);
-    outlineView_Main->setOutlineDelegate(this);
-    outlineView_Main->reloadData();
-    for (int row = outlineView_Main->numberOfRows() - 1; row >= 0; --row)
-        outlineView_Main->expandRow(row);
-    outlineView_Main->fitWidthToContents();
-}
-
 void DWTMainSettingWindow::connectButtons() {
     using Self = DWTMainSettingWindow;
     const auto pushes = [this](QAbstractButton *button, void (Self::*operation)()) {
@@ -156,20 +133,8 @@ void DWTMainSettingWindow::connectButtons() {
     asks(&SendDialog::updatePushed, &Self::push_UpdateChangeCheckOK);
     asks(&SendDialog::transmissionPushed, &Self::push_SendConfirmTransmission);
     asks(&SendDialog::loginPushed, &Self::push_SendLoginOK);
-    asks(&SendDialog::stopped, &Self::sayWhatWasSent);
+    asks(&SendDialog::stopped, &Self::sendHasStopped);
     asks(&SendDialog::endPushed, &Self::push_SendEndOK);
-}
-
-QString DWTMainSettingWindow::viewKeyOf(const QVariantMap &item) {
-    return item.value(QStringLiteral("viewID")).toString();
-}
-
-QList<QVariantMap> DWTMainSettingWindow::pageItemsIn(const QVariantMap &item) {
-    QList<QVariantMap> items;
-    if (!viewKeyOf(item).isEmpty()) items << item;
-    for (const QVariant &child : item.value(QStringLiteral("child")).toList())
-        items << pageItemsIn(child.toMap());
-    return items;
 }
 
 bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &entry,
@@ -178,12 +143,12 @@ bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &ent
         if (dictionary_PrinterInfo.isEmpty()) dictionary_PrinterInfo = *entry;
         const QString product = entry->value(PrinterKey::ProductName);
         textField_SelectPrinterName->setText(shownText(product));
-        if (!dataManager_Object) {
-            dataManager_Object = DWTDataManager::dataManager(dictionary_PrinterInfo);
+        if (!m_session) {
+            m_session = std::make_unique<Session>(dictionary_PrinterInfo);
+            dataManager_Object = m_session->manager();
             for (const auto &page : dictionary_ViewManagement)
                 page->dataManagerObject(dataManager_Object);
         }
-        if (dataManager_Object) dataManager_Object->qkStatusLength(statusLengthOf(product));
         bool_usbPrinter = entry->value(PrinterKey::ConnectionType) != PrinterConnection::Network;
     }
     const int read = readAll(waiting);
@@ -218,7 +183,7 @@ bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &ent
 int DWTMainSettingWindow::readAll(WaitWindow *waiting) {
     if (!dataManager_Object) return ReadResult::NoLink;
     if (!waiting) return dataManager_Object->setupDataFromPrinter(0);
-    const QString name = printerName();
+    const QString name = m_session->name();
     return dataManager_Object->setupDataFromPrinter(0, [&](int done, int total) {
         waiting->say(text("DWT_Localize_Wait_Reading")
                          .arg(name, QString::number(done), QString::number(total)),
@@ -226,28 +191,7 @@ int DWTMainSettingWindow::readAll(WaitWindow *waiting) {
     });
 }
 
-QString DWTMainSettingWindow::ownName() const {
-    if (!dataManager_Object) return {};
-    const auto names = dataManager_Object->setupDataToMainView(DWT_View_Key_Network);
-    return readableText(
-        textValue(names.value_or(CategoryDictionary()), DWT_SaveData_Network_Printer));
-}
-
-// Its own name as last read, or what the list of printers calls it.
-QString DWTMainSettingWindow::printerName() const {
-    const QString name = ownName();
-    return name.isEmpty() ? listedName(dictionary_PrinterInfo) : name;
-}
-
-int DWTMainSettingWindow::statusLengthOf(const QString &productName) {
-    dictionary_PrinterStatusTable =
-        PropertyList::dictionary(QStringLiteral("ZMPrinterStatusTable"), QStringLiteral("plist"));
-    const auto model = dictionary_PrinterStatusTable.constFind(productName);
-    if (model == dictionary_PrinterStatusTable.constEnd()) return ZMLib::defaultStatusLength;
-    return model->toMap().value(QStringLiteral("GDQKStatusLength")).toInt();
-}
-
-// Says why nothing can be changed, and what the printer did not tell.
+// Says why nothing can be changed, and what the printer did not report.
 void DWTMainSettingWindow::showReadState() {
     QStringList lines;
     if (m_cancelled)
@@ -255,44 +199,21 @@ void DWTMainSettingWindow::showReadState() {
     else if (!bool_GetDataSuccess)
         lines << text(bool_usbPrinter ? "DWT_Localize_MainDialog_Text_ReadOnly_NotRead"
                                       : "DWT_Localize_MainDialog_Text_ReadOnly_Network");
-    const auto notTold = dataManager_Object ? dataManager_Object->notTold() : QList<ItemCode>();
-    if (!notTold.isEmpty())
-        lines << text("DWT_Localize_MainDialog_Text_NotTold")
-                     .arg(namesOf(notTold, QStringLiteral("; ")));
+    const auto missing =
+        dataManager_Object ? dataManager_Object->notReported() : QList<const Setting *>();
+    if (!missing.isEmpty())
+        lines << text("DWT_Localize_MainDialog_Text_NotReported")
+                     .arg(namesOf(missing, Naming::Labels).join(QStringLiteral("; ")));
     textField_ReadOnly->setText(lines.join(u'\n'));
     textField_ReadOnly->setVisible(!lines.isEmpty());
 }
 
-QString DWTMainSettingWindow::nameOf(ItemCode code) const {
-    const Item &item = *itemOf(code);
-    const bool isInterface = item.layout == Item::Layout::IntegerAndAddresses;
-    const QString &key = isInterface ? item.keys[1] : item.keys.last();
-    const auto page = dictionary_ViewManagement.value(item.viewKey);
-    return QStringLiteral("%1: %2").arg(page->pageName(), page->labelOf(key));
-}
-
-QString DWTMainSettingWindow::namesOf(const QList<ItemCode> &codes,
-                                      const QString &separator) const {
-    QStringList names;
-    for (const ItemCode code : codes) names << nameOf(code);
-    return names.join(separator);
-}
-
 void DWTMainSettingWindow::showOwnName() {
-    const QString own = ownName();
+    const SettingRecord saved =
+        dataManager_Object ? dataManager_Object->savedData() : SettingRecord();
+    const QString own =
+        readableText(textValue(saved.value(DWT_View_Key_Network), DWT_SaveData_Network_Printer));
     textField_PrinterOwnName->setText(own.isEmpty() ? QString() : QStringLiteral("· %1").arg(own));
-}
-
-void DWTMainSettingWindow::followEdits() {
-    const int mode = wireless_ViewObject->wirelessCommunicateMode();
-    infrastructure_ViewObject->showIsUsed(mode == CommunicationMode::Infrastructure);
-    simpleAP_ViewObject->showIsUsed(mode == CommunicationMode::AccessPoint);
-    outlineView_Main->reloadMarks();
-}
-
-void DWTMainSettingWindow::goToPage(const QString &viewKey) {
-    for (const QVariantMap &item : std::as_const(m_pageItems))
-        if (viewKeyOf(item) == viewKey) outlineView_Main->pickItem(item);
 }
 
 void DWTMainSettingWindow::enableAllViews(bool enabled) {
@@ -312,51 +233,6 @@ std::optional<QString> DWTMainSettingWindow::MSW_SelectedUIString() const {
     return key.isNull() ? std::nullopt : std::optional(key);
 }
 
-int DWTMainSettingWindow::numberOfChildrenOfItem(OutlineView *, const QVariantMap &item) {
-    const QVariantMap &node = item.isEmpty() ? dictionary_OutlineView : item;
-    return int(node.value(QStringLiteral("child")).toList().size());
-}
-
-QVariantMap DWTMainSettingWindow::child(OutlineView *, int index, const QVariantMap &item) {
-    const QVariantMap &node = item.isEmpty() ? dictionary_OutlineView : item;
-    return node.value(QStringLiteral("child")).toList().value(index).toMap();
-}
-
-bool DWTMainSettingWindow::isItemExpandable(OutlineView *, const QVariantMap &item) {
-    const QVariantMap &node = item.isEmpty() ? dictionary_OutlineView : item;
-    return node.contains(QStringLiteral("child"));
-}
-
-QVariant DWTMainSettingWindow::objectValueForTableColumn(OutlineView *, const QString &column,
-                                                         const QVariantMap &item) {
-    if (column != QStringLiteral("name")) return {};
-    return localized(item.value(QStringLiteral("name")).toString());
-}
-
-DWTMainSettingWindow::Mark DWTMainSettingWindow::markOfItem(OutlineView *,
-                                                            const QVariantMap &item) {
-    const auto page = dictionary_ViewManagement.value(viewKeyOf(item));
-    if (!page || !bool_GetDataSuccess) return {};
-    if (page->hasFault())
-        return {window_Main->style()->standardIcon(QStyle::SP_MessageBoxWarning),
-                text("DWT_Localize_Outline_Fault")};
-    if (!page->itemCheckDifferentToDataManager())
-        return {changeSign(), text("DWT_Localize_Outline_Changed")};
-    return {};
-}
-
-// Leaving a page stores its values, whatever they are; they are checked when they are sent.
-bool DWTMainSettingWindow::shouldSelectItem(OutlineView *, const QVariantMap &item) {
-    if (!item.value(QStringLiteral("select")).toBool()) return false;
-    if (!item.contains(QStringLiteral("viewID"))) return true;
-    const QString viewKey = viewKeyOf(item);
-    const std::optional<QString> shown = MSW_SelectedUIString();
-    if (viewKey == shown) return false;
-    if (bool_usbPrinter && shown) dictionary_ViewManagement[*shown]->itemSetToDataManager();
-    MSW_UISelector(viewKey);
-    return true;
-}
-
 QString DWTMainSettingWindow::report() const {
     QStringList lines{
         QStringLiteral("%1 %2")
@@ -364,17 +240,11 @@ QString DWTMainSettingWindow::report() const {
             .trimmed()};
     if (!textField_ReadOnly->isHidden()) lines << textField_ReadOnly->text();
     const QString line = text("DWT_Localize_Report_Line");
-    for (const QVariantMap &item : m_pageItems) {
-        const auto page = dictionary_ViewManagement.value(viewKeyOf(item));
-        lines << QString() << page->pageName();
-        for (const DWTBaseView::Value &value : page->values())
-            lines << line.arg(value.label, orEmpty(value.text));
+    for (const ShownPage &page : shownPages(shownRecord())) {
+        lines << QString() << page.title;
+        for (const auto &[label, value] : page.lines) lines << line.arg(label, value);
     }
     return lines.join(u'\n') + u'\n';
-}
-
-QString DWTMainSettingWindow::orEmpty(const QString &shown) {
-    return shown.isEmpty() ? text("DWT_Localize_Send_Confirm_Empty") : shown;
 }
 
 void DWTMainSettingWindow::showStandardAlert(const char *titleKey, const char *kindKey,

@@ -15,11 +15,12 @@
 #include "pages/DWTSimpleAPView.h"
 #include "pages/DWTWirelessView.h"
 #include "platform/core/NotificationCenter.h"
+#include "platform/core/Waiting.h"
 #include "platform/ui/InertWindow.h"
 #include "platform/ui/OutlineView.h"
 #include "platform/ui/ViewStack.h"
 #include "platform/ui/Window.h"
-#include "settings/DWTDataManager.h"
+#include "settings/Session.h"
 #include "ui_MainWindow.h"
 
 class SendDialog;
@@ -46,7 +47,7 @@ class DWTMainSettingWindow : public QObject,
     // First step of the set-up, through make<T>(): fields only.
     bool init();
 
-    // --- Outline and pages (DWTMainSettingWindow.cpp) ---
+    // --- Opening and reading (DWTMainSettingWindow.cpp) ---
 
     // Loads the interface. The window itself appears when its printer has been read.
     void showWindow();
@@ -56,13 +57,15 @@ class DWTMainSettingWindow : public QObject,
     QAbstractButton *sendButton() const { return button_MainSend; }
     QAbstractButton *readAgainButton() const { return button_MainNewSetting; }
     QAbstractButton *closeButton() const { return button_MainCancel; }
-    // What every page shows now, sent or not, as plain text for a person: the printer, then each
+    // What the pages show now, sent or not, as plain text for a person: the printer, then each
     // page in the outline's order with a line for every value. Keys and passwords are left out.
     QString report() const;
     // With an entry: the first opening, for that printer. Without one: reads the settings again.
     // False when the printer cannot be reached at the first opening, or the wait was cancelled; the
     // window is then closed. `waiting` is the wait window that is shown, to say how far it is.
     bool initializeData(const std::optional<PrinterEntry> &entry, WaitWindow *waiting = nullptr);
+
+    // --- Outline and marks (DWTMainSettingWindowOutline.cpp) ---
 
     int numberOfChildrenOfItem(OutlineView *outline, const QVariantMap &item) override;
     QVariantMap child(OutlineView *outline, int index, const QVariantMap &item) override;
@@ -94,25 +97,20 @@ class DWTMainSettingWindow : public QObject,
     void connectButtons();
     void push_MainHelp() {}
     void push_MainSetupIsChanged() {}
-    int statusLengthOf(const QString &productName);
     // Reads the settings; the data manager's result.
     int readAll(WaitWindow *waiting);
-    QString ownName() const;
-    QString printerName() const;
     void showReadState();
     void showOwnName();
     // Follows an edit on a page: the marks of the outline, and which pages the printer uses.
     void followEdits();
     // Brings the page forward as a pick in the outline does.
     void goToPage(const QString &viewKey);
-    // What a page calls the value of an item, with the page's name before it.
-    QString nameOf(ItemCode code) const;
-    QString namesOf(const QList<ItemCode> &codes, const QString &separator) const;
+    // The record that the pages show, and what it changes in the printer.
+    SettingRecord shownRecord() const;
+    Plan shownPlan() const;
     void enableAllViews(bool enabled);
     void MSW_UISelector(const QString &viewKey);
     std::optional<QString> MSW_SelectedUIString() const;
-    // The text, or what stands for none.
-    static QString orEmpty(const QString &text);
     void showStandardAlert(const char *titleKey, const char *kindKey, const char *informationKey);
 
     // Sending (DWTMainSettingWindowSending.cpp).
@@ -120,13 +118,15 @@ class DWTMainSettingWindow : public QObject,
     bool checkAndStorePages();
     void goToFirstFault();
     void warnOfChangedConnection();
-    QStringList linesOfChanges() const;
-    QStringList linesOfWarnings() const;
     void askToSend();
     std::optional<QString> sendViewAskingPassword();
     void push_SendConfirmTransmission();
     void push_SendLoginOK();
-    void sayWhatWasSent();
+    void sendHasStopped();
+    // Says in the End view how the send ended; `comparing`: the printer is still to be read again.
+    void showEnding(bool comparing);
+    // Reads the printer again while the End view stands; its button ends that.
+    void compareWithPrinter();
     void push_SendEndOK();
     void MSW_SendButtonEnable();
     void MSW_SendButtonDisable();
@@ -173,10 +173,14 @@ class DWTMainSettingWindow : public QObject,
     QMap<QString, std::shared_ptr<DWTBaseView>> dictionary_ViewManagement;
 
     QVariantMap dictionary_OutlineView;
-    QList<QVariantMap> m_pageItems;  // the outline's items of pages, in its order
-    std::shared_ptr<DWTDataManager> dataManager_Object;
+    QList<QVariantMap> m_pageItems;      // the outline's items of pages, in its order
+    std::unique_ptr<Session> m_session;  // of the printer; null before it is opened
+    std::shared_ptr<DWTDataManager> dataManager_Object;  // the session's
+    Plan m_plan;                                         // what the marks show
+    Ending m_ending;                                     // of the last send
+    CancellableWait *m_comparing = nullptr;
+    bool m_endIsRead = false;
     PrinterEntry dictionary_PrinterInfo;
-    QVariantMap dictionary_PrinterStatusTable;
     bool bool_usbPrinter = true;
     bool bool_GetDataSuccess = false;
     std::optional<InertWindow> m_inert;  // while a send runs

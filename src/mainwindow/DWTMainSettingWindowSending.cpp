@@ -1,5 +1,7 @@
 // Sending: from the Send button through login and confirmation to the end.
 
+#include <QTimer>
+
 #include "mainwindow/DWTMainSettingWindow.h"
 #include "mainwindow/SendDialog.h"
 #include "mainwindow/WaitWindow.h"
@@ -8,6 +10,29 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// The name of each page that changes, and below it a line for each of its changes.
+QStringList linesOf(const QList<Plan::Change> &changes) {
+    QStringList lines;
+    QString viewKey;
+    for (const Plan::Change &change : changes) {
+        if (change.setting->viewKey != viewKey) lines << titleOfPage(change.setting->viewKey);
+        viewKey = change.setting->viewKey;
+        lines << u"    %1: %2"_s.arg(change.setting->label(), change.words());
+    }
+    return lines;
+}
+
+QStringList linesOf(const QList<SendWarning> &warnings) {
+    QStringList lines;
+    for (const SendWarning &warning : warnings)
+        lines << u"%1: %2"_s.arg(titleOfPage(warning.viewKey), wordsOf(warning));
+    return lines;
+}
+
+}  // namespace
+
 void DWTMainSettingWindow::push_MainSend() {
     if (!checkAndStorePages()) return;
     warnOfChangedConnection();
@@ -15,7 +40,8 @@ void DWTMainSettingWindow::push_MainSend() {
 }
 
 void DWTMainSettingWindow::askToSend() {
-    window_SendData->setChanges(linesOfChanges(), linesOfWarnings());
+    const Plan plan = shownPlan();
+    window_SendData->setChanges(linesOf(plan.changes), linesOf(plan.warnings));
     if (const auto view = sendViewAskingPassword()) window_SendData->runOn(*view);
 }
 
@@ -39,30 +65,6 @@ void DWTMainSettingWindow::goToFirstFault() {
         outlineView_Main->pickItem(item);
         return page->focusFirstFault();
     }
-}
-
-// The name of each page that changes, and below it a line for each of its changes.
-QStringList DWTMainSettingWindow::linesOfChanges() const {
-    QStringList lines;
-    for (const QVariantMap &item : m_pageItems) {
-        const auto page = dictionary_ViewManagement.value(viewKeyOf(item));
-        const auto changes = page ? page->changes() : QList<DWTBaseView::Change>();
-        if (!changes.isEmpty()) lines << page->pageName();
-        for (const DWTBaseView::Change &change : changes)
-            lines << u"    %1: %2"_s.arg(
-                change.label, change.isSecret ? change.newText
-                                              : u"%1 → %2"_s.arg(orEmpty(change.oldText),
-                                                                 orEmpty(change.newText)));
-    }
-    return lines;
-}
-
-QStringList DWTMainSettingWindow::linesOfWarnings() const {
-    QStringList lines;
-    for (const SendWarning &warning : dataManager_Object->warnings())
-        lines << u"%1: %2"_s.arg(dictionary_ViewManagement.value(warning.viewKey)->pageName(),
-                                 wordsOf(warning));
-    return lines;
 }
 
 void DWTMainSettingWindow::warnOfChangedConnection() {
@@ -96,18 +98,15 @@ void DWTMainSettingWindow::push_SendLoginOK() {
     const QString unreachable = localized(QStringLiteral("DWT_Localize_Send_ConnectErr_TextField"));
     const auto answer = [&] {
         const WaitSheet waiting = window_Wait->over(window_SendData);
-        const bool connected = dataManager_Object->connectPrinter() == 0;
-        if (!connected && isWaitCancelled()) return DWT_View_Key_Send_Login;
-        if (!connected) {
+        const Ending::Login login = m_session->logIn(window_SendData->password());
+        if (isWaitCancelled()) return DWT_View_Key_Send_Login;
+        if (login == Ending::Login::NotReached) {
             window_SendData->sayInstead(DWT_View_Key_Send_Login, unreachable);
             return DWT_View_Key_Send_Login;
         }
-        const auto login = dataManager_Object->checkLoginPassword(window_SendData->password());
-        dataManager_Object->disconnectPrinter();
-        if (isWaitCancelled()) return DWT_View_Key_Send_Login;
-        if (login.kind == WriteResult::NoReply)
+        if (login == Ending::Login::NoReply)
             window_SendData->sayInstead(DWT_View_Key_Send_LoginError, unreachable);
-        if (login.kind != WriteResult::Accepted) return DWT_View_Key_Send_LoginError;
+        if (login != Ending::Login::Passed) return DWT_View_Key_Send_LoginError;
         window_SendData->clearPassword();
         return DWT_View_Key_Send_Confirm;
     };
@@ -120,38 +119,52 @@ void DWTMainSettingWindow::push_SendConfirmTransmission() {
     dataManager_Object->sendDataToPrinter();
 }
 
-void DWTMainSettingWindow::sayWhatWasSent() {
+void DWTMainSettingWindow::sendHasStopped() {
     m_inert.reset();
-    const auto text = [](const char *key) { return localized(QLatin1String(key)); };
-    const SendReport &report = dataManager_Object->sendReport();
-    if (report.lost)
-        window_SendData->sayInstead(DWT_View_Key_Send_ConnectError,
-                                    text("DWT_Localize_Send_ConnectErr_Lost"));
-    QStringList paragraphs;
-    if (report.login == SendReport::Login::Refused)
-        paragraphs << text("DWT_Localize_Send_End_LoginRefused");
-    if (report.login == SendReport::Login::NoReply)
-        paragraphs << text("DWT_Localize_Send_End_LoginNoReply");
-    if (!report.refused.isEmpty())
-        paragraphs << text("DWT_Localize_Send_End_Refused").arg(namesOf(report.refused, u"\n"_s));
-    if (!report.unclear.isEmpty())
-        paragraphs << text("DWT_Localize_Send_End_Unclear").arg(namesOf(report.unclear, u"\n"_s));
-    if (!paragraphs.isEmpty())
-        window_SendData->sayInstead(DWT_View_Key_Send_End, paragraphs.join(u"\n\n"_s));
+    m_endIsRead = false;
+    m_ending = dataManager_Object->ending();
+    showEnding(m_ending.isSent());
+    // The worker waits until the stop was handled.
+    if (m_ending.isSent()) QTimer::singleShot(0, this, &DWTMainSettingWindow::compareWithPrinter);
 }
 
-// What the printer did not take stays as it was entered, keys and passwords, too.
+void DWTMainSettingWindow::showEnding(bool comparing) {
+    if (m_ending.course == Ending::Course::NotReached) return;  // the view says it
+    QStringList paragraphs = m_session->wordsOf(m_ending, Naming::Labels);
+    const auto text = [](const char *key) { return localized(QLatin1String(key)); };
+    if (paragraphs.isEmpty()) paragraphs << text("DWT_Localize_Send_End_TextField");
+    if (!m_ending.isComplete()) paragraphs << text("DWT_Localize_Send_Kept");
+    if (comparing) paragraphs << text("DWT_Localize_Send_End_Comparing");
+    const bool isLost = m_ending.course == Ending::Course::Lost;
+    window_SendData->sayInstead(isLost ? DWT_View_Key_Send_ConnectError : DWT_View_Key_Send_End,
+                                paragraphs.join(u"\n\n"_s));
+}
+
+void DWTMainSettingWindow::compareWithPrinter() {
+    if (m_endIsRead) return;
+    CancellableWait wait(
+        [this](const QObject *object) { return isPartOf(object, window_SendData); });
+    m_comparing = &wait;
+    m_ending = m_session->verify();
+    m_comparing = nullptr;
+    showEnding(false);
+    if (m_endIsRead) push_SendEndOK();
+}
+
+// Values that the printer did not take stay as they were entered, keys and passwords, too.
 void DWTMainSettingWindow::push_SendEndOK() {
-    const SendReport &report = dataManager_Object->sendReport();
+    m_endIsRead = true;
+    if (m_comparing) return m_comparing->cancel();
     window_SendData->closeDialog();
-    if (report.isClean(0x3105) && report.isClean(0x3106))
+    if (m_ending.isClean(DWT_SaveData_Infrastructure_PSK) &&
+        m_ending.isClean(DWT_SaveData_Infrastructure_WEPKey))
         infrastructure_ViewObject->clearEncryptionKey(bool_usbPrinter);
-    if (report.isClean(0x1003)) {
+    if (m_ending.isClean(DWT_SaveData_Password_Password)) {
         password_ViewObject->clearPassword(bool_usbPrinter);
         password_ViewObject->passwordChangeSetting(false);
     }
     showOwnName();
-    if (report.isComplete())
+    if (m_ending.isComplete())
         MSW_SendButtonDisable();
     else
         MSW_SendButtonEnable();

@@ -125,6 +125,7 @@ void SendDialog::clearPassword() {
 
 void SendDialog::sayInstead(const QString &viewKey, const QString &text) {
     m_saying.value(viewKey)->setText(text);
+    if (isVisible()) makeRoom();
 }
 
 void SendDialog::push_SendChangeCheckCancel() {

@@ -3,9 +3,8 @@
 bool DWTEthernetView::ETV_Init() {
     SetViewKey(DWT_View_Key_Ethernet);
     setupUi(view_Base);
-    addShown(textField_EthernetMACAddress, DWT_SaveData_Ethernet_MACAddress, Kind::Mac);
-    addChoice(radioButton_EthernetIPAddressSetting, DWT_SaveData_Ethernet_IPAddressSetting,
-              "DWT_Localize_AddressAssignment");
+    addShown(textField_EthernetMACAddress, DWT_SaveData_Ethernet_MACAddress);
+    addField(radioButton_EthernetIPAddressSetting, DWT_SaveData_Ethernet_IPAddressSetting);
     addAddress(
         textField_EthernetIpAddress, DWT_SaveData_Ethernet_IPAddress,
         DWT_SaveData_Connect_IPAddress, [this] { return itemInputCheckEthernetIpAddress(); },

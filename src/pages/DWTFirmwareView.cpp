@@ -5,14 +5,13 @@
 void DWTFirmwareView::initializeUI() {
     DWTBaseView::initializeUI();
     fitWidth(textField_PrintTimeOut, QStringLiteral("00000"));
-    notificationManager();
 }
 
 bool DWTFirmwareView::NFW_Init() {
     SetViewKey(DWT_View_Key_Firmware);
     setupUi(view_Base);
     addShown(textField_Firmware, DWT_SaveData_Firmware);
-    addField({textField_PrintTimeOut, DWT_SaveData_Firmware_Timeout, Kind::Number});
+    addField(textField_PrintTimeOut, DWT_SaveData_Firmware_Timeout);
     return true;
 }
 

@@ -6,8 +6,7 @@
 bool DWTInfrastructureView::ISV_Init() {
     SetViewKey(DWT_View_Key_Infrastructure);
     setupUi(view_Base);
-    addShown(textField_InfrastructureWirelessLanMode, DWT_SaveData_Infrastructure_WirelessMode,
-             Kind::Choice, &array_textField_WirelessMode);
+    addShown(textField_InfrastructureWirelessLanMode, DWT_SaveData_Infrastructure_WirelessMode);
     addAddressFields();
     addSecurityFields();
     using Page = DWTInfrastructureView;
@@ -32,8 +31,8 @@ void DWTInfrastructureView::ISV_Dealloc() {
 }
 
 void DWTInfrastructureView::addAddressFields() {
-    addChoice(radioButton_InfrastructureIPAddressSetting,
-              DWT_SaveData_Infrastructure_IPAddressSetting, "DWT_Localize_AddressAssignment");
+    addField(radioButton_InfrastructureIPAddressSetting,
+             DWT_SaveData_Infrastructure_IPAddressSetting);
     addAddress(textField_InfrastructureIpAddress, DWT_SaveData_Infrastructure_IPAddress,
                DWT_SaveData_Connect_IPAddress,
                [this] { return itemInputCheckInfrastructureIpAddress(); });
@@ -50,20 +49,16 @@ void DWTInfrastructureView::addAddressFields() {
 }
 
 void DWTInfrastructureView::addSecurityFields() {
-    addField({textField_InfrastructureSSID, DWT_SaveData_Infrastructure_SSID, Kind::Text,
-              &bool_InfrastructureSSIDInput,
-              [this] { return itemInputCheckInfrastructureSSID(); }});
-    addChoice(popupbutton_InfrastructureAuthentic, DWT_SaveData_Infrastructure_Authentic,
-              "DWT_Localize_Infrastructure_Text_Authentic_Label", &array_popUpButton_Authentic);
-    addChoice(popupbutton_InfrastructureEncryption, DWT_SaveData_Infrastructure_Encryption,
-              "DWT_Localize_Infrastructure_Text_Encryption_Label", &array_popUpButton_Encryption);
-    addField({textField_InfrastructurePSK, DWT_SaveData_Infrastructure_PSK, Kind::Text,
-              &bool_InfrastructurePSKInput, [this] { return itemInputCheckInfrastructurePSK(); }});
-    addField({textField_InfrastructureWEPKey, DWT_SaveData_Infrastructure_WEPKey, Kind::Text,
-              &bool_InfrastructureWEPKeyInput,
-              [this] { return itemInputCheckInfrastructureWEPKey(); }});
-    addChoice(popupbutton_InfrastructureSelectWEPKey, DWT_SaveData_Infrastructure_WEPKeyIndex,
-              "DWT_Localize_Infrastructure_Text_SelectWEPKey_Label");
+    addField(textField_InfrastructureSSID, DWT_SaveData_Infrastructure_SSID,
+             &bool_InfrastructureSSIDInput, [this] { return itemInputCheckInfrastructureSSID(); });
+    addField(popupbutton_InfrastructureAuthentic, DWT_SaveData_Infrastructure_Authentic);
+    addField(popupbutton_InfrastructureEncryption, DWT_SaveData_Infrastructure_Encryption);
+    addField(textField_InfrastructurePSK, DWT_SaveData_Infrastructure_PSK,
+             &bool_InfrastructurePSKInput, [this] { return itemInputCheckInfrastructurePSK(); });
+    addField(textField_InfrastructureWEPKey, DWT_SaveData_Infrastructure_WEPKey,
+             &bool_InfrastructureWEPKeyInput,
+             [this] { return itemInputCheckInfrastructureWEPKey(); });
+    addField(popupbutton_InfrastructureSelectWEPKey, DWT_SaveData_Infrastructure_WEPKeyIndex);
 }
 
 void DWTInfrastructureView::initializeUI() {
@@ -72,18 +67,15 @@ void DWTInfrastructureView::initializeUI() {
     bool_SSIDfromSelectSSID = false;
     dictionary_itemData =
         PropertyList::dictionary(QStringLiteral("InfrastructureItemData"), QStringLiteral("plist"));
-    array_textField_WirelessMode =
-        itemList(dictionary_itemData, "DWT_Item_Key_Infrastructure_WirelessMode");
-    array_popUpButton_Authentic =
-        itemList(dictionary_itemData, "DWT_Item_Key_Infrastructure_Authentic");
-    array_popUpButton_Encryption =
-        itemList(dictionary_itemData, "DWT_Item_Key_Infrastructure_Encryption");
-    array_popUpButton_SelectWEPKey =
-        itemList(dictionary_itemData, "DWT_Item_Key_Infrastructure_WEPSelect");
+    const auto items = [this](const char *key) {
+        return dictionary_itemData.value(QLatin1String(key)).toStringList();
+    };
+    array_popUpButton_Authentic = items("DWT_Item_Key_Infrastructure_Authentic");
+    array_popUpButton_Encryption = items("DWT_Item_Key_Infrastructure_Encryption");
+    array_popUpButton_SelectWEPKey = items("DWT_Item_Key_Infrastructure_WEPSelect");
     offer(popupbutton_InfrastructureAuthentic, array_popUpButton_Authentic);
     initializeEncryption();
     offer(popupbutton_InfrastructureSelectWEPKey, array_popUpButton_SelectWEPKey, 1);
-    notificationManager();
 }
 
 // Codes are selected while all encryptions are offered. A network that was taken over from the list
@@ -97,12 +89,12 @@ void DWTInfrastructureView::showDataManager() {
     adjustSecurity();
 }
 
-// The printer tells no keys.
+// The printer reports no keys.
 void DWTInfrastructureView::fill(const Field &field) {
     if (field.control == popupbutton_InfrastructureSelectWEPKey)
         popupbutton_InfrastructureSelectWEPKey->setCurrentIndex(0);
-    else if (field.kind == Kind::Text && field.edited)
-        fillText(field, readableText(textValue(mutableDictionary_ViewSettings, field.key)));
+    else if (isText(field))
+        field.showText(readableText(textValue(mutableDictionary_ViewSettings, field.key())));
     else
         InterfaceView::fill(field);
 }
@@ -116,8 +108,6 @@ void DWTInfrastructureView::enableAllItems(bool enabled) {
 // The name of a network that was taken over from the list needs no check: it may hold characters
 // that cannot be typed here.
 bool DWTInfrastructureView::passes(const Field &field) const {
-    if (field.control == textField_InfrastructureWEPKey)
-        return itemInputCheckWEPKey(textField_InfrastructureWEPKey, bool_InfrastructureWEPKeyInput);
     if (field.control == textField_InfrastructureSSID && bool_SSIDfromSelectSSID) return true;
     return InterfaceView::passes(field);
 }
@@ -129,7 +119,7 @@ bool DWTInfrastructureView::itemInputCheckWEPKey(const QLineEdit *field, bool in
 void DWTInfrastructureView::markInput(const Field &field, bool ended) {
     if (field.control == textField_InfrastructureSSID) {
         if (bool_SSIDfromSelectSSID) return;
-    } else if (field.kind == Kind::Text && ended && field.line()->text().isEmpty()) {
+    } else if (isText(field) && ended && field.line()->text().isEmpty()) {
         return;  // a key field that was only looked at
     }
     InterfaceView::markInput(field, ended);
@@ -255,11 +245,14 @@ void DWTInfrastructureView::initializeEncryption() {
     offer(popupbutton_InfrastructureEncryption, array_popUpButton_Encryption);
 }
 
-// A security of which the printer told one half only is not made to fit: that would be sent.
+// If the printer reported only one of authentication and encryption, both stay as they are: a
+// corrected pair would be sent.
 void DWTInfrastructureView::adjustSecurity() {
-    const auto told = [this](const QString &key) { return !ndm_Object || ndm_Object->isTold(key); };
-    const bool authentic = told(DWT_SaveData_Infrastructure_Authentic);
-    if (authentic == told(DWT_SaveData_Infrastructure_Encryption))
+    const auto isReported = [this](const QString &key) {
+        return !ndm_Object || ndm_Object->isReported(key);
+    };
+    const bool authentic = isReported(DWT_SaveData_Infrastructure_Authentic);
+    if (authentic == isReported(DWT_SaveData_Infrastructure_Encryption))
         selectAuthenticCodeInput();
     else
         selectEncryptionCodeInput();
@@ -291,10 +284,10 @@ void DWTInfrastructureView::offerEncryptions(Rules::Encryptions offered) {
 
 void DWTInfrastructureView::selectEncryptionCodeInput() {
     if (popupbutton_InfrastructureEncryption->currentIndex() < 0) return;
-    const int code = itemInputCheckInfrastructureEncryption();
-    textField_InfrastructurePSK->setEnabled(code == Encryption::TKIP || code == Encryption::AES);
-    textField_InfrastructureWEPKey->setEnabled(code == Encryption::WEP);
-    popupbutton_InfrastructureSelectWEPKey->setEnabled(code == Encryption::WEP);
+    const QString key = networkKeyOf(itemInputCheckInfrastructureEncryption());
+    textField_InfrastructurePSK->setEnabled(key == DWT_SaveData_Infrastructure_PSK);
+    textField_InfrastructureWEPKey->setEnabled(key == DWT_SaveData_Infrastructure_WEPKey);
+    popupbutton_InfrastructureSelectWEPKey->setEnabled(key == DWT_SaveData_Infrastructure_WEPKey);
 }
 
 void DWTInfrastructureView::storeChoice(const QComboBox *popup) {

@@ -51,7 +51,11 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
 
     // Offers all four encryptions.
     void initializeEncryption();
-    // What filling and enabling do with the security that the printer told.
+    // Whether a row is a text that is typed: the network's name, or a key.
+    static bool isText(const Field &field) {
+        return field.edited && field.setting->kind == Setting::Kind::Text;
+    }
+    // What filling and enabling do with the security that the printer reported.
     void adjustSecurity();
     // Offers the encryptions that go with the chosen authentication, and changes one that does not.
     void selectAuthenticCodeInput();
@@ -83,7 +87,6 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
     }
 
     QVariantMap dictionary_itemData;
-    QStringList array_textField_WirelessMode;
     QStringList array_popUpButton_Authentic;
     QStringList array_popUpButton_Encryption;
     QStringList array_popUpButton_SelectWEPKey;

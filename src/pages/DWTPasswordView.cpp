@@ -10,16 +10,13 @@ void DWTPasswordView::NPS_Dealloc() {
 bool DWTPasswordView::NPS_Init() {
     SetViewKey(DWT_View_Key_Password);
     setupUi(view_Base);
-    addField({checkbox_PasswordChange, DWT_SaveData_Password_Change, Kind::Flag});
-    addField({secureTextField_Password, DWT_SaveData_Password_Password, Kind::Text, nullptr,
-              [this] { return itemInputCheckPassword(); }});
-    addField({secureTextField_PasswordReinput,
-              {},
-              Kind::Text,
-              nullptr,
-              [this] { return itemInputCheckPasswordReinput(); },
-              Rules::ruleOf(DWT_SaveData_Password_Password),
-              "DWT_Localize_Alert_MessageText_Password_Reinput"});
+    addField(checkbox_PasswordChange, DWT_SaveData_Password_Change);
+    const Field password = addField(secureTextField_Password, DWT_SaveData_Password_Password,
+                                    nullptr, [this] { return itemInputCheckPassword(); });
+    Field &again = addField(secureTextField_PasswordReinput, {}, nullptr,
+                            [this] { return itemInputCheckPasswordReinput(); });
+    again.rule = password.rule;
+    again.name = localized(QStringLiteral("DWT_Localize_Alert_MessageText_Password_Reinput"));
     connect(checkbox_PasswordChange, &QCheckBox::clicked, this,
             &DWTPasswordView::push_PasswordChange);
     return true;
@@ -46,17 +43,6 @@ bool DWTPasswordView::itemInputCheck() {
     showInputError(alert, passwordName(),
                    localized(QStringLiteral("DWT_Localize_Alert_InfoText_Password_MatchingErr")));
     return false;
-}
-
-// A new password is one change, also when it is none.
-QList<DWTBaseView::Change> DWTPasswordView::changes() const {
-    if (shownCategory() == savedCategory()) return {};
-    const bool removed = secureTextField_Password->text().isEmpty();
-    return {{passwordName(),
-             {},
-             localized(removed ? QStringLiteral("DWT_Localize_Send_Confirm_RemovedSecret")
-                               : QStringLiteral("DWT_Localize_Send_Confirm_NewSecret")),
-             true}};
 }
 
 // The two fields are compared where the password is confirmed.
@@ -94,7 +80,7 @@ bool DWTPasswordView::itemInputCheckPassword() {
 }
 
 QString DWTPasswordView::passwordName() const {
-    return localized(QLatin1String(fieldOf(secureTextField_Password)->nameKey));
+    return fieldOf(secureTextField_Password)->name;
 }
 
 bool DWTPasswordView::fieldsAgree() const {

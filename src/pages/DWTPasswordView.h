@@ -12,7 +12,6 @@ class DWTPasswordView : public DWTBaseView, private Ui::PasswordPage {
     void enableAllItems(bool enabled) override;
     // Also checks that both fields agree.
     bool itemInputCheck() override;
-    QList<Change> changes() const override;
 
     // Turns the change of the password on or off, and tells the data manager. The fields are usable
     // while it is on, and emptied when it is turned off.
@@ -22,7 +21,7 @@ class DWTPasswordView : public DWTBaseView, private Ui::PasswordPage {
     void clearPassword(bool);
 
   protected:
-    // The printer tells no password: reading changes no control.
+    // The printer reports no password: reading changes no control.
     void fill(const Field &) override {}
     QString faultOf(const Field &field) const override;
 

@@ -8,12 +8,11 @@ class DWTSimpleAPView : public DWTBaseView, private Ui::SimpleAPPage {
     DWT_SETUP(DWTSimpleAPView, DWTBaseView, SAP_Init, SAP_Dealloc)
 
   public:
-    void initializeUI() override;
     // Says above the settings when the printer's communication mode does not use them.
     void showIsUsed(bool used) { textField_SimpleAPNotUsed->setHidden(used); }
 
   protected:
-    // A name or key that the printer does not tell leaves its field as it is.
+    // A name or key that the printer does not report empties its field.
     void fill(const Field &field) override;
 
   private:
@@ -21,9 +20,5 @@ class DWTSimpleAPView : public DWTBaseView, private Ui::SimpleAPPage {
     bool itemInputCheckSimpleAPSSID() { return store(textField_SimpleAPSSID); }
     bool itemInputCheckSimpleAPPSK() { return store(textField_SimpleAPPSK); }
 
-    QVariantMap dictionary_itemData;
-    QStringList array_textField_WirelessMode;
-    QStringList array_textField_Authentic;
-    QStringList array_textField_Encryption;
     bool bool_SimpleAPSSIDInput = false, bool_SimpleAPPSKInput = false;
 };

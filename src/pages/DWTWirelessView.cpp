@@ -5,12 +5,10 @@
 bool DWTWirelessView::NWL_Init() {
     SetViewKey(DWT_View_Key_Wireless);
     setupUi(view_Base);
-    addChoice(radioButton_WirelessCommunicateMode, DWT_SaveData_Wireless_CommunicateMode,
-              "DWT_Localize_Wireless_Text_CommunicateMode_Label");
+    addField(radioButton_WirelessCommunicateMode, DWT_SaveData_Wireless_CommunicateMode);
     addShown(textField_WirelessInfrastructureMACAddress,
-             DWT_SaveData_Wireless_InfrastructureMACAddress, Kind::Mac);
-    addShown(textField_WirelessSimpleAPMACAddress, DWT_SaveData_Wireless_SampleAPMACAddress,
-             Kind::Mac);
+             DWT_SaveData_Wireless_InfrastructureMACAddress);
+    addShown(textField_WirelessSimpleAPMACAddress, DWT_SaveData_Wireless_SampleAPMACAddress);
     connect(radioButton_WirelessCommunicateMode, &RadioGroup::selected, this,
             &DWTWirelessView::select_WirelessCommunicateMode);
     return true;

@@ -8,7 +8,7 @@
 void InterfaceView::addAddress(TextField *field, const QString &key, const QString &keyInUse,
                                std::function<bool()> store, bool *input) {
     m_keysInUse.insert(key, keyInUse);
-    addField({field, key, Kind::Address, input, std::move(store)});
+    addField(field, key, input, std::move(store));
 }
 
 void InterfaceView::setControls(const Controls &controls) {
@@ -21,7 +21,7 @@ void InterfaceView::setControls(const Controls &controls) {
 void InterfaceView::initializeUI() {
     DWTBaseView::initializeUI();
     for (const Field &field : fields())
-        if (field.kind == Kind::Address) fitWidth(field.line(), QStringLiteral("255.255.255.255"));
+        if (field.isAddress()) fitWidth(field.line(), QStringLiteral("255.255.255.255"));
 }
 
 void InterfaceView::showDataManager() {
@@ -37,8 +37,8 @@ void InterfaceView::enableAllItems(bool enabled) {
 bool InterfaceView::itemConnectChangeCheck() {
     const CategoryDictionary saved = savedCategory();
     return std::all_of(fields().begin(), fields().end(), [&](const Field &field) {
-        return field.kind != Kind::Address || !field.control->isEnabled() ||
-               isEqualAddress(field.line()->text().split(u'.'), addressValue(saved, field.key));
+        return !field.isAddress() || !field.control->isEnabled() ||
+               isEqualAddress(field.line()->text().split(u'.'), addressValue(saved, field.key()));
     });
 }
 
@@ -49,7 +49,7 @@ bool InterfaceView::textShouldBeginEditing(TextField *control) {
 
 void InterfaceView::controlTextDidChange(TextField *control) {
     const Field *const field = fieldOf(control);
-    if (field && field->kind == Kind::Address) forgetConnectResult();
+    if (field && field->isAddress()) forgetConnectResult();
     DWTBaseView::controlTextDidChange(control);
 }
 
@@ -76,15 +76,15 @@ void InterfaceView::chooseAddressSetup() {
     selectAddressSettingInput();
     const CategoryDictionary saved = savedCategory();
     CategoryDictionary &settings = mutableDictionary_ViewSettings;
-    settings.insert(fieldOf(m_controls.choice)->key, m_controls.choice->selectedTag());
+    settings.insert(fieldOf(m_controls.choice)->key(), m_controls.choice->selectedTag());
     for (const Field &field : fields()) {
-        if (field.kind != Kind::Address) continue;
+        if (!field.isAddress()) continue;
         if (!isAutomatic())
-            settings.insert(field.key, field.line()->text().split(u'.'));
-        else if (saved.contains(field.key))
-            settings.insert(field.key, saved.value(field.key));
+            settings.insert(field.key(), field.line()->text().split(u'.'));
+        else if (saved.contains(field.key()))
+            settings.insert(field.key(), saved.value(field.key()));
         else
-            settings.remove(field.key);
+            settings.remove(field.key());
     }
     handOver(settings);
     sendNotificationSendOK();
@@ -92,21 +92,21 @@ void InterfaceView::chooseAddressSetup() {
 
 void InterfaceView::selectAddressSettingInput() {
     for (const Field &field : fields())
-        if (field.kind == Kind::Address) field.control->setEnabled(!isAutomatic());
+        if (field.isAddress()) field.control->setEnabled(!isAutomatic());
 }
 
 void InterfaceView::fill(const Field &field) {
     const CategoryDictionary &values = mutableDictionary_ViewSettings;
     if (field.control == m_controls.choice) {
-        m_controls.choice->selectTag(integerValue(values, field.key));
+        m_controls.choice->selectTag(integerValue(values, field.key()));
         return;
     }
-    if (field.kind != Kind::Address) return DWTBaseView::fill(field);
-    const QString key = isAutomatic() ? m_keysInUse.value(field.key) : field.key;
+    if (!field.isAddress()) return DWTBaseView::fill(field);
+    const QString key = isAutomatic() ? m_keysInUse.value(field.key()) : field.key();
     field.line()->setText(addressNumberToString(addressValue(values, key)));
     if (field.input) *field.input = true;
 }
 
 bool InterfaceView::isUsed(const Field &field) const {
-    return field.kind != Kind::Address || !isAutomatic();
+    return !field.isAddress() || !isAutomatic();
 }

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "settings/Frames.h"
+#include "settings/Wipe.h"
 
 namespace {
 
@@ -44,9 +45,12 @@ bool DWTDataManager::isEqualToSaveData() const {
     });
 }
 
-QList<SendWarning> DWTDataManager::warnings() const {
-    if (!dictionary_SaveData || !mutableDictionary_ChangeData) return {};
-    return warningsOf(*dictionary_SaveData, *mutableDictionary_ChangeData);
+void DWTDataManager::adopt(const Item &item, const DWTDataManager &other) {
+    if (!dictionary_SaveData) return;
+    const CategoryDictionary read = other.savedData().value(item.viewKey);
+    for (const QString &key : item.keys)
+        (*dictionary_SaveData)[item.viewKey].insert(key, read.value(key));
+    m_reported.insert(item.code, other.m_reported.value(item.code));
 }
 
 bool DWTDataManager::NDM_Init() {
@@ -59,6 +63,7 @@ bool DWTDataManager::NDM_Init() {
 }
 
 void DWTDataManager::NDM_Dealloc() {
+    wipe(loginPassword_String);
     nsObjectRelease(ncc_Object);
 }
 

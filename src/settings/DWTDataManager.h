@@ -12,28 +12,9 @@
 
 #include "app/base/DWTBaseClass.h"
 #include "link/DWTCommunicationControl.h"
+#include "settings/Ending.h"
 #include "settings/ItemCodec.h"
-#include "settings/SendWarnings.h"
 #include "settings/SettingKeys.h"
-#include "settings/SettingRecord.h"
-#include "settings/Settings.h"
-
-// What happened in a send.
-struct SendReport {
-    enum class Login { Passed, Refused, NoReply };
-    Login login = Login::Passed;  // unless passed, nothing was written
-    bool unreached = false;       // the printer could not be connected, and nothing was written
-    // The connection was lost before the update: nothing was applied.
-    bool lost = false;
-    // The items that the printer refused, or that do not fit into a frame.
-    QList<ItemCode> refused;
-    // The items without a usable reply: the printer may have taken them.
-    QList<ItemCode> unclear;
-
-    bool isComplete() const;
-    // Whether the item was written and accepted, or not written at all.
-    bool isClean(ItemCode code) const;
-};
 
 // The settings of one printer: what it reported (saved data), what the user entered (change data),
 // and every exchange that fills the one and writes the other. It owns the link to the printer.
@@ -60,8 +41,13 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     int setupDataFromMainView(const CategoryDictionary &category, const QString &viewKey);
     // True when all seven categories are present in both records and equal.
     bool isEqualToSaveData() const;
-    // What a person should know before the change data is sent; nothing without a record.
-    QList<SendWarning> warnings() const;
+    // Both records; empty without one.
+    SettingRecord savedData() const { return dictionary_SaveData.value_or(SettingRecord()); }
+    SettingRecord changeData() const {
+        return mutableDictionary_ChangeData.value_or(SettingRecord());
+    }
+    // Takes over what another data manager has read of the printer's item, as saved data.
+    void adopt(const Item &item, const DWTDataManager &other);
 
     // --- Reading (DWTDataManagerReading.cpp) ---
 
@@ -73,11 +59,12 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // request got no reply (its value and those after it have their defaults), which is also what a
     // wait that is cancelled looks like; otherwise the link's result of connecting.
     int setupDataFromPrinter(int, const Progress &progress = {});
-    // The items that a send writes and that the last reading asked for without getting their value:
-    // the record holds a default, or nothing. They are not sent until the record is changed.
-    QList<ItemCode> notTold() const;
-    // Whether the record's value of a key is the printer's own: what it told or accepted.
-    bool isTold(const QString &key) const;
+    // The settings that a send writes and whose item the last reading asked for without getting
+    // their value: the record holds a default, or nothing. They are not sent until the record is
+    // changed.
+    QList<const Setting *> notReported() const;
+    // Whether the record's value of a key is the printer's own, which it reported or accepted.
+    bool isReported(const QString &key) const;
     // How often a search for networks is asked whether it has finished, and how long it is waited
     // between two polls.
     static constexpr int scanPolls = 10;
@@ -102,27 +89,19 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // The same on the calling thread; returns after the stop. On another thread than the main one,
     // the main thread must run an event loop meanwhile.
     void sendDataToPrinterAndWait() { NDM_SendDataToPrinterThread(); }
-    // What happened in the last send; written until its stop.
-    const SendReport &sendReport() const { return m_report; }
+    // How the last send ended, nothing compared; written until its stop.
+    const Ending &ending() const { return m_ending; }
 
     // --- Printers (DWTDataManagerPrinters.cpp) ---
 
-    // The supported printers that are listed, none of which is asked for anything; only USB
-    // printers in installer mode.
-    QList<PrinterEntry> supportedPrinters();
-    // The supported printers that can be reached, USB printers with their own name under
-    // PrinterKey::MachineName; only USB printers in installer mode. Nothing when no link can be
-    // made. `found` is told of each, in order, as soon as it has answered; a wait that is cancelled
-    // leaves out those that have not.
-    std::optional<QList<PrinterEntry>> printerList(
+    // The supported printers (settings/Printers.h) that can be reached, USB printers with their own
+    // name under PrinterKey::MachineName. Nothing when no link can be made. `found` gets each, in
+    // order, as soon as it has answered; a wait that is cancelled leaves out those that have not.
+    static std::optional<QList<PrinterEntry>> printerList(
         const std::function<void(const PrinterEntry &)> &found = {});
-    // Why printers may be missing from the last printerList(), unusable lists of models included.
-    QList<PrinterProblem> printerProblems();
-    // Whether printers came or went since the last printerList(). Asks no printer.
-    bool hasPrinterListChanged();
     // The name of the printer of `entry`, asked through `link`; " " when it cannot be read.
-    QString printerName(const std::shared_ptr<DWTCommunicationControl> &link,
-                        const PrinterEntry &entry);
+    static QString printerName(const std::shared_ptr<DWTCommunicationControl> &link,
+                               const PrinterEntry &entry);
     // Whether a printer answers at the address of exactly four parts; negative when not, when there
     // are not four parts, or without a link.
     int isCheckConnectToPrinter(const QStringList &address);
@@ -130,7 +109,7 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // --- Connection, password state and login (DWTDataManagerLogin.cpp) ---
 
     // 2: an administrator password is set; 3: none is set; 1: the printer cannot be connected or
-    // gives no usable answer.
+    // gives no usable answer. Asks whatever the last reading came to.
     int isPassword();
     // Tries a password; an accepted one is kept for the next send. Call it between connectPrinter()
     // and disconnectPrinter().
@@ -145,11 +124,11 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     bool NDM_InitMember(const PrinterEntry &entry);
 
     // Command frames: each installs one into the link; true when it could not be stored.
-    bool NDM_SetCommandSettingStart(DWTCommunicationControl &link);
-    bool NDM_SetCommandSettingEnd(DWTCommunicationControl &link);
-    bool NDM_SetCommandSettingUpDate(DWTCommunicationControl &link);
+    static bool NDM_SetCommandSettingStart(DWTCommunicationControl &link);
+    static bool NDM_SetCommandSettingEnd(DWTCommunicationControl &link);
+    static bool NDM_SetCommandSettingUpDate(DWTCommunicationControl &link);
     // All three, and the command list when all could be stored; false when one could not.
-    bool installCommands(DWTCommunicationControl &link);
+    static bool installCommands(DWTCommunicationControl &link);
 
     // One request; an empty reply clears the read-failure flag.
     QByteArray NDM_SendCommandSettingRequest(ItemCode code);
@@ -169,7 +148,8 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
                              std::optional<Value> (*decoder)(const QByteArray &, ItemCode));
     // Asks whatever the flag says.
     std::optional<QList<SSIDEntry>> NDM_SSIDInfo(ItemCode code);
-    QString NDM_DataToPrinterName(const std::shared_ptr<DWTCommunicationControl> &link);
+    // The printer that the link points at, asked through it alone, beside the read-failure flag.
+    static QString NDM_DataToPrinterName(const std::shared_ptr<DWTCommunicationControl> &link);
 
     // What an item holds, under its keys; without what cannot be read.
     CategoryDictionary valuesOf(const Item &item);
@@ -184,9 +164,9 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     CategoryDictionary NDM_FirmwareDataFromPrinter();
     std::optional<QList<SSIDEntry>> NDM_DataToSSIDArray(const Progress &progress);
 
-    // Notes whether a reply told the value of an item that a send writes.
-    void noteTold(ItemCode code, const QByteArray &reply);
-    // Forgets what was told of items whose values did not get into the record.
+    // Notes whether a reply reports the value of an item that a send writes.
+    void noteReported(ItemCode code, const QByteArray &reply);
+    // Forgets the reported values of items that did not get into the record.
     void forgetMissing();
 
     // Items written.
@@ -203,11 +183,10 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     void NDM_SendDataToPrinterThread();
     void NDM_ProgressSetting(const QString &notification, double step);
     bool sendLogin();
-    // What the saved data becomes when the send is applied: the saved record, and m_told, with what
-    // the printer accepted.
+    // The saved data once the send is applied: with the accepted values, and their bytes.
     struct Accepted {
         SettingRecord record;
-        QMap<ItemCode, QByteArray> told;
+        QMap<ItemCode, QByteArray> reported;
     };
     Accepted sendCategories();
     bool isUsed(const Item &item) const;
@@ -215,12 +194,12 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     void send(const Item &item, Accepted &accepted);
     bool isWorthSending(const Item &item) const;
     WriteResult write(const Item &item, const CategoryDictionary &change, bool changed);
-    void report(ItemCode code, const WriteResult &result);
-    CategoryDictionary changeOf(const QString &viewKey) const;
-    CategoryDictionary savedOf(const QString &viewKey) const;
+    // Puts the settings of an item that was written into the ending.
+    void note(const Item &item, const WriteResult &result);
+    bool isLost() const { return m_ending.course == Ending::Course::Lost; }
 
-    bool NDM_InitMemberToPrinterList(const std::shared_ptr<DWTCommunicationControl> &link,
-                                     const PrinterEntry &entry);
+    static bool NDM_InitMemberToPrinterList(const std::shared_ptr<DWTCommunicationControl> &link,
+                                            const PrinterEntry &entry);
 
     std::optional<SettingRecord> dictionary_SaveData;
     std::optional<SettingRecord> mutableDictionary_ChangeData;
@@ -233,15 +212,14 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     CategoryDictionary ethernetData_Dictionary;
     CategoryDictionary firmwareData_Dictionary;
     CategoryDictionary passwordData_Dictionary;
-    // True while every request since the last full read got a reply, but for those outside it whose
-    // wait was cancelled.
+    // True while every request since the last full read got a reply.
     bool resultSettingRequest_BOOL = false;
     // Password of the last successful login; consumed by the next send.
     QString loginPassword_String;
-    // What the printer told or accepted, by item: the very bytes of its value.
-    QMap<ItemCode, QByteArray> m_told;
+    // The values that the printer reported or accepted, by item, as the very bytes.
+    QMap<ItemCode, QByteArray> m_reported;
     QSet<ItemCode> m_asked;  // by the last reading
     Progress m_progress;     // of the reading
-    SendReport m_report;
+    Ending m_ending;
     std::chrono::milliseconds m_scanInterval = defaultScanInterval;
 };

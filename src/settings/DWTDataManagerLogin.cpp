@@ -1,23 +1,14 @@
 // Connecting, the password state and the login.
 
-#include "platform/core/Waiting.h"
 #include "settings/DWTDataManager.h"
 #include "settings/Wipe.h"
 
 int DWTDataManager::isPassword() {
     if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) return PasswordState::NoAnswer;
-    const bool answered = resultSettingRequest_BOOL;
-    const int state = NDM_DataToInteger(0x1000);
-    if (isWaitCancelled()) resultSettingRequest_BOOL = answered;
+    const auto state = ItemCodec::integer(NDM_SendCommandSettingRequest(0x1000), 0x1000);
     ncc_Object->disconnectPrinter(0);
-    switch (state) {
-        case 0:
-            return PasswordState::NotSet;
-        case 1:
-            return PasswordState::Set;
-        default:
-            return PasswordState::NoAnswer;
-    }
+    if (state == 0) return PasswordState::NotSet;
+    return state == 1 ? PasswordState::Set : PasswordState::NoAnswer;
 }
 
 WriteResult DWTDataManager::checkLoginPassword(const QString &password) {

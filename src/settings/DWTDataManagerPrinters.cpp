@@ -1,9 +1,10 @@
 // Listing printers and checking an address.
 
-#include "platform/core/PropertyList.h"
 #include "platform/core/Waiting.h"
 #include "settings/DWTDataManager.h"
 #include "settings/Frames.h"
+#include "settings/Printers.h"
+#include "settings/Values.h"
 
 namespace {
 
@@ -16,7 +17,7 @@ std::optional<QList<PrinterEntry>> DWTDataManager::printerList(
     const auto link = make<DWTCommunicationControl>();
     if (!link) return {};
     QList<PrinterEntry> reached;
-    for (PrinterEntry entry : supportedPrinters()) {
+    for (PrinterEntry entry : Printers::supported()) {
         if (isUSB(entry)) {
             if (isWaitCancelled()) continue;
             const QString name = printerName(link, entry);
@@ -29,29 +30,6 @@ std::optional<QList<PrinterEntry>> DWTDataManager::printerList(
     return reached;
 }
 
-QList<PrinterEntry> DWTDataManager::supportedPrinters() {
-    const QVariantMap models =
-        PropertyList::dictionary(QStringLiteral("ZMPrinterStatusTable"), QStringLiteral("plist"));
-    const auto listed = make<DWTCommunicationControl>()->printerList();
-    QList<PrinterEntry> supported;
-    for (const PrinterEntry &entry : listed.value_or(QList<PrinterEntry>()))
-        if (models.contains(entry.value(PrinterKey::ProductName)) &&
-            (isUSB(entry) || !checkLunchedMode()))
-            supported.append(entry);
-    return supported;
-}
-
-QList<PrinterProblem> DWTDataManager::printerProblems() {
-    QList<PrinterProblem> problems = make<DWTCommunicationControl>()->printerProblems();
-    for (const QString &file : PropertyList::unusable())
-        problems.append({PrinterProblem::BadFile, file});
-    return problems;
-}
-
-bool DWTDataManager::hasPrinterListChanged() {
-    return make<DWTCommunicationControl>()->hasPrinterListChanged();
-}
-
 QString DWTDataManager::printerName(const std::shared_ptr<DWTCommunicationControl> &link,
                                     const PrinterEntry &entry) {
     NDM_InitMemberToPrinterList(link, entry);  // the name is asked for whatever it says
@@ -59,10 +37,8 @@ QString DWTDataManager::printerName(const std::shared_ptr<DWTCommunicationContro
 }
 
 int DWTDataManager::isCheckConnectToPrinter(const QStringList &address) {
-    if (address.size() != 4 || !ncc_Object) return -1;
-    QStringList octets;
-    for (const QString &part : address) octets << QString::number(integerOf(part));
-    return ncc_Object->checkConnect(octets.join(u'.'));
+    const QString dotted = dottedAddress(address);
+    return dotted.isEmpty() || !ncc_Object ? -1 : ncc_Object->checkConnect(dotted);
 }
 
 bool DWTDataManager::NDM_InitMemberToPrinterList(
@@ -72,7 +48,6 @@ bool DWTDataManager::NDM_InitMemberToPrinterList(
     return installCommands(*link);
 }
 
-// Asks through a link of its own, beside the read-failure flag.
 QString DWTDataManager::NDM_DataToPrinterName(
     const std::shared_ptr<DWTCommunicationControl> &link) {
     if (!link || link->connectPrinter(0) != 0) return unreadable;

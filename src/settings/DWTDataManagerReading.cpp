@@ -28,7 +28,7 @@ int DWTDataManager::setupDataFromPrinter(int, const Progress &progress) {
     resultSettingRequest_BOOL = true;
     dictionary_SaveData.reset();
     mutableDictionary_ChangeData.reset();
-    m_told.clear();
+    m_reported.clear();
     m_asked.clear();
     if (!ncc_Object) return ReadResult::NoLink;
     const int connected = ncc_Object->connectPrinter(0);
@@ -54,37 +54,38 @@ int DWTDataManager::setupDataFromPrinter(int, const Progress &progress) {
 
 std::optional<QList<SSIDEntry>> DWTDataManager::SSIDList(const Progress &progress) {
     if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) return {};
-    const bool answered = resultSettingRequest_BOOL;
     const auto networks = NDM_DataToSSIDArray(progress);
-    if (isWaitCancelled()) resultSettingRequest_BOOL = answered;
     const bool closed = ncc_Object->isClosedByPrinter();
     ncc_Object->disconnectPrinter(0);
     if (closed) return {};
     return networks.value_or(QList<SSIDEntry>());
 }
 
-QList<ItemCode> DWTDataManager::notTold() const {
-    QList<ItemCode> codes;
-    for (const Item &item : sentItems())
-        if (m_asked.contains(item.code) && !m_told.contains(item.code)) codes << item.code;
-    return codes;
+QList<const Setting *> DWTDataManager::notReported() const {
+    QList<const Setting *> missing;
+    for (const Setting &setting : settings())
+        if (setting.isSent() && m_asked.contains(setting.item.code) &&
+            !m_reported.contains(setting.item.code))
+            missing << &setting;
+    return missing;
 }
 
-bool DWTDataManager::isTold(const QString &key) const {
+bool DWTDataManager::isReported(const QString &key) const {
     return std::any_of(sentItems().begin(), sentItems().end(), [&](const Item &item) {
-        return item.keys.contains(key) && m_told.contains(item.code);
+        return item.keys.contains(key) && m_reported.contains(item.code);
     });
 }
 
-void DWTDataManager::noteTold(ItemCode code, const QByteArray &reply) {
+void DWTDataManager::noteReported(ItemCode code, const QByteArray &reply) {
     m_asked.insert(code);
-    if (const auto value = ItemCodec::wholeValue(reply, code)) m_told.insert(code, *value);
+    if (const auto value = ItemCodec::wholeValue(reply, code)) m_reported.insert(code, *value);
 }
 
-// A category ends before the first value that is missing, whatever was told of those after it.
+// A category ends before the first value that is missing, whatever was reported after it.
 void DWTDataManager::forgetMissing() {
     for (const Item &item : sentItems())
-        if (!savedOf(item.viewKey).contains(item.keys.first())) m_told.remove(item.code);
+        if (!savedData().value(item.viewKey).contains(item.keys.first()))
+            m_reported.remove(item.code);
 }
 
 QByteArray DWTDataManager::NDM_SendCommandSettingRequest(ItemCode code) {
@@ -102,7 +103,7 @@ std::optional<Value> DWTDataManager::ask(ItemCode code,
     if (!resultSettingRequest_BOOL) return {};
     if (m_progress) m_progress(int(m_asked.size()), int(readItems().size()));
     const QByteArray reply = NDM_SendCommandSettingRequest(code);
-    noteTold(code, reply);
+    noteReported(code, reply);
     return decoded(reply, code, decoder);
 }
 

@@ -20,7 +20,7 @@ constexpr int progressSteps[] = {16, 33, 50, 66, 85, 100};
 // Whether two categories differ in what an item carries.
 bool differ(const Item &item, const CategoryDictionary &a, const CategoryDictionary &b) {
     return std::any_of(item.keys.begin(), item.keys.end(), [&](const QString &key) {
-        return a.contains(key) != b.contains(key) || a.value(key) != b.value(key);
+        return a.contains(key) != b.contains(key) || !isSame(a.value(key), b.value(key));
     });
 }
 
@@ -32,18 +32,10 @@ QByteArray networkOfList(const Item &item, const CategoryDictionary &change) {
 
 }  // namespace
 
-bool SendReport::isComplete() const {
-    return login == Login::Passed && !unreached && !lost && refused.isEmpty() && unclear.isEmpty();
-}
-
-bool SendReport::isClean(ItemCode code) const {
-    return login == Login::Passed && !lost && !unclear.contains(code) && !refused.contains(code);
-}
-
 void DWTDataManager::sendDataToPrinter() {
     const auto work = [self = shared_from_this()] { self->NDM_SendDataToPrinterThread(); };
     if (MainThread::startBackgroundWork(work)) return;
-    m_report = {};
+    m_ending = {};
     wipe(loginPassword_String);
     NDM_ProgressSetting(DWT_DataSend_Stop_Message, 1);
 }
@@ -91,10 +83,10 @@ WriteResult DWTDataManager::sendFrame(ItemCode code, std::optional<QByteArray> f
 }
 
 void DWTDataManager::NDM_SendDataToPrinterThread() {
-    m_report = {};
+    m_ending = {};
     NDM_ProgressSetting(DWT_DataSend_Start_Message, 0);
     if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) {
-        m_report.unreached = true;
+        m_ending.course = Ending::Course::NotReached;
         wipe(loginPassword_String);
         NDM_ProgressSetting(DWT_DataSend_Stop_Message, 1);
         return;
@@ -103,12 +95,12 @@ void DWTDataManager::NDM_SendDataToPrinterThread() {
     std::optional<Accepted> accepted;
     if (loggedIn) accepted = sendCategories();
     // What was accepted is applied with the end of the connection only.
-    if (ncc_Object->disconnectPrinter(0) != 0 && loggedIn) m_report.lost = true;
-    if (accepted && !m_report.lost) {
+    if (ncc_Object->disconnectPrinter(0) != 0 && loggedIn) m_ending.course = Ending::Course::Lost;
+    if (accepted && !isLost()) {
         dictionary_SaveData = accepted->record;
-        m_told = accepted->told;
+        m_reported = accepted->reported;
     }
-    NDM_ProgressSetting(DWT_DataSend_Stop_Message, m_report.lost ? 1 : 0);
+    NDM_ProgressSetting(DWT_DataSend_Stop_Message, isLost() ? 1 : 0);
 }
 
 void DWTDataManager::NDM_ProgressSetting(const QString &notification, double step) {
@@ -125,18 +117,18 @@ bool DWTDataManager::sendLogin() {
     const WriteResult result = NDM_StringToData(0x1001, password);
     wipe(password);
     if (result.kind == WriteResult::Accepted) return true;
-    m_report.lost = ncc_Object->isClosedByPrinter();
-    m_report.login = result.kind == WriteResult::NoReply ? SendReport::Login::NoReply
-                                                         : SendReport::Login::Refused;
+    if (ncc_Object->isClosedByPrinter()) m_ending.course = Ending::Course::Lost;
+    m_ending.login =
+        result.kind == WriteResult::NoReply ? Ending::Login::NoReply : Ending::Login::Refused;
     return false;
 }
 
 DWTDataManager::Accepted DWTDataManager::sendCategories() {
-    Accepted accepted{dictionary_SaveData.value_or(SettingRecord()), m_told};
+    Accepted accepted{savedData(), m_reported};
     const int *step = progressSteps;
     QString viewKey = sentItems().first().viewKey;
     for (const Item &item : sentItems()) {
-        if (item.viewKey != viewKey && !m_report.lost)
+        if (item.viewKey != viewKey && !isLost())
             NDM_ProgressSetting(DWT_DataSend_Progress_Message, *step++);
         viewKey = item.viewKey;
         if (isUsed(item)) send(item, accepted);
@@ -147,62 +139,55 @@ DWTDataManager::Accepted DWTDataManager::sendCategories() {
 // Whether the change data uses an item: of the keys only the one that goes with the encryption, and
 // a password only when it was entered.
 bool DWTDataManager::isUsed(const Item &item) const {
-    const CategoryDictionary change = changeOf(item.viewKey);
-    const int encryption = integerValue(change, DWT_SaveData_Infrastructure_Encryption);
-    switch (item.code) {
-        case passwordItem:
-            return integerValue(change, DWT_SaveData_Password_Change) != 0;
-        case 0x3105:
-            return encryption == Encryption::TKIP || encryption == Encryption::AES;
-        case 0x3106:
-            return encryption == Encryption::WEP;
-        default:
-            return true;
-    }
+    const CategoryDictionary change = changeData().value(item.viewKey);
+    if (item.code == passwordItem) return integerValue(change, DWT_SaveData_Password_Change) != 0;
+    const bool isNetworkKey = item.isSecret && item.viewKey == DWT_View_Key_Infrastructure;
+    return !isNetworkKey || item.keys.contains(networkKeyOf(
+                                integerValue(change, DWT_SaveData_Infrastructure_Encryption)));
 }
 
 void DWTDataManager::send(const Item &item, Accepted &accepted) {
-    const CategoryDictionary change = changeOf(item.viewKey);
+    const CategoryDictionary change = changeData().value(item.viewKey);
     const QByteArray chosen = networkOfList(item, change);
-    const bool changed = !chosen.isEmpty() || differ(item, change, savedOf(item.viewKey));
-    if (m_report.lost || (!changed && !isWorthSending(item))) return;
+    const bool changed = !chosen.isEmpty() || differ(item, change, savedData().value(item.viewKey));
+    if (isLost() || (!changed && !isWorthSending(item))) return;
     const WriteResult result = write(item, change, changed);
-    report(item.code, result);
+    note(item, result);
     // Keys and passwords never become saved values.
     if (result.kind != WriteResult::Accepted || item.isSecret) return;
     CategoryDictionary &saved = accepted.record[item.viewKey];
     for (const QString &key : item.keys) saved.insert(key, change.value(key));
     if (!changed) return;
-    accepted.told.insert(item.code, textValue(change, item.keys.first()).toUtf8());
+    accepted.reported.insert(item.code, textValue(change, item.keys.first()).toUtf8());
     if (item.code != ssidItem) return;
     saved.insert(DWT_SaveData_Infrastructure_SSIDList_SSID,
                  change.value(DWT_SaveData_Infrastructure_SSIDList_SSID));
     if (chosen.isEmpty()) return;
     saved.insert(DWT_SaveData_Infrastructure_SSID, ItemCodec::textOf(chosen));
-    accepted.told.insert(item.code, chosen);
+    accepted.reported.insert(item.code, chosen);
 }
 
-// An unchanged value is worth it when the printer told it, and it is not an empty text, which no
-// frame can carry but that of the password.
+// An unchanged value is worth it when the printer reported it, and it is not an empty text, which
+// no frame can carry but that of the password.
 bool DWTDataManager::isWorthSending(const Item &item) const {
     if (item.code == passwordItem) return true;
     const bool isText = item.layout == Layout::Text || item.layout == Layout::CountedText;
-    return m_told.contains(item.code) && !(isText && m_told.value(item.code).isEmpty());
+    return m_reported.contains(item.code) && !(isText && m_reported.value(item.code).isEmpty());
 }
 
-// What was not changed goes back as the very bytes that were told.
+// What was not changed goes back as the very bytes that were reported.
 WriteResult DWTDataManager::write(const Item &item, const CategoryDictionary &change,
                                   bool changed) {
     const QStringList &keys = item.keys;
-    const QByteArray told = m_told.value(item.code), chosen = networkOfList(item, change);
+    const QByteArray reported = m_reported.value(item.code), chosen = networkOfList(item, change);
     switch (item.layout) {
         case Layout::Text:
             if (changed || item.readTurn == 0)
                 return NDM_StringToData(item.code, textValue(change, keys[0]));
-            return sendFrame(item.code, ItemCodec::textBytesFrame(item.code, told));
+            return sendFrame(item.code, ItemCodec::textBytesFrame(item.code, reported));
         case Layout::CountedText:
             if (!chosen.isEmpty()) return NDM_DataToData(item.code, chosen);
-            if (!changed) return NDM_DataToData(item.code, told);
+            if (!changed) return NDM_DataToData(item.code, reported);
             return NDM_StringAndLengthToData(item.code, textValue(change, keys[0]));
         case Layout::IntegerAndText:
             return NDM_IntegerAndStringAndLengthToData(item.code, integerValue(change, keys[0]),
@@ -217,20 +202,14 @@ WriteResult DWTDataManager::write(const Item &item, const CategoryDictionary &ch
     return NDM_IntegerToData(item.code, integerValue(change, keys[0]));
 }
 
-void DWTDataManager::report(ItemCode code, const WriteResult &result) {
-    if (result.kind == WriteResult::Accepted) return;
-    if (result.kind != WriteResult::NoReply)
-        m_report.refused.append(code);
-    else if (ncc_Object->isClosedByPrinter())
-        m_report.lost = true;
-    else
-        m_report.unclear.append(code);
-}
-
-CategoryDictionary DWTDataManager::changeOf(const QString &viewKey) const {
-    return setupDataFromChangeData(viewKey).value_or(CategoryDictionary());
-}
-
-CategoryDictionary DWTDataManager::savedOf(const QString &viewKey) const {
-    return setupDataToMainView(viewKey).value_or(CategoryDictionary());
+void DWTDataManager::note(const Item &item, const WriteResult &result) {
+    if (result.kind == WriteResult::NoReply && ncc_Object->isClosedByPrinter()) {
+        m_ending.course = Ending::Course::Lost;
+        return;
+    }
+    const auto state = result.kind == WriteResult::Accepted  ? Ending::State::Accepted
+                       : result.kind == WriteResult::NoReply ? Ending::State::Unclear
+                                                             : Ending::State::Refused;
+    for (const QString &key : item.keys)
+        m_ending.parts << Ending::Part{settingOf(item.viewKey, key), state};
 }

@@ -28,6 +28,12 @@ constexpr int wepDigits[] = {10, 26};
 
 }  // namespace
 
+bool keeps(const Rule &rule, const QString &text, bool input) {
+    if (rule.kind == Rule::Kind::Address) return isAddress(text, rule.loopback);
+    if (rule.kind == Rule::Kind::WEPKey) return isWEPKey(text, input);
+    return isText(text, rule.characters, rule.min, rule.max, input);
+}
+
 bool isText(const QString &text, const QString &characters, int min, int max, bool input) {
     if (text.size() > max || (input && text.size() < min)) return false;
     return std::all_of(text.begin(), text.end(), [&](QChar c) { return characters.contains(c); });

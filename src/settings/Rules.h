@@ -48,19 +48,16 @@ struct Rule {
         Number    // `min` to `max`; another number becomes the nearer bound
     };
     Kind kind;
-    // Localisation keys: what the value is called, and what is said of one that breaks the rule.
-    const char *nameKey;
-    const char *ruleKey;
-    QString characters;  // what can be typed, for an address and a number
+    const char *ruleKey;  // localisation key of what is said of a value that breaks the rule
+    QString characters;   // what can be typed, for an address and a number
     int min = 0;
     int max = 0;
     bool loopback = false;
     bool secret = false;  // a key or password: never shown or printed
 };
 
-// The rule of the value of a record's key (DWT_SaveData_...); a null pointer when any value will
-// do.
-const Rule *ruleOf(const QString &key);
+// Whether a text keeps the rule of a text, an address or a WEP key. `input` as below.
+bool keeps(const Rule &rule, const QString &text, bool input = true);
 
 // --- The rules one by one -----------------------------------------------------------------------
 

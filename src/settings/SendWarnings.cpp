@@ -3,20 +3,9 @@
 #include "platform/core/Texts.h"
 #include "settings/Codes.h"
 #include "settings/SettingKeys.h"
+#include "settings/Settings.h"
 
 namespace {
-
-// The categories of the interfaces whose addresses can be set, and their keys.
-struct Interface {
-    const QString &viewKey, &setting, &address, &mask, &gateway;
-};
-
-const Interface interfaces[] = {
-    {DWT_View_Key_Ethernet, DWT_SaveData_Ethernet_IPAddressSetting, DWT_SaveData_Ethernet_IPAddress,
-     DWT_SaveData_Ethernet_Subnetmask, DWT_SaveData_Ethernet_Gateway},
-    {DWT_View_Key_Infrastructure, DWT_SaveData_Infrastructure_IPAddressSetting,
-     DWT_SaveData_Infrastructure_IPAddress, DWT_SaveData_Infrastructure_Subnetmask,
-     DWT_SaveData_Infrastructure_Gateway}};
 
 // The four parts as one number; 0 for any other count of parts.
 quint32 numberOf(const QStringList &address) {
@@ -32,27 +21,26 @@ bool isMask(quint32 mask) {
     return (hosts & (hosts + 1)) == 0;
 }
 
-QList<SendWarning> warningsOf(const Interface &keys, const CategoryDictionary &values) {
-    if (integerValue(values, keys.setting) == AddressSetting::Automatic) return {};
-    const auto number = [&](const QString &key) { return numberOf(addressValue(values, key)); };
-    const auto said = [&](const QString &key) { return addressValue(values, key).join(u'.'); };
-    const quint32 mask = number(keys.mask), gateway = number(keys.gateway);
-    if (mask != 0 && !isMask(mask)) return {{SendWarning::NotAMask, keys.viewKey, said(keys.mask)}};
-    if (gateway != 0 && ((gateway ^ number(keys.address)) & mask) != 0)
-        return {{SendWarning::GatewayOutside, keys.viewKey, said(keys.gateway)}};
+QList<SendWarning> warningsOf(const AddressSetup &setup, const CategoryDictionary &values) {
+    if (integerValue(values, setup.mode->key) == AddressSetting::Automatic) return {};
+    const auto parts = [&](const Setting *setting) { return addressValue(values, setting->key); };
+    const quint32 mask = numberOf(parts(setup.mask)), gateway = numberOf(parts(setup.gateway));
+    const auto warning = [&](SendWarning::Kind kind, const Setting *setting) {
+        return QList{SendWarning{kind, setting->viewKey, parts(setting).join(u'.')}};
+    };
+    if (mask != 0 && !isMask(mask)) return warning(SendWarning::NotAMask, setup.mask);
+    if (gateway != 0 && ((gateway ^ numberOf(parts(setup.address))) & mask) != 0)
+        return warning(SendWarning::GatewayOutside, setup.gateway);
     return {};
 }
 
 bool isNewNetworkWithoutKey(const CategoryDictionary &saved, const CategoryDictionary &changed) {
-    const int encryption = integerValue(changed, DWT_SaveData_Infrastructure_Encryption);
-    if (encryption == Encryption::None) return false;
-    const QString &key = encryption == Encryption::WEP ? DWT_SaveData_Infrastructure_WEPKey
-                                                       : DWT_SaveData_Infrastructure_PSK;
-    if (!textValue(changed, key).isEmpty()) return false;
+    const QString key = networkKeyOf(integerValue(changed, DWT_SaveData_Infrastructure_Encryption));
+    if (key.isEmpty() || !textValue(changed, key).isEmpty()) return false;
     for (const QString &part :
          {DWT_SaveData_Infrastructure_SSID, DWT_SaveData_Infrastructure_Authentic,
           DWT_SaveData_Infrastructure_Encryption})
-        if (saved.value(part) != changed.value(part)) return true;
+        if (!isSame(saved.value(part), changed.value(part))) return true;
     return false;
 }
 
@@ -83,9 +71,11 @@ QString wordsOf(const SendWarning &warning) {
 
 QList<SendWarning> warningsOf(const SettingRecord &saved, const SettingRecord &changed) {
     QList<SendWarning> warnings;
-    const auto differs = [&](const QString &key) { return saved.value(key) != changed.value(key); };
-    for (const Interface &keys : interfaces)
-        if (differs(keys.viewKey)) warnings << warningsOf(keys, changed.value(keys.viewKey));
+    for (const AddressSetup &setup : addressSetups()) {
+        const QString &viewKey = setup.mode->viewKey;
+        if (saved.value(viewKey) != changed.value(viewKey))
+            warnings << warningsOf(setup, changed.value(viewKey));
+    }
     const CategoryDictionary network = changed.value(DWT_View_Key_Infrastructure);
     if (isNewNetworkWithoutKey(saved.value(DWT_View_Key_Infrastructure), network))
         warnings << SendWarning{SendWarning::KeyKept, DWT_View_Key_Infrastructure,

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "platform/core/PropertyList.h"
+#include "platform/core/Texts.h"
+#include "settings/Codes.h"
 #include "settings/SettingKeys.h"
 #include "zmlib/ZMLib.h"
 
@@ -10,7 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Access = Setting::Access;
 using Kind = Setting::Kind;
 using Layout = Item::Layout;
 using Rules::Rule;
@@ -20,8 +21,8 @@ constexpr int firstWEPKey = 1, lastWEPKey = 4;
 
 // --- Rules ---------------------------------------------------------------------------------------
 
-Rule text(const char *nameKey, const char *ruleKey, const QString &characters, int min, int max) {
-    return {Rule::Kind::Text, nameKey, ruleKey, characters, min, max};
+Rule text(const char *ruleKey, const QString &characters, int min, int max) {
+    return {Rule::Kind::Text, ruleKey, characters, min, max};
 }
 
 Rule secret(Rule rule) {
@@ -29,256 +30,246 @@ Rule secret(Rule rule) {
     return rule;
 }
 
-Rule psk(const char *nameKey) {
-    return secret(text(nameKey, "DWT_Localize_Alert_InfoText_PSK_InputErr",
-                       Rules::printableCharacters, Rules::shortestPSK, Rules::longestPSK));
+Rule number(int min, int max) {
+    return {Rule::Kind::Number, nullptr, Rules::digits, min, max};
 }
 
-// Of the addresses of an interface, only its own may not be 127.0.0.1.
-Rule address(const char *nameKey, const char *ruleKey, bool loopback) {
-    return {Rule::Kind::Address, nameKey, ruleKey, Rules::addressCharacters, 0, 0, loopback};
+Rule address(const char *ruleKey, bool loopback) {
+    return {Rule::Kind::Address, ruleKey, Rules::addressCharacters, 0, 0, loopback};
+}
+
+Rule psk() {
+    return secret(text("DWT_Localize_Alert_InfoText_PSK_InputErr", Rules::printableCharacters,
+                       Rules::shortestPSK, Rules::longestPSK));
 }
 
 // --- Rows ----------------------------------------------------------------------------------------
 
-// The texts of the codes of a choice, from the property lists of the pages.
+// The texts of the codes of a choice, from the property list of a page.
 QStringList itemTexts(const QString &list, const QString &key) {
     return PropertyList::dictionary(list, u"plist"_s).value(key).toStringList();
 }
 
-// What the printer alone says, unless its item is written.
-Setting shown(const QString &name, const QString &viewKey, const QString &key,
-              const QString &labelKey, const Item &item, Kind kind = Kind::Text) {
-    return {name,     viewKey, key, kind, item.sendTurn > 0 ? Access::Change : Access::Read,
-            labelKey, item};
-}
+// Collects the rows of a page.
+class Rows {
+  public:
+    explicit Rows(QString viewKey) : m_viewKey(std::move(viewKey)) {}
 
-// What a user can type.
-Setting entered(const QString &name, const QString &viewKey, const QString &key, const Rule &rule,
-                const Item &item) {
-    Setting setting = shown(name, viewKey, key, QLatin1String(rule.nameKey), item);
-    if (rule.kind == Rule::Kind::Address) setting.kind = Kind::Address;
-    if (rule.kind == Rule::Kind::Number) setting.kind = Kind::Number;
-    if (rule.secret) setting.access = Access::Enter;
-    setting.min = rule.min;
-    setting.max = rule.max;
-    setting.rule = rule;
-    return setting;
-}
+    Rows &shown(const QString &name, const QString &key, const char *labelKey, const Item &item,
+                Kind kind = Kind::Text) {
+        m_rows << Setting{name, m_viewKey, key, kind, QLatin1String(labelKey), item};
+        return *this;
+    }
+    Rows &entered(const QString &name, const QString &key, const char *labelKey, const Rule &rule,
+                  const Item &item) {
+        const Kind kind = rule.kind == Rule::Kind::Address  ? Kind::Address
+                          : rule.kind == Rule::Kind::Number ? Kind::Number
+                                                            : Kind::Text;
+        shown(name, key, labelKey, item, kind);
+        m_rows.last().rule = rule;
+        return *this;
+    }
+    Rows &choice(const QString &name, const QString &key, const char *labelKey, const Item &item,
+                 const QStringList &codes, const QStringList &texts) {
+        shown(name, key, labelKey, item, Kind::Choice);
+        m_rows.last().codes = codes;
+        m_rows.last().codeTexts = texts;
+        return *this;
+    }
+    // What the record keeps for a page, beside what is sent and read.
+    Rows &kept(const QString &key, Kind kind) { return shown({}, key, "", {}, kind); }
 
-Setting choice(const QString &name, const QString &viewKey, const QString &key,
-               const QString &labelKey, const Item &item, const QStringList &codes,
-               const QStringList &texts) {
-    Setting setting = shown(name, viewKey, key, labelKey, item, Kind::Choice);
-    setting.codes = codes;
-    setting.codeTexts = texts;
-    return setting;
-}
+    // How an interface, "wired" or "wireless", gets its address, and the addresses in use. `keys`
+    // and `labels`: of address, mask and gateway. Only the address may not be 127.0.0.1.
+    Rows &addressSetup(const QString &interface, const QString &modeKey, const QStringList &keys,
+                       const QList<const char *> &labels, const Item &configured,
+                       const Item &inUse) {
+        const QString set = interface + u".address."_s, used = interface + u".inUse."_s;
+        choice(set + u"mode"_s, modeKey, "DWT_Localize_AddressAssignment", configured,
+               {u"automatic"_s, u"fixed"_s},
+               {u"DWT_Localize_Ethernet_ButtonCell_Auto"_s,
+                u"DWT_Localize_Ethernet_ButtonCell_Manual"_s});
+        const std::pair<QString, Rule> rows[] = {
+            {u"ip"_s, address("DWT_Localize_Alert_InfoText_IpAddress_InputErr", false)},
+            {u"mask"_s, address("DWT_Localize_Alert_InfoText_Subnetmask_InputErr", true)},
+            {u"gateway"_s, address("DWT_Localize_Alert_InfoText_Router_InputErr", true)}};
+        for (int i = 0; i < 3; ++i)
+            entered(set + rows[i].first, keys[i], labels[i], rows[i].second, configured);
+        return shown(used + u"ip"_s, DWT_SaveData_Connect_IPAddress,
+                     "DWT_Localize_Cli_Label_IPInUse", inUse, Kind::Address)
+            .shown(used + u"mask"_s, DWT_SaveData_Connect_Subnetmask,
+                   "DWT_Localize_Cli_Label_MaskInUse", inUse, Kind::Address)
+            .shown(used + u"gateway"_s, DWT_SaveData_Connect_Gateway,
+                   "DWT_Localize_Cli_Label_GatewayInUse", inUse, Kind::Address);
+    }
 
-// What the record keeps for a page, beside what is sent and read.
-Setting kept(const QString &viewKey, const QString &key, Kind kind) {
-    return {{}, viewKey, key, kind, Access::Enter, {}};
-}
+    operator QList<Setting>() const { return m_rows; }
 
-// The addresses of an interface, "wired" or "wireless". `keys`: of the configured mode, address,
-// mask and gateway; `rules`: of the last three.
-QList<Setting> addressSetup(const QString &interface, const QString &page, const QStringList &keys,
-                            const QList<Rule> &rules, const Item &configured, const Item &inUse) {
-    const QString address = interface + u".address."_s, used = interface + u".inUse."_s;
-    return {choice(address + u"mode"_s, page, keys[0], u"DWT_Localize_AddressAssignment"_s,
-                   configured, {u"automatic"_s, u"fixed"_s},
-                   {u"DWT_Localize_Ethernet_ButtonCell_Auto"_s,
-                    u"DWT_Localize_Ethernet_ButtonCell_Manual"_s}),
-            entered(address + u"ip"_s, page, keys[1], rules[0], configured),
-            entered(address + u"mask"_s, page, keys[2], rules[1], configured),
-            entered(address + u"gateway"_s, page, keys[3], rules[2], configured),
-            shown(used + u"ip"_s, page, DWT_SaveData_Connect_IPAddress,
-                  u"DWT_Localize_Cli_Label_IPInUse"_s, inUse, Kind::Address),
-            shown(used + u"mask"_s, page, DWT_SaveData_Connect_Subnetmask,
-                  u"DWT_Localize_Cli_Label_MaskInUse"_s, inUse, Kind::Address),
-            shown(used + u"gateway"_s, page, DWT_SaveData_Connect_Gateway,
-                  u"DWT_Localize_Cli_Label_GatewayInUse"_s, inUse, Kind::Address)};
-}
+  private:
+    const QString m_viewKey;
+    QList<Setting> m_rows;
+};
 
-const char *const addressRule = "DWT_Localize_Alert_InfoText_IpAddress_InputErr";
-const char *const maskRule = "DWT_Localize_Alert_InfoText_Subnetmask_InputErr";
-const char *const gatewayRule = "DWT_Localize_Alert_InfoText_Router_InputErr";
 const QStringList standards{u"b"_s, u"bg"_s, u"bgn"_s};
 const QStringList authentications{u"open"_s, u"shared"_s, u"wpa"_s, u"wpa2"_s};
 const QStringList encryptions{u"none"_s, u"wep"_s, u"tkip"_s, u"aes"_s};
 
 // --- Pages ---------------------------------------------------------------------------------------
-// Numbers of a row: code, layout, turn in a reading, turn in a send.
+// Numbers of an item: code, layout, turn in a reading, turn in a send.
 
 QList<Setting> listedPrinter() {
-    const auto row = [](const QString &name, const QString &key) {
-        return shown(u"printer."_s + name, {}, key, {}, {});
-    };
-    return {row(u"uri"_s, PrinterKey::DeviceURI),
-            row(u"model"_s, PrinterKey::ProductName),
-            row(u"connection"_s, PrinterKey::ConnectionType),
-            row(u"name"_s, PrinterKey::MachineName),
-            row(u"announced"_s, PrinterKey::BonjourServiceName),
-            row(u"serial"_s, PrinterKey::SerialNumber),
-            row(u"port"_s, PrinterKey::Port),
-            row(u"address"_s, PrinterKey::Address)};
+    Rows rows{QString()};
+    const std::pair<QString, QString> keys[] = {{u"uri"_s, PrinterKey::DeviceURI},
+                                                {u"model"_s, PrinterKey::ProductName},
+                                                {u"connection"_s, PrinterKey::ConnectionType},
+                                                {u"name"_s, PrinterKey::MachineName},
+                                                {u"announced"_s, PrinterKey::BonjourServiceName},
+                                                {u"serial"_s, PrinterKey::SerialNumber},
+                                                {u"port"_s, PrinterKey::Port},
+                                                {u"address"_s, PrinterKey::Address}};
+    for (const auto &[name, key] : keys) rows.shown(u"printer."_s + name, key, "", {});
+    return rows;
 }
 
 QList<Setting> devicePage() {
-    const QString &page = DWT_View_Key_Firmware;
-    const Rule timeOut{Rule::Kind::Number,
-                       "DWT_Localize_Firmware_Box_PrintTimeOut",
-                       nullptr,
-                       Rules::digits,
-                       Rules::shortestTimeOut,
-                       Rules::longestTimeOut};
-    return {shown(u"device.firmware"_s, page, DWT_SaveData_Firmware,
-                  u"DWT_Localize_Firmware_Text_Firmware_Label"_s, {0x1008, Layout::Version, 23}),
-            entered(u"device.timeout"_s, page, DWT_SaveData_Firmware_Timeout, timeOut,
-                    {0x1007, Layout::Integer, 24, 15})};
+    return Rows(DWT_View_Key_Firmware)
+        .shown(u"device.firmware"_s, DWT_SaveData_Firmware,
+               "DWT_Localize_Firmware_Text_Firmware_Label", {0x1008, Layout::Version, 23})
+        .entered(u"device.timeout"_s, DWT_SaveData_Firmware_Timeout,
+                 "DWT_Localize_Firmware_Box_PrintTimeOut",
+                 number(Rules::shortestTimeOut, Rules::longestTimeOut),
+                 {0x1007, Layout::Integer, 24, 15});
 }
 
 QList<Setting> namesPage() {
-    const QString &page = DWT_View_Key_Network;
-    return {entered(u"names.printer"_s, page, DWT_SaveData_Network_Printer,
-                    text("DWT_Localize_Alert_MessageText_Network_PrinterName",
-                         "DWT_Localize_Alert_InfoText_PrinterName_InputErr",
-                         Rules::hostNameCharacters, 1, Rules::longestPrinterName),
-                    {0x1006, Layout::Text, 1, 4}),
-            entered(u"names.bonjour"_s, page, DWT_SaveData_Network_Bonjour,
-                    text("DWT_Localize_Alert_MessageText_Network_BonjourName",
-                         "DWT_Localize_Alert_InfoText_BonjourName_InputErr",
-                         Rules::hostNameCharacters, 1, Rules::longestBonjourName),
-                    {0x1004, Layout::Text, 2, 2}),
-            entered(u"names.service"_s, page, DWT_SaveData_Network_BonjourService,
-                    text("DWT_Localize_Alert_MessageText_Network_BonjourServiceName",
-                         "DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr",
-                         Rules::printableCharacters, 1, Rules::longestServiceName),
-                    {0x1005, Layout::Text, 3, 3})};
+    return Rows(DWT_View_Key_Network)
+        .entered(u"names.printer"_s, DWT_SaveData_Network_Printer,
+                 "DWT_Localize_Alert_MessageText_Network_PrinterName",
+                 text("DWT_Localize_Alert_InfoText_PrinterName_InputErr", Rules::hostNameCharacters,
+                      1, Rules::longestPrinterName),
+                 {0x1006, Layout::Text, 1, 4})
+        .entered(u"names.bonjour"_s, DWT_SaveData_Network_Bonjour,
+                 "DWT_Localize_Alert_MessageText_Network_BonjourName",
+                 text("DWT_Localize_Alert_InfoText_BonjourName_InputErr", Rules::hostNameCharacters,
+                      1, Rules::longestBonjourName),
+                 {0x1004, Layout::Text, 2, 2})
+        .entered(u"names.service"_s, DWT_SaveData_Network_BonjourService,
+                 "DWT_Localize_Alert_MessageText_Network_BonjourServiceName",
+                 text("DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr",
+                      Rules::printableCharacters, 1, Rules::longestServiceName),
+                 {0x1005, Layout::Text, 3, 3});
 }
 
 QList<Setting> wiredPage() {
-    const QString &page = DWT_View_Key_Ethernet;
-    return QList<Setting>{shown(u"wired.mac"_s, page, DWT_SaveData_Ethernet_MACAddress,
-                                u"DWT_Localize_Ethernet_Text_WiredMACAddress_Label"_s,
-                                {0x2000, Layout::Mac, 22}, Kind::Mac)} +
-           addressSetup(
-               u"wired"_s, page,
-               {DWT_SaveData_Ethernet_IPAddressSetting, DWT_SaveData_Ethernet_IPAddress,
-                DWT_SaveData_Ethernet_Subnetmask, DWT_SaveData_Ethernet_Gateway},
-               {address("DWT_Localize_Alert_MessageText_Ethernet_IpAddress", addressRule, false),
-                address("DWT_Localize_Alert_MessageText_Ethernet_SubnetMask", maskRule, true),
-                address("DWT_Localize_Alert_MessageText_Ethernet_Gateway", gatewayRule, true)},
-               {0x2001, Layout::IntegerAndAddresses, 20, 5}, {0x2002, Layout::Addresses, 21});
+    return Rows(DWT_View_Key_Ethernet)
+        .shown(u"wired.mac"_s, DWT_SaveData_Ethernet_MACAddress,
+               "DWT_Localize_Ethernet_Text_WiredMACAddress_Label", {0x2000, Layout::Mac, 22},
+               Kind::Mac)
+        .addressSetup(u"wired"_s, DWT_SaveData_Ethernet_IPAddressSetting,
+                      {DWT_SaveData_Ethernet_IPAddress, DWT_SaveData_Ethernet_Subnetmask,
+                       DWT_SaveData_Ethernet_Gateway},
+                      {"DWT_Localize_Alert_MessageText_Ethernet_IpAddress",
+                       "DWT_Localize_Alert_MessageText_Ethernet_SubnetMask",
+                       "DWT_Localize_Alert_MessageText_Ethernet_Gateway"},
+                      {0x2001, Layout::IntegerAndAddresses, 20, 5},
+                      {0x2002, Layout::Addresses, 21});
 }
 
 QList<Setting> wirelessPage() {
-    const QString &page = DWT_View_Key_Wireless;
-    return {
-        choice(u"wireless.mode"_s, page, DWT_SaveData_Wireless_CommunicateMode,
-               u"DWT_Localize_Wireless_Text_CommunicateMode_Label"_s,
-               {0x3000, Layout::Integer, 4, 6}, {u"off"_s, u"infrastructure"_s, u"access-point"_s},
-               {u"DWT_Localize_Wireless_Text_WifiNothing_Label"_s,
-                u"DWT_Localize_Wireless_Text_Infrastructure_Label"_s,
-                u"DWT_Localize_Wireless_Text_SimpleAP_Label"_s}),
-        shown(u"wireless.mac"_s, page, DWT_SaveData_Wireless_InfrastructureMACAddress,
-              u"DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label"_s,
-              {0x3100, Layout::Mac, 5}, Kind::Mac),
-        shown(u"accessPoint.mac"_s, page, DWT_SaveData_Wireless_SampleAPMACAddress,
-              u"DWT_Localize_Wireless_Text_SimpleAPMACAddress_Label"_s, {0x3200, Layout::Mac, 6},
-              Kind::Mac)};
+    return Rows(DWT_View_Key_Wireless)
+        .choice(u"wireless.mode"_s, DWT_SaveData_Wireless_CommunicateMode,
+                "DWT_Localize_Wireless_Text_CommunicateMode_Label", {0x3000, Layout::Integer, 4, 6},
+                {u"off"_s, u"infrastructure"_s, u"access-point"_s},
+                {u"DWT_Localize_Wireless_Text_WifiNothing_Label"_s,
+                 u"DWT_Localize_Wireless_Text_Infrastructure_Label"_s,
+                 u"DWT_Localize_Wireless_Text_SimpleAP_Label"_s})
+        .shown(u"wireless.mac"_s, DWT_SaveData_Wireless_InfrastructureMACAddress,
+               "DWT_Localize_Wireless_Text_InfrastructureMACAddress_Label",
+               {0x3100, Layout::Mac, 5}, Kind::Mac)
+        .shown(u"accessPoint.mac"_s, DWT_SaveData_Wireless_SampleAPMACAddress,
+               "DWT_Localize_Wireless_Text_SimpleAPMACAddress_Label", {0x3200, Layout::Mac, 6},
+               Kind::Mac);
 }
 
 QList<Setting> infrastructurePage() {
-    const QString &page = DWT_View_Key_Infrastructure, list = u"InfrastructureItemData"_s;
-    Setting standard = choice(
-        u"wireless.standard"_s, page, DWT_SaveData_Infrastructure_WirelessMode,
-        u"DWT_Localize_Infrastructure_Text_WirelessMode_Label"_s, {0x3101, Layout::Integer, 9},
-        standards, itemTexts(list, u"DWT_Item_Key_Infrastructure_WirelessMode"_s));
-    standard.needsAddresses = true;
+    const QString list = u"InfrastructureItemData"_s;
     const Item wepKey{0x3106, Layout::IntegerAndText, 0, 11};
-    Setting number =
-        shown(u"wireless.wepKeyNumber"_s, page, DWT_SaveData_Infrastructure_WEPKeyIndex,
-              u"DWT_Localize_Infrastructure_Text_SelectWEPKey_Label"_s, wepKey, Kind::Number);
-    number.access = Access::Enter;
-    number.min = firstWEPKey;
-    number.max = lastWEPKey;
-    return QList<Setting>{standard} +
-           addressSetup(
-               u"wireless"_s, page,
-               {DWT_SaveData_Infrastructure_IPAddressSetting, DWT_SaveData_Infrastructure_IPAddress,
-                DWT_SaveData_Infrastructure_Subnetmask, DWT_SaveData_Infrastructure_Gateway},
-               {address("DWT_Localize_Alert_MessageText_Infrastructure_IpAddress", addressRule,
-                        false),
-                address("DWT_Localize_Alert_MessageText_Infrastructure_SubnetMask", maskRule, true),
-                address("DWT_Localize_Alert_MessageText_Infrastructure_Gateway", gatewayRule,
-                        true)},
-               {0x3108, Layout::IntegerAndAddresses, 7, 12}, {0x3119, Layout::Addresses, 8}) +
-           QList<Setting>{
-               entered(u"wireless.ssid"_s, page, DWT_SaveData_Infrastructure_SSID,
-                       text("DWT_Localize_Alert_MessageText_Infrastructure_SSID",
-                            "DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr",
-                            Rules::printableCharacters, 1, Rules::longestSSID),
-                       {0x3104, Layout::CountedText, 12, 9}),
-               kept(page, DWT_SaveData_Infrastructure_SSIDList_SSID, Kind::Text),
-               choice(u"wireless.authentication"_s, page, DWT_SaveData_Infrastructure_Authentic,
-                      u"DWT_Localize_Infrastructure_Text_Authentic_Label"_s,
-                      {0x3102, Layout::Integer, 10, 7}, authentications,
-                      itemTexts(list, u"DWT_Item_Key_Infrastructure_Authentic"_s)),
-               choice(u"wireless.encryption"_s, page, DWT_SaveData_Infrastructure_Encryption,
-                      u"DWT_Localize_Infrastructure_Text_Encryption_Label"_s,
-                      {0x3103, Layout::Integer, 11, 8}, encryptions,
-                      itemTexts(list, u"DWT_Item_Key_Infrastructure_Encryption"_s)),
-               entered(u"wireless.key"_s, page, DWT_SaveData_Infrastructure_PSK,
-                       psk("DWT_Localize_Alert_MessageText_Infrastructure_PSK"),
-                       {0x3105, Layout::CountedText, 0, 10}),
-               number,
-               entered(
-                   u"wireless.wepKey"_s, page, DWT_SaveData_Infrastructure_WEPKey,
-                   secret(
-                       {Rule::Kind::WEPKey, "DWT_Localize_Alert_MessageText_Infrastructure_WEPKey",
-                        "DWT_Localize_Alert_InfoText_WEPKey_InputErr", Rules::printableCharacters}),
-                   wepKey)};
+    return Rows(DWT_View_Key_Infrastructure)
+        .addressSetup(u"wireless"_s, DWT_SaveData_Infrastructure_IPAddressSetting,
+                      {DWT_SaveData_Infrastructure_IPAddress,
+                       DWT_SaveData_Infrastructure_Subnetmask, DWT_SaveData_Infrastructure_Gateway},
+                      {"DWT_Localize_Alert_MessageText_Infrastructure_IpAddress",
+                       "DWT_Localize_Alert_MessageText_Infrastructure_SubnetMask",
+                       "DWT_Localize_Alert_MessageText_Infrastructure_Gateway"},
+                      {0x3108, Layout::IntegerAndAddresses, 7, 12}, {0x3119, Layout::Addresses, 8})
+        .choice(u"wireless.standard"_s, DWT_SaveData_Infrastructure_WirelessMode,
+                "DWT_Localize_Infrastructure_Text_WirelessMode_Label", {0x3101, Layout::Integer, 9},
+                standards, itemTexts(list, u"DWT_Item_Key_Infrastructure_WirelessMode"_s))
+        .entered(u"wireless.ssid"_s, DWT_SaveData_Infrastructure_SSID,
+                 "DWT_Localize_Alert_MessageText_Infrastructure_SSID",
+                 text("DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr",
+                      Rules::printableCharacters, 1, Rules::longestSSID),
+                 {0x3104, Layout::CountedText, 12, 9})
+        .kept(DWT_SaveData_Infrastructure_SSIDList_SSID, Kind::Text)
+        .choice(u"wireless.authentication"_s, DWT_SaveData_Infrastructure_Authentic,
+                "DWT_Localize_Infrastructure_Text_Authentic_Label",
+                {0x3102, Layout::Integer, 10, 7}, authentications,
+                itemTexts(list, u"DWT_Item_Key_Infrastructure_Authentic"_s))
+        .choice(u"wireless.encryption"_s, DWT_SaveData_Infrastructure_Encryption,
+                "DWT_Localize_Infrastructure_Text_Encryption_Label",
+                {0x3103, Layout::Integer, 11, 8}, encryptions,
+                itemTexts(list, u"DWT_Item_Key_Infrastructure_Encryption"_s))
+        .entered(u"wireless.key"_s, DWT_SaveData_Infrastructure_PSK,
+                 "DWT_Localize_Alert_MessageText_Infrastructure_PSK", psk(),
+                 {0x3105, Layout::CountedText, 0, 10})
+        .entered(u"wireless.wepKeyNumber"_s, DWT_SaveData_Infrastructure_WEPKeyIndex,
+                 "DWT_Localize_Infrastructure_Text_SelectWEPKey_Label",
+                 number(firstWEPKey, lastWEPKey), wepKey)
+        .entered(u"wireless.wepKey"_s, DWT_SaveData_Infrastructure_WEPKey,
+                 "DWT_Localize_Alert_MessageText_Infrastructure_WEPKey",
+                 secret({Rule::Kind::WEPKey, "DWT_Localize_Alert_InfoText_WEPKey_InputErr",
+                         Rules::printableCharacters}),
+                 wepKey);
 }
 
 QList<Setting> accessPointPage() {
-    const QString &page = DWT_View_Key_SimpleAP, list = u"SimpleAPItemData"_s;
+    const QString list = u"SimpleAPItemData"_s;
     const Item addresses{0x3204, Layout::Addresses, 13};
-    return {
-        choice(u"accessPoint.standard"_s, page, DWT_SaveData_SimpleAP_WirelessMode,
-               u"DWT_Localize_SimpleAP_Text_WirelessLANMode_Label"_s, {0x3210, Layout::Integer, 15},
-               standards, itemTexts(list, u"DWT_Item_Key_SimpleAP_WirelessMode"_s)),
-        shown(u"accessPoint.address.first"_s, page, DWT_SaveData_SimpleAP_StartIPAddress,
-              u"DWT_Localize_SimpleAP_Text_StartIpAddress_Label"_s, {0x3205, Layout::Addresses, 14},
-              Kind::Address),
-        shown(u"accessPoint.address.ip"_s, page, DWT_SaveData_SimpleAP_IPAddress,
-              u"DWT_Localize_SimpleAP_Text_IpAddress_Label"_s, addresses, Kind::Address),
-        shown(u"accessPoint.address.mask"_s, page, DWT_SaveData_SimpleAP_Subnetmask,
-              u"DWT_Localize_SimpleAP_Text_SubnetMask_Label"_s, addresses, Kind::Address),
-        choice(u"accessPoint.authentication"_s, page, DWT_SaveData_SimpleAP_Authentic,
-               u"DWT_Localize_SimpleAP_Text_Authentic_Label"_s, {0x3211, Layout::Integer, 16},
-               authentications, itemTexts(list, u"DWT_Item_Key_SimpleAP_Authentic"_s)),
-        choice(u"accessPoint.encryption"_s, page, DWT_SaveData_SimpleAP_Encryption,
-               u"DWT_Localize_SimpleAP_Text_Encryption_Label"_s, {0x3212, Layout::Integer, 17},
-               encryptions, itemTexts(list, u"DWT_Item_Key_SimpleAP_Encryption"_s)),
-        entered(u"accessPoint.ssid"_s, page, DWT_SaveData_SimpleAP_SSID,
-                text("DWT_Localize_Alert_MessageText_SimpleAP_SSID",
-                     "DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr",
-                     Rules::printableCharacters, 1, Rules::longestAccessPointSSID),
-                {0x3201, Layout::CountedText, 18, 13}),
-        entered(u"accessPoint.key"_s, page, DWT_SaveData_SimpleAP_PSK,
-                psk("DWT_Localize_Alert_MessageText_SimpleAP_PSK"),
-                {0x3202, Layout::CountedText, 19, 14})};
+    return Rows(DWT_View_Key_SimpleAP)
+        .choice(u"accessPoint.standard"_s, DWT_SaveData_SimpleAP_WirelessMode,
+                "DWT_Localize_SimpleAP_Text_WirelessLANMode_Label", {0x3210, Layout::Integer, 15},
+                standards, itemTexts(list, u"DWT_Item_Key_SimpleAP_WirelessMode"_s))
+        .shown(u"accessPoint.address.first"_s, DWT_SaveData_SimpleAP_StartIPAddress,
+               "DWT_Localize_SimpleAP_Text_StartIpAddress_Label", {0x3205, Layout::Addresses, 14},
+               Kind::Address)
+        .shown(u"accessPoint.address.ip"_s, DWT_SaveData_SimpleAP_IPAddress,
+               "DWT_Localize_SimpleAP_Text_IpAddress_Label", addresses, Kind::Address)
+        .shown(u"accessPoint.address.mask"_s, DWT_SaveData_SimpleAP_Subnetmask,
+               "DWT_Localize_SimpleAP_Text_SubnetMask_Label", addresses, Kind::Address)
+        .choice(u"accessPoint.authentication"_s, DWT_SaveData_SimpleAP_Authentic,
+                "DWT_Localize_SimpleAP_Text_Authentic_Label", {0x3211, Layout::Integer, 16},
+                authentications, itemTexts(list, u"DWT_Item_Key_SimpleAP_Authentic"_s))
+        .choice(u"accessPoint.encryption"_s, DWT_SaveData_SimpleAP_Encryption,
+                "DWT_Localize_SimpleAP_Text_Encryption_Label", {0x3212, Layout::Integer, 17},
+                encryptions, itemTexts(list, u"DWT_Item_Key_SimpleAP_Encryption"_s))
+        .entered(u"accessPoint.ssid"_s, DWT_SaveData_SimpleAP_SSID,
+                 "DWT_Localize_Alert_MessageText_SimpleAP_SSID",
+                 text("DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr",
+                      Rules::printableCharacters, 1, Rules::longestAccessPointSSID),
+                 {0x3201, Layout::CountedText, 18, 13})
+        .entered(u"accessPoint.key"_s, DWT_SaveData_SimpleAP_PSK,
+                 "DWT_Localize_Alert_MessageText_SimpleAP_PSK", psk(),
+                 {0x3202, Layout::CountedText, 19, 14});
 }
 
 QList<Setting> passwordPage() {
-    const QString &page = DWT_View_Key_Password;
-    return {kept(page, DWT_SaveData_Password_Change, Kind::Number),
-            entered(u"password.administrator"_s, page, DWT_SaveData_Password_Password,
-                    secret(text("DWT_Localize_Alert_MessageText_Password_Password",
-                                "DWT_Localize_Alert_InfoText_Password_InputErr",
-                                Rules::passwordCharacters, 0, Rules::longestPassword)),
-                    {0x1003, Layout::Text, 0, 1})};
+    return Rows(DWT_View_Key_Password)
+        .kept(DWT_SaveData_Password_Change, Kind::Number)
+        .entered(u"password.administrator"_s, DWT_SaveData_Password_Password,
+                 "DWT_Localize_Alert_MessageText_Password_Password",
+                 secret(text("DWT_Localize_Alert_InfoText_Password_InputErr",
+                             Rules::passwordCharacters, 0, Rules::longestPassword)),
+                 {0x1003, Layout::Text, 0, 1});
 }
 
 template <typename Predicate>
@@ -288,6 +279,16 @@ const Setting *find(const Predicate &predicate) {
 }
 
 }  // namespace
+
+Setting::Access Setting::access() const {
+    if (viewKey.isEmpty()) return Access::Read;
+    if (isSecret() || !isReported()) return Access::Enter;
+    return isSent() ? Access::Change : Access::Read;
+}
+
+QString Setting::label() const {
+    return nameInLabel(localized(labelKey));
+}
 
 const QList<Setting> &settings() {
     static const QList<Setting> all = listedPrinter() + devicePage() + namesPage() + wiredPage() +
@@ -305,7 +306,7 @@ const Setting *settingOf(const QString &viewKey, const QString &key) {
 }
 
 bool isGroup(const QString &name) {
-    return find([&](const Setting &setting) { return setting.name.startsWith(name + u'.'); });
+    return find([&](const Setting &row) { return row.name.startsWith(name + u'.'); });
 }
 
 const QList<SettingPage> &settingPages() {
@@ -320,29 +321,36 @@ const QList<SettingPage> &settingPages() {
     return pages;
 }
 
+QString titleOfPage(const QString &viewKey) {
+    for (const SettingPage &page : settingPages())
+        if (page.viewKey == viewKey) return localized(page.titleKey);
+    return {};
+}
+
+const QList<AddressSetup> &addressSetups() {
+    const auto setup = [](const QString &group) {
+        const auto row = [&](const QString &part) { return settingOf(group + part); };
+        return AddressSetup{row(u"mode"_s), row(u"ip"_s), row(u"mask"_s), row(u"gateway"_s)};
+    };
+    static const QList<AddressSetup> all{setup(u"wired.address."_s), setup(u"wireless.address."_s)};
+    return all;
+}
+
 CategoryDictionary categoryOf(const QString &viewKey, const CategoryDictionary &values) {
     CategoryDictionary category;
-    QStringList needAddresses;
     for (const Setting &setting : settings()) {
         if (setting.viewKey != viewKey) continue;
-        const bool isMissing = setting.item.readTurn > 0 && !values.contains(setting.key);
-        if (isMissing) {
-            for (const QString &key : std::as_const(needAddresses)) category.remove(key);
-            break;
-        }
+        if (setting.isReported() && !values.contains(setting.key)) break;
+        const int lowest = setting.rule ? setting.rule->min : 0;
         const SettingValue beginning =
-            setting.kind == Kind::Number ? SettingValue(setting.min) : SettingValue(QString());
+            setting.kind == Setting::Kind::Number ? SettingValue(lowest) : SettingValue(QString());
         category.insert(setting.key, values.value(setting.key, beginning));
-        if (setting.needsAddresses) needAddresses << setting.key;
     }
     return category;
 }
 
-namespace Rules {
-
-const Rule *ruleOf(const QString &key) {
-    const Setting *const setting = find([&](const Setting &row) { return row.key == key; });
-    return setting && setting->rule ? &*setting->rule : nullptr;
+QString networkKeyOf(int encryption) {
+    if (encryption == Encryption::WEP) return DWT_SaveData_Infrastructure_WEPKey;
+    const bool isPSK = encryption == Encryption::TKIP || encryption == Encryption::AES;
+    return isPSK ? DWT_SaveData_Infrastructure_PSK : QString();
 }
-
-}  // namespace Rules

@@ -27,20 +27,22 @@ struct Setting {
     // asking it ("printer.uri") has no category, and a key of its entry in the list.
     QString viewKey, key;
     Kind kind;
-    Access access;
     QString labelKey;  // localisation key of what people call it
     // The item that carries the value; its code is 0 when none does. Without category and keys.
     Item item = {};
+    // The rule that a value must keep; every text, number and address that can be entered has one.
+    std::optional<Rules::Rule> rule = {};
     // Of a choice: the names of its codes, and the localisation keys of their texts, by code.
     QStringList codes = {}, codeTexts = {};
-    // Of a number: its bounds.
-    int min = 0, max = 0;
-    // The rule that a text or an address must keep.
-    std::optional<Rules::Rule> rule = {};
-    // Without the addresses of its category the record does not hold it, wherever its row stands.
-    bool needsAddresses = false;
 
+    Access access() const;
     bool isSecret() const { return rule && rule->secret; }
+    // Whether a send writes the value.
+    bool isSent() const { return item.sendTurn > 0; }
+    // Whether a reading asks for the value.
+    bool isReported() const { return item.readTurn > 0; }
+    // What people call it, in the words of the pages.
+    QString label() const;
 };
 
 // All of them, in the order of the pages of the windows.
@@ -58,7 +60,21 @@ struct SettingPage {
     QString viewKey, titleKey;  // localisation key of the title
 };
 const QList<SettingPage> &settingPages();
+// The title of the page of a category, in words.
+QString titleOfPage(const QString &viewKey);
+
+// The addresses of an interface that can be set: the mode (AddressSetting), the address, the mask
+// and the gateway of one category.
+struct AddressSetup {
+    const Setting *mode, *address, *mask, *gateway;
+};
+// Those of the wired and of the wireless interface.
+const QList<AddressSetup> &addressSetups();
 
 // A category made of the values that were read. It ends before the first value that is missing,
 // unless nobody reads that: then it has its value of the beginning.
 CategoryDictionary categoryOf(const QString &viewKey, const CategoryDictionary &values);
+
+// The record's key of the network key that an encryption (settings/Codes.h) uses; empty for one
+// that uses none.
+QString networkKeyOf(int encryption);

@@ -9,6 +9,7 @@
 #include "cli/Programs.h"
 
 using namespace Qt::StringLiterals;
+using enum ExitCode;
 
 namespace {
 
@@ -255,10 +256,10 @@ struct Conversation {
         ::waitpid(child, &status, 0);
         ::close(terminal);
         qunsetenv("ZMLIB_PRINTERS");
-        code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        code = WIFEXITED(status) ? ExitCode(WEXITSTATUS(status)) : ExitCode(-1);
     }
 
-    int code = -1;
+    ExitCode code;
     QByteArray said;
 
   private:

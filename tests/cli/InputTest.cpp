@@ -4,7 +4,7 @@
 
 #include <QTemporaryDir>
 
-#include "cli/Plan.h"
+#include "cli/SettingsFile.h"
 #include "cli/Table.h"
 #include "platform/core/Texts.h"
 #include "settings/SettingKeys.h"
@@ -21,13 +21,14 @@ class Input : public testing::Test {
 
 // Values and faults as lines of text: "wired.address.ip=10.0.0.1", "3 names.printer!" for a broken
 // rule, "3 names.printer" for any other fault.
-std::string asText(const QList<GivenValue> &values, const QList<Fault> &faults) {
+std::string asText(const QList<WantedValue> &values, const QList<Fault> &faults) {
     QStringList lines;
-    for (const GivenValue &value : values)
-        lines << (value.place.text.isEmpty()
+    for (const WantedValue &value : values)
+        lines << (value.brokenRule.isEmpty()
                       ? value.setting->name + u'=' + std::visit(ValueText(), value.value)
                       : u"%1 %2!"_s.arg(value.place.line).arg(value.place.name));
-    for (const Fault &fault : faults) lines << u"%1 %2"_s.arg(fault.line).arg(fault.name).trimmed();
+    for (const Fault &fault : faults)
+        lines << u"%1 %2"_s.arg(fault.place.line).arg(fault.place.name).trimmed();
     return lines.join(u" | "_s).toStdString();
 }
 
@@ -44,7 +45,7 @@ std::string ofCsv(const QByteArray &csv) {
         rows << u"%1 %2: "_s.arg(row.line).arg(row.printer()) +
                     QString::fromStdString(asText(row.values, {}));
     for (const Fault &fault : table.faults)
-        rows << u"%1 %2"_s.arg(fault.line).arg(fault.name).trimmed();
+        rows << u"%1 %2"_s.arg(fault.place.line).arg(fault.place.name).trimmed();
     return rows.join(u" / "_s).toStdString();
 }
 
@@ -188,7 +189,7 @@ TEST_F(Input, AgainstWhatAPrinterHolds) {
         QStringList words;
         for (const Plan::Change &change : plan.changes) words << change.setting->name;
         words << u"|"_s;
-        for (const Fault &fault : plan.faults) words << fault.name;
+        for (const Fault &fault : plan.faults) words << fault.place.name;
         EXPECT_EQ(words.join(u' ').toStdString(), row.changes) << row.json;
     }
 }

@@ -12,6 +12,7 @@
 #include <memory>
 #include <vector>
 
+#include "cli/ExitCode.h"
 #include "link/Binding.h"
 #include "settings/DWTDataManager.h"
 #include "support/Profiles.h"
@@ -116,7 +117,7 @@ class Printers {
 
 // A run of the program on such printers.
 struct Ended {
-    int code = -1;
+    ExitCode code;
     QByteArray out, err;
 };
 
@@ -134,7 +135,8 @@ inline void prepare(QProcess &process, const Printers &printers, const QByteArra
 inline Ended finish(QProcess &process) {
     EXPECT_TRUE(process.waitForFinished(60000)) << "still running";
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+    return {ExitCode(process.exitCode()), process.readAllStandardOutput(),
+            process.readAllStandardError()};
 }
 
 inline Ended run(const Printers &printers, const QStringList &arguments,

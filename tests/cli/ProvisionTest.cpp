@@ -12,6 +12,7 @@
 #include "support/OnePrinterLibrary.h"
 
 using namespace Qt::StringLiterals;
+using enum ExitCode;
 
 namespace {
 

@@ -192,18 +192,26 @@ TEST_F(Sending, APrinterUnpluggedBeforeTheSendLosesNothing) {
     EXPECT_EQ(held(), QByteArray("new-name"));
 }
 
-TEST_F(Sending, TheEndNamesWhatThePrinterDidNotTake) {
+TEST_F(Sending, TheEndSaysWhatBecameOfTheSettings) {
     const struct {
         const char *faults;
         const char *said;
         bool lost = false;
     } cases[] = {
         {R"({"items": {"0x1004": {"result": 5}, "0x2001": {"result": 7}}})",
-         "your entries are kept:\nNames: Bonjour name\nWired network: IP address"},
-        {R"({"items": {"0x3000": {"noReply": true}, "0x1004": {"code": "0x7777"}}})",
-         "choose “Read again”:\nNames: Bonjour name\nWireless network: Communication mode"},
-        {R"({"items": {"0x1001": {"result": 2}}})", "refused the password, and nothing was sent"},
-        {R"({"items": {"0x1001": {"noReply": true}}})", "did not answer when logging in"},
+         "did not accept these settings: \nNames: Bonjour name\nWired network: IP address\n\n"
+         "Your changes are kept."},
+        // Read back, neither is reported.
+        {R"({"items": {"0x3000": {"code": "0x7777"}, "0x1004": {"code": "0x7777"}}})",
+         "took these settings: \nNames: Bonjour name\nWireless network: Communication mode\n\n"
+         "Your changes are kept."},
+        // What is read back has no text.
+        {R"({"items": {"0x1004": {"length": 6}}})",
+         "Names: Bonjour name was sent as new-name, and read back as (empty)."},
+        {R"({"items": {"0x1004": {"noReply": true}}})", "it could not be read again"},
+        {R"({"items": {"0x1001": {"result": 4}}})",
+         "did not accept the password. Nothing was sent"},
+        {R"({"items": {"0x1001": {"noReply": true}}})", "cannot be reached"},
         {R"({"closeAfterFrames": 2})", "was lost. Nothing was applied", true},
         {R"({"items": {"0x1007": {"closeAfterReply": true}}})", "was lost. Nothing was applied",
          true}};
@@ -214,9 +222,9 @@ TEST_F(Sending, TheEndNamesWhatThePrinterDidNotTake) {
         warned()
             .login("open123")
             .on("view_SendConfirm", faults(c.faults), "button_SendConfirmTransmission")
-            .on(c.lost ? "view_SendConnectError" : "view_SendEnd",
-                says(c.lost ? "textField_SendConnectError" : "textField_SendEnd", c.said),
-                c.lost ? "button_SendConnectErrorOK" : "button_SendEndOK");
+            .said(c.lost ? "view_SendConnectError" : "view_SendEnd",
+                  c.lost ? "textField_SendConnectError" : "textField_SendEnd", c.said,
+                  c.lost ? "button_SendConnectErrorOK" : "button_SendEndOK");
         send();
         expectUnsent();
         if (c.lost) {
@@ -226,8 +234,8 @@ TEST_F(Sending, TheEndNamesWhatThePrinterDidNotTake) {
         warned()
             .login("open123")
             .on("view_SendConfirm", "button_SendConfirmTransmission")
-            .on("view_SendEnd", says("textField_SendEnd", "The settings have been sent"),
-                "button_SendEndOK");
+            .said("view_SendEnd", "textField_SendEnd", "and has the new settings",
+                  "button_SendEndOK");
         send();
         EXPECT_EQ(held(), QByteArray("new-name"));
         EXPECT_FALSE(isEnabled("button_MainSend"));

@@ -154,7 +154,7 @@ TEST_F(InfrastructurePage, NameAndKeysAreStoredWhenEditingEnds) {
     EXPECT_EQ(changedText(DWT_SaveData_Infrastructure_PSK), psk()->text());
     choose(authentic(), "Shared key");
     EXPECT_EQ(changeList(),
-              text("Network name (SSID): Café > |Authentication: WPA2-Personal > Shared key|"
+              text("Network name (SSID): Café > (empty)|Authentication: WPA2-Personal > Shared key|"
                    "Encryption: AES > WEP|WPA key:  > new"));
     type(wepKey(), text("abcde"));
     QTest::keyClick(wepKey(), Qt::Key_Return);

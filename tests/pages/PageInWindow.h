@@ -7,7 +7,9 @@
 #include <QTimer>
 
 #include "pages/DWTBaseView.h"
+#include "platform/core/NotificationCenter.h"
 #include "platform/core/Texts.h"
+#include "settings/Plan.h"
 #include "support/DataManagers.h"
 #include "support/DialogScript.h"
 
@@ -75,8 +77,10 @@ class PageInWindow {
     QString changedAddress(const QString &key) { return addressValue(changed(), key).join(u'.'); }
     QString changeList() {
         QStringList list;
-        for (const auto &change : view->changes())
-            list << QStringLiteral("%1: %2 > %3").arg(change.label, change.oldText, change.newText);
+        const SettingRecord shown{{view->viewKey(), view->shownCategory()}};
+        for (const Plan::Change &change : planOf(m.manager->savedData(), shown).changes)
+            list << QStringLiteral("%1: %2 > %3")
+                        .arg(change.setting->label(), change.oldText, change.newText);
         return list.join(u'|');
     }
     // The page forgets its printer and shows nothing but defaults.

@@ -5,7 +5,8 @@
 
 namespace {
 
-using Login = SendReport::Login;
+using Login = Ending::Login;
+using State = Ending::State;
 using namespace Qt::StringLiterals;
 
 // Short, so that hundreds of silent replies take seconds.
@@ -90,24 +91,26 @@ TEST_F(Faults, OfOneReplyInASendNeverMakeTheSavedDataLie) {
             SCOPED_TRACE((step + ' ' + fault.description).constData());
             changeAll(++round, code == 0x3106 ? 1 : 3);
             sendWith(step, &fault);
-            const SendReport report = manager->sendReport();
+            const Ending ending = manager->ending();
             const Effect effect = fault.effect;
             const bool lost = effect == Effect::Closed || effect == Effect::ClosedAfter;
             const bool unclear = effect == Effect::Silent || effect == Effect::Foreign;
             EXPECT_EQ(stopped, lost);
-            EXPECT_EQ(report.lost, lost);
-            EXPECT_EQ(report.isComplete(), effect == Effect::None);
+            EXPECT_EQ(ending.course == Ending::Course::Lost, lost);
+            EXPECT_EQ(ending.isComplete(), effect == Effect::None);
             const bool login = code == 0x1001;
-            EXPECT_EQ(report.login == Login::NoReply,
+            EXPECT_EQ(ending.login == Login::NoReply,
                       login && (unclear || effect == Effect::Closed));
-            EXPECT_EQ(report.login == Login::Refused, login && effect == Effect::Refused);
-            EXPECT_EQ(report.unclear, unclear && !login ? QList{code} : QList<ItemCode>());
-            EXPECT_EQ(report.refused.size(), effect == Effect::Refused && !login);
-            for (const ItemCode lie : lies()) EXPECT_TRUE(report.unclear.contains(lie)) << lie;
+            EXPECT_EQ(ending.login == Login::Refused, login && effect == Effect::Refused);
+            EXPECT_EQ(itemsIn(ending, State::Unclear),
+                      unclear && !login ? QList{code} : QList<ItemCode>());
+            EXPECT_EQ(itemsIn(ending, State::Refused).size(), effect == Effect::Refused && !login);
+            for (const ItemCode lie : lies())
+                EXPECT_TRUE(itemsIn(ending, State::Unclear).contains(lie)) << lie;
             // The next try works, and says so.
             sendWith({}, nullptr);
             EXPECT_EQ(stopped, 0);
-            EXPECT_TRUE(manager->sendReport().isComplete());
+            EXPECT_TRUE(manager->ending().isComplete());
             EXPECT_EQ(lies(), QList<ItemCode>());
         }
     }
@@ -134,7 +137,10 @@ TEST_F(Faults, OfOneReplyInAReadingWriteNothingThatWasNotTold) {
                 effect == Effect::ClosedAfter ? code == 0x1007 : told || effect == Effect::Foreign;
             EXPECT_EQ(result, answered ? 0 : 6);
             if (itemOf(code)->sendTurn > 0) {
-                EXPECT_EQ(manager->notTold().contains(code), !told);
+                bool isMissing = false;
+                for (const Setting *const setting : manager->notReported())
+                    isMissing |= setting->item.code == code;
+                EXPECT_EQ(isMissing, !told);
             }
             change(DWT_View_Key_Wireless,
                    {{DWT_SaveData_Wireless_CommunicateMode, ++round % 2 + 1}});

@@ -3,6 +3,7 @@
 #include "link/Binding.h"
 #include "platform/core/PropertyList.h"
 #include "settings/DWTDataManager.h"
+#include "settings/Printers.h"
 #include "support/Arguments.h"
 #include "support/Catalogues.h"
 #include "support/RecordingLibrary.h"
@@ -17,9 +18,9 @@ PrinterEntry entry(const char *uri, const QString &connection, const char *model
             {PrinterKey::ProductName, u"Larkfield "_s + QLatin1String(model)}};
 }
 
-class Printers : public testing::Test {
+class ListedPrinters : public testing::Test {
   protected:
-    ~Printers() override { installLibrary(nullptr); }
+    ~ListedPrinters() override { installLibrary(nullptr); }
 
     // URI and name of each listed printer.
     QString list() {
@@ -41,7 +42,7 @@ class Printers : public testing::Test {
     const std::shared_ptr<DWTDataManager> manager = make<DWTDataManager>();
 };
 
-TEST_F(Printers, ListsSupportedModelsAndAsksOnlyUsbPrintersForTheirName) {
+TEST_F(ListedPrinters, ListsSupportedModelsAndAsksOnlyUsbPrintersForTheirName) {
     const QString &usb = PrinterConnection::USB, &network = PrinterConnection::Network;
     const struct {
         const char *uri;
@@ -79,7 +80,7 @@ TEST_F(Printers, ListsSupportedModelsAndAsksOnlyUsbPrintersForTheirName) {
     EXPECT_EQ(list(), u"usb=Desk last=Last"_s) << "installer mode lists USB printers only";
 }
 
-TEST_F(Printers, AnAdministratorAddsAModelAndIsToldOfAFileThatCannotBeUsed) {
+TEST_F(ListedPrinters, AnAdministratorAddsAModelAndIsToldOfAFileThatCannotBeUsed) {
     Catalogue catalogue;
     for (const char *model : {"L200", "New"})
         catalogue.entries << entry(model, PrinterConnection::Network, model);
@@ -102,12 +103,12 @@ TEST_F(Printers, AnAdministratorAddsAModelAndIsToldOfAFileThatCannotBeUsed) {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(c.contents) == c.contents.size());
         file.close();
         EXPECT_EQ(manager->printerList()->size(), c.listed) << c.contents.left(30).constData();
-        const auto problems = manager->printerProblems();
+        const auto problems = Printers::problems();
         EXPECT_EQ(problems.value(0).subject, c.problem ? path : QString());
     }
 }
 
-TEST_F(Printers, AnAddressOfFourPartsIsChecked) {
+TEST_F(ListedPrinters, AnAddressOfFourPartsIsChecked) {
     const auto printer = recorded(0, {});
     EXPECT_EQ(manager->printerList(), QList<PrinterEntry>()) << "no list is an empty one";
     printer->qkStatusLength(32);
@@ -118,7 +119,7 @@ TEST_F(Printers, AnAddressOfFourPartsIsChecked) {
     EXPECT_EQ(manager->isCheckConnectToPrinter({{}, {}, {}, {}}), -1) << "without a link";
 }
 
-TEST_F(Printers, ThePasswordStateFollowsTheAnswer) {
+TEST_F(ListedPrinters, ThePasswordStateFollowsTheAnswer) {
     const struct {
         const char *reply;
         int result;
@@ -126,7 +127,7 @@ TEST_F(Printers, ThePasswordStateFollowsTheAnswer) {
     } cases[] = {{"43463b08003b00103b0000", 0, 3},
                  {"43463b08003b00103b0100", 0, 2},
                  {"43463b08003b00103b0200", 0, 1},
-                 {"43463b08003b01103b0100", 0, 3},
+                 {"43463b08003b01103b0100", 0, 1},
                  {"43463b08003b00103b0100", 9, 1}};
     for (const auto &c : cases) {
         EXPECT_EQ(recorded(c.result, hex(c.reply))->isPassword(), c.state) << c.reply << c.result;

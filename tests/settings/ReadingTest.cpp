@@ -81,7 +81,7 @@ TEST_P(Reading, AMissingReplyEndsTheTrafficAndGivesSix) {
     EXPECT_EQ(read(DWT_View_Key_SimpleAP), "SimpleAP_WirelessMode=0");
     EXPECT_EQ(read(DWT_View_Key_Ethernet), "Ethernet_MACAddress=' '");
     EXPECT_EQ(read(DWT_View_Key_Firmware), "Firmware=' ' Firmware_Timeout=0");
-    EXPECT_EQ(m.manager->isPassword(), 3) << "asks nothing while the read has failed";
+    EXPECT_EQ(m.manager->isPassword(), 3) << "not asked once the read has failed";
 }
 
 TEST_P(Reading, AForeignReplyLeavesOneDefaultAndEndsItsCategory) {

@@ -115,7 +115,8 @@ TEST_P(Send, WhatTheEncoderRefusesKeepsItsSavedValueAndIsReported) {
     EXPECT_EQ(send(), u"start =1005 =1006 =2001 =3000 =3102 =3103 =3108 =3202 =1007 update end"_s);
     EXPECT_EQ(steps, everyStep);
     EXPECT_EQ(saved(DWT_View_Key_Network), before);
-    EXPECT_EQ(m->manager->sendReport().refused, (QList<ItemCode>{0x1004, 0x3201}));
+    EXPECT_EQ(namesOf(m->manager->ending().in(Ending::State::Refused), Naming::Stable),
+              (QStringList{u"names.bonjour"_s, u"accessPoint.ssid"_s}));
 }
 
 TEST_P(Send, LogsInOnceWithTheRememberedPasswordAndARefusedLoginWritesNothing) {

@@ -68,6 +68,14 @@ class ServedManager {
     std::shared_ptr<DWTDataManager> manager;
 };
 
+// The items of an ending whose settings are in a state.
+inline QList<ItemCode> itemsIn(const Ending &ending, Ending::State state) {
+    QList<ItemCode> codes;
+    for (const Setting *const setting : ending.in(state))
+        if (!codes.contains(setting->item.code)) codes << setting->item.code;
+    return codes;
+}
+
 // A value as text: texts in quotes, addresses dotted, bytes as hexadecimal digits in brackets.
 struct ValueText {
     QString operator()(int number) const { return QString::number(number); }

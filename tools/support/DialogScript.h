@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
@@ -82,6 +83,13 @@ class DialogScript : public QObject {
         return *this;
     }
     DialogScript &on(const char *view, const char *button) { return on(view, nullptr, button); }
+    // When a label of the view has come to say a part of a text: clicks the button.
+    DialogScript &said(const char *view, const char *label, const char *part, const char *button) {
+        on(view, button);
+        m_steps.back().label = text(label);
+        m_steps.back().part = text(part);
+        return *this;
+    }
     // Types into a field of the view, then clicks the button.
     DialogScript &type(const char *view, const char *field, const char *typed, const char *button) {
         const auto types = [=](QWidget *window) {
@@ -116,6 +124,7 @@ class DialogScript : public QObject {
     struct Step {
         QString view;  // empty: an alert
         Answer answer;
+        QString label = {}, part = {};
     };
     static constexpr int longestWait = 10000;
 
@@ -133,7 +142,7 @@ class DialogScript : public QObject {
             return;
         }
         if (!m_unanswered.isValid()) m_unanswered.start();
-        if (!m_steps.empty() && isUp(window, m_steps.front().view)) {
+        if (!m_steps.empty() && isUp(window, m_steps.front())) {
             const Answer answer = m_steps.front().answer;
             m_steps.pop_front();
             m_unanswered.invalidate();
@@ -148,10 +157,12 @@ class DialogScript : public QObject {
             window->hide();
         }
     }
-    static bool isUp(QWidget *window, const QString &view) {
-        if (view.isEmpty()) return qobject_cast<QMessageBox *>(window);
-        const auto *shown = window->findChild<QWidget *>(view);
-        return shown && shown->isVisible();
+    static bool isUp(QWidget *window, const Step &step) {
+        if (step.view.isEmpty()) return qobject_cast<QMessageBox *>(window);
+        const auto *shown = window->findChild<QWidget *>(step.view);
+        if (!shown || !shown->isVisible() || step.label.isEmpty())
+            return shown && shown->isVisible();
+        return window->findChild<QLabel *>(step.label)->text().contains(step.part);
     }
 
     QElapsedTimer m_unanswered;

@@ -27,6 +27,11 @@ void waitForExposure(const QWidget *window) {
 
 }  // namespace
 
+bool isPartOf(const QObject *object, const QWidget *window) {
+    const auto *widget = qobject_cast<const QWidget *>(object);
+    return widget ? widget->window() == window : object == window->windowHandle();
+}
+
 WaitSheet::WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator,
                      QAbstractButton *cancel)
     : m_sheet(sheet), m_indicator(indicator), m_outer(std::exchange(current, this)) {
@@ -48,11 +53,7 @@ WaitSheet::WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator,
     waitForExposure(sheet);
     sheet->repaint();
     parent->repaint();
-    m_wait.emplace([this](const QObject *object) {
-        const auto *widget = qobject_cast<const QWidget *>(object);
-        return m_sheet &&
-               (widget ? widget->window() == m_sheet : object == m_sheet->windowHandle());
-    });
+    m_wait.emplace([this](const QObject *object) { return m_sheet && isPartOf(object, m_sheet); });
     m_cancelling = QObject::connect(cancel, &QAbstractButton::clicked, sheet, [this, cancel] {
         m_wait->cancel();
         cancel->setEnabled(false);

@@ -9,6 +9,9 @@
 class QAbstractButton;
 class QProgressBar;
 
+// Whether an object is a window, a control in it, or what the window system shows of it.
+bool isPartOf(const QObject *object, const QWidget *window);
+
 // Shows a wait window while it lives. Both windows have been painted when the constructor returns;
 // the indicator moves whenever the work calls idle(), and what the user does meanwhile is dropped:
 // the parent is inert. Only the sheet itself works; its button cancels the work's waits.

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include "cli/ExitCode.h"
+#include "settings/Session.h"
+
+// What the commands print: as rows of cells for people, as JSON for programs. Secrets are left out.
+
+// A printer of the list.
+QStringList cellsOf(const PrinterEntry &entry);
+QJsonObject asJson(const PrinterEntry &entry);
+
+// The pages of a record, each under its title. Without the title of the printer.
+QList<QStringList> rowsOf(const SettingRecord &record);
+// The settings of a record in groups, by their names; `null` for what the printer did not report.
+QJsonObject asJson(const SettingRecord &record);
+
+// The networks that a printer finds.
+QList<QStringList> rowsOf(const QList<SSIDEntry> &networks);
+QJsonArray asJson(const QList<SSIDEntry> &networks);
+
+// The codes of endings.
+ExitCode codeOf(Session::Reading reading);
+ExitCode codeOf(const Ending &ending);

@@ -1,0 +1,110 @@
+// The outline of the pages, their marks, and what the pages show as a whole.
+
+#include <QStyle>
+
+#include "mainwindow/DWTMainSettingWindow.h"
+#include "platform/core/PropertyList.h"
+#include "platform/core/Texts.h"
+
+namespace {
+
+// Marks a page with unsent changes.
+QIcon changeSign() {
+    return QIcon(QStringLiteral(":/pictures/changed.svg"));
+}
+
+}  // namespace
+
+void DWTMainSettingWindow::loadOutline() {
+    dictionary_OutlineView =
+        PropertyList::dictionary(QStringLiteral("OutlineData"), QStringLiteral("plist"));
+    m_pageItems = pageItemsIn(dictionary_OutlineView);
+    outlineView_Main->setColumn(QStringLiteral("name"));
+    outlineView_Main->setOutlineDataSource(this);
+    outlineView_Main->setOutlineDelegate(this);
+    outlineView_Main->reloadData();
+    for (int row = outlineView_Main->numberOfRows() - 1; row >= 0; --row)
+        outlineView_Main->expandRow(row);
+    outlineView_Main->fitWidthToContents();
+}
+
+QString DWTMainSettingWindow::viewKeyOf(const QVariantMap &item) {
+    return item.value(QStringLiteral("viewID")).toString();
+}
+
+QList<QVariantMap> DWTMainSettingWindow::pageItemsIn(const QVariantMap &item) {
+    QList<QVariantMap> items;
+    if (!viewKeyOf(item).isEmpty()) items << item;
+    for (const QVariant &child : item.value(QStringLiteral("child")).toList())
+        items << pageItemsIn(child.toMap());
+    return items;
+}
+
+void DWTMainSettingWindow::followEdits() {
+    const int mode = wireless_ViewObject->wirelessCommunicateMode();
+    infrastructure_ViewObject->showIsUsed(mode == CommunicationMode::Infrastructure);
+    simpleAP_ViewObject->showIsUsed(mode == CommunicationMode::AccessPoint);
+    m_plan = shownPlan();
+    outlineView_Main->reloadMarks();
+}
+
+void DWTMainSettingWindow::goToPage(const QString &viewKey) {
+    for (const QVariantMap &item : std::as_const(m_pageItems))
+        if (viewKeyOf(item) == viewKey) outlineView_Main->pickItem(item);
+}
+
+SettingRecord DWTMainSettingWindow::shownRecord() const {
+    SettingRecord record;
+    for (const auto &page : dictionary_ViewManagement)
+        record.insert(page->viewKey(), page->shownCategory());
+    return record;
+}
+
+Plan DWTMainSettingWindow::shownPlan() const {
+    return dataManager_Object ? planOf(dataManager_Object->savedData(), shownRecord()) : Plan();
+}
+
+int DWTMainSettingWindow::numberOfChildrenOfItem(OutlineView *, const QVariantMap &item) {
+    const QVariantMap &node = item.isEmpty() ? dictionary_OutlineView : item;
+    return int(node.value(QStringLiteral("child")).toList().size());
+}
+
+QVariantMap DWTMainSettingWindow::child(OutlineView *, int index, const QVariantMap &item) {
+    const QVariantMap &node = item.isEmpty() ? dictionary_OutlineView : item;
+    return node.value(QStringLiteral("child")).toList().value(index).toMap();
+}
+
+bool DWTMainSettingWindow::isItemExpandable(OutlineView *, const QVariantMap &item) {
+    const QVariantMap &node = item.isEmpty() ? dictionary_OutlineView : item;
+    return node.contains(QStringLiteral("child"));
+}
+
+QVariant DWTMainSettingWindow::objectValueForTableColumn(OutlineView *, const QString &column,
+                                                         const QVariantMap &item) {
+    if (column != QStringLiteral("name")) return {};
+    return localized(item.value(QStringLiteral("name")).toString());
+}
+
+DWTMainSettingWindow::Mark DWTMainSettingWindow::markOfItem(OutlineView *,
+                                                            const QVariantMap &item) {
+    const auto page = dictionary_ViewManagement.value(viewKeyOf(item));
+    if (!page || !bool_GetDataSuccess) return {};
+    if (page->hasFault())
+        return {window_Main->style()->standardIcon(QStyle::SP_MessageBoxWarning),
+                localized(QStringLiteral("DWT_Localize_Outline_Fault"))};
+    if (m_plan.changesPage(page->viewKey()))
+        return {changeSign(), localized(QStringLiteral("DWT_Localize_Outline_Changed"))};
+    return {};
+}
+
+// Leaving a page stores its values, whatever they are; they are checked when they are sent.
+bool DWTMainSettingWindow::shouldSelectItem(OutlineView *, const QVariantMap &item) {
+    if (!item.value(QStringLiteral("select")).toBool()) return false;
+    if (!item.contains(QStringLiteral("viewID"))) return true;
+    const QString viewKey = viewKeyOf(item);
+    const std::optional<QString> shown = MSW_SelectedUIString();
+    if (viewKey == shown) return false;
+    if (bool_usbPrinter && shown) dictionary_ViewManagement[*shown]->itemSetToDataManager();
+    MSW_UISelector(viewKey);
+    return true;
+}

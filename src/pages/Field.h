@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QLineEdit>
+#include <functional>
+#include <optional>
+
+#include "settings/Settings.h"
+
+// A row of a page's table: a setting, and the control that shows it. A text, an address or a number
+// is in a QLineEdit, a choice in a RadioGroup (codes as tags) or a QComboBox (codes as item data),
+// a flag in a QCheckBox. A choice that is only shown is in a QLineEdit, as text.
+struct Field {
+    QWidget *control;
+    const Setting *setting;            // null for a control beside those of the record
+    bool *input = nullptr;             // set when the field was filled or touched
+    std::function<bool()> store = {};  // at the end of editing; the page's own by default
+    const Rules::Rule *rule = nullptr;
+    QString name = {};   // in alerts
+    bool edited = true;  // false: shown, and never written
+
+    QString key() const { return setting ? setting->key : QString(); }
+    bool isAddress() const { return setting && setting->kind == Setting::Kind::Address; }
+    bool isNumber() const { return line() && setting && setting->kind == Setting::Kind::Number; }
+    bool isSecret() const { return rule && rule->secret; }
+    // The control, unless it is a choice or a flag.
+    QLineEdit *line() const { return qobject_cast<QLineEdit *>(control); }
+
+    // Shows the value of a category. One that is missing empties a field, and leaves radio buttons
+    // and values that are only shown as they are.
+    void show(const CategoryDictionary &category) const;
+    // Shows a text, or nothing; it counts as filled when it is not empty.
+    void showText(const QString &text) const;
+    // What the control shows; nothing when no item of a choice is selected.
+    std::optional<SettingValue> value() const;
+    // Whether the control shows what it shows when its value is missing.
+    bool isEmpty() const;
+    // The text with which a QLineEdit shows the value of a category: as people read it, an address
+    // without four parts as "0.0.0.0", a code without a text as nothing.
+    QString textOf(const CategoryDictionary &category) const;
+};
+
+// An address of four parts with dots between them; "0.0.0.0" for any other count of parts.
+QString shownAddress(const QStringList &address);

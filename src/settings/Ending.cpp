@@ -1,0 +1,111 @@
+#include "settings/Ending.h"
+
+#include <algorithm>
+
+#include "platform/core/Texts.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString text(const char *key) {
+    return localized(QLatin1String(key));
+}
+
+// Of the addresses of an interface, the first stands for all, of a key and its number the key.
+const Setting &representativeOf(const Setting &setting) {
+    const Item *const item = itemOf(setting.item.code);
+    if (!item) return setting;
+    const bool isInterface = item->layout == Item::Layout::IntegerAndAddresses;
+    return *settingOf(item->viewKey, isInterface ? item->keys[1] : item->keys.last());
+}
+
+QString nameOf(const Setting &setting, Naming naming) {
+    if (naming == Naming::Stable) return setting.name;
+    return u"%1: %2"_s.arg(titleOfPage(setting.viewKey), setting.label());
+}
+
+// Names for the end of a sentence: in the words of the windows, each on a line of its own.
+QString listOf(const QList<const Setting *> &settings, Naming naming) {
+    const QStringList names = namesOf(settings, naming);
+    return naming == Naming::Stable ? names.join(u", "_s) : u'\n' + names.join(u'\n');
+}
+
+QString wordsOf(const Ending::Part &part, Naming naming) {
+    const QString name = nameOf(*part.setting, naming);
+    if (part.setting->isSecret()) return text("DWT_Localize_Ending_SecretDiffers").arg(name);
+    return text("DWT_Localize_Ending_Differs").arg(name, part.sentText, part.heldText);
+}
+
+const char *keyOf(Ending::Login login) {
+    switch (login) {
+        case Ending::Login::Missing:
+            return "DWT_Localize_Ending_NoPassword";
+        case Ending::Login::Refused:
+            return "DWT_Localize_Ending_LoginRefused";
+        case Ending::Login::NoReply:
+        case Ending::Login::NotReached:
+            return "DWT_Localize_Ending_NotReached";
+        case Ending::Login::Passed:
+            break;
+    }
+    return nullptr;
+}
+
+const char *keyOf(Ending::Course course) {
+    switch (course) {
+        case Ending::Course::NotReached:
+            return "DWT_Localize_Ending_NotReached";
+        case Ending::Course::Lost:
+            return "DWT_Localize_Ending_Lost";
+        case Ending::Course::Stopped:
+            return "DWT_Localize_Ending_Stopped";
+        case Ending::Course::Sent:
+            break;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+bool Ending::isClean(const QString &key) const {
+    const auto isTaken = [&](const Part &part) {
+        return (!key.isEmpty() && part.setting->key != key) || part.state == State::Accepted ||
+               part.state == State::Verified;
+    };
+    return isSent() && std::all_of(parts.begin(), parts.end(), isTaken);
+}
+
+QList<const Setting *> Ending::in(State state) const {
+    QList<const Setting *> settings;
+    for (const Part &part : parts)
+        if (part.state == state) settings << part.setting;
+    return settings;
+}
+
+QStringList namesOf(const QList<const Setting *> &settings, Naming naming) {
+    QStringList names;
+    for (const Setting *const setting : settings)
+        names << nameOf(naming == Naming::Stable ? *setting : representativeOf(*setting), naming);
+    names.removeDuplicates();
+    return names;
+}
+
+QStringList wordsOf(const Ending &ending, const QString &printer, Naming naming) {
+    for (const char *const key : {keyOf(ending.course), keyOf(ending.login)})
+        if (key) return {text(key).arg(printer)};
+    QStringList sentences;
+    const auto say = [&](const char *key, const QList<const Setting *> &settings) {
+        if (!settings.isEmpty()) sentences << text(key).arg(printer, listOf(settings, naming));
+    };
+    say("DWT_Localize_Ending_Refused", ending.in(Ending::State::Refused));
+    say("DWT_Localize_Ending_Unclear", ending.in(Ending::State::Unclear));
+    for (const Ending::Part &part : ending.parts)
+        if (part.state == Ending::State::Differs) sentences << wordsOf(part, naming);
+    if (ending.comparison == Ending::Comparison::Failed)
+        sentences << text("DWT_Localize_Ending_NotReadBack").arg(printer);
+    if (ending.comparison != Ending::Comparison::Done) return sentences;
+    if (sentences.isEmpty()) sentences << text("DWT_Localize_Ending_Verified").arg(printer);
+    say("DWT_Localize_Ending_NotComparable", ending.in(Ending::State::Accepted));
+    return sentences;
+}
