@@ -23,10 +23,6 @@ const QString tableSuffix = u".csv"_s;
 // So many names of settings are listed where the rest goes without saying.
 constexpr qsizetype namesAtAGlance = 4;
 
-QString text(const char *key) {
-    return localized(QLatin1String(key));
-}
-
 // One run of the program.
 class Run {
   public:
@@ -57,7 +53,7 @@ class Run {
         m_terminal.note(Printers::problems());
         if (isWaitCancelled()) return stopped();
         if (printers.isEmpty() && !m_options.json)
-            m_terminal.note(text("DWT_Localize_Cli_NoPrinters"));
+            m_terminal.note(localized("DWT_Localize_Cli_NoPrinters"));
         return ExitCode::Done;
     }
 
@@ -96,7 +92,7 @@ class Run {
 
     ExitCode apply() {
         if (!m_options.yes && !m_options.dryRun && !Terminal::canAsk())
-            return m_terminal.fail(ExitCode::UsedWrongly, text("DWT_Localize_Cli_NoTerminal"));
+            return m_terminal.fail(ExitCode::UsedWrongly, localized("DWT_Localize_Cli_NoTerminal"));
         const GivenSettings given = settingsFromFile(m_options.arguments[1]);
         if (!given.faults.isEmpty())
             return m_terminal.fail(given.allFaults() + faultsBetween(given.values));
@@ -115,7 +111,7 @@ class Run {
         if (!plan.faults.isEmpty()) return m_terminal.fail(plan.faults);
         printPlan(*session, plan);
         if (plan.changes.isEmpty() || m_options.dryRun) return ExitCode::Done;
-        if (!m_options.yes && !m_terminal.confirm(text("DWT_Localize_Cli_Confirm")))
+        if (!m_options.yes && !m_terminal.confirm(localized("DWT_Localize_Cli_Confirm")))
             return stopped();
         wait.reset();  // what is sent is not broken off
         return change(*session, plan);
@@ -151,7 +147,7 @@ class Run {
         const auto found = session->manager()->SSIDList([this](int polls, int total) {
             const auto left = DWTDataManager::defaultScanInterval * (total - polls);
             m_terminal.showProgress(
-                text("DWT_Localize_Wait_Searching")
+                localized("DWT_Localize_Wait_Searching")
                     .arg(std::chrono::ceil<std::chrono::seconds>(left).count()));
         });
         if (isWaitCancelled()) return stopped();
@@ -164,7 +160,7 @@ class Run {
         else
             m_terminal.print(rowsOf(*found));
         if (found->isEmpty() && !m_options.json)
-            m_terminal.note(text("DWT_Localize_Cli_NoNetworks"));
+            m_terminal.note(localized("DWT_Localize_Cli_NoNetworks"));
         return ExitCode::Done;
     }
 
@@ -191,7 +187,7 @@ class Run {
             candidates << cellsOf(entry).join(u"  "_s);
         m_code = m_terminal.fail(
             ExitCode::NotReached,
-            text(meant.isEmpty() ? "DWT_Localize_Cli_NotFound" : "DWT_Localize_Cli_Ambiguous")
+            localized(meant.isEmpty() ? "DWT_Localize_Cli_NotFound" : "DWT_Localize_Cli_Ambiguous")
                 .arg(named),
             candidates);
         return {};
@@ -202,14 +198,14 @@ class Run {
         auto session = open();
         if (!session || isUSB(session->entry())) return session;
         m_code = m_terminal.fail(ExitCode::UsedWrongly,
-                                 text("DWT_Localize_Cli_NotUsb").arg(session->name()));
+                                 localized("DWT_Localize_Cli_NotUsb").arg(session->name()));
         return {};
     }
 
     Session::Reading read(Session &session) {
         const QString name = session.name();
         const Session::Reading reading = session.read([&](int done, int total) {
-            m_terminal.showProgress(text("DWT_Localize_Wait_Reading")
+            m_terminal.showProgress(localized("DWT_Localize_Wait_Reading")
                                         .arg(name, QString::number(done), QString::number(total)));
         });
         m_terminal.showProgress({});
@@ -220,7 +216,7 @@ class Run {
         const QString name = session.name();
         const auto password = [&] { return m_passwords.forPrinter(name); };
         const auto mayBegin = [&] {
-            m_terminal.showProgress(text("DWT_Localize_Cli_Sending").arg(name));
+            m_terminal.showProgress(localized("DWT_Localize_Cli_Sending").arg(name));
             return !Interrupt::isRequested();
         };
         const Ending ending = session.change(plan, password, mayBegin);
@@ -232,7 +228,7 @@ class Run {
     }
 
     ExitCode stopped() {
-        return m_terminal.fail(ExitCode::Stopped, text("DWT_Localize_Cli_Stopped"));
+        return m_terminal.fail(ExitCode::Stopped, localized("DWT_Localize_Cli_Stopped"));
     }
 
     // --- What is told ---
@@ -248,10 +244,10 @@ class Run {
 
     void printPlan(const Session &session, const Plan &plan) {
         if (plan.changes.isEmpty()) {
-            m_terminal.print(text("DWT_Localize_Cli_NothingToDo").arg(session.name()));
+            m_terminal.print(localized("DWT_Localize_Cli_NothingToDo").arg(session.name()));
             return;
         }
-        m_terminal.print(text("DWT_Localize_Cli_WillChange").arg(session.name()));
+        m_terminal.print(localized("DWT_Localize_Cli_WillChange").arg(session.name()));
         for (const Plan::Change &change : plan.changes)
             m_terminal.print(u"  %1: %2"_s.arg(change.setting->name, change.words()));
         for (const SendWarning &warning : plan.warnings) m_terminal.note(wordsOf(warning));
@@ -260,15 +256,15 @@ class Run {
     void noteNotReported(const Session &session) {
         const auto missing = namesOf(session.manager()->notReported(), Naming::Stable);
         if (!missing.isEmpty())
-            m_terminal.note(
-                text("DWT_Localize_Cli_NotReported").arg(session.name(), missing.join(u", "_s)));
+            m_terminal.note(localized("DWT_Localize_Cli_NotReported")
+                                .arg(session.name(), missing.join(u", "_s)));
     }
 
     void noteReadOnly(const GivenSettings &given) {
         QStringList names = given.readOnly;
         if (names.size() > namesAtAGlance) names = names.first(namesAtAGlance) << u"…"_s;
         if (!names.isEmpty())
-            m_terminal.note(text("DWT_Localize_Cli_ReadOnly").arg(names.join(u", "_s)));
+            m_terminal.note(localized("DWT_Localize_Cli_ReadOnly").arg(names.join(u", "_s)));
     }
 
     const Options m_options;
@@ -284,18 +280,19 @@ ExitCode runCommandLine(const QStringList &arguments) {
     Terminal terminal(options.json);
     ExitCode code = ExitCode::Done;
     if (options.shown == Options::Shown::Help) {
-        for (const QString &line : text("DWT_Localize_Cli_Help").split(u'\n')) terminal.print(line);
+        for (const QString &line : localized("DWT_Localize_Cli_Help").split(u'\n'))
+            terminal.print(line);
     } else if (options.shown == Options::Shown::Version) {
         terminal.print(u"network-setting " NST_VERSION ""_s);
     } else if (!options.error.isEmpty()) {
         code = terminal.fail(ExitCode::UsedWrongly, options.error);
-        terminal.note(text("DWT_Localize_Cli_SeeHelp"));
+        terminal.note(localized("DWT_Localize_Cli_SeeHelp"));
     } else {
         Interrupt::watch();
         code = Run(options).run();
     }
     // Who reads only the beginning of a pipe has got what was wanted.
     if (!Terminal::flush() && errno != EPIPE && code == ExitCode::Done)
-        code = terminal.fail(ExitCode::InputRefused, text("DWT_Localize_Cli_Output"));
+        code = terminal.fail(ExitCode::InputRefused, localized("DWT_Localize_Cli_Output"));
     return code;
 }

@@ -49,8 +49,8 @@ Options optionsOf(const QStringList &arguments) {
     if (understood && parser.isSet(version)) options.shown = Options::Shown::Version;
     if (options.shown != Options::Shown::Nothing) return options;
     if (name.isEmpty() || (command == commands().end() && !name.startsWith(u'-'))) {
-        options.error = name.isEmpty() ? localized(u"DWT_Localize_Cli_NoCommand"_s)
-                                       : localized(u"DWT_Localize_Cli_BadCommand"_s).arg(name);
+        options.error = name.isEmpty() ? localized("DWT_Localize_Cli_NoCommand")
+                                       : localized("DWT_Localize_Cli_BadCommand").arg(name);
         return options;
     }
     if (!understood) {
@@ -64,7 +64,7 @@ Options optionsOf(const QStringList &arguments) {
     options.json = has(u"json"_s);
     options.arguments = parser.positionalArguments().mid(1);
     if (options.arguments.size() != command->arguments) {
-        options.error = localized(u"DWT_Localize_Cli_BadArguments"_s)
+        options.error = localized("DWT_Localize_Cli_BadArguments")
                             .arg(name, QString::number(command->arguments),
                                  QString::number(options.arguments.size()));
         return options;

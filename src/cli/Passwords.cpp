@@ -23,7 +23,6 @@ bool Passwords::load(const QString &file, Fault &fault) {
 
 std::optional<QString> Passwords::forPrinter(const QString &printer) {
     if (!m_password)
-        m_password = Terminal::askPassword(
-            localized(QStringLiteral("DWT_Localize_Cli_AskPassword")).arg(printer));
+        m_password = Terminal::askPassword(localized("DWT_Localize_Cli_AskPassword").arg(printer));
     return m_password ? std::optional(ownCopy(*m_password)) : std::nullopt;
 }

@@ -20,10 +20,6 @@ namespace {
 const QStringList resultColumns{u"time"_s, u"printer"_s, u"serial"_s, u"uri"_s,
                                 u"line"_s, u"outcome"_s, u"detail"_s};
 
-QString text(const char *key) {
-    return localized(QLatin1String(key));
-}
-
 // The word of an ending, for programs.
 QString wordOf(ExitCode code) {
     switch (code) {
@@ -64,10 +60,10 @@ ExitCode Provision::run(const QString &resultFile) {
     if (!resultFile.isEmpty() && !m_results.open(resultFile, resultColumns))
         return m_terminal.fail(
             ExitCode::InputRefused,
-            text("DWT_Localize_Cli_Unwritable").arg(resultFile, m_results.errorString()));
+            localized("DWT_Localize_Cli_Unwritable").arg(resultFile, m_results.errorString()));
     look();
     if (!isEnd()) {
-        if (m_present.isEmpty()) m_terminal.note(text("DWT_Localize_Cli_Waiting"));
+        if (m_present.isEmpty()) m_terminal.note(localized("DWT_Localize_Cli_Waiting"));
         m_timer.callOnTimeout([this] { tick(); });
         m_timer.start(lookInterval);
         m_loop.exec();
@@ -78,7 +74,7 @@ ExitCode Provision::run(const QString &resultFile) {
 void Provision::tick() {
     if (!m_stopping && Interrupt::isRequested()) {
         m_stopping = true;
-        if (!m_working.isEmpty()) m_terminal.note(text("DWT_Localize_Cli_Stopping"));
+        if (!m_working.isEmpty()) m_terminal.note(localized("DWT_Localize_Cli_Stopping"));
     }
     const bool follow = !m_stopping && !listsCatalogue();
     if (follow && (m_lookAgain || Printers::hasListChanged())) look();
@@ -165,7 +161,7 @@ void Provision::changeByRow(Session &session, Result &result) {
     for (const Fault &fault : plan.faults) faults << wordsOf(fault);
     if (!faults.isEmpty()) return end(ExitCode::InputRefused, faults);
     if (plan.changes.isEmpty()) {
-        end(ExitCode::Done, {text("DWT_Localize_Cli_NothingToDo").arg(name)});
+        end(ExitCode::Done, {localized("DWT_Localize_Cli_NothingToDo").arg(name)});
         result.word = u"unchanged"_s;
         return;
     }
@@ -200,13 +196,13 @@ Provision::Result Provision::claim(const Session &session) {
         for (const int line : claim.lines) lines << QString::number(line);
         result.code = ExitCode::InputRefused;
         result.word = wordOf(result.code);
-        result.text = text(key).arg(name, lines.join(u", "_s));
+        result.text = localized(key).arg(name, lines.join(u", "_s));
     } else if (claim.kind == Kind::NoRow) {
         result.word = u"no-row"_s;
-        result.text = text("DWT_Localize_Cli_NoRow").arg(name);
+        result.text = localized("DWT_Localize_Cli_NoRow").arg(name);
     } else if (claim.kind == Kind::DoneBefore) {
         result.word = u"done-before"_s;
-        result.text = text("DWT_Localize_Cli_DoneBefore").arg(name);
+        result.text = localized("DWT_Localize_Cli_DoneBefore").arg(name);
     }
     return result;
 }
@@ -236,7 +232,7 @@ void Provision::note(const Session &session, const Result &result) {
     m_stopping = true;
     m_terminal.fail(
         ExitCode::InputRefused,
-        text("DWT_Localize_Cli_ResultsEnd").arg(m_results.path(), m_results.errorString()));
+        localized("DWT_Localize_Cli_ResultsEnd").arg(m_results.path(), m_results.errorString()));
 }
 
 bool Provision::isEnd() const {
@@ -249,8 +245,8 @@ ExitCode Provision::result() {
     if (m_rows.isAllDone()) return m_worst;
     const QStringList missing = m_rows.unclaimed();
     if (!missing.isEmpty())
-        m_terminal.note(text("DWT_Localize_Cli_RowsLeft").arg(missing.join(u", "_s)));
+        m_terminal.note(localized("DWT_Localize_Cli_RowsLeft").arg(missing.join(u", "_s)));
     if (Interrupt::isRequested())
-        return m_terminal.fail(ExitCode::Stopped, text("DWT_Localize_Cli_Stopped"));
+        return m_terminal.fail(ExitCode::Stopped, localized("DWT_Localize_Cli_Stopped"));
     return missing.isEmpty() ? m_worst : std::max(m_worst, ExitCode::NotReached);
 }

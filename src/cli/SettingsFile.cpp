@@ -22,10 +22,6 @@ using nlohmann::json;
 // The key of an object that names the file of a secret.
 const QString fileKey = u"file"_s;
 
-QString text(const char *key) {
-    return localized(QLatin1String(key));
-}
-
 // The bytes of a text, of which the line of the last one read is known.
 class CountedBytes {
   public:
@@ -64,7 +60,8 @@ class Handler : public nlohmann::json_sax<json> {
         m_name = QString::fromStdString(key);
         if (!group().isEmpty()) m_name.prepend(group() + u'.');
         m_nameLine = m_line;
-        if (isUsed() && m_seen.contains(m_name)) addFault(text("DWT_Localize_Cli_Fault_Twice"));
+        if (isUsed() && m_seen.contains(m_name))
+            addFault(localized("DWT_Localize_Cli_Fault_Twice"));
         m_seen.insert(m_name);
         return true;
     }
@@ -114,7 +111,7 @@ class Handler : public nlohmann::json_sax<json> {
         return true;
     }
     bool parse_error(std::size_t, const std::string &, const json::exception &) override {
-        m_result.faults << Fault{{m_file, m_line}, text("DWT_Localize_Cli_Fault_NotJson")};
+        m_result.faults << Fault{{m_file, m_line}, localized("DWT_Localize_Cli_Fault_NotJson")};
         return false;
     }
 
@@ -146,10 +143,10 @@ class Handler : public nlohmann::json_sax<json> {
     bool wrongKind() {
         if (!isUsed()) return true;
         if (m_open.isEmpty() || isGroup(m_name))
-            return addFault(text("DWT_Localize_Cli_Fault_Group"));
+            return addFault(localized("DWT_Localize_Cli_Fault_Group"));
         const Setting *const setting = settingOf(isSecret(group()) ? group() : m_name);
         return addFault(setting ? wordsOfExpected(*setting)
-                                : text("DWT_Localize_Cli_Fault_Unknown"));
+                                : localized("DWT_Localize_Cli_Fault_Unknown"));
     }
 
     // Takes the value that comes, which `parse` makes of it for the setting of its name.
@@ -193,7 +190,7 @@ class Handler : public nlohmann::json_sax<json> {
 std::optional<QByteArray> readInput(const QString &path, Fault &fault) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        fault.text = text("DWT_Localize_Cli_Fault_Unreadable").arg(path, file.errorString());
+        fault.text = localized("DWT_Localize_Cli_Fault_Unreadable").arg(path, file.errorString());
         return {};
     }
     QByteArray bytes;
@@ -204,9 +201,9 @@ std::optional<QByteArray> readInput(const QString &path, Fault &fault) {
         bytes += more;
     }
     if (file.error() != QFileDevice::NoError)
-        fault.text = text("DWT_Localize_Cli_Fault_Unreadable").arg(path, file.errorString());
+        fault.text = localized("DWT_Localize_Cli_Fault_Unreadable").arg(path, file.errorString());
     else if (bytes.size() > longestInput)
-        fault.text = text("DWT_Localize_Cli_Fault_TooLong").arg(path).arg(longestInput >> 20);
+        fault.text = localized("DWT_Localize_Cli_Fault_TooLong").arg(path).arg(longestInput >> 20);
     else
         return bytes;
     return {};
@@ -222,8 +219,9 @@ std::optional<QString> readSecret(const QString &path, Fault &fault) {
     const QString secret = decoder.decode(QByteArrayView(*bytes).first(end));
     wipe(*bytes);
     if (!decoder.hasError() && !secret.isEmpty()) return secret;
-    fault.text = secret.isEmpty() ? text("DWT_Localize_Cli_Fault_EmptySecret").arg(path)
-                                  : u"%1: %2"_s.arg(path, text("DWT_Localize_Cli_Fault_NotUtf8"));
+    fault.text = secret.isEmpty()
+                     ? localized("DWT_Localize_Cli_Fault_EmptySecret").arg(path)
+                     : u"%1: %2"_s.arg(path, localized("DWT_Localize_Cli_Fault_NotUtf8"));
     return {};
 }
 

@@ -12,10 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString text(const char *key) {
-    return localized(QLatin1String(key));
-}
-
 struct Line {
     int number;  // where it begins
     QStringList cells;
@@ -43,7 +39,7 @@ class Lines {
         if (whole) return lines.m_lines;
         if (!lines.m_begins) lines.m_lines.removeLast();
         fault.place.line = lines.m_number;
-        fault.text = text("DWT_Localize_Cli_Fault_NotCsv");
+        fault.text = localized("DWT_Localize_Cli_Fault_NotCsv");
         return lines.m_lines;
     }
 
@@ -88,15 +84,16 @@ class Reader {
                 if (name == known) column.known = member;
             m_anyKnown |= column.known != nullptr;
             if (!column.setting && !column.known)
-                addFault(line.number, name, text("DWT_Localize_Cli_Fault_UnknownColumn"));
+                addFault(line.number, name, localized("DWT_Localize_Cli_Fault_UnknownColumn"));
             else if (column.setting && column.setting->access() == Setting::Access::Read)
-                addFault(line.number, name, text("DWT_Localize_Cli_Fault_ReadOnly"));
+                addFault(line.number, name, localized("DWT_Localize_Cli_Fault_ReadOnly"));
             if (std::any_of(m_columns.begin(), m_columns.end(),
                             [&](const Column &other) { return other.name == name; }))
-                addFault(line.number, name, text("DWT_Localize_Cli_Fault_Twice"));
+                addFault(line.number, name, localized("DWT_Localize_Cli_Fault_Twice"));
             m_columns << column;
         }
-        if (!m_anyKnown) addFault(line.number, {}, text("DWT_Localize_Cli_Fault_NoKnownColumn"));
+        if (!m_anyKnown)
+            addFault(line.number, {}, localized("DWT_Localize_Cli_Fault_NoKnownColumn"));
     }
 
     // A row without any cell that is filled is none.
@@ -107,7 +104,7 @@ class Reader {
         if (line.cells.size() != m_columns.size()) {
             addFault(
                 line.number, {},
-                text("DWT_Localize_Cli_Fault_Cells")
+                localized("DWT_Localize_Cli_Fault_Cells")
                     .arg(QString::number(m_columns.size()), QString::number(line.cells.size())));
             return;
         }
@@ -127,7 +124,7 @@ class Reader {
         if (column.known) {
             row.*column.known = column.known == &TableRow::mac ? macDigits(cell) : cell;
             if ((row.*column.known).isEmpty())
-                addFault(row.line, column.name, text("DWT_Localize_Cli_Fault_Mac"));
+                addFault(row.line, column.name, localized("DWT_Localize_Cli_Fault_Mac"));
         } else if (column.setting && column.setting->access() != Setting::Access::Read) {
             const Parsed parsed = parsedText(*column.setting, cell);
             const Place place{m_file, row.line, column.name, true};
@@ -147,10 +144,11 @@ class Reader {
             if (seen == m_seen.constEnd())
                 m_seen.insert({name, value}, row.line);
             else
-                addFault(row.line, name, text("DWT_Localize_Cli_Fault_SamePrinter").arg(*seen));
+                addFault(row.line, name,
+                         localized("DWT_Localize_Cli_Fault_SamePrinter").arg(*seen));
             return;
         }
-        if (m_anyKnown) addFault(row.line, {}, text("DWT_Localize_Cli_Fault_NoPrinter"));
+        if (m_anyKnown) addFault(row.line, {}, localized("DWT_Localize_Cli_Fault_NoPrinter"));
     }
 
     Table &m_table;
@@ -183,7 +181,7 @@ Table tableFromCsv(const QByteArray &bytes, const QString &file) {
     QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
     const QString decoded = decoder.decode(bytes);
     if (decoder.hasError()) {
-        fault.text = text("DWT_Localize_Cli_Fault_NotUtf8");
+        fault.text = localized("DWT_Localize_Cli_Fault_NotUtf8");
         table.faults << fault;
         return table;
     }
@@ -192,7 +190,7 @@ Table tableFromCsv(const QByteArray &bytes, const QString &file) {
     if (!lines.isEmpty()) reader.readColumns(lines.first());
     for (qsizetype i = 1; i < lines.size(); ++i) reader.readRow(lines[i]);
     if (table.rows.isEmpty() && fault.text.isEmpty() && table.faults.isEmpty())
-        fault.text = text("DWT_Localize_Cli_Fault_NoRows");
+        fault.text = localized("DWT_Localize_Cli_Fault_NoRows");
     if (!fault.text.isEmpty()) table.faults << fault;
     table.faults += repeatedAddresses(table.rows);
     return table;
@@ -214,7 +212,7 @@ QList<Fault> repeatedAddresses(const QList<TableRow> &rows) {
             const QString address = std::get<QStringList>(value.value).join(u'.');
             if (const auto first = seen.constFind(address); first != seen.constEnd()) {
                 faults << Fault{value.place,
-                                text("DWT_Localize_Cli_Fault_SameAddress").arg(*first)};
+                                localized("DWT_Localize_Cli_Fault_SameAddress").arg(*first)};
             } else {
                 seen.insert(address, row.line);
             }

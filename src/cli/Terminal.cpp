@@ -38,7 +38,7 @@ int widthOf(const QString &text) {
 
 QString wordsForTerminal(const PrinterProblem &problem) {
     if (problem.kind == PrinterProblem::InUse)
-        return localized(u"DWT_Localize_Cli_InUse"_s).arg(shownText(problem.subject));
+        return localized("DWT_Localize_Cli_InUse").arg(shownText(problem.subject));
     return wordsOf(problem);
 }
 
@@ -47,10 +47,10 @@ QString wordsForTerminal(const PrinterProblem &problem) {
 QString wordsOf(const Fault &fault) {
     QStringList place;
     if (fault.place.line > 0)
-        place << localized(u"DWT_Localize_Cli_Place_Line"_s).arg(fault.place.line);
+        place << localized("DWT_Localize_Cli_Place_Line").arg(fault.place.line);
     const QString quoted = u'"' + fault.place.name + u'"';
     if (!fault.place.name.isEmpty())
-        place << (fault.place.isColumn ? localized(u"DWT_Localize_Cli_Place_Column"_s).arg(quoted)
+        place << (fault.place.isColumn ? localized("DWT_Localize_Cli_Place_Column").arg(quoted)
                                        : quoted);
     QStringList parts;
     if (!fault.place.file.isEmpty()) parts << fault.place.file;
@@ -159,7 +159,7 @@ bool Terminal::confirm(const QString &question) {
         return false;
     }
     const QString said = QString::fromLocal8Bit(answer.data()).trimmed().toLower();
-    return said == u"y" || said == localized(u"DWT_Localize_Cli_Yes"_s);
+    return said == u"y" || said == localized("DWT_Localize_Cli_Yes");
 }
 
 std::optional<QString> Terminal::askPassword(const QString &question) {

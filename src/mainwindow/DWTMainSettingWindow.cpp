@@ -8,13 +8,7 @@
 #include "platform/ui/Alert.h"
 #include "settings/PrinterWords.h"
 
-namespace {
-
-QString text(const char *key) {
-    return localized(QLatin1String(key));
-}
-
-}  // namespace
+using namespace Qt::StringLiterals;
 
 DWTMainSettingWindow::~DWTMainSettingWindow() {
     MSW_Dealloc();
@@ -185,7 +179,7 @@ int DWTMainSettingWindow::readAll(WaitWindow *waiting) {
     if (!waiting) return dataManager_Object->setupDataFromPrinter(0);
     const QString name = m_session->name();
     return dataManager_Object->setupDataFromPrinter(0, [&](int done, int total) {
-        waiting->say(text("DWT_Localize_Wait_Reading")
+        waiting->say(localized("DWT_Localize_Wait_Reading")
                          .arg(name, QString::number(done), QString::number(total)),
                      done, total);
     });
@@ -195,15 +189,15 @@ int DWTMainSettingWindow::readAll(WaitWindow *waiting) {
 void DWTMainSettingWindow::showReadState() {
     QStringList lines;
     if (m_cancelled)
-        lines << text("DWT_Localize_MainDialog_Text_ReadOnly_Cancelled");
+        lines << localized("DWT_Localize_MainDialog_Text_ReadOnly_Cancelled");
     else if (!bool_GetDataSuccess)
-        lines << text(bool_usbPrinter ? "DWT_Localize_MainDialog_Text_ReadOnly_NotRead"
-                                      : "DWT_Localize_MainDialog_Text_ReadOnly_Network");
+        lines << localized(bool_usbPrinter ? "DWT_Localize_MainDialog_Text_ReadOnly_NotRead"
+                                           : "DWT_Localize_MainDialog_Text_ReadOnly_Network");
     const auto missing =
         dataManager_Object ? dataManager_Object->notReported() : QList<const Setting *>();
     if (!missing.isEmpty())
-        lines << text("DWT_Localize_MainDialog_Text_NotReported")
-                     .arg(namesOf(missing, Naming::Labels).join(QStringLiteral("; ")));
+        lines << localized("DWT_Localize_MainDialog_Text_NotReported")
+                     .arg(namesOf(missing, Naming::Labels).join(u"; "_s));
     textField_ReadOnly->setText(lines.join(u'\n'));
     textField_ReadOnly->setVisible(!lines.isEmpty());
 }
@@ -213,7 +207,7 @@ void DWTMainSettingWindow::showOwnName() {
         dataManager_Object ? dataManager_Object->savedData() : SettingRecord();
     const QString own =
         readableText(textValue(saved.value(DWT_View_Key_Network), DWT_SaveData_Network_Printer));
-    textField_PrinterOwnName->setText(own.isEmpty() ? QString() : QStringLiteral("· %1").arg(own));
+    textField_PrinterOwnName->setText(own.isEmpty() ? QString() : u"· %1"_s.arg(own));
 }
 
 void DWTMainSettingWindow::enableAllViews(bool enabled) {
@@ -235,11 +229,10 @@ std::optional<QString> DWTMainSettingWindow::MSW_SelectedUIString() const {
 
 QString DWTMainSettingWindow::report() const {
     QStringList lines{
-        QStringLiteral("%1 %2")
-            .arg(textField_SelectPrinterName->text(), textField_PrinterOwnName->text())
+        u"%1 %2"_s.arg(textField_SelectPrinterName->text(), textField_PrinterOwnName->text())
             .trimmed()};
     if (!textField_ReadOnly->isHidden()) lines << textField_ReadOnly->text();
-    const QString line = text("DWT_Localize_Report_Line");
+    const QString line = localized("DWT_Localize_Report_Line");
     for (const ShownPage &page : shownPages(shownRecord())) {
         lines << QString() << page.title;
         for (const auto &[label, value] : page.lines) lines << line.arg(label, value);
@@ -250,8 +243,8 @@ QString DWTMainSettingWindow::report() const {
 void DWTMainSettingWindow::showStandardAlert(const char *titleKey, const char *kindKey,
                                              const char *informationKey) {
     Alert alert(Alert::Style::Warning);
-    alert.setButtonTitle(text("DWT_Localize_Alert_Button_OK"));
-    alert.setMessageText(QStringLiteral("%1 %2").arg(text(titleKey), text(kindKey)));
-    alert.setInformativeText(text(informationKey));
+    alert.setButtonTitle(localized("DWT_Localize_Alert_Button_OK"));
+    alert.setMessageText(u"%1 %2"_s.arg(localized(titleKey), localized(kindKey)));
+    alert.setInformativeText(localized(informationKey));
     alert.runModal(window_Main && window_Main->isVisible() ? window_Main.data() : nullptr);
 }

@@ -14,6 +14,7 @@
 #include "pages/DWTPasswordView.h"
 #include "pages/DWTSimpleAPView.h"
 #include "pages/DWTWirelessView.h"
+#include "platform/core/Key.h"
 #include "platform/core/NotificationCenter.h"
 #include "platform/core/Waiting.h"
 #include "platform/ui/InertWindow.h"
@@ -29,9 +30,8 @@ class WaitWindow;
 
 // Posted exactly once for every closing, with the window as sender: without user information when
 // the printer could not be read at the first opening, otherwise with the flag, which is false.
-inline const QString DWT_MainDialog_Close_Message = QStringLiteral("DWT_MainDialog_Close_Message");
-inline const QString DWT_IsShowPrinterSelectDialog_Flag =
-    QStringLiteral("DWT_IsShowPrinterSelectDialog_Flag");
+DWT_KEY(DWT_MainDialog_Close_Message);
+DWT_KEY(DWT_IsShowPrinterSelectDialog_Flag);
 
 // The window in which the settings of one printer are shown and changed. Only a printer that is
 // connected over USB, and whose settings were all read, can be changed; otherwise every page is

@@ -6,6 +6,8 @@
 #include "platform/core/Texts.h"
 #include "platform/core/Waiting.h"
 
+using namespace Qt::StringLiterals;
+
 // Taking a network over counts as a change, whatever the page held before.
 void DWTMainSettingWindow::push_InfrastructureSelectSSID() {
     if (!dataManager_Object) dataManager_Object = make<DWTDataManager>();
@@ -28,17 +30,17 @@ NetworkList::Found DWTMainSettingWindow::networksInReach(QWidget *over) {
     const WaitSheet waiting = window_Wait->over(over);
     const auto networks = dataManager_Object->SSIDList([this](int polls, int total) {
         const auto left = DWTDataManager::defaultScanInterval * (total - polls);
-        window_Wait->say(localized(QStringLiteral("DWT_Localize_Wait_Searching"))
+        window_Wait->say(localized("DWT_Localize_Wait_Searching")
                              .arg(std::chrono::ceil<std::chrono::seconds>(left).count()),
                          polls, total);
     });
     if (networks && !networks->isEmpty()) return {networks, {}};
-    if (isWaitCancelled()) return {{}, QStringLiteral("DWT_Localize_SSIDList_Cancelled")};
-    if (networks) return {networks, QStringLiteral("DWT_Localize_SSIDList_Empty")};
+    if (isWaitCancelled()) return {{}, u"DWT_Localize_SSIDList_Cancelled"_s};
+    if (networks) return {networks, u"DWT_Localize_SSIDList_Empty"_s};
     showStandardAlert("DWT_Localize_Alert_MessageText_Dowline",
                       "DWT_Localize_Alert_MessageText_Error",
                       "DWT_Localize_Alert_InfoText_Printer_ConnectErr");
-    return {{}, QStringLiteral("DWT_Localize_SSIDList_NotReached")};
+    return {{}, u"DWT_Localize_SSIDList_NotReached"_s};
 }
 
 void DWTMainSettingWindow::push_InfrastructureWPSGuide() {

@@ -6,20 +6,21 @@
 #include "platform/core/PropertyList.h"
 #include "platform/core/Texts.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Marks a page with unsent changes.
 QIcon changeSign() {
-    return QIcon(QStringLiteral(":/pictures/changed.svg"));
+    return QIcon(u":/pictures/changed.svg"_s);
 }
 
 }  // namespace
 
 void DWTMainSettingWindow::loadOutline() {
-    dictionary_OutlineView =
-        PropertyList::dictionary(QStringLiteral("OutlineData"), QStringLiteral("plist"));
+    dictionary_OutlineView = PropertyList::dictionary(u"OutlineData"_s, u"plist"_s);
     m_pageItems = pageItemsIn(dictionary_OutlineView);
-    outlineView_Main->setColumn(QStringLiteral("name"));
+    outlineView_Main->setColumn(u"name"_s);
     outlineView_Main->setOutlineDataSource(this);
     outlineView_Main->setOutlineDelegate(this);
     outlineView_Main->reloadData();
@@ -29,13 +30,13 @@ void DWTMainSettingWindow::loadOutline() {
 }
 
 QString DWTMainSettingWindow::viewKeyOf(const QVariantMap &item) {
-    return item.value(QStringLiteral("viewID")).toString();
+    return item.value(u"viewID"_s).toString();
 }
 
 QList<QVariantMap> DWTMainSettingWindow::pageItemsIn(const QVariantMap &item) {
     QList<QVariantMap> items;
     if (!viewKeyOf(item).isEmpty()) items << item;
-    for (const QVariant &child : item.value(QStringLiteral("child")).toList())
+    for (const QVariant &child : item.value(u"child"_s).toList())
         items << pageItemsIn(child.toMap());
     return items;
 }
@@ -66,23 +67,23 @@ Plan DWTMainSettingWindow::shownPlan() const {
 
 int DWTMainSettingWindow::numberOfChildrenOfItem(OutlineView *, const QVariantMap &item) {
     const QVariantMap &node = item.isEmpty() ? dictionary_OutlineView : item;
-    return int(node.value(QStringLiteral("child")).toList().size());
+    return int(node.value(u"child"_s).toList().size());
 }
 
 QVariantMap DWTMainSettingWindow::child(OutlineView *, int index, const QVariantMap &item) {
     const QVariantMap &node = item.isEmpty() ? dictionary_OutlineView : item;
-    return node.value(QStringLiteral("child")).toList().value(index).toMap();
+    return node.value(u"child"_s).toList().value(index).toMap();
 }
 
 bool DWTMainSettingWindow::isItemExpandable(OutlineView *, const QVariantMap &item) {
     const QVariantMap &node = item.isEmpty() ? dictionary_OutlineView : item;
-    return node.contains(QStringLiteral("child"));
+    return node.contains(u"child"_s);
 }
 
 QVariant DWTMainSettingWindow::objectValueForTableColumn(OutlineView *, const QString &column,
                                                          const QVariantMap &item) {
-    if (column != QStringLiteral("name")) return {};
-    return localized(item.value(QStringLiteral("name")).toString());
+    if (column != u"name"_s) return {};
+    return localized(item.value(u"name"_s).toString());
 }
 
 DWTMainSettingWindow::Mark DWTMainSettingWindow::markOfItem(OutlineView *,
@@ -91,16 +92,16 @@ DWTMainSettingWindow::Mark DWTMainSettingWindow::markOfItem(OutlineView *,
     if (!page || !bool_GetDataSuccess) return {};
     if (page->hasFault())
         return {window_Main->style()->standardIcon(QStyle::SP_MessageBoxWarning),
-                localized(QStringLiteral("DWT_Localize_Outline_Fault"))};
+                localized("DWT_Localize_Outline_Fault")};
     if (m_plan.changesPage(page->viewKey()))
-        return {changeSign(), localized(QStringLiteral("DWT_Localize_Outline_Changed"))};
+        return {changeSign(), localized("DWT_Localize_Outline_Changed")};
     return {};
 }
 
 // Leaving a page stores its values, whatever they are; they are checked when they are sent.
 bool DWTMainSettingWindow::shouldSelectItem(OutlineView *, const QVariantMap &item) {
-    if (!item.value(QStringLiteral("select")).toBool()) return false;
-    if (!item.contains(QStringLiteral("viewID"))) return true;
+    if (!item.value(u"select"_s).toBool()) return false;
+    if (!item.contains(u"viewID"_s)) return true;
     const QString viewKey = viewKeyOf(item);
     const std::optional<QString> shown = MSW_SelectedUIString();
     if (viewKey == shown) return false;

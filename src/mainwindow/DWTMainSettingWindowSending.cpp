@@ -95,7 +95,7 @@ std::optional<QString> DWTMainSettingWindow::sendViewAskingPassword() {
 }
 
 void DWTMainSettingWindow::push_SendLoginOK() {
-    const QString unreachable = localized(QStringLiteral("DWT_Localize_Send_ConnectErr_TextField"));
+    const QString unreachable = localized("DWT_Localize_Send_ConnectErr_TextField");
     const auto answer = [&] {
         const WaitSheet waiting = window_Wait->over(window_SendData);
         const Ending::Login login = m_session->logIn(window_SendData->password());
@@ -131,10 +131,9 @@ void DWTMainSettingWindow::sendHasStopped() {
 void DWTMainSettingWindow::showEnding(bool comparing) {
     if (m_ending.course == Ending::Course::NotReached) return;  // the view says it
     QStringList paragraphs = m_session->wordsOf(m_ending, Naming::Labels);
-    const auto text = [](const char *key) { return localized(QLatin1String(key)); };
-    if (paragraphs.isEmpty()) paragraphs << text("DWT_Localize_Send_End_TextField");
-    if (!m_ending.isComplete()) paragraphs << text("DWT_Localize_Send_Kept");
-    if (comparing) paragraphs << text("DWT_Localize_Send_End_Comparing");
+    if (paragraphs.isEmpty()) paragraphs << localized("DWT_Localize_Send_End_TextField");
+    if (!m_ending.isComplete()) paragraphs << localized("DWT_Localize_Send_Kept");
+    if (comparing) paragraphs << localized("DWT_Localize_Send_End_Comparing");
     const bool isLost = m_ending.course == Ending::Course::Lost;
     window_SendData->sayInstead(isLost ? DWT_View_Key_Send_ConnectError : DWT_View_Key_Send_End,
                                 paragraphs.join(u"\n\n"_s));

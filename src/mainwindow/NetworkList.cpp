@@ -6,6 +6,8 @@
 #include "platform/core/Texts.h"
 #include "platform/ui/Modal.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Weakest signals (dBm) that count as strong and as middle.
@@ -35,12 +37,9 @@ NetworkList::NetworkList(QWidget *parent) : ModalWindow(parent) {
         tableView_SelectSSIDWindow->addColumn(column);
         tableView_SelectSSIDWindow->setHeaderTitle(column, localized(titleKey));
     };
-    addColumn(QStringLiteral("SSID"),
-              QStringLiteral("DWT_Localize_SSIDList_TableView_Column_SSID"));
-    addColumn(QStringLiteral("Security"),
-              QStringLiteral("DWT_Localize_SSIDList_TableView_Column_Security"));
-    addColumn(QStringLiteral("Intensity"),
-              QStringLiteral("DWT_Localize_SSIDList_TableView_Column_Intensity"));
+    addColumn(u"SSID"_s, u"DWT_Localize_SSIDList_TableView_Column_SSID"_s);
+    addColumn(u"Security"_s, u"DWT_Localize_SSIDList_TableView_Column_Security"_s);
+    addColumn(u"Intensity"_s, u"DWT_Localize_SSIDList_TableView_Column_Intensity"_s);
     tableView_SelectSSIDWindow->setTableDataSource(this);
     tableView_SelectSSIDWindow->setTableDelegate(this);
     connect(tableView_SelectSSIDWindow, &TableView::doubleAction, this,
@@ -87,24 +86,22 @@ int NetworkList::numberOfRowsInTableView(TableView *) {
 
 QVariant NetworkList::objectValueForTableColumn(TableView *, const QString &column, int row) {
     const SSIDEntry network = array_SSIDList.value(row);
-    if (column == QStringLiteral("SSID"))
-        return readableText(textValue(network, DWT_SSIDList_SSID_String));
-    if (column == QStringLiteral("Security"))
+    if (column == u"SSID"_s) return readableText(textValue(network, DWT_SSIDList_SSID_String));
+    if (column == u"Security"_s)
         return localized(integerValue(network, DWT_SSIDList_Encryption) != 0
-                             ? QStringLiteral("DWT_Localize_SSIDList_Security_YES")
-                             : QStringLiteral("DWT_Localize_SSIDList_Security_NO"));
-    if (column == QStringLiteral("Intensity"))
-        return localized(QLatin1String(intensityOf(network).key));
+                             ? u"DWT_Localize_SSIDList_Security_YES"_s
+                             : u"DWT_Localize_SSIDList_Security_NO"_s);
+    if (column == u"Intensity"_s) return localized(intensityOf(network).key);
     return {};
 }
 
 QIcon NetworkList::iconForTableColumn(TableView *, const QString &column, int row) {
-    if (column != QStringLiteral("Intensity")) return {};
+    if (column != u"Intensity"_s) return {};
     return QIcon(QLatin1String(intensityOf(array_SSIDList.value(row)).picture));
 }
 
 QVariant NetworkList::sortValueForTableColumn(TableView *table, const QString &column, int row) {
-    if (column != QStringLiteral("Intensity")) return objectValueForTableColumn(table, column, row);
+    if (column != u"Intensity"_s) return objectValueForTableColumn(table, column, row);
     return integerValue(array_SSIDList.value(row), DWT_SSIDList_SignalStrength);
 }
 

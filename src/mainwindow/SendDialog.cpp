@@ -6,6 +6,8 @@
 #include "platform/ui/FieldLooks.h"
 #include "settings/SettingKeys.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // So many lines of changes are shown without scrolling, unless the user makes the dialog larger.
@@ -30,7 +32,7 @@ SendDialog::SendDialog(QWidget *parent) : ModalWindow(parent) {
                 {DWT_View_Key_Send_End, textField_SendEnd},
                 {DWT_View_Key_Send_ConnectError, textField_SendConnectError}};
     for (QLabel *label : std::as_const(m_saying)) m_usualTexts.insert(label, label->text());
-    fitWidth(textField_Password, QStringLiteral("00000000"));
+    fitWidth(textField_Password, u"00000000"_s);
     showChanges(false);
     connectButtons();
     const auto observe = [this](const QString &name,

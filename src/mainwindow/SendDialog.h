@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include "platform/core/Key.h"
 #include "platform/core/NotificationCenter.h"
 #include "platform/ui/Modal.h"
 #include "platform/ui/ModalWindow.h"
@@ -11,17 +12,14 @@
 #include "ui_SendDialog.h"
 
 // Views of the send dialog.
-inline const QString DWT_View_Key_Send_ChangeCheck =
-    QStringLiteral("DWT_View_Key_Send_ChangeCheck");
-inline const QString DWT_View_Key_Send_UpdateCheck =
-    QStringLiteral("DWT_View_Key_Send_UpdateCheck");
-inline const QString DWT_View_Key_Send_Confirm = QStringLiteral("DWT_View_Key_Send_Confirm");
-inline const QString DWT_View_Key_Send_Progress = QStringLiteral("DWT_View_Key_Send_Progress");
-inline const QString DWT_View_Key_Send_End = QStringLiteral("DWT_View_Key_Send_End");
-inline const QString DWT_View_Key_Send_Login = QStringLiteral("DWT_View_Key_Send_Login");
-inline const QString DWT_View_Key_Send_LoginError = QStringLiteral("DWT_View_Key_Send_LoginError");
-inline const QString DWT_View_Key_Send_ConnectError =
-    QStringLiteral("DWT_View_Key_Send_ConnectError");
+DWT_KEY(DWT_View_Key_Send_ChangeCheck);
+DWT_KEY(DWT_View_Key_Send_UpdateCheck);
+DWT_KEY(DWT_View_Key_Send_Confirm);
+DWT_KEY(DWT_View_Key_Send_Progress);
+DWT_KEY(DWT_View_Key_Send_End);
+DWT_KEY(DWT_View_Key_Send_Login);
+DWT_KEY(DWT_View_Key_Send_LoginError);
+DWT_KEY(DWT_View_Key_Send_ConnectError);
 
 // The dialog of a send, from the question for the password to the end, and of the questions about
 // unsent changes. It follows the running send by itself; what has consequences outside it is told

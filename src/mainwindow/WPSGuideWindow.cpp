@@ -6,16 +6,18 @@
 #include "platform/core/Texts.h"
 #include "platform/ui/Modal.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString DWT_View_Key_Main_WPS1 = QStringLiteral("DWT_View_Key_Main_WPS1");
-const QString DWT_View_Key_Main_WPS2 = QStringLiteral("DWT_View_Key_Main_WPS2");
+const QString DWT_View_Key_Main_WPS1 = u"DWT_View_Key_Main_WPS1"_s;
+const QString DWT_View_Key_Main_WPS2 = u"DWT_View_Key_Main_WPS2"_s;
 
 }  // namespace
 
 WPSGuideWindow::WPSGuideWindow(QWidget *parent)
     : ModalWindow(parent), view_WPSGuide(new QWidget), dictionary_WPSViewManagement(view_WPSGuide) {
-    setWindowTitle(localized(QStringLiteral("DWT_Localize_App_Name")));
+    setWindowTitle(localized("DWT_Localize_App_Name"));
     (new QVBoxLayout(this))->addWidget(view_WPSGuide);
     auto *const guide = new WPSGuide(view_WPSGuide);
     guide->hideBack();

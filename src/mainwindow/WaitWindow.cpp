@@ -10,7 +10,7 @@ WaitWindow::WaitWindow(QWidget *parent) : QWidget(parent, Qt::Dialog) {
 }
 
 WaitSheet WaitWindow::over(QWidget *parent) {
-    textField_WaitMassage->setText(localized(QStringLiteral("DWT_Localize_Wait_TextField")));
+    textField_WaitMassage->setText(localized("DWT_Localize_Wait_TextField"));
     return WaitSheet(this, parent, progress_Wait, button_WaitCancel);
 }
 

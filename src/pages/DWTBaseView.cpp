@@ -7,13 +7,7 @@
 #include "platform/core/Texts.h"
 #include "platform/ui/FieldLooks.h"
 
-namespace {
-
-QString text(const char *key) {
-    return localized(QLatin1String(key));
-}
-
-}  // namespace
+using namespace Qt::StringLiterals;
 
 bool DWTBaseView::TBV_Init() {
     nsObjectRelease(ndm_Object);
@@ -107,7 +101,7 @@ QString DWTBaseView::brokenRuleOf(const Field &field) const {
     if (!counts || isUnchangedText(field) || (field.isAddress() && isUnknown(field)) ||
         passes(field))
         return {};
-    return text(field.rule->ruleKey);
+    return localized(field.rule->ruleKey);
 }
 
 QString DWTBaseView::faultOf(const Field &field) const {
@@ -249,9 +243,9 @@ void DWTBaseView::checkCountTextField(TextField *field) const {
 
 void DWTBaseView::showInputError(Alert &alert, const QString &fieldName,
                                  const QString &rule) const {
-    alert.setButtonTitle(text("DWT_Localize_Alert_Button_OK"));
+    alert.setButtonTitle(localized("DWT_Localize_Alert_Button_OK"));
     alert.setMessageText(
-        QStringLiteral("%1 %2").arg(fieldName, text("DWT_Localize_Alert_MessageText_Error")));
+        u"%1 %2"_s.arg(fieldName, localized("DWT_Localize_Alert_MessageText_Error")));
     alert.setInformativeText(rule);
     alert.runModal(view_Base);
 }

@@ -7,6 +7,7 @@
 
 #include "app/base/DWTBaseClass.h"
 #include "pages/Field.h"
+#include "platform/core/Key.h"
 #include "platform/ui/Alert.h"
 #include "platform/ui/PopUpButton.h"
 #include "platform/ui/TextField.h"
@@ -14,10 +15,8 @@
 
 // Posted by a page after an edit, with the page as sender: something differs from the saved data,
 // or nothing does.
-inline const QString DWT_MainDialog_SendOK_Message =
-    QStringLiteral("DWT_MainDialog_SendOK_Message");
-inline const QString DWT_MainDialog_SendNG_Message =
-    QStringLiteral("DWT_MainDialog_SendNG_Message");
+DWT_KEY(DWT_MainDialog_SendOK_Message);
+DWT_KEY(DWT_MainDialog_SendNG_Message);
 
 // A setting page: fills the controls of one panel from the saved data of its category, checks what
 // is typed, and writes it to the change data. The main window drives every page through the page

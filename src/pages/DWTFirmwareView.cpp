@@ -2,9 +2,11 @@
 
 #include "platform/ui/FieldLooks.h"
 
+using namespace Qt::StringLiterals;
+
 void DWTFirmwareView::initializeUI() {
     DWTBaseView::initializeUI();
-    fitWidth(textField_PrintTimeOut, QStringLiteral("00000"));
+    fitWidth(textField_PrintTimeOut, u"00000"_s);
 }
 
 bool DWTFirmwareView::NFW_Init() {

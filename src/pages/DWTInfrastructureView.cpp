@@ -3,6 +3,8 @@
 #include "platform/core/PropertyList.h"
 #include "platform/core/Texts.h"
 
+using namespace Qt::StringLiterals;
+
 bool DWTInfrastructureView::ISV_Init() {
     SetViewKey(DWT_View_Key_Infrastructure);
     setupUi(view_Base);
@@ -65,8 +67,7 @@ void DWTInfrastructureView::initializeUI() {
     InterfaceView::initializeUI();
     mutableDictionary_selectSSID.clear();
     bool_SSIDfromSelectSSID = false;
-    dictionary_itemData =
-        PropertyList::dictionary(QStringLiteral("InfrastructureItemData"), QStringLiteral("plist"));
+    dictionary_itemData = PropertyList::dictionary(u"InfrastructureItemData"_s, u"plist"_s);
     const auto items = [this](const char *key) {
         return dictionary_itemData.value(QLatin1String(key)).toStringList();
     };
@@ -190,9 +191,8 @@ void DWTInfrastructureView::focusKey() {
 }
 
 void DWTInfrastructureView::sayKeyOf(const QString &network) {
-    const QString said = network.isEmpty()
-                             ? localized(QStringLiteral("DWT_Localize_Key_Unchanged"))
-                             : localized(QStringLiteral("DWT_Localize_Key_OfNetwork")).arg(network);
+    const QString said = network.isEmpty() ? localized("DWT_Localize_Key_Unchanged")
+                                           : localized("DWT_Localize_Key_OfNetwork").arg(network);
     textField_InfrastructurePSK->setPlaceholderText(said);
     textField_InfrastructureWEPKey->setPlaceholderText(said);
 }

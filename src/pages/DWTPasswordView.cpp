@@ -16,7 +16,7 @@ bool DWTPasswordView::NPS_Init() {
     Field &again = addField(secureTextField_PasswordReinput, {}, nullptr,
                             [this] { return itemInputCheckPasswordReinput(); });
     again.rule = password.rule;
-    again.name = localized(QStringLiteral("DWT_Localize_Alert_MessageText_Password_Reinput"));
+    again.name = localized("DWT_Localize_Alert_MessageText_Password_Reinput");
     connect(checkbox_PasswordChange, &QCheckBox::clicked, this,
             &DWTPasswordView::push_PasswordChange);
     return true;
@@ -41,7 +41,7 @@ bool DWTPasswordView::itemInputCheck() {
     if (fieldsAgree()) return true;
     Alert alert(alertStyle());
     showInputError(alert, passwordName(),
-                   localized(QStringLiteral("DWT_Localize_Alert_InfoText_Password_MatchingErr")));
+                   localized("DWT_Localize_Alert_InfoText_Password_MatchingErr"));
     return false;
 }
 
@@ -51,7 +51,7 @@ QString DWTPasswordView::faultOf(const Field &field) const {
     if (!broken.isEmpty() || field.control != secureTextField_PasswordReinput ||
         !field.control->isEnabled() || fieldsAgree())
         return broken;
-    return localized(QStringLiteral("DWT_Localize_Alert_InfoText_Password_MatchingErr"));
+    return localized("DWT_Localize_Alert_InfoText_Password_MatchingErr");
 }
 
 void DWTPasswordView::passwordChangeSetting(bool on) {

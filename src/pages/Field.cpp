@@ -7,9 +7,11 @@
 #include "platform/ui/RadioGroup.h"
 #include "settings/Values.h"
 
+using namespace Qt::StringLiterals;
+
 QString shownAddress(const QStringList &address) {
     const QString dotted = dottedAddress(address);
-    return dotted.isEmpty() ? QStringLiteral("0.0.0.0") : dotted;
+    return dotted.isEmpty() ? u"0.0.0.0"_s : dotted;
 }
 
 void Field::show(const CategoryDictionary &category) const {

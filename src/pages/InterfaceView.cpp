@@ -5,6 +5,8 @@
 #include "platform/core/Texts.h"
 #include "platform/ui/FieldLooks.h"
 
+using namespace Qt::StringLiterals;
+
 void InterfaceView::addAddress(TextField *field, const QString &key, const QString &keyInUse,
                                std::function<bool()> store, bool *input) {
     m_keysInUse.insert(key, keyInUse);
@@ -21,7 +23,7 @@ void InterfaceView::setControls(const Controls &controls) {
 void InterfaceView::initializeUI() {
     DWTBaseView::initializeUI();
     for (const Field &field : fields())
-        if (field.isAddress()) fitWidth(field.line(), QStringLiteral("255.255.255.255"));
+        if (field.isAddress()) fitWidth(field.line(), u"255.255.255.255"_s);
 }
 
 void InterfaceView::showDataManager() {
@@ -58,8 +60,7 @@ void InterfaceView::forgetConnectResult() {
 }
 
 void InterfaceView::showConnectResult(bool online) {
-    m_controls.state->setText(
-        localized(QLatin1String(online ? m_controls.online : m_controls.offline)));
+    m_controls.state->setText(localized(online ? m_controls.online : m_controls.offline));
 }
 
 void InterfaceView::settingConnectButtonEnable(bool enabled) {

@@ -8,10 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString text(const char *key) {
-    return localized(QLatin1String(key));
-}
-
 // Of the addresses of an interface, the first stands for all, of a key and its number the key.
 const Setting &representativeOf(const Setting &setting) {
     const Item *const item = itemOf(setting.item.code);
@@ -33,8 +29,8 @@ QString listOf(const QList<const Setting *> &settings, Naming naming) {
 
 QString wordsOf(const Ending::Part &part, Naming naming) {
     const QString name = nameOf(*part.setting, naming);
-    if (part.setting->isSecret()) return text("DWT_Localize_Ending_SecretDiffers").arg(name);
-    return text("DWT_Localize_Ending_Differs").arg(name, part.sentText, part.heldText);
+    if (part.setting->isSecret()) return localized("DWT_Localize_Ending_SecretDiffers").arg(name);
+    return localized("DWT_Localize_Ending_Differs").arg(name, part.sentText, part.heldText);
 }
 
 const char *keyOf(Ending::Login login) {
@@ -93,19 +89,19 @@ QStringList namesOf(const QList<const Setting *> &settings, Naming naming) {
 
 QStringList wordsOf(const Ending &ending, const QString &printer, Naming naming) {
     for (const char *const key : {keyOf(ending.course), keyOf(ending.login)})
-        if (key) return {text(key).arg(printer)};
+        if (key) return {localized(key).arg(printer)};
     QStringList sentences;
     const auto say = [&](const char *key, const QList<const Setting *> &settings) {
-        if (!settings.isEmpty()) sentences << text(key).arg(printer, listOf(settings, naming));
+        if (!settings.isEmpty()) sentences << localized(key).arg(printer, listOf(settings, naming));
     };
     say("DWT_Localize_Ending_Refused", ending.in(Ending::State::Refused));
     say("DWT_Localize_Ending_Unclear", ending.in(Ending::State::Unclear));
     for (const Ending::Part &part : ending.parts)
         if (part.state == Ending::State::Differs) sentences << wordsOf(part, naming);
     if (ending.comparison == Ending::Comparison::Failed)
-        sentences << text("DWT_Localize_Ending_NotReadBack").arg(printer);
+        sentences << localized("DWT_Localize_Ending_NotReadBack").arg(printer);
     if (ending.comparison != Ending::Comparison::Done) return sentences;
-    if (sentences.isEmpty()) sentences << text("DWT_Localize_Ending_Verified").arg(printer);
+    if (sentences.isEmpty()) sentences << localized("DWT_Localize_Ending_Verified").arg(printer);
     say("DWT_Localize_Ending_NotComparable", ending.in(Ending::State::Accepted));
     return sentences;
 }

@@ -8,6 +8,8 @@
 #include "settings/SettingKeys.h"
 #include "settings/Settings.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Frames::word;
@@ -120,8 +122,7 @@ std::optional<QString> ItemCodec::macAddress(const QByteArray &reply, ItemCode c
 std::optional<QString> ItemCodec::softwareVersion(const QByteArray &reply, ItemCode code) {
     auto cursor = openReply(reply, 'F', code);
     if (!cursor) return {};
-    const QString digits =
-        QStringLiteral("%1").arg(cursor->word(), 4, 16, QLatin1Char('0')).toUpper();
+    const QString digits = u"%1"_s.arg(cursor->word(), 4, 16, QLatin1Char('0')).toUpper();
     return digits.left(1) + u'.' + digits.mid(1);
 }
 

@@ -33,11 +33,11 @@ class SecurityCheck {
         for (const QString &key :
              {DWT_SaveData_Infrastructure_PSK, DWT_SaveData_Infrastructure_WEPKey})
             if (m_network.contains(encryptionKey) && networkKeyOf(encryption()) != key)
-                add(key, localized(u"DWT_Localize_Cli_Fault_KeyUnused"_s)
+                add(key, localized("DWT_Localize_Cli_Fault_KeyUnused")
                              .arg(nameOfCode(encryptionKey, encryption())));
         if (!find(m_values, DWT_SaveData_Infrastructure_WEPKey))
             add(DWT_SaveData_Infrastructure_WEPKeyIndex,
-                localized(u"DWT_Localize_Cli_Fault_NumberAlone"_s));
+                localized("DWT_Localize_Cli_Fault_NumberAlone"));
         return m_faults;
     }
 
@@ -47,7 +47,7 @@ class SecurityCheck {
         const int authentication = integerValue(m_network, authenticationKey);
         const auto [weaker, preferred] = Rules::encryptionsOf(authentication);
         if (encryption() == weaker || encryption() == preferred) return;
-        const QString words = localized(u"DWT_Localize_Cli_Fault_Pair"_s)
+        const QString words = localized("DWT_Localize_Cli_Fault_Pair")
                                   .arg(nameOfCode(encryptionKey, encryption()),
                                        nameOfCode(authenticationKey, authentication));
         if (!add(encryptionKey, words)) add(authenticationKey, words);
@@ -82,13 +82,13 @@ QList<Fault> faultsOf(const AddressSetup &setup, const QList<WantedValue> &chang
         const bool isAddress = addresses.contains(value.setting);
         if (isAddress || value.setting == setup.mode) cause = &value;
         if (isAddress && automatic)
-            faults << Fault{value.place, localized(u"DWT_Localize_Cli_Fault_AddressUnused"_s)};
+            faults << Fault{value.place, localized("DWT_Localize_Cli_Fault_AddressUnused")};
     }
     if (!cause || automatic) return faults;
     // A fixed address needs all three, also those that nobody has given.
     for (const Setting *const setting : addresses) {
         if (Rules::keeps(*setting->rule, addressValue(category, setting->key).join(u'.'))) continue;
-        faults << Fault{cause->place, localized(QLatin1String(setting->rule->ruleKey))};
+        faults << Fault{cause->place, localized(setting->rule->ruleKey)};
         faults.last().place.name = setting->name;
     }
     return faults;

@@ -7,17 +7,17 @@ QString wordsOf(const PrinterProblem &problem) {
     QString text;
     switch (problem.kind) {
         case PrinterProblem::EmptyCatalogue:
-            return localized(QStringLiteral("DWT_Localize_PrinterList_Empty_Catalogue"));
+            return localized("DWT_Localize_PrinterList_Empty_Catalogue");
         case PrinterProblem::NoNetworkService:
-            return localized(QStringLiteral("DWT_Localize_PrinterList_Problem_NoNetworkService"));
+            return localized("DWT_Localize_PrinterList_Problem_NoNetworkService");
         case PrinterProblem::NoPermission:
-            text = localized(QStringLiteral("DWT_Localize_PrinterList_Problem_NoPermission"));
+            text = localized("DWT_Localize_PrinterList_Problem_NoPermission");
             break;
         case PrinterProblem::InUse:
-            text = localized(QStringLiteral("DWT_Localize_PrinterList_Problem_InUse"));
+            text = localized("DWT_Localize_PrinterList_Problem_InUse");
             break;
         case PrinterProblem::BadFile:
-            text = localized(QStringLiteral("DWT_Localize_PrinterList_Problem_BadFile"));
+            text = localized("DWT_Localize_PrinterList_Problem_BadFile");
             break;
     }
     return text.arg(shownText(problem.subject));
@@ -25,11 +25,10 @@ QString wordsOf(const PrinterProblem &problem) {
 
 QString whereaboutsOf(const PrinterEntry &entry) {
     if (entry.contains(PrinterKey::SerialNumber))
-        return localized(QStringLiteral("DWT_Localize_PrinterList_SerialNumber"))
+        return localized("DWT_Localize_PrinterList_SerialNumber")
             .arg(entry[PrinterKey::SerialNumber]);
     if (entry.contains(PrinterKey::Port))
-        return localized(QStringLiteral("DWT_Localize_PrinterList_Port"))
-            .arg(entry[PrinterKey::Port]);
+        return localized("DWT_Localize_PrinterList_Port").arg(entry[PrinterKey::Port]);
     return entry.value(PrinterKey::Address);
 }
 

@@ -3,12 +3,13 @@
 #include "link/DWTCommunicationControl.h"
 #include "platform/core/PropertyList.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The supported models, by product name.
 QVariantMap models() {
-    return PropertyList::dictionary(QStringLiteral("ZMPrinterStatusTable"),
-                                    QStringLiteral("plist"));
+    return PropertyList::dictionary(u"ZMPrinterStatusTable"_s, u"plist"_s);
 }
 
 }  // namespace
@@ -28,7 +29,7 @@ int Printers::statusLengthOf(const PrinterEntry &entry) {
     return models()
         .value(entry.value(PrinterKey::ProductName))
         .toMap()
-        .value(QStringLiteral("GDQKStatusLength"), ZMLib::defaultStatusLength)
+        .value(u"GDQKStatusLength"_s, ZMLib::defaultStatusLength)
         .toInt();
 }
 

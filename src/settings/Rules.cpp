@@ -6,17 +6,19 @@
 #include "settings/Codes.h"
 #include "settings/SettingRecord.h"
 
+using namespace Qt::StringLiterals;
+
 namespace Rules {
 
 const QString alphanumericCharacters =
-    QStringLiteral("1234567890abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ");
+    u"1234567890abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"_s;
 const QString hostNameCharacters = alphanumericCharacters + u'-';
-const QString passwordCharacters = alphanumericCharacters + QStringLiteral("!\"#$%&'()*+,-./{|}~");
-const QString hexadecimalCharacters = QStringLiteral("1234567890abcdefABCDEF");
+const QString passwordCharacters = alphanumericCharacters + u"!\"#$%&'()*+,-./{|}~"_s;
+const QString hexadecimalCharacters = u"1234567890abcdefABCDEF"_s;
 const QString printableCharacters =
-    alphanumericCharacters + QStringLiteral("!\"#$%&'()*+,-./:;<=>?@[\\]^_`{|}~ ");
-const QString addressCharacters = QStringLiteral("0123456789.");
-const QString digits = QStringLiteral("0123456789");
+    alphanumericCharacters + u"!\"#$%&'()*+,-./:;<=>?@[\\]^_`{|}~ "_s;
+const QString addressCharacters = u"0123456789."_s;
+const QString digits = u"0123456789"_s;
 
 namespace {
 

@@ -66,7 +66,7 @@ QString wordsOf(const SendWarning &warning) {
         {SendWarning::NotAMask, "DWT_Localize_Send_Warning_NotAMask"},
         {SendWarning::GatewayOutside, "DWT_Localize_Send_Warning_GatewayOutside"},
         {SendWarning::AddressUnreachable, "DWT_Localize_Send_Warning_AddressUnreachable"}};
-    return localized(QLatin1String(keys[warning.kind])).arg(warning.subject);
+    return localized(keys[warning.kind]).arg(warning.subject);
 }
 
 QList<SendWarning> warningsOf(const SettingRecord &saved, const SettingRecord &changed) {

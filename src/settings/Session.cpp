@@ -6,13 +6,14 @@
 #include "settings/Printers.h"
 #include "settings/Wipe.h"
 
+using namespace Qt::StringLiterals;
+
 using State = Ending::State;
 
 CategoryDictionary listedCategory(const PrinterEntry &entry) {
     CategoryDictionary category;
     for (auto i = entry.begin(); i != entry.end(); ++i) category.insert(i.key(), i.value());
-    category.insert(PrinterKey::ConnectionType,
-                    isUSB(entry) ? QStringLiteral("usb") : QStringLiteral("network"));
+    category.insert(PrinterKey::ConnectionType, isUSB(entry) ? u"usb"_s : u"network"_s);
     return category;
 }
 
@@ -159,8 +160,8 @@ QStringList Session::problems() const {
 QStringList Session::wordsOf(Reading reading) const {
     if (reading == Reading::Complete) return {};
     const bool isReached = reading == Reading::StoppedAnswering;
-    const QString key = isReached ? QStringLiteral("DWT_Localize_Cli_StoppedAnswering")
-                                  : QStringLiteral("DWT_Localize_Ending_NotReached");
+    const QString key =
+        isReached ? u"DWT_Localize_Cli_StoppedAnswering"_s : u"DWT_Localize_Ending_NotReached"_s;
     return QStringList{localized(key).arg(name())} + (isReached ? QStringList() : problems());
 }
 

@@ -21,10 +21,10 @@ QString dottedAddress(const QStringList &address) {
 
 QString wordsOfExpected(const Setting &setting) {
     if (setting.kind == Kind::Number)
-        return localized(u"DWT_Localize_Cli_Fault_Number"_s)
+        return localized("DWT_Localize_Cli_Fault_Number")
             .arg(QString::number(setting.rule->min), QString::number(setting.rule->max));
     if (setting.kind == Kind::Choice)
-        return localized(u"DWT_Localize_Cli_Fault_Choice"_s).arg(setting.codes.join(u", "_s));
+        return localized("DWT_Localize_Cli_Fault_Choice").arg(setting.codes.join(u", "_s));
     return localized(setting.isSecret() ? u"DWT_Localize_Cli_Fault_Secret"_s
                                         : u"DWT_Localize_Cli_Fault_Text"_s);
 }
@@ -41,9 +41,8 @@ Parsed parsedText(const Setting &setting, const QString &text) {
         if (isNumber) return parsedNumber(setting, number);
         return {{}, wordsOfExpected(setting)};
     }
-    const QString fault = Rules::keeps(*setting.rule, text)
-                              ? QString()
-                              : localized(QLatin1String(setting.rule->ruleKey));
+    const QString fault =
+        Rules::keeps(*setting.rule, text) ? QString() : localized(setting.rule->ruleKey);
     if (setting.kind == Kind::Text) return {text, fault};
     const QString address = dottedAddress(text.split(u'.'));
     // What is no address at all cannot be the printer's either.
@@ -88,7 +87,7 @@ QString textOf(const Setting &setting, const CategoryDictionary &category) {
 
 QString textOrEmpty(const Setting &setting, const CategoryDictionary &category) {
     const QString text = textOf(setting, category);
-    return text.isEmpty() ? localized(u"DWT_Localize_Send_Confirm_Empty"_s) : text;
+    return text.isEmpty() ? localized("DWT_Localize_Send_Confirm_Empty") : text;
 }
 
 QList<ShownPage> shownPages(const SettingRecord &record) {

@@ -5,6 +5,9 @@
 // The user-visible text of `key` in the installed translation (a message id of the .ts files);
 // a key without a text shows itself.
 QString localized(const QString &key);
+inline QString localized(const char *key) {
+    return localized(QString(QLatin1String(key)));
+}
 
 // The text of a button or a menu entry as other places show it: without the mark of its mnemonic,
 // "&Send" and "送信(&S)" become "Send" and "送信".
