@@ -22,20 +22,12 @@ const QStringList resultColumns{u"time"_s, u"printer"_s, u"serial"_s, u"uri"_s,
 
 // The word of an ending, for programs.
 QString wordOf(ExitCode code) {
-    switch (code) {
-        case ExitCode::Done:
-            return u"done"_s;
-        case ExitCode::InputRefused:
-            return u"refused"_s;
-        case ExitCode::NotReached:
-            return u"not-reached"_s;
-        case ExitCode::LoginRefused:
-            return u"login-refused"_s;
-        case ExitCode::NotAccepted:
-            return u"not-accepted"_s;
-        default:
-            return u"stopped"_s;
-    }
+    static const QMap<ExitCode, QString> words{{ExitCode::Done, u"done"_s},
+                                               {ExitCode::InputRefused, u"refused"_s},
+                                               {ExitCode::NotReached, u"not-reached"_s},
+                                               {ExitCode::LoginRefused, u"login-refused"_s},
+                                               {ExitCode::NotAccepted, u"not-accepted"_s}};
+    return words.value(code, u"stopped"_s);
 }
 
 Rows::Printer printerOf(const Session &session) {

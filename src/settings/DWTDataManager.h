@@ -155,13 +155,27 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     CategoryDictionary valuesOf(const Item &item);
     // The categories, on a connected link: every item of one, in the order of the wire.
     CategoryDictionary readCategory(const QString &viewKey);
-    CategoryDictionary NDM_NetworkDataFromPrinter();
-    CategoryDictionary NDM_WirelessDataFromPrinter();
-    CategoryDictionary NDM_InfrastructureDataFromPrinter();
-    CategoryDictionary NDM_SimpleAPDataFromPrinter();
-    CategoryDictionary NDM_EthernetDataFromPrinter();
-    CategoryDictionary NDM_PasswordDataFromPrinter();
-    CategoryDictionary NDM_FirmwareDataFromPrinter();
+    CategoryDictionary NDM_NetworkDataFromPrinter() {
+        return networkData_Dictionary = readCategory(DWT_View_Key_Network);
+    }
+    CategoryDictionary NDM_WirelessDataFromPrinter() {
+        return wirelessData_Dictionary = readCategory(DWT_View_Key_Wireless);
+    }
+    CategoryDictionary NDM_InfrastructureDataFromPrinter() {
+        return infrastructureData_Dictionary = readCategory(DWT_View_Key_Infrastructure);
+    }
+    CategoryDictionary NDM_SimpleAPDataFromPrinter() {
+        return simpleAPData_Dictionary = readCategory(DWT_View_Key_SimpleAP);
+    }
+    CategoryDictionary NDM_EthernetDataFromPrinter() {
+        return ethernetData_Dictionary = readCategory(DWT_View_Key_Ethernet);
+    }
+    CategoryDictionary NDM_PasswordDataFromPrinter() {
+        return passwordData_Dictionary = readCategory(DWT_View_Key_Password);
+    }
+    CategoryDictionary NDM_FirmwareDataFromPrinter() {
+        return firmwareData_Dictionary = readCategory(DWT_View_Key_Firmware);
+    }
     std::optional<QList<SSIDEntry>> NDM_DataToSSIDArray(const Progress &progress);
 
     // Notes whether a reply reports the value of an item that a send writes.

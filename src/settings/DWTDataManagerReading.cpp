@@ -171,34 +171,6 @@ CategoryDictionary DWTDataManager::readCategory(const QString &viewKey) {
     return categoryOf(viewKey, values);
 }
 
-CategoryDictionary DWTDataManager::NDM_NetworkDataFromPrinter() {
-    return networkData_Dictionary = readCategory(DWT_View_Key_Network);
-}
-
-CategoryDictionary DWTDataManager::NDM_WirelessDataFromPrinter() {
-    return wirelessData_Dictionary = readCategory(DWT_View_Key_Wireless);
-}
-
-CategoryDictionary DWTDataManager::NDM_InfrastructureDataFromPrinter() {
-    return infrastructureData_Dictionary = readCategory(DWT_View_Key_Infrastructure);
-}
-
-CategoryDictionary DWTDataManager::NDM_SimpleAPDataFromPrinter() {
-    return simpleAPData_Dictionary = readCategory(DWT_View_Key_SimpleAP);
-}
-
-CategoryDictionary DWTDataManager::NDM_EthernetDataFromPrinter() {
-    return ethernetData_Dictionary = readCategory(DWT_View_Key_Ethernet);
-}
-
-CategoryDictionary DWTDataManager::NDM_PasswordDataFromPrinter() {
-    return passwordData_Dictionary = readCategory(DWT_View_Key_Password);
-}
-
-CategoryDictionary DWTDataManager::NDM_FirmwareDataFromPrinter() {
-    return firmwareData_Dictionary = readCategory(DWT_View_Key_Firmware);
-}
-
 // Nothing when no poll had a well-formed answer.
 std::optional<QList<SSIDEntry>> DWTDataManager::NDM_DataToSSIDArray(const Progress &progress) {
     NDM_IntegerToData(0x3120, 1);  // starts the search; whether it says so does not matter

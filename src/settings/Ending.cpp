@@ -33,33 +33,20 @@ QString wordsOf(const Ending::Part &part, Naming naming) {
     return localized("DWT_Localize_Ending_Differs").arg(name, part.sentText, part.heldText);
 }
 
-const char *keyOf(Ending::Login login) {
-    switch (login) {
-        case Ending::Login::Missing:
-            return "DWT_Localize_Ending_NoPassword";
-        case Ending::Login::Refused:
-            return "DWT_Localize_Ending_LoginRefused";
-        case Ending::Login::NoReply:
-        case Ending::Login::NotReached:
-            return "DWT_Localize_Ending_NotReached";
-        case Ending::Login::Passed:
-            break;
-    }
-    return nullptr;
-}
-
-const char *keyOf(Ending::Course course) {
-    switch (course) {
-        case Ending::Course::NotReached:
-            return "DWT_Localize_Ending_NotReached";
-        case Ending::Course::Lost:
-            return "DWT_Localize_Ending_Lost";
-        case Ending::Course::Stopped:
-            return "DWT_Localize_Ending_Stopped";
-        case Ending::Course::Sent:
-            break;
-    }
-    return nullptr;
+// Of an ending in which nothing was written or applied; null for any other.
+const char *keyOf(const Ending &ending) {
+    using Course = Ending::Course;
+    using Login = Ending::Login;
+    static const QMap<Course, const char *> courses{
+        {Course::NotReached, "DWT_Localize_Ending_NotReached"},
+        {Course::Lost, "DWT_Localize_Ending_Lost"},
+        {Course::Stopped, "DWT_Localize_Ending_Stopped"}};
+    static const QMap<Login, const char *> logins{
+        {Login::Missing, "DWT_Localize_Ending_NoPassword"},
+        {Login::Refused, "DWT_Localize_Ending_LoginRefused"},
+        {Login::NoReply, "DWT_Localize_Ending_NotReached"},
+        {Login::NotReached, "DWT_Localize_Ending_NotReached"}};
+    return courses.value(ending.course, logins.value(ending.login));
 }
 
 }  // namespace
@@ -88,8 +75,7 @@ QStringList namesOf(const QList<const Setting *> &settings, Naming naming) {
 }
 
 QStringList wordsOf(const Ending &ending, const QString &printer, Naming naming) {
-    for (const char *const key : {keyOf(ending.course), keyOf(ending.login)})
-        if (key) return {localized(key).arg(printer)};
+    if (const char *const key = keyOf(ending)) return {localized(key).arg(printer)};
     QStringList sentences;
     const auto say = [&](const char *key, const QList<const Setting *> &settings) {
         if (!settings.isEmpty()) sentences << localized(key).arg(printer, listOf(settings, naming));

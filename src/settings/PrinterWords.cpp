@@ -4,23 +4,14 @@
 #include "settings/SettingRecord.h"
 
 QString wordsOf(const PrinterProblem &problem) {
-    QString text;
-    switch (problem.kind) {
-        case PrinterProblem::EmptyCatalogue:
-            return localized("DWT_Localize_PrinterList_Empty_Catalogue");
-        case PrinterProblem::NoNetworkService:
-            return localized("DWT_Localize_PrinterList_Problem_NoNetworkService");
-        case PrinterProblem::NoPermission:
-            text = localized("DWT_Localize_PrinterList_Problem_NoPermission");
-            break;
-        case PrinterProblem::InUse:
-            text = localized("DWT_Localize_PrinterList_Problem_InUse");
-            break;
-        case PrinterProblem::BadFile:
-            text = localized("DWT_Localize_PrinterList_Problem_BadFile");
-            break;
-    }
-    return text.arg(shownText(problem.subject));
+    static const QMap<PrinterProblem::Kind, const char *> keys{
+        {PrinterProblem::EmptyCatalogue, "DWT_Localize_PrinterList_Empty_Catalogue"},
+        {PrinterProblem::NoNetworkService, "DWT_Localize_PrinterList_Problem_NoNetworkService"},
+        {PrinterProblem::NoPermission, "DWT_Localize_PrinterList_Problem_NoPermission"},
+        {PrinterProblem::InUse, "DWT_Localize_PrinterList_Problem_InUse"},
+        {PrinterProblem::BadFile, "DWT_Localize_PrinterList_Problem_BadFile"}};
+    const QString text = localized(keys.value(problem.kind));
+    return problem.subject.isEmpty() ? text : text.arg(shownText(problem.subject));
 }
 
 QString whereaboutsOf(const PrinterEntry &entry) {
