@@ -48,19 +48,19 @@ const Catalogue &demo() {
     return catalogue;
 }
 
-void setFaults(const char *uri, const Faults &faults) {
+void setFaults(const char *uri, const SimulatedFaults &faults) {
     demo().virtualPrinters[QLatin1String(uri)]->setFaults(faults);
 }
 
-Faults unplugged() {
-    Faults faults;
+SimulatedFaults unplugged() {
+    SimulatedFaults faults;
     faults.refuseConnection = true;
     return faults;
 }
 
 // So that work with the printer is half done when its picture is taken.
-Faults slow() {
-    Faults faults;
+SimulatedFaults slow() {
+    SimulatedFaults faults;
     faults.delay = 150;
     return faults;
 }

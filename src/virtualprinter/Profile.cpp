@@ -161,13 +161,13 @@ ItemFault readItemFault(Reader &reader, const QJsonObject &object, const QString
     return fault;
 }
 
-Faults readFaults(Reader &reader, const QJsonObject &object) {
+SimulatedFaults readFaults(Reader &reader, const QJsonObject &object) {
     const QString place = QStringLiteral("faults.");
     reader.expectKeys(
         object, place,
         {QStringLiteral("refuseConnection"), QStringLiteral("closeAfterFrames"),
          QStringLiteral("delay"), QStringLiteral("piecewise"), QStringLiteral("items")});
-    Faults faults;
+    SimulatedFaults faults;
     faults.refuseConnection = reader.flag(object, QStringLiteral("refuseConnection"), place);
     faults.closeAfterFrames =
         reader.integer(object, QStringLiteral("closeAfterFrames"), place, 0, 0xFFFF);

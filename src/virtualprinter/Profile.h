@@ -32,7 +32,8 @@ struct ItemFault {
     int delay = 0;                  // ms before the reply, on top of the printer's own
 };
 
-struct Faults {
+// What goes wrong on purpose.
+struct SimulatedFaults {
     bool refuseConnection = false;
     // The channel closes after that many frames; 0: never.
     int closeAfterFrames = 0;
@@ -56,7 +57,7 @@ struct Profile {
     QHash<quint16, QByteArray> items;  // every item, in the layout of Items.h
     QList<Network> networks;
     int scanPolls = 1;  // polls answered before the search has finished
-    Faults faults;
+    SimulatedFaults faults;
 };
 
 struct ProfileResult {

@@ -91,12 +91,12 @@ void VirtualPrinter::clearLog() {
     m_log.clear();
 }
 
-void VirtualPrinter::setFaults(const Faults &faults) {
+void VirtualPrinter::setFaults(const SimulatedFaults &faults) {
     const std::lock_guard lock(m_mutex);
     m_profile.faults = faults;
 }
 
-Faults VirtualPrinter::faults() const {
+SimulatedFaults VirtualPrinter::faults() const {
     const std::lock_guard lock(m_mutex);
     return m_profile.faults;
 }

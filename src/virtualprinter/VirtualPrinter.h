@@ -85,8 +85,8 @@ class VirtualPrinter {
     void clearLog();
 
     // Replaces what goes wrong, for example when the printer is unplugged.
-    void setFaults(const Faults &faults);
-    Faults faults() const;
+    void setFaults(const SimulatedFaults &faults);
+    SimulatedFaults faults() const;
 
   private:
     // The lines below run under m_mutex.

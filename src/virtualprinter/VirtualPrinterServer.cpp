@@ -2,8 +2,6 @@
 
 #include <sys/socket.h>
 
-#include <QTcpSocket>
-
 #include "virtualprinter/DelayedActions.h"
 
 namespace {
@@ -51,25 +49,25 @@ class Connection : public QObject {
 }  // namespace
 
 VirtualPrinterServer::VirtualPrinterServer(std::shared_ptr<VirtualPrinter> printer, QObject *parent)
-    : QObject(parent), m_printer(std::move(printer)), m_server(this) {
+    : QObject(parent), m_printer(std::move(printer)), m_server(this), m_refusing(this) {
     connect(&m_server, &QTcpServer::newConnection, this, [this] {
         while (QTcpSocket *socket = m_server.nextPendingConnection()) serve(socket);
     });
 }
 
 bool VirtualPrinterServer::listen(const QHostAddress &address, quint16 port) {
-    if (!m_server.listen(address, port)) return false;
-    m_port = m_server.serverPort();
-    if (m_printer->faults().refuseConnection) m_server.close();
-    return true;
+    if (m_printer->faults().refuseConnection)
+        return m_refusing.bind(address, port, QTcpSocket::ReuseAddressHint);
+    return m_server.listen(address, port);
 }
 
 quint16 VirtualPrinterServer::port() const {
-    return m_port;
+    return m_server.isListening() ? m_server.serverPort() : m_refusing.localPort();
 }
 
 QString VirtualPrinterServer::errorString() const {
-    return m_server.errorString();
+    const bool isRefusing = m_refusing.error() != QTcpSocket::UnknownSocketError;
+    return isRefusing ? m_refusing.errorString() : m_server.errorString();
 }
 
 void VirtualPrinterServer::serve(QTcpSocket *socket) {

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QString>
 #include <QTcpServer>
+#include <QTcpSocket>
 #include <memory>
 
 #include "virtualprinter/VirtualPrinter.h"
@@ -15,8 +16,9 @@ class VirtualPrinterServer : public QObject {
     explicit VirtualPrinterServer(std::shared_ptr<VirtualPrinter> printer,
                                   QObject *parent = nullptr);
 
-    // Begins to listen; port 0 takes a free one. A printer whose faults refuse connections only
-    // picks the port and does not listen on it. False with the reason in errorString().
+    // Begins to listen; port 0 takes a free one. A printer whose faults refuse connections does not
+    // listen on the port, but keeps it, so that nobody else answers there. False with the reason in
+    // errorString().
     bool listen(const QHostAddress &address, quint16 port);
     quint16 port() const;
     QString errorString() const;
@@ -26,5 +28,5 @@ class VirtualPrinterServer : public QObject {
 
     const std::shared_ptr<VirtualPrinter> m_printer;
     QTcpServer m_server;
-    quint16 m_port = 0;
+    QTcpSocket m_refusing;  // bound in the server's place
 };

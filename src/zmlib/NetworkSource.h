@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <mutex>
 
 #include "zmlib/PrinterSource.h"
@@ -9,9 +8,8 @@
 // The printers that announce themselves on the network.
 class NetworkSource : public PrinterSource {
   public:
-    // How long after the start of the source a list still waits for what is announced already:
-    // the system's service tells after a second that this was all.
-    static constexpr std::chrono::milliseconds firstLook{1200};
+    explicit NetworkSource(const BrowsingLimits &limits = {})
+        : m_browser(limits), m_firstLook(limits.firstLook) {}
 
     Listing list() override;
     bool hasChanged() override;
@@ -25,7 +23,7 @@ class NetworkSource : public PrinterSource {
     Listing announced() const;
 
     ServiceBrowser m_browser;
-    const QDeadlineTimer m_firstLook{firstLook};
+    const QDeadlineTimer m_firstLook;
     std::mutex m_mutex;  // guards what follows
     Listing m_listed;
 };

@@ -10,8 +10,8 @@ constexpr qsizetype headerSize = 5;
 int readHeader(Transport &transport, QByteArray &frame, const QDeadlineTimer &deadline) {
     qsizetype skipped = 0;
     while (frame.size() < headerSize) {
-        const auto outcome = transport.read(frame, headerSize - frame.size(), deadline);
-        if (outcome != Transport::Outcome::Done) return resultOf(outcome);
+        const auto completion = transport.read(frame, headerSize - frame.size(), deadline);
+        if (completion != Transport::Completion::Done) return resultOf(completion);
         const qsizetype begin = frame.indexOf('C');
         const qsizetype useless = begin < 0 ? frame.size() : begin;
         skipped += useless;
@@ -23,13 +23,13 @@ int readHeader(Transport &transport, QByteArray &frame, const QDeadlineTimer &de
 
 }  // namespace
 
-int resultOf(Transport::Outcome outcome) {
-    switch (outcome) {
-        case Transport::Outcome::Done:
+int resultOf(Transport::Completion completion) {
+    switch (completion) {
+        case Transport::Completion::Done:
             return ZMLib::Success;
-        case Transport::Outcome::TimedOut:
+        case Transport::Completion::TimedOut:
             return ZMLib::TimedOut;
-        case Transport::Outcome::Closed:
+        case Transport::Completion::Closed:
             break;
     }
     return ZMLib::Closed;
@@ -42,8 +42,8 @@ int readReply(Transport &transport, QByteArray &reply, const QDeadlineTimer &dea
     const auto high = static_cast<quint8>(reply[4]);
     const qsizetype size = headerSize + (low | high << 8);
     while (reply.size() < size) {
-        const auto outcome = transport.read(reply, size - reply.size(), deadline);
-        if (outcome != Transport::Outcome::Done) return resultOf(outcome);
+        const auto completion = transport.read(reply, size - reply.size(), deadline);
+        if (completion != Transport::Completion::Done) return resultOf(completion);
     }
     return ZMLib::Success;
 }

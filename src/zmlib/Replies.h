@@ -10,8 +10,8 @@
 // So many bytes that begin no reply are skipped before the stream is given up.
 inline constexpr qsizetype skippedBytes = qsizetype{64} * 1024;
 
-// The library's result for the outcome of a transport operation.
-int resultOf(Transport::Outcome outcome);
+// The library's result for the way a transport operation ended.
+int resultOf(Transport::Completion completion);
 
 // Reads one reply frame into `reply`, which must be empty. Bytes before the first "C" are skipped
 // (more than skippedBytes are no reply); then come 5 header bytes, whose offsets 3-4 hold the

@@ -4,26 +4,20 @@
 #include <QList>
 #include <QString>
 #include <chrono>
+#include <condition_variable>
 #include <memory>
-#include <optional>
+#include <mutex>
 
-#include "zmlib/Transport.h"
-
-// A printer that announces itself.
-struct AnnouncedPrinter {
-    QString uri;                // "dnssd:///NAME?type=_pdl-datastream._tcp&domain=DOMAIN"
-    QString name;               // of the service, any text of at most 63 bytes of UTF-8
-    QString productName;        // empty when it does not say
-    QList<Endpoint> endpoints;  // where it was last found; the best first
-};
+#include "zmlib/ServiceTable.h"
 
 // The printers that announce themselves on the network with DNS-SD (RFC 6763) as
-// "_pdl-datastream._tcp", told by the system's own service (avahi) and kept current on a thread of
-// its own. Callable from several threads; nothing but resolve() waits.
+// "_pdl-datastream._tcp": the conversation with the system's own service (avahi), which keeps the
+// table of them current on a thread of its own. Callable from several threads; nothing but
+// resolve() waits.
 class ServiceBrowser {
   public:
     // The browser starts at once.
-    ServiceBrowser();
+    explicit ServiceBrowser(const BrowsingLimits &limits = {});
     ~ServiceBrowser();
     ServiceBrowser(const ServiceBrowser &) = delete;
     ServiceBrowser &operator=(const ServiceBrowser &) = delete;
@@ -40,16 +34,23 @@ class ServiceBrowser {
     QList<AnnouncedPrinter> printers() const;
     bool isAnnounced(const QString &uri) const;
 
-    // Asks in the background where those printers are of which that is not known, or not for sure
-    // any more. To be called now and then.
+    // Resolves, in the background, printers whose address is unknown or stale. To be called now and
+    // then.
     void refresh();
 
     // Asks where a printer is at this moment, which may have changed since it was announced: IPv4
-    // addresses first, then global, then link-local IPv6 ones. Empty when it does not tell before
+    // addresses first, then global, then link-local IPv6 ones. Empty when it does not answer before
     // the deadline or is not announced.
     QList<Endpoint> resolve(const QString &uri, const QDeadlineTimer &deadline);
 
   private:
     class Worker;
-    const std::unique_ptr<Worker> m_worker;
+
+    const BrowsingLimits m_limits;
+    mutable std::mutex m_mutex;  // guards what follows; never held while avahi is called
+    mutable std::condition_variable m_news;
+    bool m_isMissing = false;
+    bool m_isAllForNow = false;
+    ServiceTable m_table;
+    const std::unique_ptr<Worker> m_worker;  // uses all of the above
 };

@@ -29,7 +29,7 @@ class TcpTransport : public Transport {
         ::setsockopt(m_socket.fd(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
     }
 
-    Outcome write(const QByteArray &bytes, const QDeadlineTimer &deadline) override {
+    Completion write(const QByteArray &bytes, const QDeadlineTimer &deadline) override {
         qsizetype written = 0;
         while (written < bytes.size()) {
             const ssize_t n = ::send(m_socket.fd(), bytes.constData() + written,
@@ -37,51 +37,52 @@ class TcpTransport : public Transport {
             if (n >= 0) {
                 written += n;
             } else if (errno == EAGAIN || errno == EWOULDBLOCK) {
-                if (!m_socket.waitFor(POLLOUT, deadline)) return Outcome::TimedOut;
+                if (!m_socket.waitFor(POLLOUT, deadline)) return Completion::TimedOut;
             } else if (errno != EINTR) {
-                return Outcome::Closed;
+                return Completion::Closed;
             }
         }
-        return Outcome::Done;
+        return Completion::Done;
     }
 
-    Outcome read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) override {
+    Completion read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) override {
         if (m_received.isEmpty()) {
-            if (const Outcome outcome = receive(deadline, nearAnswer); outcome != Outcome::Done)
-                return outcome;
+            if (const Completion completion = receive(deadline, nearAnswer);
+                completion != Completion::Done)
+                return completion;
         }
         const qsizetype taken = std::min(limit, m_received.size());
         bytes.append(m_received.constData(), taken);
         m_received.remove(0, taken);
-        return Outcome::Done;
+        return Completion::Done;
     }
 
-    Outcome dropArrived(std::chrono::milliseconds notice) override {
+    Completion dropArrived(std::chrono::milliseconds notice) override {
         const QDeadlineTimer deadline(notice);
-        Outcome outcome = Outcome::Done;
-        while (outcome == Outcome::Done && m_received.size() <= skippedBytes)
-            outcome = receive(deadline, std::chrono::microseconds(0));
+        Completion completion = Completion::Done;
+        while (completion == Completion::Done && m_received.size() <= skippedBytes)
+            completion = receive(deadline, std::chrono::microseconds(0));
         m_received.clear();
-        return outcome == Outcome::Closed ? Outcome::Closed : Outcome::Done;
+        return completion == Completion::Closed ? Completion::Closed : Completion::Done;
     }
 
   private:
     // Waits for bytes, awake for the first while, and takes what has come, so that one call serves
     // a whole reply.
-    Outcome receive(const QDeadlineTimer &deadline, std::chrono::microseconds awakeFor) {
+    Completion receive(const QDeadlineTimer &deadline, std::chrono::microseconds awakeFor) {
         std::array<char, ZMLib::replyArea> buffer;
         const QDeadlineTimer awake(awakeFor, Qt::PreciseTimer);
         for (;;) {
             const ssize_t n = ::recv(m_socket.fd(), buffer.data(), buffer.size(), 0);
             if (n > 0) {
                 m_received.append(buffer.data(), n);
-                return Outcome::Done;
+                return Completion::Done;
             }
-            if (n == 0) return Outcome::Closed;
+            if (n == 0) return Completion::Closed;
             if (errno == EINTR) continue;
-            if (errno != EAGAIN && errno != EWOULDBLOCK) return Outcome::Closed;
+            if (errno != EAGAIN && errno != EWOULDBLOCK) return Completion::Closed;
             if (!awake.hasExpired()) continue;
-            if (!m_socket.waitFor(POLLIN, deadline)) return Outcome::TimedOut;
+            if (!m_socket.waitFor(POLLIN, deadline)) return Completion::TimedOut;
         }
     }
 

@@ -14,19 +14,20 @@ class VirtualPrinter;
 // deadline given.
 class Transport {
   public:
-    enum class Outcome { Done, TimedOut, Closed };
+    // How an operation ended.
+    enum class Completion { Done, TimedOut, Closed };
 
     virtual ~Transport() = default;
 
     // Writes all of `bytes`.
-    virtual Outcome write(const QByteArray &bytes, const QDeadlineTimer &deadline) = 0;
+    virtual Completion write(const QByteArray &bytes, const QDeadlineTimer &deadline) = 0;
 
     // Waits for at least one byte and appends what has come, `limit` bytes at most, to `bytes`.
-    virtual Outcome read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) = 0;
+    virtual Completion read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) = 0;
 
     // Drops what has arrived and was not read, and what arrives within `notice`, so that a printer
     // that is about to close is noticed. Closed when the printer has closed, otherwise Done.
-    virtual Outcome dropArrived(std::chrono::milliseconds notice) = 0;
+    virtual Completion dropArrived(std::chrono::milliseconds notice) = 0;
 };
 
 // How long an answer over TCP is looked for before the thread sleeps: a printer on the same machine

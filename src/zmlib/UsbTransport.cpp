@@ -120,37 +120,38 @@ class UsbTransport : public Transport {
         m_buffer.resize(static_cast<size_t>(readSize - readSize % packet));
     }
 
-    Outcome write(const QByteArray &bytes, const QDeadlineTimer &deadline) override {
+    Completion write(const QByteArray &bytes, const QDeadlineTimer &deadline) override {
         QByteArray sent = bytes;
-        if (!m_out.start(sent.data(), static_cast<int>(sent.size()))) return Outcome::Closed;
+        if (!m_out.start(sent.data(), static_cast<int>(sent.size()))) return Completion::Closed;
         if (!m_out.wait(deadline)) {
             m_out.cancel();
-            if (m_out.moved() != sent.size()) return Outcome::TimedOut;
+            if (m_out.moved() != sent.size()) return Completion::TimedOut;
         }
-        if (m_out.moved() == sent.size()) return Outcome::Done;
+        if (m_out.moved() == sent.size()) return Completion::Done;
         m_out.clearStall();
-        return Outcome::Closed;
+        return Completion::Closed;
     }
 
-    Outcome read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) override {
+    Completion read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) override {
         if (m_received.isEmpty())
-            if (const Outcome outcome = receive(deadline); outcome != Outcome::Done) return outcome;
+            if (const Completion completion = receive(deadline); completion != Completion::Done)
+                return completion;
         const qsizetype taken = std::min(limit, m_received.size());
         bytes.append(m_received.constData(), taken);
         m_received.remove(0, taken);
-        return Outcome::Done;
+        return Completion::Done;
     }
 
-    Outcome dropArrived(std::chrono::milliseconds notice) override {
-        Outcome outcome = Outcome::Done;
+    Completion dropArrived(std::chrono::milliseconds notice) override {
+        Completion completion = Completion::Done;
         qsizetype dropped = 0;
-        while (outcome == Outcome::Done && dropped <= skippedBytes) {
+        while (completion == Completion::Done && dropped <= skippedBytes) {
             dropped += m_received.size();
             m_received.clear();
-            outcome = receive(QDeadlineTimer(notice));
+            completion = receive(QDeadlineTimer(notice));
         }
         m_received.clear();
-        return outcome == Outcome::Closed ? Outcome::Closed : Outcome::Done;
+        return completion == Completion::Closed ? Completion::Closed : Completion::Done;
     }
 
   private:
@@ -160,21 +161,21 @@ class UsbTransport : public Transport {
 
     // Waits for bytes. An empty packet means that there is nothing yet: the next one is asked for
     // after a pause, or a printer that sends nothing else would keep the processor busy.
-    Outcome receive(const QDeadlineTimer &deadline) {
+    Completion receive(const QDeadlineTimer &deadline) {
         for (std::chrono::milliseconds pause{1};; pause = std::min(2 * pause, waitSlice)) {
-            if (!startReading()) return Outcome::Closed;
-            if (!m_in.wait(deadline)) return Outcome::TimedOut;
+            if (!startReading()) return Completion::Closed;
+            if (!m_in.wait(deadline)) return Completion::TimedOut;
             if (m_in.status() != LIBUSB_TRANSFER_COMPLETED) {
                 m_in.clearStall();
-                return Outcome::Closed;
+                return Completion::Closed;
             }
             if (m_in.moved() > 0) break;
-            if (deadline.hasExpired() || isWaitCancelled()) return Outcome::TimedOut;
+            if (deadline.hasExpired() || isWaitCancelled()) return Completion::TimedOut;
             waitUntil([] { return false; }, std::min(deadline, QDeadlineTimer(pause)));
         }
         m_received.append(m_buffer.data(), m_in.moved());
         startReading();
-        return Outcome::Done;
+        return Completion::Done;
     }
 
     const std::unique_ptr<ClaimedInterface> m_claimed;
@@ -233,7 +234,7 @@ Opened openUsbTransport(std::shared_ptr<libusb_context> context, const UsbPrinte
     // A reset of the printer's buffers would be quicker, but it would also drop settings that the
     // printer has received and not yet read. A stall is cleared by the first try.
     for (int tries = 0; tries < 2; ++tries)
-        if (transport->dropArrived(leftOverSilence) == Transport::Outcome::Done)
+        if (transport->dropArrived(leftOverSilence) == Transport::Completion::Done)
             return {std::move(transport)};
     return {};
 }

@@ -13,30 +13,30 @@ class VirtualTransport : public Transport {
                      std::unique_ptr<VirtualPrinter::Channel> channel)
         : m_printer(std::move(printer)), m_channel(std::move(channel)) {}
 
-    Outcome write(const QByteArray &bytes, const QDeadlineTimer &) override {
-        if (!m_channel->isOpen()) return Outcome::Closed;
+    Completion write(const QByteArray &bytes, const QDeadlineTimer &) override {
+        if (!m_channel->isOpen()) return Completion::Closed;
         for (const auto &reply : m_channel->receive(bytes))
             m_replies.push_back({reply.bytes, QDeadlineTimer(reply.delay)});
-        return Outcome::Done;
+        return Completion::Done;
     }
 
-    Outcome read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) override {
-        if (m_replies.empty() && !m_channel->isOpen()) return Outcome::Closed;
+    Completion read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) override {
+        if (m_replies.empty() && !m_channel->isOpen()) return Completion::Closed;
         const auto arrived = [&] {
             return !m_replies.empty() && m_replies.front().due.hasExpired();
         };
-        if (!waitUntil(arrived, deadline)) return Outcome::TimedOut;
+        if (!waitUntil(arrived, deadline)) return Completion::TimedOut;
         QByteArray &front = m_replies.front().bytes;
         const qsizetype taken = std::min(limit, front.size());
         bytes.append(front.constData(), taken);
         front.remove(0, taken);
         if (front.isEmpty()) m_replies.pop_front();
-        return Outcome::Done;
+        return Completion::Done;
     }
 
-    Outcome dropArrived(std::chrono::milliseconds) override {
+    Completion dropArrived(std::chrono::milliseconds) override {
         while (!m_replies.empty() && m_replies.front().due.hasExpired()) m_replies.pop_front();
-        return m_channel->isOpen() ? Outcome::Done : Outcome::Closed;
+        return m_channel->isOpen() ? Completion::Done : Completion::Closed;
     }
 
   private:

@@ -319,7 +319,7 @@ TEST_F(Selector, AnIconInTheTrayStandsForTheWindowsThatAreHidden) {
 TEST_F(Selector, RowsAppearAsPrintersAnswerAndCancelKeepsThem) {
     walk.launch();
     const QString all = listed();
-    Faults silent;
+    SimulatedFaults silent;
     silent.items[0x1006].noReply = true;
     catalogue.virtualPrinters[text("virtual://dispatch")]->setFaults(silent);
     const auto cancelsOnceListed = [&](int rows) {
@@ -345,7 +345,7 @@ TEST_F(Selector, RowsAppearAsPrintersAnswerAndCancelKeepsThem) {
 TEST_F(Selector, ACancelledOpeningComesBackToTheListWithoutAnAlert) {
     walk.launch();
     VirtualPrinter &printer = *catalogue.virtualPrinters[text("virtual://packing-desk")];
-    Faults silent;
+    SimulatedFaults silent;
     silent.items[0x3108].noReply = true;
     printer.setFaults(silent);
     {
@@ -365,7 +365,7 @@ TEST_F(Selector, ACancelledOpeningComesBackToTheListWithoutAnAlert) {
 
 TEST_F(Selector, AFailedOpeningComesBackToTheListAsItWas) {
     walk.launch();
-    Faults gone;
+    SimulatedFaults gone;
     gone.refuseConnection = true;
     VirtualPrinter &printer = *catalogue.virtualPrinters[text("virtual://packing-desk")];
     printer.setFaults(gone);

@@ -17,7 +17,7 @@ inline std::shared_ptr<VirtualPrinter> printerOf(const QByteArray &json) {
 }
 
 // The faults of a description in JSON text.
-inline Faults faultsOf(const QByteArray &json) {
+inline SimulatedFaults faultsOf(const QByteArray &json) {
     return printerOf("{\"faults\": " + json + "}")->faults();
 }
 

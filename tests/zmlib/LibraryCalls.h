@@ -7,7 +7,7 @@ inline const QList<QByteArray> commands{hex("1b7b045501567d"), hex("1b7b0377777d
                                         hex("1b7b045500557d")};
 inline const QByteArray readName = hex("1b7b056606107c7d");
 inline const QByteArray nameAB = hex("43463b08003b06103b41423b4a");  // its reply
-inline constexpr int limit = 15000;  // ms; the libraries of the tests give up earlier
+inline constexpr int limit = 15000;  // ms; longer than anything takes
 
 // The calls of a library about one of its printers.
 class LibraryCalls {
@@ -19,9 +19,9 @@ class LibraryCalls {
     int engage() { return library().ZMEngageConnectAndStartCommand(uri, commands, 20, limit); }
     int finish() { return library().ZMEndCommandAndEngageDisConnect(uri, commands, 20, limit); }
     // Reads the name; what came is in `reply`.
-    int get(int area = ZMLib::replyArea) {
+    int get(int area = ZMLib::replyArea, int timeout = limit) {
         reply.clear();
-        return library().ZMGetSettingData(uri, area, readName, reply, commands, limit);
+        return library().ZMGetSettingData(uri, area, readName, reply, commands, timeout);
     }
     int check(const QString &target, const char *address) {
         return library().ZMIOOpenForUDP(target, QLatin1String(address), 20, limit);

@@ -1,5 +1,6 @@
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QUrl>
 
 #include "LibraryCalls.h"
 #include "zmlib/Replies.h"
@@ -14,7 +15,7 @@ class Library : public EveryTransport, protected LibraryCalls {
     void serve(const QByteArray &profile) {
         served.reset();
         served = std::make_unique<OnePrinterLibrary>(printerOf(profile), GetParam(), PrinterEntry(),
-                                                     100);
+                                                     limit);
         uri = served->uri();
     }
     ZMLib &library() override { return *served->library(); }
@@ -72,6 +73,10 @@ TEST_P(Library, AnswersForTheAddressesOfThePrintersThatCanBeReached) {
     EXPECT_LT(check(uri, "10.0.0.5"), 0) << "an unplugged printer answers nowhere";
     serve(R"({"faults": {"refuseConnection": true}})");
     EXPECT_EQ(status(), ZMLib::UnknownPrinter);
+    if (GetParam() == Transport::Tcp) {
+        const auto port = static_cast<quint16>(QUrl(uri).port());
+        EXPECT_FALSE(QTcpSocket().bind(QHostAddress::LocalHost, port)) << "its port is anybody's";
+    }
     EXPECT_LT(engage(), 0);
     const QString unknown = QStringLiteral("virtual://unknown");
     EXPECT_EQ(library().ZMGetEngageStatusSub(unknown, limit), ZMLib::UnknownPrinter);
@@ -79,39 +84,49 @@ TEST_P(Library, AnswersForTheAddressesOfThePrintersThatCanBeReached) {
     EXPECT_LT(check(unknown, "10.0.0.6"), 0);
 }
 
-TEST(TcpPeer, IsReachedByEveryKindOfHost) {
-    QTcpServer server;
-    ASSERT_TRUE(server.listen(QHostAddress::Any));
-    for (const char *host : {"127.0.0.1", "[::1]", "localhost", "[::1%25lo]"}) {
-        const QString uri =
-            QStringLiteral("tcp://%1:%2").arg(QLatin1String(host)).arg(server.serverPort());
+// A peer on a port of this machine that is no virtual printer.
+class TcpPeer : public testing::Test, protected LibraryCalls {
+  protected:
+    void SetUp() override { ASSERT_TRUE(server.listen(QHostAddress::Any)); }
+    // Makes the library of the peer, under a name of this machine.
+    void reachBy(const char *host, int longestWait = limit) {
+        uri = QStringLiteral("tcp://%1:%2").arg(QLatin1String(host)).arg(server.serverPort());
         Catalogue catalogue;
         catalogue.entries = {{{PrinterKey::DeviceURI, uri}}};
-        const auto library = catalogueLibrary(catalogue, 100);
-        EXPECT_EQ(library->ZMGetEngageStatusSub(uri, limit), 1) << host;
-        ASSERT_TRUE(server.hasPendingConnections() || server.waitForNewConnection(limit));
-        const auto *peer = server.nextPendingConnection();
-        const auto closed = [&] { return peer->state() == QAbstractSocket::UnconnectedState; };
-        EXPECT_FALSE(closed());
-        EXPECT_TRUE(QTest::qWaitFor(closed)) << "kept although nobody engages";
+        m_library = catalogueLibrary(catalogue, longestWait);
+    }
+    ZMLib &library() override { return *m_library; }
+
+    QTcpServer server;
+
+  private:
+    std::shared_ptr<PrinterLibrary> m_library;
+};
+
+TEST_F(TcpPeer, IsReachedByEveryKindOfHost) {
+    for (const char *host : {"127.0.0.1", "[::1]", "localhost", "[::1%25lo]"}) {
+        reachBy(host);
+        EXPECT_EQ(status(), 1) << host;
     }
 }
 
-// A peer that is no printer: whatever it sends, nothing may be read beyond it or for ever.
-TEST(TcpPeer, EndlessBytesWithoutAReplyAreGivenUp) {
-    QTcpServer server;
-    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+TEST_F(TcpPeer, IsLeftWhenNobodyEngages) {
+    reachBy("127.0.0.1", 100);
+    EXPECT_EQ(status(), 1);
+    ASSERT_TRUE(server.hasPendingConnections() || server.waitForNewConnection(limit));
+    const auto *peer = server.nextPendingConnection();
+    const auto closed = [&] { return peer->state() == QAbstractSocket::UnconnectedState; };
+    EXPECT_FALSE(closed());
+    EXPECT_TRUE(QTest::qWaitFor(closed)) << "kept although nobody engages";
+}
+
+TEST_F(TcpPeer, IsGivenUpWhenItsBytesBecomeNoReply) {
     QObject::connect(&server, &QTcpServer::newConnection, [&] {
         server.nextPendingConnection()->write(QByteArray(4 * skippedBytes, 'x'));
     });
-    const QString uri = QStringLiteral("tcp://127.0.0.1:%1").arg(server.serverPort());
-    Catalogue catalogue;
-    catalogue.entries = {{{PrinterKey::DeviceURI, uri}}};
-    const auto library = catalogueLibrary(catalogue, 5000);
-    ASSERT_EQ(library->ZMEngageConnectAndStartCommand(uri, commands, 20, limit), 0);
-    QByteArray reply;
-    EXPECT_EQ(library->ZMGetSettingData(uri, ZMLib::replyArea, readName, reply, commands, limit),
-              ZMLib::NotAReply);
+    reachBy("127.0.0.1");
+    ASSERT_EQ(engage(), 0);
+    EXPECT_EQ(get(), ZMLib::NotAReply);
 }
 
 }  // namespace

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QLockFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <map>
 #include <memory>
 
 // A network of which this process alone knows: a system bus of its own, and on it an avahi-daemon
-// that sees the loopback interface only. There is one at a time on a machine, whoever asks first.
+// that sees a loopback interface of its own only.
 class NetworkBed {
   public:
     // Prepares the bus; neither it nor the daemon runs yet. Before anything asks for a system bus:
@@ -17,9 +16,9 @@ class NetworkBed {
     NetworkBed(const NetworkBed &) = delete;
     NetworkBed &operator=(const NetworkBed &) = delete;
 
-    // True when they run and answer.
+    // True when they run and answer. The daemon lets a program have so many objects.
     bool startBus();
-    bool startDaemon();
+    bool startDaemon(int objects = 1024);
     void stopDaemon();
 
     struct Announcement {
@@ -27,7 +26,6 @@ class NetworkBed {
         quint16 port = 9100;
         QList<QByteArray> texts = {};
         QByteArray host = {};  // empty: this machine
-        int protocol = -1;     // of AVAHI_PROTO_*; -1: all
     };
     // Announces printers until they are withdrawn, as one, or the daemon stops. False when the
     // daemon takes one of them not.
@@ -37,8 +35,8 @@ class NetworkBed {
   private:
     static const QTemporaryDir &folder();
     bool start(QProcess &process, const QString &program, const QStringList &arguments);
+    bool announceThisMachine();
 
-    QLockFile m_turn;
     QProcess m_bus, m_daemon;
     struct Announced;
     std::map<QByteArray, std::unique_ptr<Announced>> m_announced;

@@ -9,11 +9,12 @@
 #include "zmlib/CatalogueSource.h"
 #include "zmlib/UsbSource.h"
 
-// A library of printers from one kind of source. Silent printers are given up after `wait` ms.
-template <typename Source>
-std::shared_ptr<PrinterLibrary> libraryOf(int wait, ProbePorts ports = {}) {
+// A library of printers from one source, made with the arguments. Silent printers are given up
+// after `wait` ms.
+template <typename Source, typename... Arguments>
+std::shared_ptr<PrinterLibrary> libraryOf(int wait, ProbePorts ports = {}, Arguments... arguments) {
     std::vector<std::unique_ptr<PrinterSource>> sources;
-    sources.push_back(std::make_unique<Source>());
+    sources.push_back(std::make_unique<Source>(arguments...));
     return std::make_shared<PrinterLibrary>(std::move(sources), wait, ports);
 }
 
