@@ -1,28 +1,26 @@
 #pragma once
 
 #include <QPointer>
-#include <QTimer>
 
 #include "app/base/DWTBaseClass.h"
 #include "mainwindow/DWTMainSettingWindow.h"
 #include "platform/ui/Application.h"
-#include "platform/ui/TableView.h"
 #include "platform/ui/ViewStack.h"
 #include "platform/ui/Window.h"
 #include "ui_PrinterSelector.h"
 
 class MainMenu;
+class PrinterList;
 class TrayIcon;
 class WPSGuide;
 class WaitWindow;
 
 // The application's delegate and its selection window: a small wizard that guides the user in
-// connecting a printer, and the list from which one is picked. It opens the main setting window of
-// the picked printer, hides meanwhile, and lives as long as the application. Main thread only.
+// connecting a printer and ends at the list from which one is picked. It opens the main setting
+// window of the picked printer, hides meanwhile, and lives as long as the application. Main thread
+// only.
 class DWTPrinterSelector : public DWTBaseClass,
                            public ApplicationDelegate,
-                           public TableDataSource,
-                           public TableDelegate,
                            private Ui::PrinterSelector {
     DWT_SETUP(DWTPrinterSelector, DWTBaseClass, DWT_Init, DWT_Dealloc)
 
@@ -36,14 +34,6 @@ class DWTPrinterSelector : public DWTBaseClass,
     // 1 terminate now, 0 cancel: the open main setting window decides, when there is one.
     int applicationShouldTerminate() override;
 
-    int numberOfRowsInTableView(TableView *table) override;
-    QVariant objectValueForTableColumn(TableView *table, const QString &column, int row) override;
-    QString detailForTableColumn(TableView *table, const QString &column, int row) override;
-    QIcon iconForTableColumn(TableView *table, const QString &column, int row) override;
-    QString rowKeyInTableView(TableView *table, int row) override;
-    bool selectionShouldChangeInTableView(TableView *table) override;
-    void tableViewSelectionDidChange(TableView *table) override;
-
     // The selection window; null until awakeFromNib().
     Window *window() const { return window_PrinterSelector; }
     // The main setting window that was opened last; null when there was none.
@@ -52,16 +42,8 @@ class DWTPrinterSelector : public DWTBaseClass,
   private:
     void DWT_UIInitialize();
     void connectButtons(const WPSGuide *guide);
-    // Shows the view and hides the others; the printer list is fetched anew.
+    // Shows the view and hides the others; the printer list is fetched anew when it is shown.
     void DWT_UISelector(const QString &viewKey);
-    void DWT_UpdatePrinterList();
-    // Fetches the list again when printers came or went, unless the user is busy elsewhere.
-    void followPrinters();
-    // Says below the list why printers may be missing.
-    void showProblems();
-    // Shows or hides a part of the list's view; the window grows by one that appears.
-    void showPart(QWidget *part, bool shown);
-    void DWT_DoubleAction(int clickedRow);
     void DWT_CloseMainDialog(const Notification &notification);
     void DWT_ShowMainSettingWindow();
     // Shows a view as the menu asks for it; an open printer is left first, as by its Close button.
@@ -83,20 +65,16 @@ class DWTPrinterSelector : public DWTBaseClass,
     void push_WPSSetting2Back();
     void push_WPSSetting2Exit();
     void push_PrinterListOK();
-    void push_PrinterListReload();
     void push_PrinterListExit();
 
     QPointer<Window> window_PrinterSelector;
-    WaitWindow *window_Wait = nullptr;  // belongs to the selection window
-    MainMenu *m_menu = nullptr;         // belongs to it, too
-    TrayIcon *m_tray = nullptr;         // belongs to this object
+    WaitWindow *window_Wait = nullptr;  // these three belong to the selection window
+    PrinterList *view_Printerlist = nullptr;
+    MainMenu *m_menu = nullptr;
+    TrayIcon *m_tray = nullptr;  // belongs to this object
     std::unique_ptr<ViewStack> dictionary_ViewManagement;
-    std::shared_ptr<DWTDataManager> ndm_Object;
-    QList<PrinterEntry> array_PrinterList;
     std::shared_ptr<DWTMainSettingWindow> msw_Object;
     bool show_mainDialog = false;
     bool m_guideLeadsToList = false;
     NotificationCenter::Observer m_closings;
-    QTimer m_showing;  // the rows of printers that have just answered, once work lets windows paint
-    QTimer m_looking;  // for printers that come or go
 };

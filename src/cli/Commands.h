@@ -4,7 +4,6 @@
 
 #include "cli/ExitCode.h"
 
-// Runs the program with its arguments, of which the first is its own name: help, version, or one of
-// the commands that docs/command-line.md describes. Main thread; needs the
-// texts (installTexts()).
+// Runs the program with its arguments, its own name first: help, version, or a command. Main
+// thread.
 ExitCode runCommandLine(const QStringList &arguments);

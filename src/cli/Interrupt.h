@@ -7,9 +7,8 @@
 // The user's wish to stop: Ctrl+C, an end of the session, a closed terminal.
 namespace Interrupt {
 
-// Takes note of the signals SIGINT, SIGTERM and SIGHUP from now on, instead of ending at them. What
-// is being written to a printer is never broken off. A reader that ends early (SIGPIPE), and a file
-// that is as large as it may get (SIGXFSZ), do not end the program either.
+// From now on, SIGINT, SIGTERM and SIGHUP are noted and do not end the program; nor do SIGPIPE and
+// SIGXFSZ.
 void watch();
 
 // Whether the user wants to stop.

@@ -5,8 +5,7 @@
 
 #include "settings/Plan.h"
 
-// Where the administrator password of the printers comes from: a file, otherwise the environment
-// variable below, otherwise the person at the terminal, who is asked once. Main thread.
+// The administrator password: of a file, of the environment, or asked for once. Main thread.
 class Passwords {
   public:
     static constexpr const char *variable = "NETWORK_SETTING_PASSWORD";
@@ -16,12 +15,11 @@ class Passwords {
     Passwords(const Passwords &) = delete;
     Passwords &operator=(const Passwords &) = delete;
 
-    // Reads the file, when one is named; otherwise looks at the environment. False when it cannot
-    // be read, and `fault` says why.
+    // Reads the named file, else the environment. False, with a `fault`, when the file cannot be
+    // used.
     bool load(const QString &file, Fault &fault);
 
-    // The password; `printer` is what the person is told that it is for. Nothing when there is
-    // none.
+    // The password for the printer that is called `printer`; nothing when there is none.
     std::optional<QString> forPrinter(const QString &printer);
 
   private:

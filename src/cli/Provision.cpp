@@ -74,8 +74,8 @@ void Provision::tick() {
     if (isEnd()) m_loop.quit();
 }
 
-// The name of a printer is asked only where a row is found by it: no two printers may have it then.
-// One that comes again while it is still worked on has its turn afterwards.
+// Asks for names only where a row finds its printer by name. A printer that comes again while it is
+// worked on has its turn afterwards.
 void Provision::look() {
     if (m_looking) return;
     m_looking = true;

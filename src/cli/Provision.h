@@ -13,8 +13,7 @@
 #include "cli/Terminal.h"
 #include "settings/Session.h"
 
-// Changes every printer on USB that has a row in a table, several at a time, those that are plugged
-// in at the start and those that come. Main thread.
+// Changes every USB printer that has a row in a table, several at a time. Main thread.
 class Provision {
   public:
     // Printers that are worked on at a time.
@@ -22,15 +21,13 @@ class Provision {
     // How often it looks for printers that came, and for the user's wish to stop.
     static constexpr std::chrono::milliseconds lookInterval{250};
 
-    // `rows`: with everything that is to be set. `again`: a printer that was done and is plugged in
-    // again is done again.
+    // `again`: a printer that was done is done again when it is plugged in again.
     Provision(Terminal &terminal, Passwords &passwords, QList<TableRow> rows, bool again);
 
     // Runs until every row is done, the user stops it, the results cannot be written or, with a
-    // catalogue, every printer had its turn; a printer that is being written is finished before.
-    // Rows of results go to the file, when one is named. Result: Done; Stopped; InputRefused when
-    // the file cannot be written; otherwise the largest code of a printer, or NotReached when a
-    // row's was not there.
+    // catalogue, every printer had its turn. Printers that are being written are finished. Result:
+    // Done; Stopped; InputRefused when `resultFile`, if named, cannot be written; otherwise the
+    // largest code of a printer, or NotReached when the printer of a row was not there.
     ExitCode run(const QString &resultFile);
 
   private:

@@ -6,8 +6,8 @@
 // The rows of a CSV file that is written as the work goes on. Rows are added to what a file has.
 class ResultFile {
   public:
-    // Opens the file and writes the names of the columns, unless it has something. False when that
-    // cannot be done; errorString() says why.
+    // Opens the file; an empty one gets the names of the columns. False, with an errorString(), on
+    // failure.
     bool open(const QString &path, const QStringList &columns);
     bool isOpen() const { return m_file.isOpen(); }
 

@@ -4,8 +4,7 @@
 
 #include "cli/Table.h"
 
-// The rows of a table, each of which is for one printer: which row is whose, and what is left to be
-// done. Pure: without printer and terminal.
+// The rows of a table as work: which row is whose, and what is left to do. Pure.
 class Rows {
   public:
     // What is known of a printer that was read.

@@ -9,12 +9,10 @@
 // Longest file with settings, keys or a table, in bytes.
 inline constexpr qint64 longestInput = qint64{4} * 1024 * 1024;
 
-// The bytes of a file, which may be a pipe; nothing when it cannot be read or is longer, and
-// `fault` says so.
+// The bytes of a file or pipe; nothing, with a `fault`, when it is unreadable or too long.
 std::optional<QByteArray> readInput(const QString &path, Fault &fault);
 
-// A key or password of a file: its first line. Nothing when it cannot be read, is empty or not
-// UTF-8, and `fault` says so.
+// The first line of a file; nothing, with a `fault`, when it is unreadable, empty or not UTF-8.
 std::optional<QString> readSecret(const QString &path, Fault &fault);
 
 // Settings that a file gives, in its order.
@@ -27,8 +25,8 @@ struct GivenSettings {
     QList<Fault> allFaults() const;
 };
 
-// Reads settings from JSON text: groups of names as objects, `null` for what is not to be changed,
-// for a secret also {"file": PATH}, where PATH is relative to that of `file`. Takes any bytes.
+// Reads settings from JSON: groups as objects, `null` for no change, a secret also as {"file":
+// PATH}, relative to `file`. Takes any bytes.
 GivenSettings settingsFromJson(const QByteArray &json, const QString &file);
 
 // The same from a file.

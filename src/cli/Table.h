@@ -23,9 +23,8 @@ struct Table {
     QList<Fault> faults;  // broken rules included
 };
 
-// Reads a table from CSV text (RFC 4180; UTF-8, with or without a mark in front; commas or, where
-// the first line has no comma, semicolons). The first line names the columns: "mac", "serial",
-// "name" and settings. An empty cell gives nothing. Takes any bytes.
+// Reads a table from CSV (RFC 4180, UTF-8, commas or semicolons). The first line names the columns:
+// "mac", "serial", "name" and settings. An empty cell gives nothing. Takes any bytes.
 Table tableFromCsv(const QByteArray &csv, const QString &file);
 
 // The same from a file.
@@ -37,6 +36,5 @@ QList<Fault> repeatedAddresses(const QList<TableRow> &rows);
 // The values of a template and a row; a setting of both has that of the row.
 QList<WantedValue> merged(const QList<WantedValue> &below, const QList<WantedValue> &above);
 
-// The 12 digits of a MAC address that is written with or without colons or hyphens; empty for
-// anything else.
+// The 12 digits of a MAC address with or without marks; empty for anything else.
 QString macDigits(const QString &text);

@@ -10,8 +10,7 @@
 #include "settings/Plan.h"
 #include "zmlib/ZMLib.h"
 
-// What the program tells on its standard output and standard error, and what it asks. What comes
-// from outside (names, files) is shown without control characters. Main thread.
+// Standard output, standard error, and questions. Control characters are made visible. Main thread.
 class Terminal {
   public:
     // With `json`, errors are objects in JSON, one a line.
@@ -28,8 +27,7 @@ class Terminal {
 
     // --- What happens beside, on standard error ---
 
-    // An error, and the code with which the program will end; `candidates` are what could have been
-    // meant. The code, for the caller to return.
+    // Prints an error, with the candidates that could have been meant. Result: `code`.
     ExitCode fail(ExitCode code, const QString &text, const QStringList &candidates = {});
     // Faults of input. Always InputRefused.
     ExitCode fail(const QList<Fault> &faults);

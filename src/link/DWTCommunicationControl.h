@@ -9,13 +9,11 @@
 #include "app/base/DWTBaseClass.h"
 #include "zmlib/ZMLib.h"
 
-// The link to one printer: the only object that calls the communication library. It deals in byte
-// buffers and result codes and never looks into a frame.
-//
-// Used from one thread at a time. Every library call blocks the thread for at most callTimeout (on
-// the main thread windows go on painting meanwhile); connectPrinter() makes two, every other
-// operation that asks the printer one. Integer results are the library's own, 0 = success, unless
-// stated otherwise.
+// The link to one printer: the only object that calls the communication library. It never looks
+// into a frame.
+// Used from one thread at a time. A library call blocks for at most callTimeout; connectPrinter()
+// makes two, every other operation one. Integer results are the library's, 0 = success, unless
+// stated.
 class DWTCommunicationControl : public DWTBaseClass {
     DWT_SETUP(DWTCommunicationControl, DWTBaseClass, NUS_Init, NUS_Dealloc)
 
@@ -37,41 +35,36 @@ class DWTCommunicationControl : public DWTBaseClass {
     // Builds the command list from the three frames, in the order start, update, end.
     void setCommandSettingToArray();
 
-    // Stores the status length (bytes) that the library needs for the printer's model;
-    // ZMLib::defaultStatusLength until then.
+    // Stores the status length (bytes) of the model; ZMLib::defaultStatusLength until then.
     void qkStatusLength(int length);
 
     // The printers that the library can reach; nothing when it gives no list. Needs no connection.
     std::optional<QList<PrinterEntry>> printerList();
 
-    // What was wrong with the last printerList(), and the printers that could not be connected
-    // since. Needs no connection.
+    // Problems of the last printerList() and of openings since. Needs no connection.
     QList<PrinterProblem> printerProblems();
 
     // Whether printers came or went since the last printerList(). Needs no connection.
     bool hasPrinterListChanged();
 
     // Opens the printer's channel unless it is open, and starts a transaction. The argument is not
-    // used. Result: 0 connected; 1 the library answered an engage status other than 0 and 1;
-    // otherwise the library's.
+    // used. Result: 0; 1 for an engage status other than 0 and 1; otherwise the library's.
     int connectPrinter(int);
 
     // Ends the transaction and closes the channel. The argument is not used.
     int disconnectPrinter(int);
 
-    // The printer's reply to a request frame; nothing when the library reports a failure, also
-    // when bytes had come. At most ZMLib::replyArea bytes.
+    // The reply to a request frame, at most ZMLib::replyArea bytes; nothing on failure.
     std::optional<QByteArray> selectPrinterInfomation(const QByteArray &request);
 
     // The printer's reply to a setting frame; otherwise as above.
     std::optional<QByteArray> sendSetting(const QByteArray &frame);
 
-    // Whether the last exchange (the two above) found no open channel, since the printer had closed
-    // it; false when it was answered, or merely not in time.
+    // Whether the last exchange (the two above) found the channel closed by the printer.
     bool isClosedByPrinter() const;
 
     // Whether a printer answers at `address` (dotted IPv4); negative when not. For a USB printer
-    // any printer's answer counts. Needs no connection.
+    // any printer counts. Needs no connection.
     int checkConnect(const QString &address);
 
   private:

@@ -28,14 +28,13 @@ class SendDialog;
 class WPSGuideWindow;
 class WaitWindow;
 
-// Posted exactly once for every closing, with the window as sender: without user information when
-// the printer could not be read at the first opening, otherwise with the flag, which is false.
+// Posted once for every closing, with the window as sender; without user information when the first
+// reading failed, otherwise with the flag, which is false.
 DWT_KEY(DWT_MainDialog_Close_Message);
 DWT_KEY(DWT_IsShowPrinterSelectDialog_Flag);
 
-// The window in which the settings of one printer are shown and changed. Only a printer that is
-// connected over USB, and whose settings were all read, can be changed; otherwise every page is
-// disabled. Main thread only.
+// The window of one printer. Only a printer on USB whose settings were all read can be changed;
+// otherwise every page is disabled. Main thread only.
 class DWTMainSettingWindow : public QObject,
                              public OutlineDataSource,
                              public OutlineDelegate,
@@ -57,12 +56,10 @@ class DWTMainSettingWindow : public QObject,
     QAbstractButton *sendButton() const { return button_MainSend; }
     QAbstractButton *readAgainButton() const { return button_MainNewSetting; }
     QAbstractButton *closeButton() const { return button_MainCancel; }
-    // What the pages show now, sent or not, as plain text for a person: the printer, then each
-    // page in the outline's order with a line for every value. Keys and passwords are left out.
+    // The settings that the pages show now, as plain text, a line each. Secrets are left out.
     QString report() const;
-    // With an entry: the first opening, for that printer. Without one: reads the settings again.
-    // False when the printer cannot be reached at the first opening, or the wait was cancelled; the
-    // window is then closed. `waiting` is the wait window that is shown, to say how far it is.
+    // With an entry: the first opening, of that printer. Without: reads again. False when the first
+    // opening failed or was cancelled; the window is then closed. `waiting` shows how far it is.
     bool initializeData(const std::optional<PrinterEntry> &entry, WaitWindow *waiting = nullptr);
 
     // --- Outline and marks (DWTMainSettingWindowOutline.cpp) ---
@@ -134,8 +131,7 @@ class DWTMainSettingWindow : public QObject,
 
     // Networks in reach, the WPS guide and the connection test (DWTMainSettingWindowNetwork.cpp).
     void push_InfrastructureSelectSSID();
-    // The networks that the printer sees; `over` waits meanwhile. Nothing, after an alert, when the
-    // printer cannot be asked.
+    // The networks that the printer sees; `over` waits. Nothing, after an alert, on failure.
     NetworkList::Found networksInReach(QWidget *over);
     void push_InfrastructureWPSGuide();
     void push_EthernetConnect();

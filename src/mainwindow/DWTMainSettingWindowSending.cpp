@@ -77,8 +77,7 @@ void DWTMainSettingWindow::warnOfChangedConnection() {
     }
 }
 
-// The view with which the dialog opens, by whether the printer has a password; nothing when the
-// wait for its answer was cancelled.
+// The view with which the dialog opens; nothing when the wait was cancelled.
 std::optional<QString> DWTMainSettingWindow::sendViewAskingPassword() {
     const WaitSheet waiting = window_Wait->over(window_Main);
     const int password = dataManager_Object->isPassword();

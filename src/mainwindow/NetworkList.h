@@ -20,8 +20,8 @@ class NetworkList : public ModalWindow,
     explicit NetworkList(QWidget *parent);
     ~NetworkList() override;
 
-    // What a search found: no list when the printer could not be asked, which the user has then
-    // been told, or the wait was cancelled. `noneKey` is the text of a list that stays empty.
+    // What a search found: no list when it failed or was cancelled. `noneKey`: text of an empty
+    // list.
     struct Found {
         std::optional<QList<SSIDEntry>> networks;
         QString noneKey;
@@ -29,8 +29,8 @@ class NetworkList : public ModalWindow,
     // Finds the networks while `over` waits.
     using Search = std::function<Found(QWidget *over)>;
 
-    // Searches over the parent, lists the networks, the strongest first, and runs until the user
-    // has picked one or left; F5 searches again over the list. Result: the picked one, or nothing.
+    // Searches, lists the networks, the strongest first, and runs until the user has picked one or
+    // left; F5 searches again. Result: the picked one, or nothing.
     std::optional<SSIDEntry> pick(const Search &search);
 
     int numberOfRowsInTableView(TableView *table) override;

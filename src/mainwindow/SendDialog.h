@@ -21,9 +21,8 @@ DWT_KEY(DWT_View_Key_Send_Login);
 DWT_KEY(DWT_View_Key_Send_LoginError);
 DWT_KEY(DWT_View_Key_Send_ConnectError);
 
-// The dialog of a send, from the question for the password to the end, and of the questions about
-// unsent changes. It follows the running send by itself; what has consequences outside it is told
-// by its signals. Main thread only.
+// The dialog of a send, and of the questions about unsent changes. It follows the running send by
+// itself; its signals say the rest. Main thread only.
 class SendDialog : public ModalWindow, private Ui::SendDialog {
     Q_OBJECT
   public:
@@ -48,8 +47,7 @@ class SendDialog : public ModalWindow, private Ui::SendDialog {
     QString password() const;
     void clearPassword();
 
-    // What the login, login-error, end and connection-error views say instead of what they usually
-    // do, until the next run.
+    // Another text for the login, login-error, end or connection-error view, until the next run.
     void sayInstead(const QString &viewKey, const QString &text);
 
   Q_SIGNALS:

@@ -4,13 +4,11 @@
 
 #include "ui_WPSGuide.h"
 
-// The two views that explain how to connect by WPS, for a window that stacks them among its own.
-// Main thread only.
+// The two views that explain WPS, for a window that stacks them. Main thread only.
 class WPSGuide : public QObject, private Ui::WPSGuide {
     Q_OBJECT
   public:
-    // Makes the views as children of `container`, which must not have a layout yet and owns this
-    // guide.
+    // Makes the views as children of `container`, which has no layout yet and owns this guide.
     explicit WPSGuide(QWidget *container);
 
     QWidget *firstView() const { return view_WPS1; }

@@ -111,7 +111,7 @@ QString DWTBaseView::faultOf(const Field &field) const {
 void DWTBaseView::updateMarks(bool all) {
     for (const Field &field : m_fields) {
         auto *const control = qobject_cast<TextField *>(field.control);
-        if (control && (all || !control->problem().isEmpty())) control->setProblem(faultOf(field));
+        if (control && (all || !control->fault().isEmpty())) control->setFault(faultOf(field));
     }
 }
 
@@ -129,7 +129,7 @@ void DWTBaseView::focusFirstFault() {
 TextField *DWTBaseView::firstFault() const {
     for (const Field &field : m_fields) {
         auto *const control = qobject_cast<TextField *>(field.control);
-        if (control && !control->problem().isEmpty()) return control;
+        if (control && !control->fault().isEmpty()) return control;
     }
     return nullptr;
 }
@@ -201,7 +201,7 @@ bool DWTBaseView::textShouldEndEditing(TextField *control) {
             field->store();
         else
             store(control);
-        control->setProblem(faultOf(*field));
+        control->setFault(faultOf(*field));
     }
     sendNotificationSendOK();
     return true;

@@ -13,24 +13,18 @@
 #include "platform/ui/TextField.h"
 #include "settings/DWTDataManager.h"
 
-// Posted by a page after an edit, with the page as sender: something differs from the saved data,
-// or nothing does.
+// Posted by a page after an edit, as sender: something differs from the saved data, or nothing.
 DWT_KEY(DWT_MainDialog_SendOK_Message);
 DWT_KEY(DWT_MainDialog_SendNG_Message);
 
-// A setting page: fills the controls of one panel from the saved data of its category, checks what
-// is typed, and writes it to the change data. The main window drives every page through the page
-// protocol.
-//
-// The settings of a page stand in its table, a row a value (addField(), addShown()); this class
-// does once what is the same for every row. A page overrides what is peculiar to it. Main thread
-// only.
+// A setting page: fills the controls of one panel from the saved data of its category, checks
+// input, and writes it to the change data. A page has a table with a row a setting (addField(),
+// addShown()); this class does once what is the same for every row. Main thread only.
 class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     DWT_SETUP(DWTBaseView, DWTBaseClass, TBV_Init, TBV_Dealloc)
 
   public:
-    // The panel. The window that takes it into its page area owns it from then on; a panel that
-    // nobody took goes with the page.
+    // The panel; the window that takes it owns it, one that nobody took goes with the page.
     QWidget *mainCustomView() const { return view_Base; }
     // The data manager that the page reads and writes; kept until another is handed over.
     void dataManagerObject(const std::shared_ptr<DWTDataManager> &manager) { ndm_Object = manager; }
@@ -42,22 +36,18 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
 
     // --- Page protocol ---
 
-    // Sets initial states; called once, when the panel is in its window. Nothing counts as filled
-    // or touched then.
+    // Sets initial states, once, when the panel is in its window. Nothing counts as touched then.
     virtual void initializeUI();
     // Fills the controls from the saved data; called after every reading of the printer.
     virtual void showDataManager();
     virtual void enableAllItems(bool enabled);
-    // Of a page whose controls are all disabled, lets the values be selected, copied and read well;
-    // off, the fields can be typed into again. Secrets stay as they are.
+    // Lets the values of a disabled page be selected and read well, or ends that. Not the secrets.
     void showForReading(bool reading);
-    // Checks what is typed and shows an alert for what is wrong: one for all addresses, of which
-    // the first wrong one is selected, then one for every other field. Numbers are forced into
-    // their range. Disabled fields are not checked. False when something is wrong; every wrong
-    // field is marked then.
+    // Checks the enabled fields. Alerts name what is wrong: one for all addresses, of which the
+    // first wrong one is selected, then one a field. Numbers are forced into their range. False
+    // when something is wrong; every wrong field is marked then.
     virtual bool itemInputCheck();
-    // Whether a field is marked as wrong. A field is marked when its editing has ended, or the
-    // check has failed, until it holds what can be used.
+    // Whether a field is marked as wrong: from the end of editing, or a check, until it is mended.
     bool hasFault() const;
     // Gives the focus to the first field that is marked, selected.
     void focusFirstFault();
@@ -76,8 +66,7 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     bool textShouldBeginEditing(TextField *control) override;
     // Stores the field in the change data, whatever it holds, and posts the record's state.
     bool textShouldEndEditing(TextField *control) override;
-    // Takes out what an address or a number cannot hold, and posts whether the page differs, when
-    // `control` is one of the page's own.
+    // Filters an address or a number, and posts whether the page differs.
     void controlTextDidChange(TextField *control) override;
 
     // --- Checks (settings/Rules.h) on fields ---
@@ -94,8 +83,8 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     }
 
   protected:
-    // Adds the row of a control that edits the value of a key; empty for one that the record does
-    // not hold.
+    // Adds the row of a control that edits a value; without a key, one that the record does not
+    // hold.
     Field &addField(QWidget *control, const QString &key, bool *input = nullptr,
                     std::function<bool()> store = {});
     // Adds a row that only shows its value.

@@ -79,8 +79,7 @@ void DWTInfrastructureView::initializeUI() {
     offer(popupbutton_InfrastructureSelectWEPKey, array_popUpButton_SelectWEPKey, 1);
 }
 
-// Codes are selected while all encryptions are offered. A network that was taken over from the list
-// is forgotten: the page shows what was read.
+// Codes are selected while all encryptions are offered. A network from the list is forgotten.
 void DWTInfrastructureView::showDataManager() {
     mutableDictionary_selectSSID.clear();
     bool_SSIDfromSelectSSID = false;
@@ -106,8 +105,7 @@ void DWTInfrastructureView::enableAllItems(bool enabled) {
     if (enabled) adjustSecurity();
 }
 
-// The name of a network that was taken over from the list needs no check: it may hold characters
-// that cannot be typed here.
+// A name from the list needs no check: it may hold characters that cannot be typed.
 bool DWTInfrastructureView::passes(const Field &field) const {
     if (field.control == textField_InfrastructureSSID && bool_SSIDfromSelectSSID) return true;
     return InterfaceView::passes(field);
@@ -245,8 +243,7 @@ void DWTInfrastructureView::initializeEncryption() {
     offer(popupbutton_InfrastructureEncryption, array_popUpButton_Encryption);
 }
 
-// If the printer reported only one of authentication and encryption, both stay as they are: a
-// corrected pair would be sent.
+// If the printer reported only one of the two, both stay: a corrected pair would be sent.
 void DWTInfrastructureView::adjustSecurity() {
     const auto isReported = [this](const QString &key) {
         return !ndm_Object || ndm_Object->isReported(key);
@@ -267,8 +264,7 @@ void DWTInfrastructureView::selectAuthenticCodeInput() {
     selectEncryptionCodeInput();
 }
 
-// The weaker encryption stays when it was chosen; anything else becomes the one to be preferred,
-// whose code follows it.
+// A chosen weaker encryption stays; any other becomes the preferred one, and its code is stored.
 void DWTInfrastructureView::offerEncryptions(Rules::Encryptions offered) {
     const auto [first, preferred] = offered;
     QComboBox *const popup = popupbutton_InfrastructureEncryption;

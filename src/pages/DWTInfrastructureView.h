@@ -3,8 +3,8 @@
 #include "pages/InterfaceView.h"
 #include "ui_InfrastructurePage.h"
 
-// How the printer joins an existing wireless network: its address, and the network's security. A
-// code that the printer reports beyond the end of a list of items shows an empty text, and is kept.
+// How the printer joins a wireless network: address and security. A code beyond the end of a list
+// of items shows an empty text, and is kept.
 class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePage {
     Q_OBJECT
     DWT_SETUP(DWTInfrastructureView, InterfaceView, ISV_Init, ISV_Dealloc)
@@ -62,8 +62,7 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
     // Enables the key fields that the chosen encryption uses.
     void selectEncryptionCodeInput();
     void offerEncryptions(Rules::Encryptions offered);
-    // Says in the empty key fields whose key belongs there; without a network, that an empty one
-    // leaves the printer's key unchanged.
+    // Says in the empty key fields whose key belongs there; without a network, "unchanged".
     void sayKeyOf(const QString &network);
     // Stores the choice of a pop-up, and posts the record's state.
     void storeChoice(const QComboBox *popup);

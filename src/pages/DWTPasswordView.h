@@ -13,11 +13,9 @@ class DWTPasswordView : public DWTBaseView, private Ui::PasswordPage {
     // Also checks that both fields agree.
     bool itemInputCheck() override;
 
-    // Turns the change of the password on or off, and tells the data manager. The fields are usable
-    // while it is on, and emptied when it is turned off.
+    // Turns the change of the password on or off in the change data. Off empties the fields.
     void passwordChangeSetting(bool on);
-    // Empties and disables the fields and turns the change off, without telling the data manager.
-    // The argument is not used.
+    // Empties the fields and turns the change off, in the controls alone. The argument is not used.
     void clearPassword(bool);
 
   protected:

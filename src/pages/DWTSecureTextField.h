@@ -2,8 +2,7 @@
 
 #include "pages/RecallingTextField.h"
 
-// A masked text field that holds at most 8 characters (Rules::longestPassword): a change that would
-// make its text longer is undone as a whole.
+// A masked text field of at most 8 characters: a change that exceeds them is undone as a whole.
 class DWTSecureTextField : public RecallingTextField {
     Q_OBJECT
   public:

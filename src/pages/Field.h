@@ -6,9 +6,9 @@
 
 #include "settings/Settings.h"
 
-// A row of a page's table: a setting, and the control that shows it. A text, an address or a number
-// is in a QLineEdit, a choice in a RadioGroup (codes as tags) or a QComboBox (codes as item data),
-// a flag in a QCheckBox. A choice that is only shown is in a QLineEdit, as text.
+// A row of a page's table: a setting and its control. Texts, addresses, numbers and choices that
+// are only shown are in a QLineEdit, choices in a RadioGroup (codes as tags) or a QComboBox (codes
+// as item data), flags in a QCheckBox.
 struct Field {
     QWidget *control;
     const Setting *setting;            // null for a control beside those of the record
@@ -25,8 +25,7 @@ struct Field {
     // The control, unless it is a choice or a flag.
     QLineEdit *line() const { return qobject_cast<QLineEdit *>(control); }
 
-    // Shows the value of a category. One that is missing empties a field, and leaves radio buttons
-    // and values that are only shown as they are.
+    // Shows the value of a category. A missing one empties a field that is edited.
     void show(const CategoryDictionary &category) const;
     // Shows a text, or nothing; it counts as filled when it is not empty.
     void showText(const QString &text) const;
@@ -34,8 +33,8 @@ struct Field {
     std::optional<SettingValue> value() const;
     // Whether the control shows what it shows when its value is missing.
     bool isEmpty() const;
-    // The text with which a QLineEdit shows the value of a category: as people read it, an address
-    // without four parts as "0.0.0.0", a code without a text as nothing.
+    // The text of a QLineEdit for the value of a category: a missing address is "0.0.0.0", a code
+    // without a text empty.
     QString textOf(const CategoryDictionary &category) const;
 };
 

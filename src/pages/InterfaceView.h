@@ -6,9 +6,8 @@
 #include "pages/DWTBaseView.h"
 #include "platform/ui/RadioGroup.h"
 
-// A page of one of the printer's network interfaces: how the interface gets its address, and the
-// test of its connection. The addresses can be typed in manual setup only; in automatic setup
-// their fields show the addresses in use.
+// A page of a network interface: its address setup and the test of its connection. In automatic
+// setup the disabled address fields show the addresses in use.
 class InterfaceView : public DWTBaseView {
     Q_OBJECT
   public:
@@ -31,8 +30,7 @@ class InterfaceView : public DWTBaseView {
     void connectRequested();
 
   protected:
-    // Adds the row of an address: its keys in the record (configured, in use), and what the end of
-    // editing does.
+    // Adds the row of an address with its keys: configured, and in use.
     void addAddress(TextField *field, const QString &key, const QString &keyInUse,
                     std::function<bool()> store, bool *input = nullptr);
 
@@ -48,9 +46,8 @@ class InterfaceView : public DWTBaseView {
     };
     void setControls(const Controls &controls);
 
-    // The action of the choice: what the user picked goes into the change data, in manual setup
-    // with the typed addresses, in automatic setup with the configured ones. The fields keep what
-    // was typed.
+    // The action of the choice: puts it into the change data, in manual setup with the typed
+    // addresses, in automatic setup with the saved ones. The fields keep their texts.
     void chooseAddressSetup();
     // Address fields are usable in manual setup only.
     void selectAddressSettingInput();

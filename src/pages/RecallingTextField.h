@@ -2,8 +2,7 @@
 
 #include "platform/ui/TextField.h"
 
-// A text field that treats what is typed by itself and reports it to nobody, and recalls a text for
-// that.
+// A text field that handles typing itself, reports it to nobody, and can recall a text.
 class RecallingTextField : public TextField {
     Q_OBJECT
   public:

@@ -2,8 +2,8 @@
 
 #include <QtGlobal>
 
-// The codes of the setting protocol: what the integers of the setting record, and the results of
-// the data manager, stand for. Unscoped, since records hold them as plain integers.
+// Codes of the setting protocol and results of the data manager; unscoped, as records hold
+// integers.
 
 // The number of a setting item on the wire, 0x1000 to 0x3212.
 using ItemCode = quint16;
@@ -46,8 +46,7 @@ namespace PasswordState {
 enum Code { NoAnswer = 1, Set = 2, NotSet = 3 };
 }
 
-// What became of an item that was to be written, the login among them. No code of a printer stands
-// for it, since a printer may refuse with any.
+// What became of an item that was to be written. A printer may refuse with any code.
 struct WriteResult {
     enum Kind {
         Accepted,

@@ -16,13 +16,11 @@
 #include "settings/ItemCodec.h"
 #include "settings/SettingKeys.h"
 
-// The settings of one printer: what it reported (saved data), what the user entered (change data),
-// and every exchange that fills the one and writes the other. It owns the link to the printer.
-//
-// Made with the plain init() it has no link; every exchange then fails as its result says. All
-// operations are called on one thread, and wait there for the printer, as long as the link's calls
-// take. Only sendDataToPrinter() runs on a thread of its own; while it does, no other operation is
-// called. Data managers of different printers can be used on different threads at a time.
+// The settings of one printer: as reported (saved data) and as entered (change data), and the
+// exchanges between them and the printer. Made with the plain init() it has no link; exchanges then
+// fail.
+// One thread at a time calls it, and waits for the printer. While a send runs no other operation is
+// called. Data managers of different printers can run at a time.
 class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<DWTDataManager> {
     DWT_SETUP(DWTDataManager, DWTBaseClass, NDM_Init, NDM_Dealloc)
 
@@ -36,8 +34,7 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     std::optional<CategoryDictionary> setupDataToMainView(const QString &viewKey) const;
     // The change category of a view key; nothing when it is absent.
     std::optional<CategoryDictionary> setupDataFromChangeData(const QString &viewKey) const;
-    // Replaces the change category of a view key; stores nothing while there is no change data.
-    // Always 0.
+    // Replaces a change category; stores nothing while there is no change data. Always 0.
     int setupDataFromMainView(const CategoryDictionary &category, const QString &viewKey);
     // True when all seven categories are present in both records and equal.
     bool isEqualToSaveData() const;
@@ -54,65 +51,59 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // Told how many parts of how many are behind; may be empty.
     using Progress = std::function<void(int done, int total)>;
 
-    // Reads every setting and makes both records anew; `progress` is told before each request. The
-    // number is not used. Result: 0 every request was answered; 1 there is no link; 6 at least one
-    // request got no reply (its value and those after it have their defaults), which is also what a
-    // wait that is cancelled looks like; otherwise the link's result of connecting.
+    // Reads every setting and makes both records anew; `progress` comes before each request. The
+    // number is not used. Result: 0 all answered; 1 no link; 6 a request got no reply (its value
+    // and those after it are defaults), or the wait was cancelled; otherwise the link's result of
+    // connecting.
     int setupDataFromPrinter(int, const Progress &progress = {});
-    // The settings that a send writes and whose item the last reading asked for without getting
-    // their value: the record holds a default, or nothing. They are not sent until the record is
-    // changed.
+    // The sent settings that the last reading asked for in vain: the record holds a default, or
+    // nothing, which is not sent.
     QList<const Setting *> notReported() const;
     // Whether the record's value of a key is the printer's own, which it reported or accepted.
     bool isReported(const QString &key) const;
-    // How often a search for networks is asked whether it has finished, and how long it is waited
-    // between two polls.
+    // Polls of a search for networks, and the time between two.
     static constexpr int scanPolls = 10;
     static constexpr std::chrono::milliseconds defaultScanInterval{1000};
-    // The networks that the printer finds, in its order; empty when it found none or did not finish
-    // in scanPolls polls, or the wait was cancelled; nothing when it cannot be connected or closes
-    // the connection. `progress` is told before each poll.
+    // The networks that the printer finds; empty when there are none, scanPolls polls did not
+    // finish, or the wait was cancelled; nothing when it cannot be connected or closes the
+    // connection.
     std::optional<QList<SSIDEntry>> SSIDList(const Progress &progress = {});
     // Waits another time than defaultScanInterval between two polls; for tests.
     void setScanInterval(std::chrono::milliseconds interval) { m_scanInterval = interval; }
 
     // --- Sending (DWTDataManagerSending.cpp) ---
 
-    // Writes the change data to the printer on a thread of its own, which keeps this object alive,
-    // and returns at once. Reports by the notifications DWT_DataSend_Start_Message (0),
-    // DWT_DataSend_Progress_Message (16, 33, 50, 66, 85, 100) and DWT_DataSend_Stop_Message (0; 1
-    // when no thread or the printer could not be had, or the connection was lost before anything
-    // was applied), each handled on the main thread before the send goes on, with this object as
-    // sender and the MSW_Searching_Value_ numbers. The saved data then holds what the printer
-    // accepted. Not to be called again before the stop.
+    // Writes the change data on a thread of its own, which keeps this object alive. Notifications,
+    // each handled on the main thread before the send goes on, with this object as sender and the
+    // MSW_Searching_Value_ numbers: DWT_DataSend_Start_Message (0), DWT_DataSend_Progress_Message
+    // (16, 33, 50, 66, 85, 100), DWT_DataSend_Stop_Message (0; 1 when nothing was applied for want
+    // of a thread or a connection). The saved data then holds the accepted values.
     void sendDataToPrinter();
-    // The same on the calling thread; returns after the stop. On another thread than the main one,
-    // the main thread must run an event loop meanwhile.
+    // The same on the calling thread, until the stop; the main thread must run an event loop.
     void sendDataToPrinterAndWait() { NDM_SendDataToPrinterThread(); }
     // How the last send ended, nothing compared; written until its stop.
     const Ending &ending() const { return m_ending; }
 
     // --- Printers (DWTDataManagerPrinters.cpp) ---
 
-    // The supported printers (settings/Printers.h) that can be reached, USB printers with their own
-    // name under PrinterKey::MachineName. Nothing when no link can be made. `found` gets each, in
-    // order, as soon as it has answered; a wait that is cancelled leaves out those that have not.
+    // The supported printers (settings/Printers.h) that can be reached, those on USB with their
+    // PrinterKey::MachineName; nothing without a link. `found` gets each at once. A cancelled wait
+    // leaves out the rest.
     static std::optional<QList<PrinterEntry>> printerList(
         const std::function<void(const PrinterEntry &)> &found = {});
     // The name of the printer of `entry`, asked through `link`; " " when it cannot be read.
     static QString printerName(const std::shared_ptr<DWTCommunicationControl> &link,
                                const PrinterEntry &entry);
-    // Whether a printer answers at the address of exactly four parts; negative when not, when there
-    // are not four parts, or without a link.
+    // Whether a printer answers at an address of four parts; negative when not, or without a link.
     int isCheckConnectToPrinter(const QStringList &address);
 
     // --- Connection, password state and login (DWTDataManagerLogin.cpp) ---
 
-    // 2: an administrator password is set; 3: none is set; 1: the printer cannot be connected or
-    // gives no usable answer. Asks whatever the last reading came to.
+    // 2: a password is set; 3: none is set; 1: no connection or usable answer, which settles
+    // neither.
     int isPassword();
-    // Tries a password; an accepted one is kept for the next send. Call it between connectPrinter()
-    // and disconnectPrinter().
+    // Tries a password between connectPrinter() and disconnectPrinter(); an accepted one is kept
+    // for the next send.
     WriteResult checkLoginPassword(const QString &password);
     // The link's results, 0 = connected; 1 without a link.
     int connectPrinter();
@@ -133,8 +124,7 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // One request; an empty reply clears the read-failure flag.
     QByteArray NDM_SendCommandSettingRequest(ItemCode code);
     WriteResult NDM_ResultDataToInteger(const std::optional<QByteArray> &reply, ItemCode code);
-    // Items as values; each asks nothing while the read-failure flag is cleared. A value that
-    // cannot be read is " ", 0 or nothing.
+    // Items as values: " ", 0 or nothing for one that cannot be read, or once a reply was missing.
     QString NDM_DataToString(ItemCode code);
     int NDM_DataToInteger(ItemCode code);
     QString NDM_DataToStringAndLength(ItemCode code);

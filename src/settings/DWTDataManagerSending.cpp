@@ -136,8 +136,7 @@ DWTDataManager::Accepted DWTDataManager::sendCategories() {
     return accepted;
 }
 
-// Whether the change data uses an item: of the keys only the one that goes with the encryption, and
-// a password only when it was entered.
+// Whether the change data uses an item: the key of the encryption, and an entered password.
 bool DWTDataManager::isUsed(const Item &item) const {
     const CategoryDictionary change = changeData().value(item.viewKey);
     if (item.code == passwordItem) return integerValue(change, DWT_SaveData_Password_Change) != 0;
@@ -167,8 +166,7 @@ void DWTDataManager::send(const Item &item, Accepted &accepted) {
     accepted.reported.insert(item.code, chosen);
 }
 
-// An unchanged value is worth it when the printer reported it, and it is not an empty text, which
-// no frame can carry but that of the password.
+// An unchanged value is worth it when it was reported and is no empty text, which no frame carries.
 bool DWTDataManager::isWorthSending(const Item &item) const {
     if (item.code == passwordItem) return true;
     const bool isText = item.layout == Layout::Text || item.layout == Layout::CountedText;

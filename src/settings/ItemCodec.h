@@ -8,10 +8,8 @@
 #include "settings/Codes.h"
 #include "settings/SettingRecord.h"
 
-// The layouts of the setting items, as pure functions on bytes: without printer, record or flag.
-//
-// A decoder takes the reply to a request for `code`. It looks at no byte beyond the reply area
-// (ReplyCursor) and gives nothing when the reply is not "CF" or carries another code.
+// The layouts of the setting items, as pure functions on bytes. A decoder stays inside the reply
+// area (ReplyCursor) and gives nothing for a reply that is not "CF" or of another code.
 
 namespace ItemCodec {
 
@@ -30,16 +28,13 @@ std::optional<QString> textWithLength(const QByteArray &reply, ItemCode code);
 std::optional<QString> macAddress(const QByteArray &reply, ItemCode code);
 // The nibbles of bytes 10 and 9, high byte first, as "H.HHH".
 std::optional<QString> softwareVersion(const QByteArray &reply, ItemCode code);
-// Addresses of four octets each from offset 9, under the item's keys; nothing for an item of
-// another layout.
+// Addresses from offset 9, under the item's keys; nothing for an item of another layout.
 std::optional<CategoryDictionary> addresses(const QByteArray &reply, ItemCode code);
-// The integer of bytes 9-10 and three addresses from offset 11, under the item's keys; nothing for
-// an item of another layout.
+// The same after the integer of bytes 9-10.
 std::optional<CategoryDictionary> integerAndAddresses(const QByteArray &reply, ItemCode code);
 
-// The raw value bytes of an item that a send writes; trailing zeros of a text are removed. Nothing
-// when the reply does not hold all of them: the decoders above take what is missing as zero and cut
-// what is too long.
+// The raw value bytes of an item that a send writes, a text without trailing zeros; nothing unless
+// all of them came.
 std::optional<QByteArray> wholeValue(const QByteArray &reply, ItemCode code);
 
 // Item 0x3120: how far the printer's search for networks is.
@@ -51,8 +46,7 @@ std::optional<ScanStatus> scanStatus(const QByteArray &reply);
 // Items 0x3121 to 0x3124: the networks of one block, in its order, without those that have no name.
 std::optional<QList<SSIDEntry>> networks(const QByteArray &reply, ItemCode code);
 
-// The result code 0..65535 of a "CR" reply to the setting frame of `code`, 0 = accepted; nothing
-// for anything else.
+// The result code 0..65535 of a "CR" reply to the frame of `code`, 0 = accepted; else nothing.
 std::optional<int> result(const QByteArray &reply, ItemCode code);
 
 // --- Setting frames -----------------------------------------------------------------------------
@@ -64,8 +58,7 @@ std::optional<QByteArray> textFrame(ItemCode code, const QString &text);
 std::optional<QByteArray> textBytesFrame(ItemCode code, const QByteArray &text);
 // The low 16 bits.
 QByteArray integerFrame(ItemCode code, int value);
-// The count and the text; items 0x3104 and 0x3201 have a zero-filled field of 32 bytes. Not empty,
-// not longer than the field.
+// Count and text; items 0x3104 and 0x3201 in a zero-filled field of 32 bytes. Not empty.
 std::optional<QByteArray> textWithLengthFrame(ItemCode code, const QString &text);
 std::optional<QByteArray> bytesFrame(ItemCode code, const QByteArray &bytes);
 // The integer, the count, and the text in a zero-filled field of 26 bytes. Not empty, not longer.

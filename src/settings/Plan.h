@@ -3,8 +3,7 @@
 #include "settings/SendWarnings.h"
 #include "settings/Values.h"
 
-// What somebody wants of a printer, held against what the printer has: pure, without printer,
-// window or terminal.
+// Wanted values held against those of a printer: pure, without printer, window or terminal.
 
 // Where something was given.
 struct Place {
@@ -51,12 +50,10 @@ struct Plan {
     bool changesPage(const QString &viewKey) const;
 };
 
-// The plan of making a printer that holds `saved` hold `wanted`. Values that mean the same
-// (isSame()) are no change.
+// The plan of making a printer that holds `saved` hold `wanted`; isSame() values are no change.
 Plan planOf(const SettingRecord &saved, const SettingRecord &wanted);
 
-// The plan of giving `values` to a printer that holds `saved`. What the printer has already is no
-// change, and no fault whatever rule it breaks.
+// The plan of giving `values` to a printer that holds `saved`. Values that it has are no faults.
 Plan planOf(const SettingRecord &saved, const QList<WantedValue> &values);
 
 // The faults between values that show without a printer.

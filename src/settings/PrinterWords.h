@@ -9,10 +9,8 @@
 // Why a printer is missing, as a sentence.
 QString wordsOf(const PrinterProblem &problem);
 
-// What tells a printer from others of its model, as far as the library knows it: its serial number,
-// its port or its address; may be empty.
+// What tells a printer from others of its model: serial number, port or address; may be empty.
 QString whereaboutsOf(const PrinterEntry &entry);
 
-// What a listed printer is called: its own name where it is known, what it is announced as, or its
-// model.
+// What a listed printer is called: its own name, what it is announced as, or its model.
 QString listedName(const PrinterEntry &entry);

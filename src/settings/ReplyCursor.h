@@ -6,8 +6,7 @@
 
 #include "zmlib/ZMLib.h"
 
-// Reads a reply inside its reply area: bytes beyond the reply's end read as 0, and a value that
-// would extend past the area is cut at the area's end.
+// Reads a reply inside its reply area; bytes beyond the reply are 0, a value ends with the area.
 class ReplyCursor {
   public:
     // Size of the area in which a reply is examined, in bytes.
@@ -20,8 +19,7 @@ class ReplyCursor {
     // Bytes between the cursor and the end of the area.
     qsizetype left() const;
 
-    // Each reads at the cursor and moves it behind what was read. At the end of the area numbers
-    // are 0 and bytes are missing.
+    // Each moves the cursor behind what it read. At the end numbers are 0 and bytes are missing.
     quint8 byte();
     quint16 word();  // two bytes, low byte first
     QByteArray bytes(qsizetype count);

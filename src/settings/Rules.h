@@ -3,8 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-// The rules that typed values must keep, as pure functions on texts: without window, printer or
-// record. Lengths count UTF-16 units.
+// The rules of typed values, as pure functions on texts. Lengths count UTF-16 units.
 namespace Rules {
 
 // --- Characters ---------------------------------------------------------------------------------
@@ -61,24 +60,22 @@ bool keeps(const Rule &rule, const QString &text, bool input = true);
 
 // --- The rules one by one -----------------------------------------------------------------------
 
-// Whether the text has `min` to `max` characters, all among `characters`. The minimum counts only
-// when `input` is true: a value that nobody gave may stay empty.
+// Whether the text has `min` to `max` characters, all among `characters`; without `input` any
+// shorter one passes.
 bool isText(const QString &text, const QString &characters, int min, int max, bool input);
 
-// Whether the text is an IPv4 address of four parts from 0 to 255 in at most 15 characters that is
-// neither 0.0.0.0 nor 255.255.255.255 nor, unless `loopback` allows it, 127.0.0.1. Leading zeros
-// are accepted.
+// Whether the text is an IPv4 address in at most 15 characters, leading zeros included, other than
+// 0.0.0.0, 255.255.255.255 and, unless `loopback` allows it, 127.0.0.1.
 bool isAddress(const QString &text, bool loopback);
 
 // Whether the four parts of two addresses are the same numbers; both need four parts.
 bool isSameAddress(const QStringList &a, const QStringList &b);
 
-// Whether the text has 5 or 13 printable characters, or 10 or 26 hexadecimal digits. An empty one
-// passes while `input` is false.
+// Whether the text has 5 or 13 printable characters, or 10 or 26 hexadecimal digits; an empty one
+// passes without `input`.
 bool isWEPKey(const QString &text, bool input);
 
-// The two encryptions that go with an authentication (both of settings/Codes.h): the weaker one,
-// and the one to be preferred.
+// The two encryptions that go with an authentication (settings/Codes.h).
 struct Encryptions {
     int weaker, preferred;
 };

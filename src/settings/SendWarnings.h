@@ -4,8 +4,7 @@
 
 #include "settings/SettingRecord.h"
 
-// What a person should know before a record is sent, beyond the rules that its values must keep: it
-// can be sent, and may still not be what was meant.
+// What can be sent, and may still not be what was meant.
 struct SendWarning {
     enum Kind {
         KeyKept,            // `subject`, a protected network, is new, and no key was entered for it
@@ -21,6 +20,6 @@ struct SendWarning {
 // A warning as a sentence.
 QString wordsOf(const SendWarning &warning);
 
-// The warnings about sending `changed` to a printer that holds `saved`. A category that did not
-// change has none.
+// The warnings about sending `changed` to a printer that holds `saved`; of changed categories
+// alone.
 QList<SendWarning> warningsOf(const SettingRecord &saved, const SettingRecord &changed);

@@ -56,8 +56,7 @@ void Session::forgetUnreported(bool complete) {
         CategoryDictionary &category = m_record[setting.viewKey];
         const bool isMissing =
             setting.isReported() && setting.isSent() && !m_manager->isReported(setting.key);
-        // Of the codes that are only shown, 0 may also stand for one that was not asked for any
-        // more.
+        // A code 0 that is only shown may also be one that was not asked for any more.
         const bool isDoubtful = !complete && setting.kind == Setting::Kind::Choice &&
                                 !setting.isSent() && integerValue(category, setting.key) == 0;
         const bool isUnreadable = textValue(category, setting.key) == unreadable;

@@ -8,9 +8,8 @@
 #include "settings/Ending.h"
 #include "settings/Plan.h"
 
-// One printer, from its reading to a change that was verified. Every operation waits for the
-// printer; all are called on one thread. On another than the main one, the main thread runs an
-// event loop meanwhile.
+// One printer, from its reading to a verified change. Operations wait for the printer, on one
+// thread; on another than the main one, the main thread runs an event loop meanwhile.
 class Session {
   public:
     explicit Session(PrinterEntry entry);
@@ -29,8 +28,8 @@ class Session {
         NotReached
     };
     Reading read(const DWTDataManager::Progress &progress = {});
-    // The same for a printer that may not be ready yet, since it was plugged in or changed just
-    // now: again and again, readPause apart, for readyWithin or until `goOn` says no.
+    // The same for a printer that was plugged in or changed just now: again and again, readPause
+    // apart, for readyWithin or until `goOn` says no.
     static constexpr std::chrono::milliseconds readPause{500};
     static constexpr std::chrono::milliseconds readyWithin{2000};
     Reading readWhenReady(const std::function<bool()> &goOn = [] { return true; });
@@ -43,17 +42,17 @@ class Session {
     void enter(const Plan &plan);
     // Tries a password, which is kept for the next send.
     Ending::Login logIn(const QString &password);
-    // Reads the printer again after a send and compares what was written: of a new password, by a
-    // login with it, of a removed one, by asking whether there is one. What the printer has instead
-    // becomes saved data. Result: the ending of the send, made complete.
+    // Reads the printer again after a send and compares: a new password by a login with it, a
+    // removed one by asking for it. Different values become saved data. Result: the ending, with
+    // what was seen.
     Ending verify();
 
     // --- A change as a whole ---
 
     // Asked for the password of a protected printer; nothing when there is none to be had.
     using AskPassword = std::function<std::optional<QString>()>;
-    // Writes a plan for what was read: logs in where the printer has a password, sends, reads again
-    // and compares. Right before the send, `mayBegin` can still stop it.
+    // Logs in where needed, sends a plan for what was read, and verifies it. `mayBegin` can stop it
+    // right before the send.
     Ending change(const Plan &plan, const AskPassword &password,
                   const std::function<bool()> &mayBegin);
 

@@ -9,8 +9,8 @@
 #include "settings/Rules.h"
 #include "settings/SettingRecord.h"
 
-// The table of settings: a row for each value of the setting record. What is read and written and
-// in which order, the names of files and JSON, labels, rules and the words of codes come from it.
+// The table of settings: a row a value of the record. Reading, sending, codec, rules, names in
+// files and words come from it.
 
 struct Setting {
     enum class Kind { Text, Number, Address, Choice, Mac };
@@ -20,11 +20,11 @@ struct Setting {
         Enter    // a secret, or written and never reported
     };
 
-    // Stable name, which files, tables and JSON use: "wired.address.mode". Once released it stays.
-    // Empty for what the record keeps beside: it is neither shown nor given.
+    // Stable name in files, tables and JSON: "wired.address.mode"; once released it stays. Empty
+    // for what the record keeps beside.
     QString name;
-    // Where the record holds the value: category and key. What is known of the printer without
-    // asking it ("printer.uri") has no category, and a key of its entry in the list.
+    // Category and key in the record. A value of the printer's entry in the list ("printer.uri")
+    // has no category, and a key of the entry.
     QString viewKey, key;
     Kind kind;
     QString labelKey;  // localisation key of what people call it
@@ -63,18 +63,15 @@ const QList<SettingPage> &settingPages();
 // The title of the page of a category, in words.
 QString titleOfPage(const QString &viewKey);
 
-// The addresses of an interface that can be set: the mode (AddressSetting), the address, the mask
-// and the gateway of one category.
+// How an interface gets its address: mode (AddressSetting), address, mask and gateway.
 struct AddressSetup {
     const Setting *mode, *address, *mask, *gateway;
 };
 // Those of the wired and of the wireless interface.
 const QList<AddressSetup> &addressSetups();
 
-// A category made of the values that were read. It ends before the first value that is missing,
-// unless nobody reads that: then it has its value of the beginning.
+// A category of read values. It ends before the first missing one; what nobody reads is initial.
 CategoryDictionary categoryOf(const QString &viewKey, const CategoryDictionary &values);
 
-// The record's key of the network key that an encryption (settings/Codes.h) uses; empty for one
-// that uses none.
+// The record's key of the network key that an encryption (settings/Codes.h) uses; may be empty.
 QString networkKeyOf(int encryption);

@@ -7,8 +7,7 @@
 
 // Values of settings as texts: as people read them, and as files and tables give them.
 
-// The value of a setting in a category, for people; empty for one that is not there, that could not
-// be read, or that says nothing (an address of zeros).
+// The value of a setting in a category, for people; empty for one that is missing or says nothing.
 QString textOf(const Setting &setting, const CategoryDictionary &category);
 // The same; "(empty)" for an empty one.
 QString textOrEmpty(const Setting &setting, const CategoryDictionary &category);

@@ -3,8 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-// Empties a secret, and leaves nothing of it in its memory. The buffer must not be shared with a
-// text that is still needed.
+// Empties a secret and its memory, which no other text may share.
 void wipe(QByteArray &secret);
 void wipe(QString &secret);
 

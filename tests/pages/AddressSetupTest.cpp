@@ -116,7 +116,7 @@ TEST_P(AddressSetup, OneAlertNamesEveryWrongAddressAndSelectsTheFirst) {
     EXPECT_EQ(explanation.count(u'\n'), 2) << "the page and two rules";
     EXPECT_EQ(window.focusWidget(), mask());
     EXPECT_EQ(mask()->selectedText(), text("0.0.0.0"));
-    EXPECT_TRUE(!mask()->problem().isEmpty() && address()->problem().isEmpty());
+    EXPECT_TRUE(!mask()->fault().isEmpty() && address()->fault().isEmpty());
     pick("buttonCell_Auto");
     EXPECT_FALSE(page->hasFault()) << "addresses that do not count";
 }

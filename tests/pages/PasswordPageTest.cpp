@@ -35,12 +35,12 @@ TEST_F(PasswordPage, TheBoxOpensTheFieldsAndClosingItForgetsThem) {
     EXPECT_EQ(changedText(DWT_SaveData_Password_Password), text("abc")) << "they differ";
     EXPECT_FALSE(page->itemCheckDifferentToDataManager());
     EXPECT_EQ(changeList(), text("New password:  > new")) << "a password is shown";
-    EXPECT_TRUE(password()->problem().isEmpty());
-    EXPECT_EQ(repeated()->problem(), text("The passwords do not match. Type the same password in "
-                                          "both fields."));
+    EXPECT_TRUE(password()->fault().isEmpty());
+    EXPECT_EQ(repeated()->fault(), text("The passwords do not match. Type the same password in "
+                                        "both fields."));
     typeBoth("", "");
     EXPECT_EQ(changeList(), text("New password:  > removed"));
-    EXPECT_TRUE(repeated()->problem().isEmpty());
+    EXPECT_TRUE(repeated()->fault().isEmpty());
     page->enableAllItems(true);
     EXPECT_TRUE(password()->isEnabled() && repeated()->isEnabled());
     page->enableAllItems(false);

@@ -19,23 +19,15 @@ struct Notification {
 //
 // Observers are called on the thread that posts. The list of observers may be changed from any
 // thread, also by an observer while it is being called.
-class NotificationCenter {
+class NotificationCenter : public QObject {
+    Q_OBJECT
   public:
     using Handler = std::function<void(const Notification &)>;
 
     // Keeps one observation alive; destroying it (or assigning over it) ends the observation, after
     // which the handler is not called again. Destroy it on the thread that posts: a post running on
     // another thread may be inside the handler at that moment.
-    class Observer {
-      public:
-        Observer() = default;
-
-      private:
-        friend class NotificationCenter;
-        struct Entry;
-        explicit Observer(std::shared_ptr<Entry> entry) : m_entry(std::move(entry)) {}
-        std::shared_ptr<Entry> m_entry;
-    };
+    using Observer = std::shared_ptr<QObject>;
 
     // The centre of the process.
     static NotificationCenter &shared();
@@ -53,9 +45,10 @@ class NotificationCenter {
     bool postOnMainThreadAndWait(const QString &name, const QObject *sender,
                                  const QVariantMap &userInfo = {});
 
+  Q_SIGNALS:
+    // Of whatever name.
+    void posted(const Notification &notification);
+
   private:
-    NotificationCenter();
-    ~NotificationCenter();
-    struct Private;
-    const std::unique_ptr<Private> d;
+    NotificationCenter() = default;
 };

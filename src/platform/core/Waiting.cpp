@@ -27,35 +27,20 @@ class InputFilter : public QObject {
             case QEvent::Close:
                 event->ignore();  // the window stays open
                 return true;
-            case QEvent::KeyPress:
-            case QEvent::KeyRelease:
             case QEvent::Shortcut:
-            case QEvent::ShortcutOverride:
             case QEvent::InputMethod:
-            case QEvent::MouseButtonPress:
-            case QEvent::MouseButtonRelease:
-            case QEvent::MouseButtonDblClick:
-            case QEvent::MouseMove:
-            case QEvent::NonClientAreaMouseButtonPress:
-            case QEvent::NonClientAreaMouseButtonRelease:
-            case QEvent::NonClientAreaMouseButtonDblClick:
-            case QEvent::Wheel:
-            case QEvent::ContextMenu:
-            case QEvent::TouchBegin:
-            case QEvent::TouchUpdate:
-            case QEvent::TouchEnd:
-            case QEvent::TouchCancel:
-            case QEvent::NativeGesture:
-            case QEvent::TabletPress:
-            case QEvent::TabletMove:
-            case QEvent::TabletRelease:
             case QEvent::DragEnter:
             case QEvent::DragMove:
             case QEvent::DragLeave:
             case QEvent::Drop:
                 return true;
-            default:
+            case QEvent::Enter:  // where the pointer is stays known
+            case QEvent::HoverEnter:
+            case QEvent::HoverMove:
+            case QEvent::HoverLeave:
                 return false;
+            default:
+                return event->isInputEvent();
         }
     }
 };

@@ -1,105 +1,64 @@
 #include "platform/ui/OutlineView.h"
 
-#include <QAbstractItemModel>
 #include <QHeaderView>
 #include <QPainter>
 #include <QScrollBar>
+#include <QStandardItemModel>
 #include <QStyledItemDelegate>
-#include <memory>
-#include <vector>
 
 #include "platform/ui/Colours.h"
 
 // The data source as Qt's model sees it: the tree is fetched as a whole at every reload.
-class OutlineModel : public QAbstractItemModel {
+class OutlineModel : public QStandardItemModel {
   public:
-    explicit OutlineModel(OutlineView *outline) : QAbstractItemModel(outline), m_outline(outline) {}
+    explicit OutlineModel(OutlineView *outline) : QStandardItemModel(outline), m_outline(outline) {}
 
     OutlineDataSource *source = nullptr;
     QString column;
 
     void reload() {
-        beginResetModel();
-        m_root = Node();
-        if (source) fetch(m_root);
-        endResetModel();
+        clear();
+        if (!source) return;
+        fetchBelow(invisibleRootItem());
+        reloadMarks(invisibleRootItem());
     }
-    QVariantMap item(const QModelIndex &index) const { return node(index)->item; }
-
-    QModelIndex index(int row, int column_, const QModelIndex &parent) const override {
-        if (!hasIndex(row, column_, parent)) return {};
-        return createIndex(row, column_, node(parent)->children[static_cast<size_t>(row)].get());
+    QVariantMap sourceItem(const QModelIndex &index) const { return index.data(ItemRole).toMap(); }
+    // The index of an item; an invalid one when it is not there.
+    QModelIndex find(const QVariantMap &item) const {
+        return match(index(0, 0), ItemRole, item, 1, Qt::MatchExactly | Qt::MatchRecursive)
+            .value(0);
     }
-    QModelIndex parent(const QModelIndex &index) const override {
-        const Node *const above = index.isValid() ? node(index)->parent : nullptr;
-        return above && above->parent ? createIndex(above->row, 0, above) : QModelIndex();
-    }
-    int rowCount(const QModelIndex &parent) const override {
-        return static_cast<int>(node(parent)->children.size());
-    }
-    int columnCount(const QModelIndex &) const override { return 1; }
-    QVariant data(const QModelIndex &index, int role) const override {
-        if (!source || !index.isValid()) return {};
-        const QVariantMap &item = node(index)->item;
-        switch (role) {
-            case Qt::DisplayRole:
-                return source->objectValueForTableColumn(m_outline, column, item);
-            case Qt::DecorationRole:
-                return node(index)->mark.sign;
-            case Qt::ToolTipRole:
-            case Qt::AccessibleDescriptionRole:
-                return node(index)->mark.meaning;
-            default:
-                return {};
+    // Fetches the marks of everything below an item.
+    void reloadMarks(QStandardItem *above) {
+        for (int row = 0; row < above->rowCount(); ++row) {
+            QStandardItem *const below = above->child(row);
+            const auto mark = source->markOfItem(m_outline, sourceItem(below->index()));
+            below->setIcon(mark.sign);
+            below->setToolTip(mark.meaning);
+            below->setAccessibleDescription(mark.meaning);
+            reloadMarks(below);
         }
-    }
-    // The index of an item at or below another; an invalid one when it is not there.
-    QModelIndex find(const QVariantMap &item, const QModelIndex &top = {}) const {
-        if (top.isValid() && node(top)->item == item) return top;
-        for (int row = 0; row < rowCount(top); ++row)
-            if (const QModelIndex found = find(item, index(row, 0, top)); found.isValid())
-                return found;
-        return {};
-    }
-    void reloadMarks(const QModelIndex &top = {}) {
-        const int rows = rowCount(top);
-        if (rows == 0) return;
-        for (const auto &below : node(top)->children)
-            below->mark = source->markOfItem(m_outline, below->item);
-        Q_EMIT dataChanged(index(0, 0, top), index(rows - 1, 0, top),
-                           {Qt::DecorationRole, Qt::ToolTipRole, Qt::AccessibleDescriptionRole});
-        for (int row = 0; row < rows; ++row) reloadMarks(index(row, 0, top));
     }
 
   private:
-    struct Node {
-        QVariantMap item;
-        OutlineDataSource::Mark mark;  // as it was fetched last
-        Node *parent = nullptr;
-        int row = 0;
-        std::vector<std::unique_ptr<Node>> children;
-    };
+    static constexpr int ItemRole = Qt::UserRole;  // the item as the source knows it
 
-    void fetch(Node &above) {
-        const bool isRoot = above.parent == nullptr;
-        if (!isRoot && !source->isItemExpandable(m_outline, above.item)) return;
-        const int count = source->numberOfChildrenOfItem(m_outline, above.item);
+    void fetchBelow(QStandardItem *above) {
+        const QVariantMap item = sourceItem(above->index());
+        if (!item.isEmpty() && !source->isItemExpandable(m_outline, item)) return;
+        const int count = source->numberOfChildrenOfItem(m_outline, item);
         for (int i = 0; i < count; ++i) {
-            auto below = std::make_unique<Node>();
-            below->item = source->child(m_outline, i, above.item);
-            below->mark = source->markOfItem(m_outline, below->item);
-            below->parent = &above;
-            below->row = i;
-            fetch(*below);
-            above.children.push_back(std::move(below));
+            auto *const below = new QStandardItem;
+            const QVariantMap child = source->child(m_outline, i, item);
+            below->setData(child, ItemRole);
+            below->setText(source->objectValueForTableColumn(m_outline, column, child).toString());
+            below->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+            above->appendRow(below);
+            fetchBelow(below);
         }
-    }
-    const Node *node(const QModelIndex &index) const {
-        return index.isValid() ? static_cast<const Node *>(index.constInternalPointer()) : &m_root;
     }
 
     OutlineView *const m_outline;
-    Node m_root;
 };
 
 namespace {
@@ -159,7 +118,8 @@ class AskingSelection : public QItemSelectionModel {
 
   private:
     bool mayMoveTo(const QModelIndex &index) {
-        return !asks || !delegate || delegate->shouldSelectItem(m_outline, m_model->item(index));
+        return !asks || !delegate ||
+               delegate->shouldSelectItem(m_outline, m_model->sourceItem(index));
     }
 
     OutlineView *const m_outline;
@@ -231,7 +191,7 @@ void OutlineView::pickItem(const QVariantMap &item) {
 }
 
 void OutlineView::reloadMarks() {
-    m_model->reloadMarks();
+    m_model->reloadMarks(m_model->invisibleRootItem());
 }
 
 void OutlineView::fitWidthToContents() {
@@ -267,7 +227,7 @@ void OutlineView::drawRow(QPainter *painter, const QStyleOptionViewItem &option,
 }
 
 QModelIndex OutlineView::indexAtRow(int row) const {
-    QModelIndex index = m_model->index(0, 0, {});
+    QModelIndex index = m_model->index(0, 0);
     for (; index.isValid() && row > 0; --row) index = indexBelow(index);
     return index;
 }

@@ -38,8 +38,8 @@ void TextField::forget() {
     setText(QString());
 }
 
-void TextField::setProblem(const QString &why) {
-    if (why == problem()) return;
+void TextField::setFault(const QString &why) {
+    if (why == fault()) return;
     if (!m_mark)
         m_mark = addAction(style()->standardIcon(QStyle::SP_MessageBoxWarning), TrailingPosition);
     m_mark->setText(why);

@@ -42,9 +42,9 @@ class TextField : public QLineEdit {
 
     // Marks the text as one that cannot be used: by an icon inside the field, with `why` as its
     // tool tip and as the field's accessible description. An empty text takes the mark away.
-    void setProblem(const QString &why);
+    void setFault(const QString &why);
     // Why the text cannot be used; empty while the field is not marked.
-    QString problem() const { return accessibleDescription(); }
+    QString fault() const { return accessibleDescription(); }
 
   protected:
     // Editing begins; text() is the old text. Does nothing by itself.
@@ -65,7 +65,7 @@ class TextField : public QLineEdit {
     bool endEditing();
 
     TextFieldDelegate *m_delegate = nullptr;
-    QAction *m_mark = nullptr;  // the icon of a problem; made for the first one
+    QAction *m_mark = nullptr;  // the icon of a fault; made for the first one
     QString m_previous;         // the text before the change that is being made
     bool m_editing = false;
     bool m_forgotten = false;   // emptied while it had the focus, and not changed since

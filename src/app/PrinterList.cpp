@@ -1,0 +1,184 @@
+#include "app/PrinterList.h"
+
+#include <QShortcut>
+#include <algorithm>
+
+#include "mainwindow/WaitWindow.h"
+#include "platform/core/Texts.h"
+#include "platform/core/Waiting.h"
+#include "platform/ui/Window.h"
+#include "settings/PrinterWords.h"
+#include "settings/Printers.h"
+
+namespace {
+
+// Columns of the table, under the names of their identifiers.
+// NOLINTBEGIN(bugprone-reserved-identifier)
+const QString _MODEL_NAME_ = QStringLiteral("_MODEL_NAME_");
+const QString _SERVICE_NAME_ = QStringLiteral("_SERVICE_NAME_");
+// NOLINTEND(bugprone-reserved-identifier)
+
+// A list of more printers than these has a field that filters it.
+constexpr qsizetype printersAtAGlance = 8;
+
+// So many problems are told in words; there is no room for more.
+constexpr qsizetype shownProblems = 4;
+
+// The key of what an empty list says; in installer mode only USB is looked at.
+QString keyOfEmptyList(const QList<PrinterProblem> &problems, bool installer) {
+    const auto isOnly = [&](PrinterProblem::Kind kind) {
+        return std::all_of(problems.begin(), problems.end(),
+                           [kind](const PrinterProblem &problem) { return problem.kind == kind; });
+    };
+    if (problems.isEmpty() || (installer && isOnly(PrinterProblem::NoNetworkService)))
+        return installer ? QStringLiteral("DWT_Localize_PrinterList_Empty_USB")
+                         : QStringLiteral("DWT_Localize_PrinterList_Empty");
+    if (isOnly(PrinterProblem::EmptyCatalogue))
+        return QStringLiteral("DWT_Localize_PrinterList_Empty_Catalogue");
+    if (isOnly(PrinterProblem::NoNetworkService))
+        return QStringLiteral("DWT_Localize_PrinterList_Empty_NoNetwork");
+    return QStringLiteral("DWT_Localize_PrinterList_Empty_Problems");
+}
+
+}  // namespace
+
+PrinterList::PrinterList(QWidget *parent, WaitWindow *wait) : QWidget(parent), window_Wait(wait) {
+    setupUi(this);
+    TableView &table = *tableView_Printerlist;
+    table.addColumn(_MODEL_NAME_);
+    table.addColumn(_SERVICE_NAME_);
+    table.setHasDetails();
+    table.setHeaderTitle(
+        _MODEL_NAME_, localized(QStringLiteral("DWT_Localize_PrinterList_TableView_Name_Column")));
+    table.setHeaderTitle(
+        _SERVICE_NAME_,
+        localized(QStringLiteral("DWT_Localize_PrinterList_TableView_Service_Column")));
+    table.setNoMatchText(localized(QStringLiteral("DWT_Localize_PrinterList_NoMatch")));
+    table.setTableDataSource(this);
+    table.setTableDelegate(this);
+    textField_PrinterlistFilter->setTable(&table);
+    textField_PrinterlistFilter->hide();
+    view_Problems->hide();
+    setFocusProxy(&table);
+    m_showing.setSingleShot(true);
+    m_showing.callOnTimeout([this] { reloadData(); });
+    m_looking.callOnTimeout([this] { followPrinters(); });
+    connect(&table, &TableView::doubleAction, this, &PrinterList::DWT_DoubleAction);
+    connect(button_PrinterlistOK, &QPushButton::clicked, this, &PrinterList::chosen);
+    connect(button_PrinterlistReload, &QPushButton::clicked, this,
+            &PrinterList::push_PrinterListReload);
+    connect(button_PrinterlistEXIT, &QPushButton::clicked, this, &PrinterList::left);
+    connect(new QShortcut(Qt::Key_F5, this), &QShortcut::activated, button_PrinterlistReload,
+            &QPushButton::click);
+}
+
+PrinterList::~PrinterList() {
+    tableView_Printerlist->setTableDelegate(nullptr);
+    tableView_Printerlist->setTableDataSource(nullptr);
+}
+
+void PrinterList::push_PrinterListReload() {
+    DWT_UpdatePrinterList();
+    tableView_Printerlist->deselectAll();
+    button_PrinterlistOK->setEnabled(false);
+}
+
+void PrinterList::DWT_UpdatePrinterList() {
+    const WaitSheet waiting = window_Wait->over(window());
+    if (!ndm_Object) ndm_Object = make<DWTDataManager>();
+    array_PrinterList.clear();
+    tableView_Printerlist->setEmptyText(
+        localized(QStringLiteral("DWT_Localize_PrinterList_Searching")));
+    reloadData();
+    ndm_Object->printerList([this](const PrinterEntry &printer) {
+        array_PrinterList << printer;
+        m_showing.start();
+    });
+    m_showing.stop();
+    tableView_Printerlist->setEmptyText(localized(
+        isWaitCancelled() ? QStringLiteral("DWT_Localize_PrinterList_Cancelled")
+                          : keyOfEmptyList(Printers::problems(), ndm_Object->checkLunchedMode())));
+    reloadData();
+    showPart(textField_PrinterlistFilter, array_PrinterList.size() > printersAtAGlance ||
+                                              !textField_PrinterlistFilter->text().isEmpty());
+    showProblems();
+    m_looking.start(lookInterval);
+}
+
+void PrinterList::followPrinters() {
+    const bool idle = isVisible() && !window()->isMinimized() && !window_Wait->isVisible() &&
+                      !QApplication::activeModalWidget() && !QApplication::activePopupWidget();
+    if (idle && ndm_Object && Printers::hasListChanged()) DWT_UpdatePrinterList();
+}
+
+void PrinterList::showProblems() {
+    QList<PrinterProblem> problems = Printers::problems();
+    problems.removeIf([](const PrinterProblem &problem) {  // which the list itself says
+        return problem.kind == PrinterProblem::EmptyCatalogue;
+    });
+    QStringList lines;
+    for (const PrinterProblem &problem : problems.first(std::min(shownProblems, problems.size())))
+        lines << wordsOf(problem);
+    if (problems.size() > shownProblems)
+        lines << QStringLiteral("… (+%1)").arg(problems.size() - shownProblems);
+    textField_Problems->setText(lines.join(u'\n'));
+    showPart(view_Problems, !lines.isEmpty());
+}
+
+void PrinterList::showPart(QWidget *part, bool shown) {
+    const bool isNew = shown && part->isHidden();
+    part->setVisible(shown);
+    if (isNew) static_cast<Window *>(window())->growToContents();
+}
+
+PrinterEntry PrinterList::selectedPrinter() const {
+    return array_PrinterList.value(tableView_Printerlist->selectedRow());
+}
+
+int PrinterList::numberOfRowsInTableView(TableView *) {
+    return int(array_PrinterList.size());
+}
+
+QVariant PrinterList::objectValueForTableColumn(TableView *, const QString &column, int row) {
+    if (row >= array_PrinterList.size()) return {};
+    const PrinterEntry &entry = array_PrinterList[row];
+    const bool network = entry.contains(PrinterKey::BonjourServiceName);
+    if (column == _MODEL_NAME_)
+        return network ? entry.value(PrinterKey::BonjourServiceName)
+                       : readableText(entry.value(PrinterKey::MachineName));
+    if (column == _SERVICE_NAME_)
+        return localized(network ? QStringLiteral("DWT_Localize_PrinterList_BonjourService_Network")
+                                 : QStringLiteral("DWT_Localize_PrinterList_BonjourService_USB"));
+    return {};
+}
+
+QString PrinterList::detailForTableColumn(TableView *, const QString &column, int row) {
+    if (column != _MODEL_NAME_) return {};
+    const PrinterEntry entry = array_PrinterList.value(row);
+    QStringList parts{entry.value(PrinterKey::ProductName), whereaboutsOf(entry)};
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(" · "));
+}
+
+QIcon PrinterList::iconForTableColumn(TableView *, const QString &column, int row) {
+    if (column != _SERVICE_NAME_) return {};
+    const bool network = array_PrinterList.value(row).contains(PrinterKey::BonjourServiceName);
+    return QIcon(network ? QStringLiteral(":/pictures/network.svg")
+                         : QStringLiteral(":/pictures/usb.svg"));
+}
+
+QString PrinterList::rowKeyInTableView(TableView *, int row) {
+    return array_PrinterList.value(row).value(PrinterKey::DeviceURI);
+}
+
+bool PrinterList::selectionShouldChangeInTableView(TableView *) {
+    return true;
+}
+
+void PrinterList::tableViewSelectionDidChange(TableView *table) {
+    button_PrinterlistOK->setEnabled(table->selectedRow() >= 0);
+}
+
+void PrinterList::DWT_DoubleAction(int clickedRow) {
+    if (clickedRow >= 0) Q_EMIT chosen();
+}

@@ -1,0 +1,146 @@
+#include <QClipboard>
+#include <QLabel>
+#include <QMenu>
+
+#include "SelectionWindow.h"
+
+namespace {
+
+class Menu : public SelectionWindow {
+  protected:
+    void open(const char *name) {
+        walk.launch();
+        ASSERT_TRUE(walk.open(text(name)));
+    }
+    // The entries of a menu, opened by these keys, that can be chosen.
+    QString enabled(const char *menu) {
+        keys(menu);
+        QStringList titles;
+        for (const QAction *entry : QApplication::activePopupWidget()->actions())
+            if (entry->isEnabled() && !entry->isSeparator()) titles << entry->text().remove(u'&');
+        keys("Escape Escape");  // of the menu, then of its bar
+        return titles.join(u'|');
+    }
+    static QString copied() { return QApplication::clipboard()->text(); }
+    // Expects the parts in a text, in this order.
+    static void expectIn(const QString &whole, const QList<const char *> &parts) {
+        qsizetype at = 0;
+        for (const char *part : parts)
+            EXPECT_GE(at = whole.indexOf(text(part), at), 0) << part << qPrintable(whole);
+    }
+};
+
+TEST_F(Menu, EntriesForEditingAreEnabledWhenTheyCanActAndDo) {
+    open("Packing-Desk");
+    QApplication::clipboard()->setText(text("old"));
+    const char *const name = "textField_NetworkBonjour",
+                      *const mac = "textField_EthernetMACAddress",
+                      *const secret = "secureTextField_Password";
+    for (QWidget *part : walk.main()->findChildren<QWidget *>())
+        if (!part->isWindow()) part->show();  // all pages at a time
+    controlOf(walk.main(), secret)->setEnabled(true);
+    controlOf<QLineEdit>(walk.main(), secret)->setText(text("open123"));
+    const auto keysIn = [&](const char *control, const char *pressed) {
+        controlOf(walk.main(), control)->setFocus();
+        keys(pressed);
+    };
+    const struct {
+        const char *control, *keys, *enabled;
+    } cases[] = {{name, "Ctrl+A", "Cut|Copy|Paste|Select all|"},
+                 {name, "End", "Paste|Select all|"},
+                 {mac, "Ctrl+A", "Copy|Select all|"},
+                 {secret, "Ctrl+A", "Paste|Select all|"},
+                 {"outlineView_Main", "", ""}};
+    for (const auto &c : cases) {
+        keysIn(c.control, c.keys);
+        EXPECT_EQ(enabled("Alt+E"), text(c.enabled) + text("Copy all settings")) << c.control;
+    }
+    keysIn(name, "Alt+E A Alt+E T");
+    EXPECT_EQ(walk.shown(name), QString());
+    keysIn(mac, "Ctrl+A Alt+E C");
+    EXPECT_EQ(copied(), walk.shown(mac));
+    keysIn(name, "Alt+E P");
+    EXPECT_EQ(walk.shown(name), walk.shown(mac));
+}
+
+TEST_F(Menu, OffersWhatCanBeDoneWhileKeysAloneOpenAPrinterChangeItAndSend) {
+    const char *const name = "textField_NetworkBonjour", *const offered = "Alt+P";
+    walk.launch();
+    EXPECT_EQ(enabled(offered), QString());
+    keys("Down Down Return");
+    ASSERT_FALSE(isListed());
+    EXPECT_EQ(enabled(offered), text("Read again"));
+    keys("Ctrl+S");
+    const auto enterName = [&](const char *typed) {
+        const auto *const field = controlOf(walk.main(), name);
+        for (int i = 0; i < 40 && !field->hasFocus(); ++i) keys("Tab");
+        keys("Ctrl+A");
+        enter(typed);
+    };
+    enterName("gate-2");
+    EXPECT_EQ(enabled(offered), text("Send to printer…|Read again"));
+    walk.dialogs().key("view_UpdateChangeCheck", Qt::Key_Return);
+    keys("F5");
+    walk.dialogs().on("view_SendChangeCheck", "button_SendChangeCheckCancel");
+    keys("Ctrl+L");
+    EXPECT_TRUE(walk.main()->isVisible() && !isListed());
+    EXPECT_EQ(walk.shown(name), text("gate-2")) << "edits are thrown away";
+    enterName("gate-7");
+    walk.dialogs().key("", Qt::Key_Return).on("view_SendLogin", [this](QWidget *) {
+        enter("open123");
+        keys("Return");
+    });
+    for (const char *view : {"view_SendConfirm", "view_SendEnd"})
+        walk.dialogs().key(view, Qt::Key_Return);
+    keys("Ctrl+S");
+    EXPECT_TRUE(walk.dialogs().isDone());
+    EXPECT_EQ(walk.held("virtual://dispatch", 0x1004), QByteArray("gate-7"));
+    EXPECT_EQ(enabled(offered), text("Read again"));
+    keys("Ctrl+L");
+    EXPECT_TRUE(isListed() && !walk.main()->isVisible());
+    EXPECT_EQ(enabled(offered), QString());
+}
+
+TEST_F(Menu, CopiesAllSettingsAsThePagesShowThemButNoSecret) {
+    const auto copy = [&] {
+        QApplication::clipboard()->clear();
+        keys("Ctrl+Shift+C");
+        return copied();
+    };
+    open("Packing-Desk");
+    walk.type("textField_NetworkBonjour", text("gate-2"));
+    walk.type("textField_InfrastructurePSK", text("not for others"));
+    const QString report = copy();
+    expectIn(report,
+             {"Larkfield L200 · Packing-Desk\n\nDevice\nFirmware version: 1.203\n",
+              "\n\nNames\nPrinter name: Packing-Desk\nBonjour name: gate-2\n",
+              "\n\nWired network\nMAC address: 02:00:4C:0A:1B:01\n"
+              "Address assignment: Fixed address\nIP address: 192.168.20.31\n",
+              "\n\nWireless network\n", "(access point): 02:00:4C:0A:1B:03\n",
+              "\n\nInfrastructure\n", "\nNetwork name (SSID): 倉庫\n", "\nWEP key number: Key 1\n",
+              "\n\nAccess point\nWireless standard: IEEE 802.11b/g/n\n"
+              "DHCP server: On: the printer assigns addresses\n",
+              "\n\nPassword\nSet a new administrator password: No\n"});
+    EXPECT_FALSE(report.contains(text("not for others")) || report.contains(u'*'));
+    walk.dialogs().on("view_SendChangeCheck", "button_SendChangeCheckNoReflect");
+    keys("Ctrl+L");
+    EXPECT_EQ(copy(), QString()) << "no printer is open";
+    ASSERT_TRUE(walk.open(text("Goods in (first floor)")));
+    expectIn(copy(), {"Larkfield L400 · Goods-In\nThis printer is connected over the network, so",
+                      "\nBonjour name: label-printer\n", "\nNetwork name (SSID): (empty)\n"});
+}
+
+TEST_F(Menu, AboutTellsVersionLicenceAndWhereFaultsAreReported) {
+    walk.launch();
+    keys("Alt+H A");
+    QWidget *const about = QApplication::activeModalWidget();
+    ASSERT_TRUE(about);
+    controlOf(about, "qt_msgbox_label")->setFocus();
+    keys("Ctrl+A Ctrl+C");
+    expectIn(copied(), {NST_VERSION, "Copyright (c)", "Report faults to ", "@"});
+    EXPECT_TRUE(copied().contains(text("MIT License")));
+    keys("Escape");
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QApplication::activeModalWidget(); }));
+}
+
+}  // namespace
