@@ -14,14 +14,6 @@ DWTMainSettingWindow::~DWTMainSettingWindow() {
     MSW_Dealloc();
 }
 
-bool DWTMainSettingWindow::init() {
-    return MSW_Init();
-}
-
-bool DWTMainSettingWindow::MSW_Init() {
-    return true;
-}
-
 void DWTMainSettingWindow::MSW_Dealloc() {
     m_observers.clear();
     if (window_Main) {
@@ -33,10 +25,6 @@ void DWTMainSettingWindow::MSW_Dealloc() {
     DWTBaseClass::BaseClass()->nsObjectRelease(dataManager_Object);
     dictionary_PrinterInfo.clear();
     delete window_Main;  // and every window that belongs to it
-}
-
-void DWTMainSettingWindow::showWindow() {
-    if (!window_Main) awakeFromNib();
 }
 
 void DWTMainSettingWindow::awakeFromNib() {

@@ -44,12 +44,14 @@ class DWTMainSettingWindow : public QObject,
     DWTMainSettingWindow() = default;
     ~DWTMainSettingWindow() override;
     // First step of the set-up, through make<T>(): fields only.
-    bool init();
+    bool init() { return MSW_Init(); }
 
     // --- Opening and reading (DWTMainSettingWindow.cpp) ---
 
     // Loads the interface. The window itself appears when its printer has been read.
-    void showWindow();
+    void showWindow() {
+        if (!window_Main) awakeFromNib();
+    }
     // The window, for whoever places others beside it; null until showWindow().
     Window *window() const { return window_Main; }
     // The buttons that entries of a menu press; from showWindow() on, as long as the window lives.
@@ -75,10 +77,10 @@ class DWTMainSettingWindow : public QObject,
     // --- Closing (DWTMainSettingWindowClosing.cpp) ---
 
     // Asks about unsent changes, as closing does. True when the application may end.
-    bool terminateNetworkTool();
+    bool terminateNetworkTool() { return MSW_AppTerminate(); }
 
   private:
-    bool MSW_Init();
+    bool MSW_Init() { return true; }
     void MSW_Dealloc();
 
     // Outline and pages.
@@ -88,7 +90,9 @@ class DWTMainSettingWindow : public QObject,
     void makeDialogs();
     void loadOutline();
     // The view key of an item of the outline; empty when it stands for no page.
-    static QString viewKeyOf(const QVariantMap &item);
+    static QString viewKeyOf(const QVariantMap &item) {
+        return item.value(QStringLiteral("viewID")).toString();
+    }
     // The items of pages at and below an item, in the outline's order.
     static QList<QVariantMap> pageItemsIn(const QVariantMap &item);
     void connectButtons();
@@ -140,10 +144,10 @@ class DWTMainSettingWindow : public QObject,
     void checkConnection(InterfaceView &page, const QString &settingKey, const QString &addressKey);
 
     // Closing and reading again.
-    void push_MainCancel();
+    void push_MainCancel() { MSW_AppClose(); }
     bool windowShouldClose();
     bool MSW_AppClose();
-    bool MSW_AppTerminate();
+    bool MSW_AppTerminate() { return MSW_AppClose(); }
     void closeMainWindow(const QVariantMap &userInfo);
     void push_SendChangeCheckReflect();
     void push_SendChangeCheckNoReflect();

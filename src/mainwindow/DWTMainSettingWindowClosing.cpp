@@ -13,22 +13,10 @@ const QVariantMap selectorStaysHidden{{DWT_IsShowPrinterSelectDialog_Flag, false
 
 }  // namespace
 
-void DWTMainSettingWindow::push_MainCancel() {
-    MSW_AppClose();
-}
-
 bool DWTMainSettingWindow::windowShouldClose() {
     if (!MSW_AppClose()) return false;
     if (m_open) closeMainWindow(selectorStaysHidden);  // after the changes were sent, or not
     return true;
-}
-
-bool DWTMainSettingWindow::terminateNetworkTool() {
-    return MSW_AppTerminate();
-}
-
-bool DWTMainSettingWindow::MSW_AppTerminate() {
-    return MSW_AppClose();
 }
 
 bool DWTMainSettingWindow::MSW_AppClose() {

@@ -29,10 +29,6 @@ void DWTMainSettingWindow::loadOutline() {
     outlineView_Main->fitWidthToContents();
 }
 
-QString DWTMainSettingWindow::viewKeyOf(const QVariantMap &item) {
-    return item.value(u"viewID"_s).toString();
-}
-
 QList<QVariantMap> DWTMainSettingWindow::pageItemsIn(const QVariantMap &item) {
     QList<QVariantMap> items;
     if (!viewKeyOf(item).isEmpty()) items << item;

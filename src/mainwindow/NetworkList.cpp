@@ -80,10 +80,6 @@ void NetworkList::searchOver(QWidget *window) {
     tableView_SelectSSIDWindow->reloadData();
 }
 
-int NetworkList::numberOfRowsInTableView(TableView *) {
-    return int(array_SSIDList.size());
-}
-
 QVariant NetworkList::objectValueForTableColumn(TableView *, const QString &column, int row) {
     const SSIDEntry network = array_SSIDList.value(row);
     if (column == u"SSID"_s) return readableText(textValue(network, DWT_SSIDList_SSID_String));
@@ -115,20 +111,8 @@ QString NetworkList::rowKeyInTableView(TableView *, int row) {
     return key.join(u' ');
 }
 
-bool NetworkList::selectionShouldChangeInTableView(TableView *) {
-    return true;
-}
-
 void NetworkList::tableViewSelectionDidChange(TableView *table) {
     button_SelectSSIDWindowOK->setEnabled(table->selectedRow() >= 0);
-}
-
-void NetworkList::MSW_DoubleAction(int clickedRow) {
-    if (clickedRow >= 0) MSW_SetSelectSSID();
-}
-
-void NetworkList::push_SelectSSIDWindowOK() {
-    MSW_SetSelectSSID();
 }
 
 void NetworkList::push_SelectSSIDWindowCancel() {

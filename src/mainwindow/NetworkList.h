@@ -33,19 +33,21 @@ class NetworkList : public ModalWindow,
     // left; F5 searches again. Result: the picked one, or nothing.
     std::optional<SSIDEntry> pick(const Search &search);
 
-    int numberOfRowsInTableView(TableView *table) override;
+    int numberOfRowsInTableView(TableView *) override { return int(array_SSIDList.size()); }
     QVariant objectValueForTableColumn(TableView *table, const QString &column, int row) override;
     QIcon iconForTableColumn(TableView *table, const QString &column, int row) override;
     QVariant sortValueForTableColumn(TableView *table, const QString &column, int row) override;
     QString rowKeyInTableView(TableView *table, int row) override;
-    bool selectionShouldChangeInTableView(TableView *table) override;
+    bool selectionShouldChangeInTableView(TableView *) override { return true; }
     void tableViewSelectionDidChange(TableView *table) override;
 
   private:
     // Lists what the search finds; what was listed stays without a new list.
     void searchOver(QWidget *window);
-    void MSW_DoubleAction(int clickedRow);
-    void push_SelectSSIDWindowOK();
+    void MSW_DoubleAction(int clickedRow) {
+        if (clickedRow >= 0) MSW_SetSelectSSID();
+    }
+    void push_SelectSSIDWindowOK() { MSW_SetSelectSSID(); }
     void push_SelectSSIDWindowCancel();
     // Ends the run with the selected row as its outcome; does nothing when none is selected.
     void MSW_SetSelectSSID();

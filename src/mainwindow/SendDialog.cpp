@@ -117,43 +117,15 @@ void SendDialog::showProgress() {
     MSW_SendUISelector(DWT_View_Key_Send_Progress);
 }
 
-QString SendDialog::password() const {
-    return textField_Password->text();
-}
-
-void SendDialog::clearPassword() {
-    textField_Password->forget();
-}
-
 void SendDialog::sayInstead(const QString &viewKey, const QString &text) {
     m_saying.value(viewKey)->setText(text);
     if (isVisible()) makeRoom();
-}
-
-void SendDialog::push_SendChangeCheckCancel() {
-    closeDialog(stay);
-}
-
-void SendDialog::push_UpdateChangeCheckCancel() {
-    closeDialog();
-}
-
-void SendDialog::push_SendConfirmCancel() {
-    closeDialog();
-}
-
-void SendDialog::push_SendLoginCancel() {
-    closeDialog();
 }
 
 // What is typed next replaces the wrong password.
 void SendDialog::push_SendLoginErrorOK() {
     MSW_SendUISelector(DWT_View_Key_Send_Login);
     textField_Password->selectAll();
-}
-
-void SendDialog::push_SendConnectErrorOK() {
-    closeDialog();
 }
 
 void SendDialog::MSW_DataSendStart(const Notification &notification) {

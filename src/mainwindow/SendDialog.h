@@ -44,8 +44,8 @@ class SendDialog : public ModalWindow, private Ui::SendDialog {
     void showProgress();
 
     // The password as it is typed in the login view.
-    QString password() const;
-    void clearPassword();
+    QString password() const { return textField_Password->text(); }
+    void clearPassword() { textField_Password->forget(); }
 
     // Another text for the login, login-error, end or connection-error view, until the next run.
     void sayInstead(const QString &viewKey, const QString &text);
@@ -73,12 +73,12 @@ class SendDialog : public ModalWindow, private Ui::SendDialog {
     void makeRoom();
     void connectButtons();
     void showChanges(bool shown);
-    void push_SendChangeCheckCancel();
-    void push_UpdateChangeCheckCancel();
-    void push_SendConfirmCancel();
-    void push_SendLoginCancel();
+    void push_SendChangeCheckCancel() { closeDialog(stay); }
+    void push_UpdateChangeCheckCancel() { closeDialog(); }
+    void push_SendConfirmCancel() { closeDialog(); }
+    void push_SendLoginCancel() { closeDialog(); }
     void push_SendLoginErrorOK();
-    void push_SendConnectErrorOK();
+    void push_SendConnectErrorOK() { closeDialog(); }
     void MSW_DataSendStart(const Notification &notification);
     void MSW_DataSendProgress(const Notification &notification);
     void MSW_DataSendStop(const Notification &notification);

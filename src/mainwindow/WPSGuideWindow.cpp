@@ -6,15 +6,6 @@
 #include "platform/core/Texts.h"
 #include "platform/ui/Modal.h"
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
-const QString DWT_View_Key_Main_WPS1 = u"DWT_View_Key_Main_WPS1"_s;
-const QString DWT_View_Key_Main_WPS2 = u"DWT_View_Key_Main_WPS2"_s;
-
-}  // namespace
-
 WPSGuideWindow::WPSGuideWindow(QWidget *parent)
     : ModalWindow(parent), view_WPSGuide(new QWidget), dictionary_WPSViewManagement(view_WPSGuide) {
     setWindowTitle(localized("DWT_Localize_App_Name"));
@@ -37,22 +28,6 @@ void WPSGuideWindow::run() {
 void WPSGuideWindow::MSW_WPSUISelector(const QString &viewKey) {
     dictionary_WPSViewManagement.select(viewKey);
     dictionary_WPSViewManagement.focusFirstControl();
-}
-
-void WPSGuideWindow::push_WPSGuide1Next() {
-    MSW_WPSUISelector(DWT_View_Key_Main_WPS2);
-}
-
-void WPSGuideWindow::push_WPSGuide1Exit() {
-    closeGuide();
-}
-
-void WPSGuideWindow::push_WPSGuide2Next() {
-    closeGuide();
-}
-
-void WPSGuideWindow::push_WPSGuide2Exit() {
-    closeGuide();
 }
 
 void WPSGuideWindow::closeGuide() {

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "platform/core/Key.h"
 #include "platform/ui/ModalWindow.h"
 #include "platform/ui/ViewStack.h"
+
+DWT_KEY(DWT_View_Key_Main_WPS1);
+DWT_KEY(DWT_View_Key_Main_WPS2);
 
 // The WPS guide as a window of its own, which leads forward only. Main thread only.
 class WPSGuideWindow : public ModalWindow {
@@ -16,10 +20,10 @@ class WPSGuideWindow : public ModalWindow {
   private:
     // Shows the view of the key.
     void MSW_WPSUISelector(const QString &viewKey);
-    void push_WPSGuide1Next();
-    void push_WPSGuide1Exit();
-    void push_WPSGuide2Next();
-    void push_WPSGuide2Exit();
+    void push_WPSGuide1Next() { MSW_WPSUISelector(DWT_View_Key_Main_WPS2); }
+    void push_WPSGuide1Exit() { closeGuide(); }
+    void push_WPSGuide2Next() { closeGuide(); }
+    void push_WPSGuide2Exit() { closeGuide(); }
     void closeGuide();
 
     QWidget *const view_WPSGuide;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "pages/TextFilter.h"
 #include "platform/core/NotificationCenter.h"
 #include "platform/core/Texts.h"
 #include "platform/ui/FieldLooks.h"
@@ -104,19 +103,11 @@ QString DWTBaseView::brokenRuleOf(const Field &field) const {
     return localized(field.rule->ruleKey);
 }
 
-QString DWTBaseView::faultOf(const Field &field) const {
-    return brokenRuleOf(field);
-}
-
 void DWTBaseView::updateMarks(bool all) {
     for (const Field &field : m_fields) {
         auto *const control = qobject_cast<TextField *>(field.control);
         if (control && (all || !control->fault().isEmpty())) control->setFault(faultOf(field));
     }
-}
-
-bool DWTBaseView::hasFault() const {
-    return firstFault() != nullptr;
 }
 
 void DWTBaseView::focusFirstFault() {
@@ -215,10 +206,6 @@ void DWTBaseView::controlTextDidChange(TextField *control) {
     postSendState(itemCheckDifferentToDataManager());
 }
 
-void DWTBaseView::markInput(const Field &field, bool) {
-    if (field.input) *field.input = true;
-}
-
 bool DWTBaseView::itemInputCheckString(const QLineEdit *field, const QString &characterSet, int min,
                                        int max, bool input) const {
     return Rules::isText(field->text(), characterSet, min, max, input);
@@ -231,14 +218,6 @@ bool DWTBaseView::itemInputCheckAddress(const QLineEdit *field, bool localhostCh
 bool DWTBaseView::isEqualAddress(const QStringList &address,
                                  const QStringList &printerAddress) const {
     return Rules::isSameAddress(address, printerAddress);
-}
-
-void DWTBaseView::checkIPtextField(TextField *field) const {
-    filterText(field, Rules::addressCharacters);
-}
-
-void DWTBaseView::checkCountTextField(TextField *field) const {
-    filterText(field, Rules::digits);
 }
 
 void DWTBaseView::showInputError(Alert &alert, const QString &fieldName,
@@ -265,10 +244,6 @@ CategoryDictionary DWTBaseView::savedCategory() const {
 
 void DWTBaseView::handOver(const CategoryDictionary &category) {
     if (ndm_Object) ndm_Object->setupDataFromMainView(category, string_ViewKey);
-}
-
-void DWTBaseView::sendNotificationSendOK() {
-    postSendState(ndm_Object && ndm_Object->isEqualToSaveData());
 }
 
 // A choice may have changed which fields count.

@@ -7,6 +7,7 @@
 
 #include "app/base/DWTBaseClass.h"
 #include "pages/Field.h"
+#include "pages/TextFilter.h"
 #include "platform/core/Key.h"
 #include "platform/ui/Alert.h"
 #include "platform/ui/PopUpButton.h"
@@ -48,7 +49,7 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // when something is wrong; every wrong field is marked then.
     virtual bool itemInputCheck();
     // Whether a field is marked as wrong: from the end of editing, or a check, until it is mended.
-    bool hasFault() const;
+    bool hasFault() const { return firstFault() != nullptr; }
     // Gives the focus to the first field that is marked, selected.
     void focusFirstFault();
     // Writes the controls' values to the change data.
@@ -102,9 +103,11 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // Whether what a field holds keeps its rule.
     virtual bool passes(const Field &field) const;
     // Why what a field holds cannot be used, in words; empty when it can, or does not count.
-    virtual QString faultOf(const Field &field) const;
+    virtual QString faultOf(const Field &field) const { return brokenRuleOf(field); }
     // The user begins to edit, or `ended` to edit, a field.
-    virtual void markInput(const Field &field, bool ended);
+    virtual void markInput(const Field &field, bool) {
+        if (field.input) *field.input = true;
+    }
     virtual Alert::Style alertStyle() const { return Alert::Style::Warning; }
 
     // --- What every page does with its category ---
@@ -118,11 +121,11 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // Makes the page hear of every change of its fields, as their delegate.
     void notificationManager();
     // Takes characters other than digits and dots out of the field.
-    void checkIPtextField(TextField *field) const;
+    void checkIPtextField(TextField *field) const { filterText(field, Rules::addressCharacters); }
     // Takes characters other than digits out of the field.
-    void checkCountTextField(TextField *field) const;
+    void checkCountTextField(TextField *field) const { filterText(field, Rules::digits); }
     // Posts whether the whole record differs from the saved data.
-    void sendNotificationSendOK();
+    void sendNotificationSendOK() { postSendState(ndm_Object && ndm_Object->isEqualToSaveData()); }
 
     // Makes `keys` the items of a pop-up; the first has the code `firstCode`.
     static void offer(QComboBox *popup, const QStringList &keys, int firstCode = 0);

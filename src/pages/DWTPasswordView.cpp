@@ -75,14 +75,6 @@ void DWTPasswordView::push_PasswordChange() {
                           checkbox_PasswordChange->isChecked());
 }
 
-bool DWTPasswordView::itemInputCheckPassword() {
-    return !fieldsAgree() || store(secureTextField_Password);
-}
-
-QString DWTPasswordView::passwordName() const {
-    return fieldOf(secureTextField_Password)->name;
-}
-
 bool DWTPasswordView::fieldsAgree() const {
     return secureTextField_Password->text() == secureTextField_PasswordReinput->text();
 }

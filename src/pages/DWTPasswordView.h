@@ -27,10 +27,10 @@ class DWTPasswordView : public DWTBaseView, private Ui::PasswordPage {
     // The check box's action.
     void push_PasswordChange();
     // Store the password in the change data when both fields agree. Always true.
-    bool itemInputCheckPassword();
+    bool itemInputCheckPassword() { return !fieldsAgree() || store(secureTextField_Password); }
     bool itemInputCheckPasswordReinput() { return itemInputCheckPassword(); }
     bool fieldsAgree() const;
-    QString passwordName() const;
+    QString passwordName() const { return fieldOf(secureTextField_Password)->name; }
     void enableFields(bool enabled);
     void emptyFields();
 };

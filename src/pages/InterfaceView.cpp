@@ -55,20 +55,8 @@ void InterfaceView::controlTextDidChange(TextField *control) {
     DWTBaseView::controlTextDidChange(control);
 }
 
-void InterfaceView::forgetConnectResult() {
-    m_controls.state->setText(m_untested);
-}
-
 void InterfaceView::showConnectResult(bool online) {
     m_controls.state->setText(localized(online ? m_controls.online : m_controls.offline));
-}
-
-void InterfaceView::settingConnectButtonEnable(bool enabled) {
-    m_controls.connect->setEnabled(enabled);
-}
-
-QStringList InterfaceView::getipAddressArray() const {
-    return m_controls.address->text().split(u'.');
 }
 
 void InterfaceView::chooseAddressSetup() {
@@ -106,8 +94,4 @@ void InterfaceView::fill(const Field &field) {
     const QString key = isAutomatic() ? m_keysInUse.value(field.key()) : field.key();
     field.line()->setText(addressNumberToString(addressValue(values, key)));
     if (field.input) *field.input = true;
-}
-
-bool InterfaceView::isUsed(const Field &field) const {
-    return !field.isAddress() || !isAutomatic();
 }

@@ -21,9 +21,9 @@ class InterfaceView : public DWTBaseView {
 
     // Shows whether a printer answered at the address that the window tested.
     void showConnectResult(bool online);
-    void settingConnectButtonEnable(bool enabled);
+    void settingConnectButtonEnable(bool enabled) { m_controls.connect->setEnabled(enabled); }
     // The typed address, split at its dots.
-    QStringList getipAddressArray() const;
+    QStringList getipAddressArray() const { return m_controls.address->text().split(u'.'); }
 
   Q_SIGNALS:
     // The user asks for a test of the printer's address.
@@ -53,14 +53,14 @@ class InterfaceView : public DWTBaseView {
     void selectAddressSettingInput();
 
     void fill(const Field &field) override;
-    bool isUsed(const Field &field) const override;
+    bool isUsed(const Field &field) const override { return !field.isAddress() || !isAutomatic(); }
 
   private:
     bool isAutomatic() const {
         return m_controls.choice->selectedTag() == AddressSetting::Automatic;
     }
 
-    void forgetConnectResult();
+    void forgetConnectResult() { m_controls.state->setText(m_untested); }
 
     Controls m_controls{};
     QString m_untested;                  // what the state says before a test

@@ -106,10 +106,14 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // for the next send.
     WriteResult checkLoginPassword(const QString &password);
     // The link's results, 0 = connected; 1 without a link.
-    int connectPrinter();
-    void disconnectPrinter();
+    int connectPrinter() { return ncc_Object ? ncc_Object->connectPrinter(0) : ReadResult::NoLink; }
+    void disconnectPrinter() {
+        if (ncc_Object) ncc_Object->disconnectPrinter(0);
+    }
     // The status length (bytes) of the printer's model, for the link.
-    void qkStatusLength(int length);
+    void qkStatusLength(int length) {
+        if (ncc_Object) ncc_Object->qkStatusLength(length);
+    }
 
   private:
     bool NDM_InitMember(const PrinterEntry &entry);

@@ -19,15 +19,3 @@ WriteResult DWTDataManager::checkLoginPassword(const QString &password) {
     }
     return result;
 }
-
-int DWTDataManager::connectPrinter() {
-    return ncc_Object ? ncc_Object->connectPrinter(0) : ReadResult::NoLink;
-}
-
-void DWTDataManager::disconnectPrinter() {
-    if (ncc_Object) ncc_Object->disconnectPrinter(0);
-}
-
-void DWTDataManager::qkStatusLength(int length) {
-    if (ncc_Object) ncc_Object->qkStatusLength(length);
-}

@@ -6,14 +6,6 @@ ReplyCursor::ReplyCursor(QByteArray reply) : m_reply(std::move(reply)) {
     m_reply.truncate(areaSize);
 }
 
-void ReplyCursor::seek(qsizetype offset) {
-    m_position = std::clamp<qsizetype>(offset, 0, areaSize);
-}
-
-qsizetype ReplyCursor::left() const {
-    return areaSize - m_position;
-}
-
 quint8 ReplyCursor::byte() {
     if (left() == 0) return 0;
     const qsizetype at = m_position++;

@@ -15,9 +15,9 @@ class ReplyCursor {
     explicit ReplyCursor(QByteArray reply);
 
     // Moves to an offset of the reply; beyond the area means its end.
-    void seek(qsizetype offset);
+    void seek(qsizetype offset) { m_position = std::clamp<qsizetype>(offset, 0, areaSize); }
     // Bytes between the cursor and the end of the area.
-    qsizetype left() const;
+    qsizetype left() const { return areaSize - m_position; }
 
     // Each moves the cursor behind what it read. At the end numbers are 0 and bytes are missing.
     quint8 byte();
