@@ -8,13 +8,6 @@
 
 namespace {
 
-const QString DWT_View_Key_ToolPerform = QStringLiteral("DWT_View_Key_ToolPerform");
-const QString DWT_View_Key_ChooseConnect = QStringLiteral("DWT_View_Key_ChooseConnect");
-const QString DWT_View_Key_USBConnect = QStringLiteral("DWT_View_Key_USBConnect");
-const QString DWT_View_Key_WPS1 = QStringLiteral("DWT_View_Key_WPS1");
-const QString DWT_View_Key_WPS2 = QStringLiteral("DWT_View_Key_WPS2");
-const QString DWT_View_Key_Printerlist = QStringLiteral("DWT_View_Key_Printerlist");
-
 // Tags of the two ways to connect.
 constexpr int connectByUSB = 0;
 constexpr int connectByWPS = 1;
@@ -22,9 +15,6 @@ constexpr int connectByWPS = 1;
 }  // namespace
 
 bool DWTPrinterSelector::DWT_Init() {
-    dictionary_ViewManagement.reset();
-    nsObjectRelease(msw_Object);
-    show_mainDialog = false;
     return true;
 }
 
@@ -167,60 +157,8 @@ void DWTPrinterSelector::leaveGuide() {
         Application::terminate();
 }
 
-void DWTPrinterSelector::windowWillClose() {
-    window_PrinterSelector->hide();
-}
-
-void DWTPrinterSelector::push_ToolPerformOK() {
-    DWT_UISelector(DWT_View_Key_ChooseConnect);
-}
-
-void DWTPrinterSelector::push_ToolPerformExit() {
-    leaveGuide();
-}
-
 void DWTPrinterSelector::push_ChooseConnectNext() {
     const int chosen = matrix_ChooseConnectSelect->selectedTag();
     if (chosen == connectByUSB) DWT_UISelector(DWT_View_Key_USBConnect);
     if (chosen == connectByWPS) DWT_UISelector(DWT_View_Key_WPS1);
-}
-
-void DWTPrinterSelector::push_ChooseConnectExit() {
-    leaveGuide();
-}
-
-void DWTPrinterSelector::push_USBConnectNext() {
-    DWT_UISelector(DWT_View_Key_Printerlist);
-}
-
-void DWTPrinterSelector::push_WPSSetting1Next() {
-    DWT_UISelector(DWT_View_Key_WPS2);
-}
-
-void DWTPrinterSelector::push_WPSSetting1Back() {
-    DWT_UISelector(DWT_View_Key_ChooseConnect);
-}
-
-void DWTPrinterSelector::push_WPSSetting1Exit() {
-    leaveGuide();
-}
-
-void DWTPrinterSelector::push_WPSSetting2Next() {
-    leaveGuide();
-}
-
-void DWTPrinterSelector::push_WPSSetting2Back() {
-    DWT_UISelector(DWT_View_Key_WPS1);
-}
-
-void DWTPrinterSelector::push_WPSSetting2Exit() {
-    leaveGuide();
-}
-
-void DWTPrinterSelector::push_PrinterListOK() {
-    DWT_ShowMainSettingWindow();
-}
-
-void DWTPrinterSelector::push_PrinterListExit() {
-    window_PrinterSelector->hide();
 }

@@ -40,6 +40,17 @@ class DWTPrinterSelector : public DWTBaseClass,
     std::shared_ptr<DWTMainSettingWindow> mainSettingWindow() const { return msw_Object; }
 
   private:
+    // The keys of the views.
+    static inline const QString DWT_View_Key_ToolPerform =
+        QStringLiteral("DWT_View_Key_ToolPerform");
+    static inline const QString DWT_View_Key_ChooseConnect =
+        QStringLiteral("DWT_View_Key_ChooseConnect");
+    static inline const QString DWT_View_Key_USBConnect = QStringLiteral("DWT_View_Key_USBConnect");
+    static inline const QString DWT_View_Key_WPS1 = QStringLiteral("DWT_View_Key_WPS1");
+    static inline const QString DWT_View_Key_WPS2 = QStringLiteral("DWT_View_Key_WPS2");
+    static inline const QString DWT_View_Key_Printerlist =
+        QStringLiteral("DWT_View_Key_Printerlist");
+
     void DWT_UIInitialize();
     void connectButtons(const WPSGuide *guide);
     // Shows the view and hides the others; the printer list is fetched anew when it is shown.
@@ -51,21 +62,21 @@ class DWTPrinterSelector : public DWTBaseClass,
     // The end of the guide: it goes to the list when the menu led to it, and otherwise quits.
     void leaveGuide();
     // The user closes the selection window: it hides.
-    void windowWillClose();
+    void windowWillClose() { window_PrinterSelector->hide(); }
 
-    void push_ToolPerformOK();
-    void push_ToolPerformExit();
+    void push_ToolPerformOK() { DWT_UISelector(DWT_View_Key_ChooseConnect); }
+    void push_ToolPerformExit() { leaveGuide(); }
     void push_ChooseConnectNext();
-    void push_ChooseConnectExit();
-    void push_USBConnectNext();
-    void push_WPSSetting1Next();
-    void push_WPSSetting1Back();
-    void push_WPSSetting1Exit();
-    void push_WPSSetting2Next();
-    void push_WPSSetting2Back();
-    void push_WPSSetting2Exit();
-    void push_PrinterListOK();
-    void push_PrinterListExit();
+    void push_ChooseConnectExit() { leaveGuide(); }
+    void push_USBConnectNext() { DWT_UISelector(DWT_View_Key_Printerlist); }
+    void push_WPSSetting1Next() { DWT_UISelector(DWT_View_Key_WPS2); }
+    void push_WPSSetting1Back() { DWT_UISelector(DWT_View_Key_ChooseConnect); }
+    void push_WPSSetting1Exit() { leaveGuide(); }
+    void push_WPSSetting2Next() { leaveGuide(); }
+    void push_WPSSetting2Back() { DWT_UISelector(DWT_View_Key_WPS1); }
+    void push_WPSSetting2Exit() { leaveGuide(); }
+    void push_PrinterListOK() { DWT_ShowMainSettingWindow(); }
+    void push_PrinterListExit() { window_PrinterSelector->hide(); }
 
     QPointer<Window> window_PrinterSelector;
     WaitWindow *window_Wait = nullptr;  // these three belong to the selection window

@@ -45,14 +45,13 @@ QString keyOfEmptyList(const QList<PrinterProblem> &problems, bool installer) {
 PrinterList::PrinterList(QWidget *parent, WaitWindow *wait) : QWidget(parent), window_Wait(wait) {
     setupUi(this);
     TableView &table = *tableView_Printerlist;
-    table.addColumn(_MODEL_NAME_);
-    table.addColumn(_SERVICE_NAME_);
+    const auto addColumn = [&](const QString &column, const QString &titleKey) {
+        table.addColumn(column);
+        table.setHeaderTitle(column, localized(titleKey));
+    };
+    addColumn(_MODEL_NAME_, QStringLiteral("DWT_Localize_PrinterList_TableView_Name_Column"));
+    addColumn(_SERVICE_NAME_, QStringLiteral("DWT_Localize_PrinterList_TableView_Service_Column"));
     table.setHasDetails();
-    table.setHeaderTitle(
-        _MODEL_NAME_, localized(QStringLiteral("DWT_Localize_PrinterList_TableView_Name_Column")));
-    table.setHeaderTitle(
-        _SERVICE_NAME_,
-        localized(QStringLiteral("DWT_Localize_PrinterList_TableView_Service_Column")));
     table.setNoMatchText(localized(QStringLiteral("DWT_Localize_PrinterList_NoMatch")));
     table.setTableDataSource(this);
     table.setTableDelegate(this);
@@ -169,10 +168,6 @@ QIcon PrinterList::iconForTableColumn(TableView *, const QString &column, int ro
 
 QString PrinterList::rowKeyInTableView(TableView *, int row) {
     return array_PrinterList.value(row).value(PrinterKey::DeviceURI);
-}
-
-bool PrinterList::selectionShouldChangeInTableView(TableView *) {
-    return true;
 }
 
 void PrinterList::tableViewSelectionDidChange(TableView *table) {

@@ -41,7 +41,6 @@ class PrinterList : public QWidget,
     QString detailForTableColumn(TableView *table, const QString &column, int row) override;
     QIcon iconForTableColumn(TableView *table, const QString &column, int row) override;
     QString rowKeyInTableView(TableView *table, int row) override;
-    bool selectionShouldChangeInTableView(TableView *table) override;
     void tableViewSelectionDidChange(TableView *table) override;
 
   Q_SIGNALS:

@@ -44,14 +44,6 @@ void runOldestCall() {
     s.changed.notify_all();
 }
 
-void finishWithApplication() {
-    static const bool registered = [] {
-        qAddPostRoutine([] { MainThread::finishBackgroundWork(); });
-        return true;
-    }();
-    Q_UNUSED(registered)
-}
-
 }  // namespace
 
 bool MainThread::isCurrent() {
@@ -77,7 +69,8 @@ bool MainThread::callAndWait(const std::function<void()> &work) {
 }
 
 bool MainThread::startBackgroundWork(std::function<void()> work) {
-    finishWithApplication();
+    static std::once_flag registered;
+    std::call_once(registered, qAddPostRoutine, finishBackgroundWork);
     const auto count = [](int change) {
         const std::lock_guard lock(state().mutex);
         state().running += change;

@@ -31,11 +31,8 @@ QString withoutMnemonic(QString text) {
 }
 
 QString nameInLabel(const QString &label) {
-    QString name = withoutMnemonic(label);
-    while (!name.isEmpty() &&
-           (name.back().isSpace() || name.back() == u':' || name.back() == u'：'))
-        name.chop(1);
-    return name;
+    static const QRegularExpression end(QStringLiteral("[\\s:：]+$"));
+    return withoutMnemonic(label).remove(end);
 }
 
 QString shownText(const QString &text) {

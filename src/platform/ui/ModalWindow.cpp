@@ -4,8 +4,6 @@
 #include <QCloseEvent>
 #include <QWindow>
 
-ModalWindow::ModalWindow(QWidget *parent) : QDialog(parent) {}
-
 QAbstractButton *ModalWindow::cancelButton() const {
     for (QAbstractButton *button : findChildren<QAbstractButton *>())
         if (button->property("cancelButton").toBool() && button->isVisible()) return button;

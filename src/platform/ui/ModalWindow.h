@@ -11,7 +11,7 @@ class QAbstractButton;
 class ModalWindow : public QDialog {
     Q_OBJECT
   public:
-    explicit ModalWindow(QWidget *parent = nullptr);
+    using QDialog::QDialog;
 
     void reject() override;
 

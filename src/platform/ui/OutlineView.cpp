@@ -1,6 +1,5 @@
 #include "platform/ui/OutlineView.h"
 
-#include <QHeaderView>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStandardItemModel>
@@ -97,23 +96,19 @@ class AskingSelection : public QItemSelectionModel {
 
     void setCurrentIndex(const QModelIndex &index, SelectionFlags) override {
         if (frozen || !index.isValid() || index == currentIndex() || !mayMoveTo(index)) return;
+        m_moves = true;
         QItemSelectionModel::setCurrentIndex(index, ClearAndSelect);
+        m_moves = false;
     }
-    // The view selects what it has just made current; nothing else is ever selected, and nothing is
-    // deselected but by a reset.
-    void select(const QModelIndex &index, SelectionFlags flags) override {
-        if (m_resetting || (index == currentIndex() && flags.testFlag(Select)))
-            QItemSelectionModel::select(index, flags);
-    }
+    // Nothing but the current item is ever selected, and nothing is deselected but by a reset.
+    using QItemSelectionModel::select;
     void select(const QItemSelection &selection, SelectionFlags flags) override {
-        const bool current = selection.size() == 1 && selection.contains(currentIndex());
-        if (m_resetting || (current && flags.testFlag(Select)))
-            QItemSelectionModel::select(selection, flags);
+        if (m_moves) QItemSelectionModel::select(selection, flags);
     }
     void reset() override {
-        m_resetting = true;
+        m_moves = true;
         QItemSelectionModel::reset();
-        m_resetting = false;
+        m_moves = false;
     }
 
   private:
@@ -124,7 +119,7 @@ class AskingSelection : public QItemSelectionModel {
 
     OutlineView *const m_outline;
     OutlineModel *const m_model;
-    bool m_resetting = false;
+    bool m_moves = false;
 };
 
 AskingSelection *selectionOf(const OutlineView *outline) {
@@ -169,10 +164,9 @@ int OutlineView::numberOfRows() const {
 }
 
 int OutlineView::selectedRow() const {
-    int row = 0;
-    for (QModelIndex index = indexAtRow(0); index.isValid(); index = indexBelow(index), ++row)
-        if (selectionModel()->isSelected(index)) return row;
-    return -1;
+    int row = -1;
+    for (QModelIndex index = currentIndex(); index.isValid(); index = indexAbove(index)) ++row;
+    return row;
 }
 
 void OutlineView::expandRow(int row) {

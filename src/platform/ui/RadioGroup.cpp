@@ -1,11 +1,8 @@
 #include "platform/ui/RadioGroup.h"
 
 #include <QEvent>
-#include <QRadioButton>
 
 #include "platform/core/Texts.h"
-
-RadioGroup::RadioGroup(QWidget *parent) : QWidget(parent) {}
 
 int RadioGroup::selectedTag() const {
     for (const QRadioButton *cell : cells())

@@ -9,7 +9,7 @@
 class RadioGroup : public QWidget {
     Q_OBJECT
   public:
-    explicit RadioGroup(QWidget *parent = nullptr);
+    using QWidget::QWidget;
 
     // The tag of the selected cell; -1 when none is selected.
     int selectedTag() const;

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QWidget>
+#include <algorithm>
+#include <utility>
 
 ViewStack::ViewStack(QWidget *container) : m_container(container) {
     auto *layout = new QGridLayout(container);
@@ -19,46 +21,42 @@ void ViewStack::add(const QString &key, QWidget *view) {
     view->setParent(m_container);
     static_cast<QGridLayout *>(m_container->layout())->addWidget(view, 0, 0);
     view->hide();
-    m_views.push_back({key, view});
+    m_views.insert(key, view);
 }
 
 void ViewStack::select(const QString &key) {
-    QWidget *shown = nullptr;
-    for (const View &view : m_views) {
-        if (view.key == key) shown = view.widget;
-        if (view.key != key && view.widget) view.widget->hide();
-    }
-    if (!shown) return;
-    for (QPushButton *button : shown->findChildren<QPushButton *>())
+    QWidget *const selected = m_views.value(key);
+    for (QWidget *view : std::as_const(m_views))
+        if (view != selected) view->hide();
+    if (!selected) return;
+    for (QPushButton *button : selected->findChildren<QPushButton *>())
         if (button->property("defaultButton").toBool()) button->setDefault(true);
-    shown->show();
-    const auto *said = shown->findChild<QLabel *>();
+    selected->show();
+    const auto *said = selected->findChild<QLabel *>();
     if (!said || !qobject_cast<QDialog *>(m_container->window())) return;
-    shown->setAccessibleName(said->text());
-    QAccessibleEvent announced(shown, QAccessible::Alert);
+    selected->setAccessibleName(said->text());
+    QAccessibleEvent announced(selected, QAccessible::Alert);
     QAccessible::updateAccessibility(&announced);
 }
 
 void ViewStack::focusFirstControl() const {
-    for (const View &view : m_views) {
-        if (!view.widget || view.widget->isHidden()) continue;
-        QWidget *first = nullptr;
-        for (QWidget *next = view.widget->nextInFocusChain(); next != view.widget;
-             next = next->nextInFocusChain()) {
-            const bool takesFocus = next->isEnabledTo(view.widget) && !next->isHidden() &&
-                                    (next->focusPolicy() & Qt::TabFocus);
-            if (!view.widget->isAncestorOf(next) || !takesFocus) continue;
-            if (next->property("defaultButton").toBool()) first = next;
-            if (qobject_cast<QPushButton *>(next)) continue;
-            first = next;
-            break;
-        }
-        if (first) first->setFocus(Qt::OtherFocusReason);
+    const QWidget *const view = shown();
+    if (!view) return;
+    QWidget *first = nullptr;
+    for (QWidget *next = view->nextInFocusChain(); next != view; next = next->nextInFocusChain()) {
+        const bool takesFocus =
+            next->isEnabledTo(view) && !next->isHidden() && (next->focusPolicy() & Qt::TabFocus);
+        if (!view->isAncestorOf(next) || !takesFocus) continue;
+        if (next->property("defaultButton").toBool()) first = next;
+        if (qobject_cast<QPushButton *>(next)) continue;
+        first = next;
+        break;
     }
+    if (first) first->setFocus(Qt::OtherFocusReason);
 }
 
-QString ViewStack::selectedKey() const {
-    for (const View &view : m_views)
-        if (view.widget && !view.widget->isHidden()) return view.key;
-    return {};
+QWidget *ViewStack::shown() const {
+    const auto found = std::find_if(m_views.begin(), m_views.end(),
+                                    [](const QWidget *view) { return !view->isHidden(); });
+    return found == m_views.end() ? nullptr : *found;
 }

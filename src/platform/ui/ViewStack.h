@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QPointer>
+#include <QMap>
 #include <QString>
-#include <vector>
 
 class QWidget;
 
@@ -10,7 +9,8 @@ class QWidget;
 // its largest view, so that a window does not change its size when views are switched.
 class ViewStack {
   public:
-    // The container must not have a layout; it owns the views from add() on.
+    // The container must not have a layout; it owns the views from add() on, and outlives the use
+    // of the stack.
     explicit ViewStack(QWidget *container);
 
     // Adds a view under `key`, hidden.
@@ -26,13 +26,12 @@ class ViewStack {
     void focusFirstControl() const;
 
     // The key of the shown view; a null text when all are hidden.
-    QString selectedKey() const;
+    QString selectedKey() const { return m_views.key(shown()); }
 
   private:
-    struct View {
-        QString key;
-        QPointer<QWidget> widget;
-    };
+    // The view that is not hidden; null when all are.
+    QWidget *shown() const;
+
     QWidget *const m_container;
-    std::vector<View> m_views;
+    QMap<QString, QWidget *> m_views;
 };
