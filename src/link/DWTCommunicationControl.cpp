@@ -100,18 +100,11 @@ int DWTCommunicationControl::checkConnect(const QString &address) {
     return installedLibrary()->ZMIOOpenForUDP(target, address, qkStatusLength_Integer, callTimeout);
 }
 
+// The fields are values: they begin empty and go with the object.
 bool DWTCommunicationControl::NUS_Init() {
-    settingStartCommand_Data.clear();
-    settingEndCommand_Data.clear();
-    settingUpdateCommand_Data.clear();
-    settingCommands_Array.clear();
-    dictionary_PrinterInfomation.clear();
-    qkStatusLength_Integer = ZMLib::defaultStatusLength;
-    m_exchange = ZMLib::Success;
     return true;
 }
 
-// The fields are values and go with the object.
 void DWTCommunicationControl::NUS_Dealloc() {}
 
 bool DWTCommunicationControl::NUS_InitMember(const PrinterEntry &entry) {

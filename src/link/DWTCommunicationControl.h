@@ -77,6 +77,6 @@ class DWTCommunicationControl : public DWTBaseClass {
     QByteArray settingUpdateCommand_Data;
     QList<QByteArray> settingCommands_Array;
     PrinterEntry dictionary_PrinterInfomation;
-    int qkStatusLength_Integer = 0;
+    int qkStatusLength_Integer = ZMLib::defaultStatusLength;
     int m_exchange = ZMLib::Success;  // the library's result of the last exchange
 };

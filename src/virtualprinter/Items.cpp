@@ -9,6 +9,8 @@
 #include "virtualprinter/Description.h"
 #include "virtualprinter/Profile.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Items::Item;
@@ -83,8 +85,7 @@ std::optional<QByteArray> address(const QString &text) {
 
 // The names of an item's addresses in a description, in the order of their bytes.
 QStringList addressNames(const Item &item) {
-    return QStringList{QStringLiteral("address"), QStringLiteral("mask"), QStringLiteral("gateway")}
-        .mid(0, item.size);
+    return QStringList{u"address"_s, u"mask"_s, u"gateway"_s}.mid(0, item.size);
 }
 
 std::optional<QByteArray> addressesFromJson(const Item &item, const QJsonValue &json,
@@ -94,16 +95,16 @@ std::optional<QByteArray> addressesFromJson(const Item &item, const QJsonValue &
     const bool hasSetting = item.kind == Kind::Interface;
     for (const QString &key : object.keys())
         if (!names.contains(key) && !(hasSetting && key == u"setting"))
-            problem = QStringLiteral("unknown key \"%1\"").arg(quotable(key));
+            problem = u"unknown key \"%1\""_s.arg(quotable(key));
     QByteArray value;
     if (hasSetting) {
         const auto setting = number(object[u"setting"], greatestSetting);
-        if (!setting) problem = QStringLiteral("\"setting\" is neither 0 nor 1");
+        if (!setting) problem = u"\"setting\" is neither 0 nor 1"_s;
         value = littleEndian(setting.value_or(0));
     }
     for (const QString &name : names) {
         const auto bytes = address(object[name].toString());
-        if (!bytes) problem = QStringLiteral("\"%1\" is not an IPv4 address").arg(name);
+        if (!bytes) problem = u"\"%1\" is not an IPv4 address"_s.arg(name);
         value += bytes.value_or(QByteArray());
     }
     if (!problem.isEmpty()) return {};
@@ -113,9 +114,9 @@ std::optional<QByteArray> addressesFromJson(const Item &item, const QJsonValue &
 std::optional<QByteArray> textFromJson(const Item &item, const QJsonValue &json, QString &problem) {
     const QByteArray bytes = json.toString().toUtf8();
     if (!json.isString())
-        problem = QStringLiteral("not a text");
+        problem = u"not a text"_s;
     else if (bytes.size() > item.size)
-        problem = QStringLiteral("longer than %1 bytes").arg(item.size);
+        problem = u"longer than %1 bytes"_s.arg(item.size);
     if (!problem.isEmpty()) return {};
     if (item.kind == Kind::WepKey) return littleEndian(1) + counted(bytes);
     return item.kind == Kind::CountedText ? counted(bytes) : bytes;
@@ -130,8 +131,8 @@ std::optional<QByteArray> digitsFromJson(const Item &item, QString digits, QStri
     }
     QByteArray bytes = QByteArray::fromHex(digits.toLatin1());
     if (bytes.size() != item.size || bytes.toHex() != digits.toLower().toLatin1()) {
-        problem = item.kind == Kind::Mac ? QStringLiteral("not 12 hexadecimal digits")
-                                         : QStringLiteral("not a version such as \"1.234\"");
+        problem = item.kind == Kind::Mac ? u"not 12 hexadecimal digits"_s
+                                         : u"not a version such as \"1.234\""_s;
         return {};
     }
     if (item.kind == Kind::Version) std::reverse(bytes.begin(), bytes.end());
@@ -176,7 +177,7 @@ std::optional<QByteArray> Items::fromJson(const Item &item, const QJsonValue &js
     switch (item.kind) {
         case Kind::Integer: {
             const auto value = number(json, 0xFFFF);
-            if (!value) problem = QStringLiteral("not an integer from 0 to 65535");
+            if (!value) problem = u"not an integer from 0 to 65535"_s;
             return value ? std::optional(littleEndian(*value)) : std::nullopt;
         }
         case Kind::Mac:

@@ -7,73 +7,83 @@
 #include "virtualprinter/Description.h"
 #include "virtualprinter/Items.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-// Walks a description and keeps the first place that is wrong.
-class Reader {
+// Reads the members of one object of a description, and keeps the first place that is wrong.
+class Fields {
   public:
-    QString error;
+    Fields(const QJsonObject &object, const QString &place, QString &error)
+        : m_object(object), m_place(place), m_error(error) {}
 
-    void fail(const QString &place, const QString &reason) {
-        if (error.isEmpty()) error = quotable(place) + QStringLiteral(": ") + reason;
+    QStringList keys() const { return m_object.keys(); }
+    bool contains(const QString &key) const { return m_object.contains(key); }
+
+    void fail(const QString &key, const QString &reason) {
+        if (m_error.isEmpty()) m_error = quotable(m_place + key) + u": "_s + reason;
     }
 
-    // Fails for every key that is not among `known`.
-    void expectKeys(const QJsonObject &object, const QString &place, const QStringList &known) {
-        for (const QString &key : object.keys())
-            if (!known.contains(key)) fail(place + key, QStringLiteral("unknown key"));
+    // Fails for every key that was not asked for.
+    void refuseOthers() {
+        for (const QString &key : keys())
+            if (!m_known.contains(key)) fail(key, u"unknown key"_s);
     }
 
-    QJsonObject object(const QJsonObject &parent, const QString &key, const QString &place) {
-        const QJsonValue value = parent[key];
-        if (!value.isUndefined() && !value.isObject())
-            fail(place + key, QStringLiteral("not an object"));
-        return value.toObject();
+    QJsonValue value(const QString &key) {
+        m_known << key;
+        return m_object[key];
     }
 
-    int integer(const QJsonObject &parent, const QString &key, const QString &place, int minimum,
-                int maximum, int fallback = 0) {
-        const QJsonValue value = parent[key];
-        if (value.isUndefined()) return fallback;
-        const double number = value.toDouble(std::nan(""));
+    Fields object(const QString &key) {
+        const QJsonValue json = value(key);
+        if (!json.isUndefined() && !json.isObject()) fail(key, u"not an object"_s);
+        return {json.toObject(), m_place + key + u'.', m_error};
+    }
+
+    int integer(const QString &key, int minimum, int maximum, int fallback = 0) {
+        const QJsonValue json = value(key);
+        if (json.isUndefined()) return fallback;
+        const double number = json.toDouble(std::nan(""));
         if (number >= minimum && number <= maximum && number == std::floor(number))
             return static_cast<int>(number);
-        fail(place + key, QStringLiteral("not an integer from %1 to %2").arg(minimum).arg(maximum));
+        fail(key, u"not an integer from %1 to %2"_s.arg(minimum).arg(maximum));
         return fallback;
     }
 
-    std::optional<int> optionalInteger(const QJsonObject &parent, const QString &key,
-                                       const QString &place, int maximum) {
-        if (!parent.contains(key)) return {};
-        return integer(parent, key, place, 0, maximum);
+    std::optional<int> word(const QString &key) {
+        const int number = integer(key, 0, 0xFFFF);
+        return contains(key) ? std::optional(number) : std::nullopt;
     }
 
-    bool flag(const QJsonObject &parent, const QString &key, const QString &place) {
-        const QJsonValue value = parent[key];
-        if (!value.isUndefined() && !value.isBool())
-            fail(place + key, QStringLiteral("neither true nor false"));
-        return value.toBool();
+    bool flag(const QString &key) {
+        const QJsonValue json = value(key);
+        if (!json.isUndefined() && !json.isBool()) fail(key, u"neither true nor false"_s);
+        return json.toBool();
     }
 
-    QByteArray text(const QJsonObject &parent, const QString &key, const QString &place,
-                    int longest) {
-        const QJsonValue value = parent[key];
-        if (!value.isUndefined() && !value.isString())
-            fail(place + key, QStringLiteral("not a text"));
-        QByteArray bytes = value.toString().toUtf8();
-        if (bytes.size() > longest)
-            fail(place + key, QStringLiteral("longer than %1 bytes").arg(longest));
+    QByteArray text(const QString &key, int longest) {
+        const QJsonValue json = value(key);
+        if (!json.isUndefined() && !json.isString()) fail(key, u"not a text"_s);
+        QByteArray bytes = json.toString().toUtf8();
+        if (bytes.size() > longest) fail(key, u"longer than %1 bytes"_s.arg(longest));
         return bytes;
     }
 
-    // A key such as "0x1006".
-    std::optional<quint16> code(const QString &text, const QString &place) {
+    // An item code such as "0x1006", which stands at `place` of the object.
+    std::optional<quint16> code(const QString &text, const QString &place = {}) {
         bool ok = false;
-        const uint value = text.toUInt(&ok, 16);
-        if (ok && text.startsWith(u"0x") && text.size() == 6) return static_cast<quint16>(value);
-        fail(place + text, QStringLiteral("not an item code such as \"0x1006\""));
+        const uint number = text.toUInt(&ok, 16);
+        if (ok && text.startsWith(u"0x") && text.size() == 6) return static_cast<quint16>(number);
+        fail(place + text, u"not an item code such as \"0x1006\""_s);
         return {};
     }
+
+  private:
+    const QJsonObject m_object;
+    const QString m_place;
+    QString &m_error;
+    QStringList m_known;
 };
 
 QHash<quint16, QByteArray> initialItems() {
@@ -82,138 +92,114 @@ QHash<quint16, QByteArray> initialItems() {
     return items;
 }
 
-void readItems(Reader &reader, const QJsonObject &object, Profile &profile) {
+QHash<quint16, QByteArray> readItems(Fields fields) {
     static const QHash<quint16, QByteArray> initial = initialItems();
-    profile.items = initial;
-    const QString place = QStringLiteral("items.");
-    for (const QString &key : object.keys()) {
-        const auto code = reader.code(key, place);
+    QHash<quint16, QByteArray> items = initial;
+    for (const QString &key : fields.keys()) {
+        const auto code = fields.code(key);
         if (!code) continue;
         const Items::Item *item = Items::find(*code);
         if (!item) {
-            reader.fail(place + key, QStringLiteral("unknown item"));
+            fields.fail(key, u"unknown item"_s);
             continue;
         }
         QString problem;
-        const auto value = Items::fromJson(*item, object[key], problem);
-        if (!value) reader.fail(place + key, problem);
-        profile.items.insert(*code, value.value_or(QByteArray()));
+        const auto value = Items::fromJson(*item, fields.value(key), problem);
+        if (!value) fields.fail(key, problem);
+        items.insert(*code, value.value_or(QByteArray()));
     }
+    return items;
 }
 
-Network readNetwork(Reader &reader, const QJsonObject &object, const QString &place) {
-    reader.expectKeys(
-        object, place,
-        {QStringLiteral("ssid"), QStringLiteral("ssidHex"), QStringLiteral("mode"),
-         QStringLiteral("authentic"), QStringLiteral("encryption"), QStringLiteral("signal")});
+Network readNetwork(Fields fields) {
     Network network;
-    network.ssid = reader.text(object, QStringLiteral("ssid"), place, longestSsid);
-    if (object.contains(u"ssidHex")) {
-        const QByteArray hex =
-            reader.text(object, QStringLiteral("ssidHex"), place, 2 * longestSsid);
-        network.ssid = QByteArray::fromHex(hex);
-        if (network.ssid.toHex() != hex.toLower())
-            reader.fail(place + QStringLiteral("ssidHex"), QStringLiteral("not hexadecimal bytes"));
-    }
-    network.mode = reader.integer(object, QStringLiteral("mode"), place, 0, 0xFFFF);
-    network.authentic = reader.integer(object, QStringLiteral("authentic"), place, 0, 0xFFFF);
-    network.encryption = reader.integer(object, QStringLiteral("encryption"), place, 0, 0xFFFF);
-    network.signal = reader.integer(object, QStringLiteral("signal"), place, -0x8000, 0x7FFF);
+    network.ssid = fields.text(u"ssid"_s, longestSsid);
+    const QByteArray hex = fields.text(u"ssidHex"_s, 2 * longestSsid);
+    if (fields.contains(u"ssidHex"_s)) network.ssid = QByteArray::fromHex(hex);
+    if (!hex.isEmpty() && network.ssid.toHex() != hex.toLower())
+        fields.fail(u"ssidHex"_s, u"not hexadecimal bytes"_s);
+    network.mode = fields.integer(u"mode"_s, 0, 0xFFFF);
+    network.authentic = fields.integer(u"authentic"_s, 0, 0xFFFF);
+    network.encryption = fields.integer(u"encryption"_s, 0, 0xFFFF);
+    network.signal = fields.integer(u"signal"_s, -0x8000, 0x7FFF);
+    fields.refuseOthers();
     return network;
 }
 
-void readNetworks(Reader &reader, const QJsonValue &value, Profile &profile) {
-    if (!value.isUndefined() && !value.isArray())
-        reader.fail(QStringLiteral("networks"), QStringLiteral("not an array"));
+QList<Network> readNetworks(Fields &fields, QString &error) {
+    const QString key = u"networks"_s;
+    const QJsonValue value = fields.value(key);
+    if (!value.isUndefined() && !value.isArray()) fields.fail(key, u"not an array"_s);
+    QList<Network> networks;
     const QJsonArray array = value.toArray();
-    for (qsizetype i = 0; i < array.size(); ++i) {
-        const QString place = QStringLiteral("networks[%1]").arg(i);
-        if (!array[i].isObject()) reader.fail(place, QStringLiteral("not an object"));
-        profile.networks << readNetwork(reader, array[i].toObject(), place + u'.');
+    for (const auto &one : array) {
+        const QString place = u"networks[%1]"_s.arg(networks.size());
+        if (!one.isObject()) fields.fail(place, u"not an object"_s);
+        networks << readNetwork({one.toObject(), place + u'.', error});
     }
+    return networks;
 }
 
-ItemFault readItemFault(Reader &reader, const QJsonObject &object, const QString &place) {
-    static const QMap<QString, bool ItemFault::*> flags{
-        {QStringLiteral("noReply"), &ItemFault::noReply},
-        {QStringLiteral("garbage"), &ItemFault::garbage},
-        {QStringLiteral("doubled"), &ItemFault::doubled},
-        {QStringLiteral("closed"), &ItemFault::closed},
-        {QStringLiteral("closeAfterReply"), &ItemFault::closeAfterReply},
-        {QStringLiteral("reset"), &ItemFault::reset}};
-    static const QMap<QString, std::optional<int> ItemFault::*> numbers{
-        {QStringLiteral("truncate"), &ItemFault::truncate},
-        {QStringLiteral("length"), &ItemFault::length},
-        {QStringLiteral("result"), &ItemFault::resultCode}};
-    reader.expectKeys(object, place,
-                      flags.keys() + numbers.keys() +
-                          QStringList{QStringLiteral("code"), QStringLiteral("delay")});
+ItemFault readItemFault(Fields fields) {
     ItemFault fault;
-    for (auto i = flags.begin(); i != flags.end(); ++i)
-        fault.**i = reader.flag(object, i.key(), place);
-    for (auto i = numbers.begin(); i != numbers.end(); ++i)
-        fault.**i = reader.optionalInteger(object, i.key(), place, 0xFFFF);
-    if (object.contains(u"code")) {
-        const QByteArray text = reader.text(object, QStringLiteral("code"), place, 6);
-        fault.code = reader.code(QString::fromUtf8(text), place + QStringLiteral("code."));
-    }
-    fault.delay = reader.integer(object, QStringLiteral("delay"), place, 0, longestDelay);
+    fault.noReply = fields.flag(u"noReply"_s);
+    fault.garbage = fields.flag(u"garbage"_s);
+    fault.doubled = fields.flag(u"doubled"_s);
+    fault.closed = fields.flag(u"closed"_s);
+    fault.closeAfterReply = fields.flag(u"closeAfterReply"_s);
+    fault.reset = fields.flag(u"reset"_s);
+    fault.truncate = fields.word(u"truncate"_s);
+    fault.length = fields.word(u"length"_s);
+    fault.resultCode = fields.word(u"result"_s);
+    const QByteArray code = fields.text(u"code"_s, 6);
+    if (fields.contains(u"code"_s)) fault.code = fields.code(QString::fromUtf8(code), u"code."_s);
+    fault.delay = fields.integer(u"delay"_s, 0, longestDelay);
+    fields.refuseOthers();
     return fault;
 }
 
-SimulatedFaults readFaults(Reader &reader, const QJsonObject &object) {
-    const QString place = QStringLiteral("faults.");
-    reader.expectKeys(
-        object, place,
-        {QStringLiteral("refuseConnection"), QStringLiteral("closeAfterFrames"),
-         QStringLiteral("delay"), QStringLiteral("piecewise"), QStringLiteral("items")});
+SimulatedFaults readFaults(Fields fields) {
     SimulatedFaults faults;
-    faults.refuseConnection = reader.flag(object, QStringLiteral("refuseConnection"), place);
-    faults.closeAfterFrames =
-        reader.integer(object, QStringLiteral("closeAfterFrames"), place, 0, 0xFFFF);
-    faults.delay = reader.integer(object, QStringLiteral("delay"), place, 0, longestDelay);
-    faults.piecewise = reader.flag(object, QStringLiteral("piecewise"), place);
-    const QString itemsPlace = QStringLiteral("faults.items.");
-    const QJsonObject items = reader.object(object, QStringLiteral("items"), place);
-    for (const QString &key : items.keys()) {
-        const auto code = reader.code(key, itemsPlace);
-        const QJsonObject fault = reader.object(items, key, itemsPlace);
-        if (code) faults.items[*code] = readItemFault(reader, fault, itemsPlace + key + u'.');
-    }
+    faults.refuseConnection = fields.flag(u"refuseConnection"_s);
+    faults.closeAfterFrames = fields.integer(u"closeAfterFrames"_s, 0, 0xFFFF);
+    faults.delay = fields.integer(u"delay"_s, 0, longestDelay);
+    faults.piecewise = fields.flag(u"piecewise"_s);
+    Fields items = fields.object(u"items"_s);
+    for (const QString &key : items.keys())
+        if (const auto code = items.code(key))
+            faults.items[*code] = readItemFault(items.object(key));
+    fields.refuseOthers();
     return faults;
 }
 
 }  // namespace
 
 ProfileResult profileFromJson(const QJsonObject &object) {
-    Reader reader;
-    reader.expectKeys(
-        object, QString(),
-        {QStringLiteral("password"), QStringLiteral("items"), QStringLiteral("networks"),
-         QStringLiteral("scanPolls"), QStringLiteral("faults")});
+    QString error;
+    Fields fields(object, {}, error);
     Profile profile;
-    profile.password = reader.text(object, QStringLiteral("password"), QString(), longestPassword);
-    readItems(reader, reader.object(object, QStringLiteral("items"), QString()), profile);
-    readNetworks(reader, object[u"networks"], profile);
-    profile.scanPolls = reader.integer(object, QStringLiteral("scanPolls"), QString(), 0,
-                                       mostScanPolls, profile.scanPolls);
-    profile.faults = readFaults(reader, reader.object(object, QStringLiteral("faults"), QString()));
-    if (!reader.error.isEmpty()) return {{}, reader.error};
+    profile.password = fields.text(u"password"_s, longestPassword);
+    profile.items = readItems(fields.object(u"items"_s));
+    profile.networks = readNetworks(fields, error);
+    profile.scanPolls = fields.integer(u"scanPolls"_s, 0, mostScanPolls, profile.scanPolls);
+    profile.faults = readFaults(fields.object(u"faults"_s));
+    fields.refuseOthers();
+    if (!error.isEmpty()) return {{}, error};
     return {std::move(profile), {}};
 }
 
 ProfileResult profileFromFile(const QString &path) {
     const DescriptionText text = readDescription(path);
-    if (!text.bytes) return {{}, QStringLiteral("%1: %2").arg(path, text.error)};
+    if (!text.bytes) return {{}, u"%1: %2"_s.arg(path, text.error)};
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(*text.bytes, &parseError);
     if (!document.isObject()) {
         const QString reason = parseError.error == QJsonParseError::NoError
-                                   ? QStringLiteral("not a JSON object")
+                                   ? u"not a JSON object"_s
                                    : parseError.errorString();
-        return {{}, QStringLiteral("%1: byte %2: %3").arg(path).arg(parseError.offset).arg(reason)};
+        return {{}, u"%1: byte %2: %3"_s.arg(path).arg(parseError.offset).arg(reason)};
     }
     ProfileResult result = profileFromJson(document.object());
-    if (!result.profile) result.error.prepend(path + QStringLiteral(": "));
+    if (!result.profile) result.error.prepend(path + u": "_s);
     return result;
 }

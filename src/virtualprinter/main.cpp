@@ -9,6 +9,8 @@
 #include "virtualprinter/VirtualPrinterDevice.h"
 #include "virtualprinter/VirtualPrinterServer.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int fail(const QString &message) {
@@ -40,37 +42,34 @@ void quitOnSignals(QCoreApplication &app) {
 
 int main(int argc, char **argv) {
     QCoreApplication app(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("virtual-printer"));
+    QCoreApplication::setApplicationName(u"virtual-printer"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(NST_VERSION));
     quitOnSignals(app);
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Serves a label printer in software, on a TCP port or a device file."));
+        u"Serves a label printer in software, on a TCP port or a device file."_s);
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption listen(QStringLiteral("listen"),
-                                    QStringLiteral("Address and port to listen on."),
-                                    QStringLiteral("address:port"));
+    const QCommandLineOption listen(u"listen"_s, u"Address and port to listen on."_s,
+                                    u"address:port"_s);
     const QCommandLineOption device(
-        QStringLiteral("device"),
-        QStringLiteral(
-            "Character device to serve, such as /dev/g_printer0 of a USB printer gadget."),
-        QStringLiteral("device"));
-    const QCommandLineOption profile(QStringLiteral("profile"),
-                                     QStringLiteral("Description of the printer (JSON)."),
-                                     QStringLiteral("file"));
+        u"device"_s,
+        u"Character device to serve, such as /dev/g_printer0 of a USB printer gadget."_s,
+        u"device"_s);
+    const QCommandLineOption profile(u"profile"_s, u"Description of the printer (JSON)."_s,
+                                     u"file"_s);
     parser.addOptions({listen, device, profile});
     parser.process(app);
     if (!parser.positionalArguments().isEmpty())
-        return fail(QStringLiteral("unexpected \"%1\"").arg(parser.positionalArguments().first()));
+        return fail(u"unexpected \"%1\""_s.arg(parser.positionalArguments().first()));
 
     if (parser.isSet(listen) == parser.isSet(device))
-        return fail(QStringLiteral("wants one of --listen and --device"));
+        return fail(u"wants one of --listen and --device"_s);
     QHostAddress address;
     quint16 port = 0;
     if (parser.isSet(listen) && !splitListen(parser.value(listen), address, port))
-        return fail(QStringLiteral("--listen wants ADDRESS:PORT, such as 127.0.0.1:9100"));
+        return fail(u"--listen wants ADDRESS:PORT, such as 127.0.0.1:9100"_s);
     const ProfileResult result = profileFromFile(parser.value(profile));
     if (!result.profile) return fail(result.error);
     const auto printer = std::make_shared<VirtualPrinter>(*result.profile);
@@ -79,11 +78,11 @@ int main(int argc, char **argv) {
     VirtualPrinterDevice served(printer, parser.value(device));
     if (parser.isSet(device)) {
         if (!served.open())
-            return fail(QStringLiteral("%1: %2").arg(parser.value(device), served.errorString()));
+            return fail(u"%1: %2"_s.arg(parser.value(device), served.errorString()));
         std::printf("serving %s\n", qUtf8Printable(parser.value(device)));
     } else {
         if (!server.listen(address, port))
-            return fail(QStringLiteral("%1: %2").arg(parser.value(listen), server.errorString()));
+            return fail(u"%1: %2"_s.arg(parser.value(listen), server.errorString()));
         std::printf("listening on %s:%d\n", qUtf8Printable(address.toString()), server.port());
     }
     std::fflush(stdout);

@@ -3,10 +3,8 @@
 #include <QByteArray>
 #include <QList>
 #include <QMap>
-#include <QSet>
 #include <QString>
 #include <QStringList>
-#include <QUrl>
 #include <memory>
 
 #include "zmlib/ZMLib.h"
@@ -29,13 +27,7 @@ struct Catalogue {
     QStringList problems;
 
     // Appends an entry whose URI is not listed yet.
-    void add(const PrinterEntry &entry);
-
-    // Whether add() has appended an entry of this URI; takes the same time for any number of them.
-    bool lists(const QString &uri) const { return m_uris.contains(uri); }
-
-  private:
-    QSet<QString> m_uris;
+    void add(const PrinterEntry &entry) { entries.append(entry); }
 };
 
 // Reads a catalogue from JSON text; `source` names it in the problems.

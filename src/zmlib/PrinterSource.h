@@ -47,17 +47,12 @@ class PrinterSource {
 
     // The printers, by URI, of a source that is not: those to ask whether `address` (dotted IPv4)
     // is theirs.
-    virtual QStringList mayHave(const QString &address) {
-        Q_UNUSED(address)
-        return {};
-    }
+    virtual QStringList mayHave(const QString & /*address*/) { return {}; }
 
     // The addresses at which the printer of a URI says that it is, asked at this moment; nothing
     // for a printer that does not say so.
-    virtual std::optional<QList<QHostAddress>> addressesOf(const QString &uri,
-                                                           const QDeadlineTimer &deadline) {
-        Q_UNUSED(uri)
-        Q_UNUSED(deadline)
+    virtual std::optional<QList<QHostAddress>> addressesOf(const QString & /*uri*/,
+                                                           const QDeadlineTimer & /*deadline*/) {
         return {};
     }
 };

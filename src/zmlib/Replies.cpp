@@ -24,15 +24,8 @@ int readHeader(Transport &transport, QByteArray &frame, const QDeadlineTimer &de
 }  // namespace
 
 int resultOf(Transport::Completion completion) {
-    switch (completion) {
-        case Transport::Completion::Done:
-            return ZMLib::Success;
-        case Transport::Completion::TimedOut:
-            return ZMLib::TimedOut;
-        case Transport::Completion::Closed:
-            break;
-    }
-    return ZMLib::Closed;
+    if (completion == Transport::Completion::Done) return ZMLib::Success;
+    return completion == Transport::Completion::TimedOut ? ZMLib::TimedOut : ZMLib::Closed;
 }
 
 int readReply(Transport &transport, QByteArray &reply, const QDeadlineTimer &deadline) {

@@ -45,33 +45,22 @@ class TcpTransport : public Transport {
         return Completion::Done;
     }
 
-    Completion read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) override {
-        if (m_received.isEmpty()) {
-            if (const Completion completion = receive(deadline, nearAnswer);
-                completion != Completion::Done)
-                return completion;
-        }
-        const qsizetype taken = std::min(limit, m_received.size());
-        bytes.append(m_received.constData(), taken);
-        m_received.remove(0, taken);
-        return Completion::Done;
-    }
-
     Completion dropArrived(std::chrono::milliseconds notice) override {
         const QDeadlineTimer deadline(notice);
-        Completion completion = Completion::Done;
+        auto completion = Completion::Done;
         while (completion == Completion::Done && m_received.size() <= skippedBytes)
-            completion = receive(deadline, std::chrono::microseconds(0));
+            completion = receive(deadline);
         m_received.clear();
         return completion == Completion::Closed ? Completion::Closed : Completion::Done;
     }
 
   private:
-    // Waits for bytes, awake for the first while, and takes what has come, so that one call serves
-    // a whole reply.
-    Completion receive(const QDeadlineTimer &deadline, std::chrono::microseconds awakeFor) {
+    // Awake for the first while, and takes all that has come, so that one call serves a whole
+    // reply.
+    Completion receive(const QDeadlineTimer &deadline) override {
         std::array<char, ZMLib::replyArea> buffer;
-        const QDeadlineTimer awake(awakeFor, Qt::PreciseTimer);
+        const QDeadlineTimer awake =
+            std::min(deadline, QDeadlineTimer(nearAnswer, Qt::PreciseTimer));
         for (;;) {
             const ssize_t n = ::recv(m_socket.fd(), buffer.data(), buffer.size(), 0);
             if (n > 0) {
@@ -86,7 +75,6 @@ class TcpTransport : public Transport {
         }
     }
 
-    QByteArray m_received;
     Socket m_socket;
 };
 

@@ -5,6 +5,7 @@
 #include <QHostAddress>
 #include <QList>
 #include <QString>
+#include <algorithm>
 #include <chrono>
 #include <memory>
 
@@ -23,11 +24,23 @@ class Transport {
     virtual Completion write(const QByteArray &bytes, const QDeadlineTimer &deadline) = 0;
 
     // Waits for at least one byte and appends what has come, `limit` bytes at most, to `bytes`.
-    virtual Completion read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) = 0;
+    Completion read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) {
+        const auto completion = m_received.isEmpty() ? receive(deadline) : Completion::Done;
+        const qsizetype taken = std::min(limit, m_received.size());
+        bytes.append(m_received.constData(), taken);
+        m_received.remove(0, taken);
+        return completion;
+    }
 
     // Drops what has arrived and was not read, and what arrives within `notice`, so that a printer
     // that is about to close is noticed. Closed when the printer has closed, otherwise Done.
     virtual Completion dropArrived(std::chrono::milliseconds notice) = 0;
+
+  protected:
+    // Waits for at least one byte and appends what has come to m_received.
+    virtual Completion receive(const QDeadlineTimer &deadline) = 0;
+
+    QByteArray m_received;  // and not read yet
 };
 
 // How long an answer over TCP is looked for before the thread sleeps: a printer on the same machine

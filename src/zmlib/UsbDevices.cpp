@@ -9,6 +9,8 @@
 
 #include "zmlib/DeviceId.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr quint8 printerSubclass = 1;
@@ -18,7 +20,7 @@ constexpr qint64 longestAttribute = qint64{64} * 1024;  // bytes
 
 // What the kernel tells anyone of a device or an interface.
 QByteArray attribute(const QString &node, const char *name) {
-    QFile file(QStringLiteral("/sys/bus/usb/devices/%1/%2").arg(node, QLatin1String(name)));
+    QFile file(u"/sys/bus/usb/devices/%1/%2"_s.arg(node, QLatin1String(name)));
     if (!file.open(QIODevice::ReadOnly)) return {};
     return file.read(longestAttribute).trimmed();
 }
@@ -33,14 +35,11 @@ QString portOf(libusb_device *device) {
         libusb_get_port_numbers(device, numbers.data(), static_cast<int>(numbers.size()));
     QStringList path;
     for (int i = 0; i < depth; ++i) path << QString::number(numbers[static_cast<size_t>(i)]);
-    return QStringLiteral("%1-%2").arg(libusb_get_bus_number(device)).arg(path.join(u'.'));
+    return u"%1-%2"_s.arg(libusb_get_bus_number(device)).arg(path.join(u'.'));
 }
 
 QString interfaceNode(const UsbPrinter &printer) {
-    return QStringLiteral("%1:%2.%3")
-        .arg(printer.port)
-        .arg(printer.configuration)
-        .arg(printer.interface);
+    return u"%1:%2.%3"_s.arg(printer.port).arg(printer.configuration).arg(printer.interface);
 }
 
 // Takes the endpoints of an alternate setting; false when it is no printer's.
@@ -69,10 +68,9 @@ QString uriOf(const UsbPrinter &printer, const Model &model, bool bySerial) {
     const auto encoded = [](const QString &text) {
         return QString::fromLatin1(QUrl::toPercentEncoding(text));
     };
-    QString uri = QStringLiteral("usb:///%1/%2?").arg(encoded(model.maker), encoded(model.name));
-    uri += bySerial ? QStringLiteral("serial=") + encoded(printer.serial)
-                    : QStringLiteral("port=") + printer.port;
-    if (printer.interface != 0) uri += QStringLiteral("&interface=%1").arg(printer.interface);
+    QString uri = u"usb:///%1/%2?"_s.arg(encoded(model.maker), encoded(model.name));
+    uri += bySerial ? u"serial="_s + encoded(printer.serial) : u"port="_s + printer.port;
+    if (printer.interface != 0) uri += u"&interface=%1"_s.arg(printer.interface);
     return uri;
 }
 
@@ -137,10 +135,9 @@ QList<UsbPrinter> usbPrinters(libusb_context *context) {
 }
 
 QString kernelPrinterFile(const UsbPrinter &printer) {
-    const QDir folder(
-        QStringLiteral("/sys/bus/usb/devices/%1/usbmisc").arg(interfaceNode(printer)));
-    const QStringList names = folder.entryList({QStringLiteral("lp*")}, QDir::AllEntries);
-    return names.isEmpty() ? QString() : QStringLiteral("/dev/usb/") + names.first();
+    const QDir folder(u"/sys/bus/usb/devices/%1/usbmisc"_s.arg(interfaceNode(printer)));
+    const QStringList names = folder.entryList({u"lp*"_s}, QDir::AllEntries);
+    return names.isEmpty() ? QString() : u"/dev/usb/"_s + names.first();
 }
 
 PrinterEntry entryOf(const UsbPrinter &printer) {

@@ -132,16 +132,6 @@ class UsbTransport : public Transport {
         return Completion::Closed;
     }
 
-    Completion read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) override {
-        if (m_received.isEmpty())
-            if (const Completion completion = receive(deadline); completion != Completion::Done)
-                return completion;
-        const qsizetype taken = std::min(limit, m_received.size());
-        bytes.append(m_received.constData(), taken);
-        m_received.remove(0, taken);
-        return Completion::Done;
-    }
-
     Completion dropArrived(std::chrono::milliseconds notice) override {
         Completion completion = Completion::Done;
         qsizetype dropped = 0;
@@ -161,7 +151,7 @@ class UsbTransport : public Transport {
 
     // Waits for bytes. An empty packet means that there is nothing yet: the next one is asked for
     // after a pause, or a printer that sends nothing else would keep the processor busy.
-    Completion receive(const QDeadlineTimer &deadline) {
+    Completion receive(const QDeadlineTimer &deadline) override {
         for (std::chrono::milliseconds pause{1};; pause = std::min(2 * pause, waitSlice)) {
             if (!startReading()) return Completion::Closed;
             if (!m_in.wait(deadline)) return Completion::TimedOut;
@@ -180,7 +170,6 @@ class UsbTransport : public Transport {
 
     const std::unique_ptr<ClaimedInterface> m_claimed;
     std::vector<char> m_buffer;
-    QByteArray m_received;
     Transfer m_in;
     Transfer m_out;
 };

@@ -20,21 +20,19 @@ class VirtualTransport : public Transport {
         return Completion::Done;
     }
 
-    Completion read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) override {
+    Completion receive(const QDeadlineTimer &deadline) override {
         if (m_replies.empty() && !m_channel->isOpen()) return Completion::Closed;
         const auto arrived = [&] {
             return !m_replies.empty() && m_replies.front().due.hasExpired();
         };
         if (!waitUntil(arrived, deadline)) return Completion::TimedOut;
-        QByteArray &front = m_replies.front().bytes;
-        const qsizetype taken = std::min(limit, front.size());
-        bytes.append(front.constData(), taken);
-        front.remove(0, taken);
-        if (front.isEmpty()) m_replies.pop_front();
+        m_received += m_replies.front().bytes;
+        m_replies.pop_front();
         return Completion::Done;
     }
 
     Completion dropArrived(std::chrono::milliseconds) override {
+        m_received.clear();
         while (!m_replies.empty() && m_replies.front().due.hasExpired()) m_replies.pop_front();
         return m_channel->isOpen() ? Completion::Done : Completion::Closed;
     }
