@@ -130,8 +130,10 @@ void DWTMainSettingWindow::sendHasStopped() {
 void DWTMainSettingWindow::showEnding(bool comparing) {
     if (m_ending.course == Ending::Course::NotReached) return;  // the view says it
     QStringList paragraphs = m_session->wordsOf(m_ending, Naming::Labels);
-    if (paragraphs.isEmpty()) paragraphs << localized("DWT_Localize_Send_End_TextField");
-    if (!m_ending.isComplete()) paragraphs << localized("DWT_Localize_Send_Kept");
+    if (m_ending.isComplete())
+        paragraphs.prepend(localized("DWT_Localize_Send_End_TextField"));
+    else
+        paragraphs << localized("DWT_Localize_Send_Kept");
     if (comparing) paragraphs << localized("DWT_Localize_Send_End_Comparing");
     const bool isLost = m_ending.course == Ending::Course::Lost;
     window_SendData->sayInstead(isLost ? DWT_View_Key_Send_ConnectError : DWT_View_Key_Send_End,
