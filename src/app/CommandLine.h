@@ -3,8 +3,7 @@
 #include <QString>
 #include <optional>
 
-// What the program prints instead of starting: its help for "--help", its name and version for
-// "--version". Nothing when it starts. Needs no application object, and no display.
+// The help for "--help" or the version for "--version"; nothing to start. Needs no display.
 std::optional<QString> commandLineAnswer(int argc, char **argv);
 
 // Takes up what else is asked for: "--demo" lists the demo printers, as ZMLIB_PRINTERS=demo does.

@@ -15,10 +15,8 @@ class TrayIcon;
 class WPSGuide;
 class WaitWindow;
 
-// The application's delegate and its selection window: a small wizard that guides the user in
-// connecting a printer and ends at the list from which one is picked. It opens the main setting
-// window of the picked printer, hides meanwhile, and lives as long as the application. Main thread
-// only.
+// The application's delegate and its selection window: a wizard that ends at the list of printers.
+// It opens the window of the picked one and hides meanwhile. Main thread only.
 class DWTPrinterSelector : public DWTBaseClass,
                            public ApplicationDelegate,
                            private Ui::PrinterSelector {

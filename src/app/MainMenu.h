@@ -5,8 +5,7 @@
 
 class DWTMainSettingWindow;
 
-// The application's menu bar: Application, Edit, Printer, Window and Help. The titles are
-// localisation keys until localize() has replaced them. Main thread only.
+// The application's menu bar, in localisation keys until localize(). Main thread only.
 class MainMenu : public QMenuBar {
     Q_OBJECT
   public:
@@ -18,10 +17,8 @@ class MainMenu : public QMenuBar {
     // A further bar with the same menus, for another window, which owns it.
     QMenuBar *shareWith(QWidget *parent) const;
 
-    // Lets the entries for a printer act on the one in `printer`, whose window is loaded: Send and
-    // Read again press its buttons, Copy all settings copies its report. Each is enabled exactly
-    // while a person could do the same in the window. All are disabled before. The window of the
-    // printer before must be gone, or hidden.
+    // Connects the entries for a printer with the loaded window `printer`, each enabled while the
+    // window's button is. The window before must be gone or hidden.
     void actOnPrinter(const DWTMainSettingWindow &printer);
 
   Q_SIGNALS:

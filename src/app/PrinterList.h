@@ -9,8 +9,7 @@
 
 class WaitWindow;
 
-// The view in which a printer is picked: the table of those that can be reached, a field that
-// filters a long one, why an empty one is empty, and below it why printers are missing. Main thread
+// The table of printers with its filter, its reasons for being empty, and problems. Main thread
 // only.
 class PrinterList : public QWidget,
                     public TableDataSource,
@@ -21,15 +20,13 @@ class PrinterList : public QWidget,
     // How often is looked for printers that came or went.
     static constexpr std::chrono::milliseconds lookInterval{1000};
 
-    // Empty. Belongs to `parent`, whose window is a Window; `wait` is shown over that window while
-    // printers are looked for, and outlives the view.
+    // Empty at first. `parent`'s window is a Window; `wait` outlives the view.
     PrinterList(QWidget *parent, WaitWindow *wait);
     ~PrinterList() override;
 
     // Fetches the list anew and selects nothing in it.
     void push_PrinterListReload();
-    // Fetches the list again when printers came or went, unless the user is busy elsewhere. Runs
-    // every lookInterval once the list was fetched.
+    // Every lookInterval: fetches a changed list again, unless the user is busy elsewhere.
     void followPrinters();
     // Asks the table's contents anew; the list stays.
     void reloadData() { tableView_Printerlist->reloadData(); }

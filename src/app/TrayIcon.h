@@ -6,16 +6,15 @@
 #include <functional>
 #include <memory>
 
-// An icon in the desktop's tray while none of the watched windows is visible, with a menu that
-// brings them back and quits; nothing where the desktop has no tray. It is made when it is first
-// needed. Main thread only.
+// A tray icon while no watched window is visible, whose menu brings them back and quits. Made when
+// it is first needed. Main thread only.
 class TrayIcon : public QObject {
     Q_OBJECT
   public:
     explicit TrayIcon(QObject *parent) : QObject(parent) {}
 
-    // Who says whether there is a tray, asked whenever the last visible window hides; without this
-    // it is the desktop.
+    // Whether there is a tray, asked when the last visible window hides; by default the desktop's
+    // word.
     void setHasTray(std::function<bool()> hasTray) { m_hasTray = std::move(hasTray); }
 
     // A window more whose hiding and showing counts. One that is destroyed counts as hidden.

@@ -5,14 +5,12 @@
 #include <deque>
 #include <functional>
 
-// Acts later and in order: what a virtual printer sends, with the delays of its replies. Lives on
-// one thread, which must run an event loop; what still waits when it goes is dropped.
+// Acts later and in order, on one thread with an event loop; dropped with the object.
 class DelayedActions : public QObject {
   public:
     using QObject::QObject;
 
-    // Acts `delay` ms from now, but not before what was asked for earlier; within this call when
-    // neither has to be waited for.
+    // Acts in `delay` ms, not before earlier actions; at once when nothing is to be waited for.
     void after(int delay, const std::function<void()> &action);
 
   private:

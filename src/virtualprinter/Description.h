@@ -14,10 +14,8 @@ struct DescriptionText {
     QString error;  // why there are none, without the path
 };
 
-// Reads a regular file of at most longestDescription bytes. Whatever else the path names (a pipe, a
-// device, a folder) is refused without waiting for it.
+// Reads a regular file of at most longestDescription bytes, and nothing else.
 DescriptionText readDescription(const QString &path);
 
-// A text of a description as a problem may quote it: cut after longestQuote characters, and on one
-// line, every character that is not printable as "\u001b".
+// A quotable text: at most longestQuote characters on one line, unprintable ones as "\u001b".
 QString quotable(const QString &text);

@@ -3,8 +3,7 @@
 #include <QByteArray>
 #include <QList>
 
-// Finds the frames in what a host sends, in whatever pieces it arrives. Frames whose length,
-// checksum or parameter is wrong, and bytes between frames, are skipped.
+// Finds frames in any pieces of bytes; wrong ones and other bytes are skipped.
 class FrameParser {
   public:
     struct Frame {
@@ -14,8 +13,7 @@ class FrameParser {
         QByteArray payload;  // parameters of an ESC frame; value of a setting frame
     };
 
-    // Longest setting frame that is accepted, in bytes; longer ones are skipped as garbage. It
-    // bounds what the parser keeps.
+    // Longest accepted setting frame, in bytes; it bounds what the parser keeps.
     static constexpr qsizetype longestFrame = 1024;
 
     // Takes the next bytes and gives the frames that they complete, in order.

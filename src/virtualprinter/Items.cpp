@@ -139,9 +139,7 @@ std::optional<QByteArray> digitsFromJson(const Item &item, QString digits, QStri
     return bytes;
 }
 
-// The counted bytes at `offset` of a payload whose field takes the rest; nothing when the count is
-// 0 or greater than `longest`, the field has another width, or what follows the bytes in it is not
-// zero.
+// The counted bytes at `offset`; nothing unless their field has its width and ends in zeros.
 std::optional<QByteArray> field(const QByteArray &payload, qsizetype offset, qsizetype longest,
                                 qsizetype width) {
     if (payload.size() < offset + 2) return {};

@@ -39,12 +39,10 @@ const QList<Item> &all();
 // The item of a code; a null pointer when the printer has none.
 const Item *find(quint16 code);
 
-// The value of an item from a description; on failure nothing, with the reason in `problem`.
+// The value of an item from a setting frame; nothing when the payload is not what it takes.
 std::optional<QByteArray> fromJson(const Item &item, const QJsonValue &json, QString &problem);
 
-// The value of an item from the payload of a setting frame; nothing when the payload does not have
-// the layout of the item, its text is empty, too long or not followed by zeros to the end of its
-// field, or its interface setting or key number is unknown.
+// The value of an item from a setting frame; nothing when the payload is not what it takes.
 std::optional<QByteArray> fromPayload(const Item &item, const QByteArray &payload);
 
 }  // namespace Items

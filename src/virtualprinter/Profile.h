@@ -16,8 +16,7 @@ inline constexpr int longestPassword = 8;   // bytes
 inline constexpr int longestSsid = 32;      // bytes; frames have a field of this width
 inline constexpr int mostScanPolls = 1000;  // polls answered before a search has finished
 
-// What goes wrong with the reply to one item, to a request and to a setting frame alike. Unset
-// members go right. But for resultCode, a setting is taken as if its reply had arrived.
+// What goes wrong with the reply to an item; but for resultCode a setting is taken all the same.
 struct ItemFault {
     bool noReply = false;
     bool garbage = false;           // random-looking bytes instead of a reply
@@ -32,7 +31,7 @@ struct ItemFault {
     int delay = 0;                  // ms before the reply, on top of the printer's own
 };
 
-// What goes wrong on purpose.
+// What goes wrong with the reply to an item; but for resultCode a setting is taken all the same.
 struct SimulatedFaults {
     bool refuseConnection = false;
     // The channel closes after that many frames; 0: never.

@@ -148,8 +148,7 @@ std::optional<QByteArray> VirtualPrinter::valueForRequest(quint16 code) {
     return item && item->readable ? std::optional(m_profile.items.value(code)) : std::nullopt;
 }
 
-// Count and entries of 44 bytes each: SSID length, SSID field, mode, authentication, encryption,
-// signal, two bytes without a meaning.
+// Count, and entries of 44 bytes: length, SSID, mode, authentication, encryption, signal, 0.
 QByteArray VirtualPrinter::networkBlock(int block) const {
     const auto networks = m_profile.networks.mid(block * networksPerBlock, networksPerBlock);
     QByteArray data = littleEndian(static_cast<int>(networks.size()));

@@ -9,8 +9,7 @@
 #include "virtualprinter/FrameParser.h"
 #include "virtualprinter/Profile.h"
 
-// A printer in software: the device side of the setting protocol. Bytes in, bytes out; who carries
-// them is not its business. All operations may be called from every thread.
+// A printer in software: bytes in, bytes out. Every thread may call it.
 class VirtualPrinter {
   public:
     // Result codes of a refused setting frame; 0 is an accepted one.
@@ -36,23 +35,20 @@ class VirtualPrinter {
         int delay = 0;     // ms to wait before these bytes are sent
     };
 
-    // One connection of a host. Settings written in it are applied by its update frame and dropped
-    // when it closes, or ends its transaction, without one. It must not outlive its printer; used
-    // by one thread at a time.
+    // One connection of a host, for one thread at a time; its printer outlives it. Settings are
+    // applied by the update frame, otherwise dropped.
     class Channel {
       public:
         ~Channel();
 
-        // Takes bytes of the host, in any pieces, and gives the replies to the frames that they
-        // complete, in the order in which they are to be sent. A frame that is wrong, or stands
-        // outside start and end, has no reply.
+        // Takes bytes in any pieces and gives the replies to complete frames, in order. Wrong
+        // frames, and those outside start and end, have none.
         QList<Reply> receive(const QByteArray &bytes);
 
         // False once the printer has closed the channel.
         bool isOpen() const { return m_open; }
 
-        // True once the printer has broken the channel off, which closes it as well: over TCP, a
-        // reset connection.
+        // Whether the printer has broken the channel off: over TCP, a reset.
         bool isReset() const { return m_reset; }
 
       private:
@@ -79,8 +75,7 @@ class VirtualPrinter {
     QByteArray item(quint16 code) const;
     QByteArray password() const;
 
-    // The frames received and sent since the last clearLog(), in order: the last longestLog of
-    // them.
+    // The last longestLog frames since clearLog(), in order.
     QList<LoggedFrame> log() const;
     void clearLog();
 

@@ -7,14 +7,9 @@
 
 #include "virtualprinter/VirtualPrinter.h"
 
-// Serves a virtual printer on a character device whose other end is the host: the device side of a
-// USB printer gadget (/dev/g_printer0), or a pseudo-terminal in raw mode. Lives on one thread,
-// which must run an event loop.
-//
-// When the host goes (the end of the file, or an error) its connection is dropped and the device is
-// opened anew, every reopenInterval until that succeeds. So is it when the printer itself closes
-// the connection, and tried again while its faults refuse one; the host only sees that nothing
-// answers meanwhile.
+// Serves a virtual printer on a character device: a USB printer gadget (/dev/g_printer0), or a raw
+// pseudo-terminal. Lives on one thread with an event loop. When the host or the printer closes, the
+// device is opened anew every reopenInterval.
 class VirtualPrinterDevice : public QObject {
   public:
     static constexpr int reopenInterval = 100;  // ms
@@ -22,8 +17,7 @@ class VirtualPrinterDevice : public QObject {
     VirtualPrinterDevice(std::shared_ptr<VirtualPrinter> printer, const QString &path,
                          QObject *parent = nullptr);
 
-    // Opens the device and begins to serve. False with the reason in errorString() when it cannot
-    // be opened, or is no character device; then nothing is tried again.
+    // Opens and serves the device. False, with an errorString(), when that fails.
     bool open();
     QString errorString() const;
 

@@ -16,8 +16,7 @@ struct ProbePorts {
 inline constexpr std::chrono::milliseconds longestSilence{4000};
 inline constexpr std::chrono::milliseconds askAgain{500};
 
-// Asks by SNMP and tries to connect, both at once. True at the first SNMP answer or as soon as the
-// connection is there; false at once when both are refused or cannot be reached, otherwise after
-// longestSilence or at the deadline, and for what is no address of one machine.
+// Asks by SNMP and connects at once. True at the first success; false when both are refused, after
+// longestSilence, at the deadline, or for an address of no single machine.
 bool answersAtAddress(const QHostAddress &address, const QDeadlineTimer &deadline,
                       ProbePorts ports = {});

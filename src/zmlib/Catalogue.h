@@ -22,8 +22,7 @@ struct Catalogue {
     QList<PrinterEntry> entries;
     // The virtual printers of the process, by PrinterKey::DeviceURI.
     QMap<QString, std::shared_ptr<VirtualPrinter>> virtualPrinters;
-    // What was wrong, one readable line each, naming the source and the entry. Entries named here
-    // are not listed; the others are.
+    // Faults, a readable line each; entries named here are not listed.
     QStringList problems;
 
     // Appends an entry whose URI is not listed yet.
@@ -33,7 +32,6 @@ struct Catalogue {
 // Reads a catalogue from JSON text; `source` names it in the problems.
 Catalogue catalogueFromJson(const QByteArray &json, const QString &source);
 
-// The catalogue named by the environment variable ZMLIB_PRINTERS: the path of a catalogue file, or
-// "demo" for the built-in one. Unset or empty: no catalogue, so no printers and no problem. The
-// file must be a regular one of at most longestDescription bytes.
+// The catalogue that the environment variable ZMLIB_PRINTERS names: a regular file of at most
+// longestDescription bytes, or "demo". Unset: none.
 Catalogue catalogueFromEnvironment();

@@ -15,8 +15,7 @@ class CatalogueSource : public PrinterSource {
     Listing list() override;
     bool lists(const QString &uri) override;
     Opened open(const QString &uri, const QDeadlineTimer &deadline) override;
-    // Another machine is asked for its own address only: the silence of each that cannot have the
-    // address would cost time that the others need.
+    // Asks another machine only for its own address, since silence costs time.
     QStringList mayHave(const QString &address) override;
 
   private:

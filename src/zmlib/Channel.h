@@ -10,11 +10,9 @@
 #include "zmlib/Transport.h"
 #include "zmlib/ZMLib.h"
 
-// The open command channel of one printer: it carries frames, and tells the answer to one exchange
-// from what is left of another. Used by one thread at a time.
-//
-// Integer results are 0 or a negative ZMLib::Result. After ZMLib::Closed the channel is of no use
-// any more; after every other failure the next exchange may well succeed.
+// The open command channel of one printer. It carries frames, and tells an answer from what is left
+// of an earlier exchange. Used by one thread at a time. Results: 0 or a negative ZMLib::Result;
+// after ZMLib::Closed the channel is of no use.
 class Channel {
   public:
     explicit Channel(std::unique_ptr<Transport> transport);
@@ -22,18 +20,16 @@ class Channel {
     // Writes a frame that has no answer.
     int send(const QByteArray &frame, const QDeadlineTimer &deadline);
 
-    // Writes a request or setting frame, reads its reply (Replies.h) and appends at most
-    // `replySize` bytes of it to `reply`. What had arrived before is dropped, and so is what
-    // answers an earlier exchange of this channel, by its item code.
+    // Writes a frame and appends at most `replySize` bytes of its reply (Replies.h) to `reply`.
+    // Bytes before it, and answers to earlier exchanges, are dropped.
     int exchange(const QByteArray &frame, int replySize, QByteArray &reply,
                  const QDeadlineTimer &deadline);
 
-    // Writes the update frame and the end frame, unless the printer has closed the channel: then
-    // nothing, and the result is ZMLib::Closed. Success as soon as the update frame is out.
+    // Writes the update and end frames, unless the printer has closed the channel (ZMLib::Closed).
+    // Success once the update frame is out.
     int finish(const QByteArray &update, const QByteArray &end, const QDeadlineTimer &deadline);
 
-    // The dotted addresses that the printer uses on its interfaces now, the wired one first;
-    // nothing when it does not tell. The channel must be inside a start.
+    // The dotted addresses of the printer's interfaces, the wired one first. Inside a start only.
     std::optional<QStringList> addressesInUse(const QDeadlineTimer &deadline);
 
   private:

@@ -17,18 +17,15 @@
 #include "zmlib/PrinterSource.h"
 #include "zmlib/ZMLib.h"
 
-// The library that ships: the printers of its sources, in the order of these. Callable from several
-// threads; a channel serves one call at a time.
+// The library that ships. Any thread may call it; a channel serves one call at a time.
 class PrinterLibrary : public ZMLib {
   public:
-    // How long one printer may take to tell its addresses, so that a silent one does not use up the
-    // time of those after it.
+    // Longest time in which a printer may report its addresses, so that others have theirs.
     static constexpr std::chrono::milliseconds addressWait{2000};
     // How long a channel that the engage status opened waits for the engage that uses it.
     static constexpr std::chrono::milliseconds engageWait{2000};
 
-    // For tests: `longestWait` (milliseconds) caps the time-out of every call, `ports` are those at
-    // which an address is asked whether it answers.
+    // For tests: `longestWait` (ms) caps every time-out; `ports` are asked for an answer.
     explicit PrinterLibrary(std::vector<std::unique_ptr<PrinterSource>> sources,
                             int longestWait = std::numeric_limits<int>::max(),
                             ProbePorts ports = {});

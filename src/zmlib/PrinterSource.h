@@ -41,16 +41,13 @@ class PrinterSource {
     // Opens the printer of a URI; ZMLib::UnknownPrinter for one that is not of this source.
     virtual Opened open(const QString &uri, const QDeadlineTimer &deadline) = 0;
 
-    // Whether the addresses of its printers are those of the network that this machine is on, so
-    // that an address itself can be asked whether it answers.
+    // Whether an address itself can be asked: its printers are on this machine's network.
     virtual bool isOnThisNetwork() const { return false; }
 
-    // The printers, by URI, of a source that is not: those to ask whether `address` (dotted IPv4)
-    // is theirs.
+    // Otherwise the URIs of the printers to ask whether `address` (dotted IPv4) is theirs.
     virtual QStringList mayHave(const QString & /*address*/) { return {}; }
 
-    // The addresses at which the printer of a URI says that it is, asked at this moment; nothing
-    // for a printer that does not say so.
+    // The addresses that the printer of a URI announces at this moment; may be empty.
     virtual std::optional<QList<QHostAddress>> addressesOf(const QString & /*uri*/,
                                                            const QDeadlineTimer & /*deadline*/) {
         return {};

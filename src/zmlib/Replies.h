@@ -13,8 +13,7 @@ inline constexpr qsizetype skippedBytes = qsizetype{64} * 1024;
 // The library's result for the way a transport operation ended.
 int resultOf(Transport::Completion completion);
 
-// Reads one reply frame into `reply`, which must be empty. Bytes before the first "C" are skipped
-// (more than skippedBytes are no reply); then come 5 header bytes, whose offsets 3-4 hold the
-// little-endian number of bytes after them. Result: 0, or a negative ZMLib::Result; `reply` is then
-// of no use.
+// Reads one reply frame into `reply`, which must be empty: at most skippedBytes, "C", 4 header
+// bytes (offsets 3-4: little-endian length), then that many bytes. Result: 0 or a negative
+// ZMLib::Result.
 int readReply(Transport &transport, QByteArray &reply, const QDeadlineTimer &deadline);

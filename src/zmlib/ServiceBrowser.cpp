@@ -35,8 +35,7 @@ QHostAddress addressOf(const AvahiAddress &from, AvahiIfIndex interface) {
     return address;
 }
 
-// The texts of an announcement, as far as they have a key and a value; the first of a key counts,
-// which may be written in any case.
+// The texts of an announcement by key, in any case; the first of a key counts.
 AnnouncedTexts textsOf(AvahiStringList *list) {
     AnnouncedTexts texts;
     for (AvahiStringList *one = list; one; one = avahi_string_list_get_next(one)) {
@@ -111,8 +110,7 @@ void ServiceBrowser::Worker::connectLater() {
     m_api->timeout_update(m_connecting, &when);
 }
 
-// A client that has lost the service is of no use any more. One that has not found it yet waits for
-// it by itself, as long as there is a bus.
+// A client that has lost the service is replaced; one that never had it waits by itself.
 void ServiceBrowser::Worker::connect() {
     m_api->timeout_update(m_connecting, nullptr);
     disconnect();

@@ -29,18 +29,15 @@ class ServiceBrowser {
     // Waits for at most `slice` until one of the answers may have changed.
     void wait(std::chrono::milliseconds slice) const;
 
-    // The printers of this moment that have told where they are, by name. One that is announced
-    // several times, on further interfaces or with another version of IP, is one printer.
+    // The printers that are announced and located now, by name, each once.
     QList<AnnouncedPrinter> printers() const;
     bool isAnnounced(const QString &uri) const;
 
-    // Resolves, in the background, printers whose address is unknown or stale. To be called now and
-    // then.
+    // Resolves printers whose address is unknown or stale, in the background. Call it now and then.
     void refresh();
 
-    // Asks where a printer is at this moment, which may have changed since it was announced: IPv4
-    // addresses first, then global, then link-local IPv6 ones. Empty when it does not answer before
-    // the deadline or is not announced.
+    // Asks for the addresses of a printer now: IPv4, global IPv6, link-local IPv6. Empty when it
+    // does not answer before the deadline.
     QList<Endpoint> resolve(const QString &uri, const QDeadlineTimer &deadline);
 
   private:

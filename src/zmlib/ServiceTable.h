@@ -46,14 +46,12 @@ class ServiceTable {
   public:
     using Clock = std::chrono::steady_clock;
 
-    // Where a service was seen, and which kind of address is asked for there: an index of the
-    // system, and the protocol numbers of avahi.
+    // Where a service was seen and which kind of address to ask for, in the numbers of avahi.
     struct Place {
         int interface;
         int protocol;
         int wanted;
-        // A service that is seen over one version of IP has an address of it, but may have none of
-        // the other.
+        // A service seen over one version of IP has an address of it; it may lack one of the other.
         bool isSure() const { return wanted == protocol; }
         bool operator==(const Place &) const = default;
         bool operator<(const Place &other) const {

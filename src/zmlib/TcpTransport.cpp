@@ -55,8 +55,7 @@ class TcpTransport : public Transport {
     }
 
   private:
-    // Awake for the first while, and takes all that has come, so that one call serves a whole
-    // reply.
+    // Awake at first, and takes all that has come, so that one call serves a whole reply.
     Completion receive(const QDeadlineTimer &deadline) override {
         std::array<char, ZMLib::replyArea> buffer;
         const QDeadlineTimer awake =

@@ -11,8 +11,7 @@
 
 class VirtualPrinter;
 
-// A byte stream to one printer. Used by one thread at a time; every wait is sliced and ends at the
-// deadline given.
+// A byte stream to one printer, for one thread at a time. Waits are sliced and have a deadline.
 class Transport {
   public:
     // How an operation ended.
@@ -32,8 +31,7 @@ class Transport {
         return completion;
     }
 
-    // Drops what has arrived and was not read, and what arrives within `notice`, so that a printer
-    // that is about to close is noticed. Closed when the printer has closed, otherwise Done.
+    // Drops unread bytes and those that arrive within `notice`. Closed when the printer has closed.
     virtual Completion dropArrived(std::chrono::milliseconds notice) = 0;
 
   protected:
@@ -43,8 +41,7 @@ class Transport {
     QByteArray m_received;  // and not read yet
 };
 
-// How long an answer over TCP is looked for before the thread sleeps: a printer on the same machine
-// answers sooner than a sleeping thread is woken.
+// How long TCP answers are looked for without sleeping, as local printers answer at once.
 inline constexpr std::chrono::microseconds nearAnswer{100};
 
 // Where a printer listens. An IPv6 address has a scope where it needs one.
@@ -54,13 +51,12 @@ struct Endpoint {
     bool operator==(const Endpoint &) const = default;
 };
 
-// Opens the stream to the first of the endpoints that accepts it, each with an equal share of the
-// time that is left; a null pointer when none does before the deadline.
+// Opens a stream to the first endpoint that accepts, each with an equal share of the time; null
+// when none does.
 std::unique_ptr<Transport> openTcpTransport(const QList<Endpoint> &endpoints,
                                             const QDeadlineTimer &deadline);
 
-// Opens the stream to `host` (a name, or an IPv4 or IPv6 address, the latter with a scope where it
-// needs one: "fe80::1%eth0") and `port`, under each address of a name as above.
+// The same for a name or an address ("fe80::1%eth0") and a port.
 std::unique_ptr<Transport> openTcpTransport(const QString &host, quint16 port,
                                             const QDeadlineTimer &deadline);
 

@@ -26,12 +26,10 @@ struct UsbPrinter {
     QString uri;          // "usb:///MAKER/MODEL?serial=..." or "?port=...", "&interface=" unless 0
 };
 
-// The printers, sorted by port. Those that share maker, model and serial number are told apart by
-// their ports.
+// The printers by port; those of equal maker, model and serial number are told apart by it.
 QList<UsbPrinter> usbPrinters(libusb_context *context);
 
-// The device file of the kernel's own printer driver while it has the interface ("/dev/usb/lp0");
-// empty when it has not.
+// The file of the kernel's driver while it has the interface ("/dev/usb/lp0"), or empty.
 QString kernelPrinterFile(const UsbPrinter &printer);
 
 PrinterEntry entryOf(const UsbPrinter &printer);

@@ -22,8 +22,7 @@ class UsbSource : public PrinterSource {
     std::shared_ptr<libusb_context> context();
     QList<UsbPrinter> find();
 
-    // The printer of a URI: one that is called so, or the very device that the last list called so,
-    // since the kernel's driver may have read its name only now. A device in its place is another.
+    // The printer that is called so, or the very device that the last list called so.
     std::optional<UsbPrinter> find(const QString &uri);
 
     // A printer as it was listed.

@@ -21,8 +21,7 @@ using Context = std::shared_ptr<libusb_context>;
 constexpr int readSize = 4096;
 constexpr int smallestPacket = 8;
 
-// One bulk transfer, waited for in slices on whatever thread it is. Its end may be noticed by
-// another thread, which waits for a transfer of its own.
+// One bulk transfer, waited for in slices. Another thread may notice its end.
 class Transfer {
   public:
     Transfer(Context context, libusb_device_handle *device, quint8 endpoint)
@@ -108,8 +107,7 @@ class ClaimedInterface {
     const int m_number;
 };
 
-// A read is always under way, so that what comes between the exchanges, and a pulled cable, are
-// noticed, and nothing is lost when a wait is given up.
+// A read is always under way, so that nothing is lost and a pulled cable is noticed.
 class UsbTransport : public Transport {
   public:
     UsbTransport(std::unique_ptr<ClaimedInterface> claimed, const UsbPrinter &printer)
@@ -149,8 +147,7 @@ class UsbTransport : public Transport {
         return m_in.isRunning() || m_in.start(m_buffer.data(), static_cast<int>(m_buffer.size()));
     }
 
-    // Waits for bytes. An empty packet means that there is nothing yet: the next one is asked for
-    // after a pause, or a printer that sends nothing else would keep the processor busy.
+    // Waits for bytes. After an empty packet it pauses, or it would keep the processor busy.
     Completion receive(const QDeadlineTimer &deadline) override {
         for (std::chrono::milliseconds pause{1};; pause = std::min(2 * pause, waitSlice)) {
             if (!startReading()) return Completion::Closed;
@@ -174,8 +171,7 @@ class UsbTransport : public Transport {
     Transfer m_out;
 };
 
-// Whether another program reads or writes the file of the kernel's driver. It would lose the
-// printer to us without a word; only one program at a time can open the file.
+// Whether another program uses the kernel's file; it would lose the printer without a word.
 bool isUsedThroughKernel(const UsbPrinter &printer) {
     const QString file = kernelPrinterFile(printer);
     if (file.isEmpty()) return false;
@@ -220,8 +216,7 @@ Opened openUsbTransport(std::shared_ptr<libusb_context> context, const UsbPrinte
             LIBUSB_SUCCESS)
         return {};
     auto transport = std::make_unique<UsbTransport>(std::move(claimed), printer);
-    // A reset of the printer's buffers would be quicker, but it would also drop settings that the
-    // printer has received and not yet read. A stall is cleared by the first try.
+    // A reset would also drop settings that were not read yet. The first try clears a stall.
     for (int tries = 0; tries < 2; ++tries)
         if (transport->dropArrived(leftOverSilence) == Transport::Completion::Done)
             return {std::move(transport)};

@@ -13,9 +13,7 @@ inline constexpr std::chrono::milliseconds leftOverSilence{20};
 inline constexpr int claimTries = 5;
 inline constexpr std::chrono::milliseconds claimPause{20};
 
-// Opens a printer on USB: takes its interface from the kernel's printer driver, which gets it back
-// with the end of the transport, and drops what another host has left to be read. Fails with
-// ZMLib::NoPermission, ZMLib::InUse (another program has the interface, or the file of the kernel's
-// driver) or ZMLib::UnknownPrinter (gone, or it cannot be used). `context` is the device's.
+// Opens a printer: takes its interface from the kernel's driver until the end, and drains
+// leftovers. `result`: ZMLib::NoPermission, InUse or UnknownPrinter. `context` is the device's.
 Opened openUsbTransport(std::shared_ptr<libusb_context> context, const UsbPrinter &printer,
                         const QDeadlineTimer &deadline);

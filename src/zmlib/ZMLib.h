@@ -17,8 +17,7 @@ inline const QString ConnectionType = QStringLiteral("ConnectionType");
 inline const QString ProductName = QStringLiteral("ProductName");
 // Of a printer found on the network.
 inline const QString BonjourServiceName = QStringLiteral("BonjourServiceName");
-// Of a network printer: its address. Of a printer on USB: its serial number, or without one the
-// port, as the system calls it. Each may be missing.
+// Of a network printer its address; of a USB printer its serial number or port. May be missing.
 inline const QString Address = QStringLiteral("Address");
 inline const QString SerialNumber = QStringLiteral("SerialNumber");
 inline const QString Port = QStringLiteral("Port");
@@ -89,17 +88,14 @@ class ZMLib {
     // What was wrong with the last list, and the printers that could not be opened since.
     virtual QList<PrinterProblem> problems() { return {}; }
 
-    // Whether printers, or what is wrong with the list, came or went since the last one. Opens no
-    // printer; takes no noticeable time.
+    // Whether the list or its problems changed since the last one. Opens no printer; quick.
     virtual bool hasListChanged() { return false; }
 
-    // 1: the channel is closed and the printer can be reached; 0: this process holds the channel
-    // open; a negative Result: the printer cannot be reached, or not be used. The connection with
-    // which that was found out is kept a short while for the engage.
+    // 1: closed, and the printer can be reached; 0: held open by this process; or a negative
+    // Result. The connection that showed it is kept a short while for the engage.
     virtual int ZMGetEngageStatusSub(const QString &uri, int timeout) = 0;
 
-    // Sends the start frame on the open channel; the printer does not answer it.
-    // Result: 0, or a negative Result.
+    // Sends the start frame, which is not answered. Result: 0, or a negative Result.
     virtual int ZMStartCommand(const QString &uri, const QList<QByteArray> &commands,
                                int statusLength, int timeout) = 0;
 
@@ -108,28 +104,25 @@ class ZMLib {
                                                const QList<QByteArray> &commands, int statusLength,
                                                int timeout) = 0;
 
-    // Sends the update frame, then the end frame, and closes the channel. When the printer has
-    // closed it, nothing is sent and the result is Closed. The channel is closed whatever the
-    // result. Result: 0 when the update frame is out, or a negative Result.
+    // Sends the update and end frames, unless the printer has closed the channel (Closed), and
+    // closes it in any case. Result: 0 when the update frame is out, or a negative Result.
     virtual int ZMEndCommandAndEngageDisConnect(const QString &uri,
                                                 const QList<QByteArray> &commands, int statusLength,
                                                 int timeout) = 0;
 
-    // Sends `request` and appends the printer's reply to `reply`, at most `replySize` bytes of it.
-    // What arrived before the request, and what answers an earlier exchange, is skipped.
-    // Result: 0, or a negative Result. The channel stays open unless it is Closed.
+    // Sends `request` and appends at most `replySize` bytes of the reply to `reply`; earlier bytes
+    // are skipped. Result: 0, or a negative Result; only Closed closes the channel.
     virtual int ZMGetSettingData(const QString &uri, int replySize, const QByteArray &request,
                                  QByteArray &reply, const QList<QByteArray> &commands,
                                  int timeout) = 0;
 
-    // Sends the setting frame `frame` of `frameSize` bytes and appends the printer's reply to
-    // `reply`, at most replyArea bytes of it. Results as for ZMGetSettingData.
+    // The same for the setting frame `frame` of `frameSize` bytes, with replyArea.
     virtual int ZMSendSettingData(const QString &uri, int frameSize, const QByteArray &frame,
                                   QByteArray &reply, const QList<QByteArray> &commands,
                                   int timeout) = 0;
 
-    // Asks whether a printer answers at `address` (dotted IPv4). `target` is the URI of a listed
-    // printer, or anyPrinter. Result: 0 when it does, negative otherwise.
+    // Whether a printer, `target` or anyPrinter, answers at `address` (dotted IPv4): 0, or
+    // negative.
     virtual int ZMIOOpenForUDP(const QString &target, const QString &address, int statusLength,
                                int timeout) = 0;
 };

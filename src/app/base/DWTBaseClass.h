@@ -3,30 +3,26 @@
 #include <QObject>
 #include <memory>
 
-// The common base object. Objects are made in two steps: the constructor only makes the fields,
-// init() runs the private set-up step of every class of the chain, base first. Tear-down steps run
-// derived first, from the destructors.
+// The common base object, made in two steps: the constructor, then init(), which runs the set-up
+// step of every class, base first. Tear-down steps run derived first.
 class DWTBaseClass : public QObject {
   public:
     DWTBaseClass() = default;
     ~DWTBaseClass() override;
 
-    // Runs the base's init() and then this class's own private set-up step. False when a step says
-    // no; the object must then not be used. Call it once, through make<T>().
+    // Runs the set-up steps; false makes the object unusable. Call it once, through make<T>().
     virtual bool init();
 
     // A new base object for classes that do not derive from it and need nsObjectRelease().
     static std::shared_ptr<DWTBaseClass> BaseClass();
 
-    // Drops the object held in `field`, if any, and leaves the field empty: the one way in which a
-    // held object is given up.
+    // Drops the object held in `field`, if any: the one way to give it up.
     template <typename T>
     void nsObjectRelease(std::shared_ptr<T> &field) {
         field.reset();
     }
 
-    // True when one of the program's arguments, in any position, is "-Installer" as a whole,
-    // compared ignoring letter case.
+    // Whether the program was started with "-Installer", in any case.
     bool checkLunchedMode() const;
 
   private:
@@ -34,8 +30,7 @@ class DWTBaseClass : public QObject {
     void TBC_Dealloc();
 };
 
-// Declares, at the head of a class on `Base`, its private set-up step INIT and tear-down step
-// DEALLOC, and where they run.
+// Declares the private set-up step INIT and tear-down step DEALLOC of a class on `Base`.
 #define DWT_SETUP(Class, Base, INIT, DEALLOC) \
   public:                                     \
     ~Class() override {                       \

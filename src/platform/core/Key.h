@@ -2,6 +2,5 @@
 
 #include <QString>
 
-// A constant text that has the value of its own name, as keys and notifications do, so that a key is
-// looked for in one way everywhere.
+// A constant text that has its own name as its value.
 #define DWT_KEY(name) inline const QString name = QStringLiteral(#name)

@@ -15,33 +15,30 @@ struct Notification {
     QVariantMap userInfo;
 };
 
-// Named messages between objects that do not know each other.
-//
-// Observers are called on the thread that posts. The list of observers may be changed from any
-// thread, also by an observer while it is being called.
+// Named messages between objects that do not know each other. Observers are called on the posting
+// thread. Any thread, and an observer being called, may change the list of observers.
 class NotificationCenter : public QObject {
     Q_OBJECT
   public:
     using Handler = std::function<void(const Notification &)>;
 
-    // Keeps one observation alive; destroying it (or assigning over it) ends the observation, after
-    // which the handler is not called again. Destroy it on the thread that posts: a post running on
-    // another thread may be inside the handler at that moment.
+    // Keeps one observation alive. Destroy it on the thread that posts: a post on another thread
+    // may be inside the handler.
     using Observer = std::shared_ptr<QObject>;
 
     // The centre of the process.
     static NotificationCenter &shared();
 
-    // Calls `handler` for every notification of `name` from now on; with `sender` only for those
-    // that it posts. A notification that is being posted at this moment is not seen.
+    // Calls `handler` for every later notification of `name`, with `sender` only for those it
+    // posts.
     [[nodiscard]] Observer observe(const QString &name, Handler handler,
                                    const QObject *sender = nullptr);
 
     // Calls every observer of `name` at once, on this thread, in order of registration.
     void post(const QString &name, const QObject *sender, const QVariantMap &userInfo = {});
 
-    // Posts on the main thread and returns when every observer has run. Callable from every thread.
-    // Returns false, without having posted, once the application has ended.
+    // Posts on the main thread and returns when every observer has run; from every thread. False,
+    // without posting, once the application has ended.
     bool postOnMainThreadAndWait(const QString &name, const QObject *sender,
                                  const QVariantMap &userInfo = {});
 

@@ -6,24 +6,19 @@
 
 class QObject;
 
-// Waiting without freezing the windows. Whoever waits on the main thread does so in slices and
-// calls idle() between them.
+// Waiting without freezing the windows: the main thread waits in slices, with idle() between them.
 
 // Longest time between two calls of idle(): short enough that an animation looks smooth.
 inline constexpr std::chrono::milliseconds waitSlice{20};
 
-// On the main thread: lets windows paint, timers run and queued calls arrive, and drops (does not
-// queue) every keyboard, mouse, touch, input-method, drag and close event that reaches the
-// application meanwhile, but those for a control of a CancellableWait. On every other thread, and
-// without an application: does nothing.
+// On the main thread: runs paints, timers and queued calls, and drops every input and close event
+// but those for a control of a CancellableWait. Otherwise does nothing.
 void idle();
 
-// Makes what the main thread waits for while it lives end early, once that is asked for. For the
-// main thread; the last one made counts.
+// Lets waits of the main thread end early on demand; the last one made counts.
 class CancellableWait {
   public:
-    // `isControl` says of an object whether a person's input reaches it even so: the window and the
-    // button that call cancel().
+    // `isControl`: whether input reaches an object even so, as the button that calls cancel().
     explicit CancellableWait(std::function<bool(const QObject *)> isControl);
     ~CancellableWait();
     CancellableWait(const CancellableWait &) = delete;
@@ -42,10 +37,9 @@ class CancellableWait {
 // Whether a person has cancelled what the main thread waits for; false on every other thread.
 bool isWaitCancelled();
 
-// Waits until `done` answers true or `deadline` has passed, asking `done` anew after every slice.
-// `pause(slice)` waits at most that long for whatever would change the answer; without one the
-// thread sleeps. Once the wait is cancelled it lasts one slice more, enough for what is merely to
-// be written. Result: the last answer of `done`.
+// Waits until `done` answers true, asked after every slice, or `deadline` has passed.
+// `pause(slice)` waits at most that long; without one the thread sleeps. A cancelled wait lasts one
+// slice more. Result: the last answer of `done`.
 bool waitUntil(const std::function<bool()> &done, const QDeadlineTimer &deadline,
                const std::function<void(std::chrono::milliseconds)> &pause = {});
 

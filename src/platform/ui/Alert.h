@@ -4,8 +4,7 @@
 
 class QWidget;
 
-// A modal message with one button, which Return and Escape press, under the title of the window it
-// stands over. May be shown several times with other texts.
+// A modal message with one button, which Return and Escape press. May be shown several times.
 class Alert {
   public:
     enum class Style { Warning, Critical };

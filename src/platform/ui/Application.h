@@ -16,15 +16,14 @@ class ApplicationDelegate {
     virtual void awakeFromNib() = 0;
     // The event loop runs.
     virtual void applicationDidFinishLaunching() = 0;
-    // The user has started the application once more. The answer is whether the application shall
-    // do what is usual then.
+    // The user has started the application again. True when it shall do what is usual then.
     virtual bool applicationShouldHandleReopen(bool hasVisibleWindows) = 0;
     // The user, or the end of the session, asks the application to quit.
     virtual int applicationShouldTerminate() = 0;
 };
 
-// The application object: one instance for a user, which goes on without a visible window, and
-// which asks its delegate before it quits.
+// The application object: one instance a user, alive without windows; its delegate may refuse to
+// quit.
 class Application : public QApplication {
     Q_OBJECT
   public:
@@ -32,13 +31,12 @@ class Application : public QApplication {
 
     Application(int &argc, char **argv);
 
-    // Makes the application with its texts and its delegate, and runs it until it terminates. When
-    // it runs already, tells that instance of the new start instead. Result: the exit status of the
-    // process, 0 unless the delegate could not be made, or the running instance does not answer.
+    // Runs the application with its texts and delegate; if it runs already, notifies that instance.
+    // Result: the exit status, 0 unless the delegate could not be made, or the instance does not
+    // answer.
     static int main(int argc, char **argv, const MakeDelegate &makeDelegate);
 
-    // Asks the delegate to quit, and ends the event loop when it agrees. False when it does not, or
-    // while a modal window waits for its answer.
+    // Quits when the delegate agrees. False when not, or while a modal window waits.
     static bool terminate();
 
     // Who is asked and told; not owned. A null pointer: quitting is always granted.

@@ -2,10 +2,8 @@
 
 #include <QLabel>
 
-// Shows a drawing in the colours of the palette, as sharp as the screen can. In the file, which is
-// an SVG picture, black stands for what is drawn with lines, white for its surfaces and blue for
-// what the drawing points out. It stands in the middle of the room there is. Its accessible name
-// says what is to be seen.
+// Shows an SVG drawing in the colours of the palette: black stands for lines, white for surfaces,
+// blue for what is pointed out. Its accessible name says what is to be seen.
 class Drawing : public QLabel {
     Q_OBJECT
     // The name of the file among the resources' pictures, without its suffix.
@@ -22,8 +20,7 @@ class Drawing : public QLabel {
     QSize minimumSizeHint() const override { return drawingSize; }
 
   protected:
-    // Draws when it is shown, which drawing earlier would delay, and when the colours or the screen
-    // have changed.
+    // Draws when it is first shown, and anew when the colours or the screen change.
     bool event(QEvent *event) override;
 
   private:

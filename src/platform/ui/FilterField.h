@@ -4,9 +4,8 @@
 
 class TableView;
 
-// A field whose text filters the rows of a table. Up and Down go on to the table; Return opens its
-// selected row, or the only one that is left; Escape empties the field; the window's keys for
-// "Find" lead here while the field is shown.
+// A field whose text filters a table. Up and Down go to the table, Return opens its selected or
+// only row, Escape empties the field, "Find" leads here.
 class FilterField : public QLineEdit {
     Q_OBJECT
   public:

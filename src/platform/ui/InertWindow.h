@@ -4,10 +4,8 @@
 
 class QWidget;
 
-// Makes a window inert while it lives: its content is disabled, for a person's clicks and keys and
-// for assistive technologies alike. Afterwards each control is enabled as it says itself, and the
-// focus, with the caret and the selection of a field, is where it was; no editing ends thereby.
-// Windows that belong to the inert one are not affected.
+// Makes a window, not those that belong to it, inert while it lives, for clicks, keys and assistive
+// technologies. Enabled states, focus, caret and selection come back; no editing ends.
 class InertWindow {
   public:
     explicit InertWindow(QWidget *window);

@@ -4,8 +4,7 @@
 
 class QToolButton;
 
-// A text field that masks its text until the user presses the button inside it. Hidden, it masks
-// its text again.
+// A text field that masks its text until its button is pressed, and again once hidden.
 class MaskedField : public TextField {
     Q_OBJECT
     // What the button does, as its tool tip and accessible name.

@@ -4,10 +4,9 @@
 
 class QAbstractButton;
 
-// A window that Modal runs. It never closes by itself: Escape, the close box and the window
-// system's close keys press the visible, enabled button whose property "cancelButton" is true; a
-// view without one does not react to them and has no close box. Return presses the visible view's
-// default button.
+// A window for Modal. Escape, the close box and close keys press the visible, enabled button with
+// the property "cancelButton"; without one there is no close box. Return presses the default
+// button.
 class ModalWindow : public QDialog {
     Q_OBJECT
   public:

@@ -195,8 +195,7 @@ void OutlineView::fitWidthToContents() {
     setFixedWidth(sizeHintForColumn(0) + mark + 2 * frameWidth() + scrollBar);
 }
 
-// A view without a current item takes its first one when it gets the focus; here that would be a
-// selection that nobody made.
+// On focus, a view without a current item would take its first: a selection that nobody made.
 void OutlineView::focusInEvent(QFocusEvent *event) {
     selectionOf(this)->frozen = true;
     QTreeView::focusInEvent(event);

@@ -25,16 +25,14 @@ class OutlineDataSource {
     virtual Mark markOfItem(OutlineView *, const QVariantMap &) { return {}; }
 };
 
-// Asked before the user moves the selection. Collapsing is always allowed, so that nobody is asked
-// shouldCollapseItem.
+// Asked before the user moves the selection.
 class OutlineDelegate {
   public:
     virtual ~OutlineDelegate() = default;
     virtual bool shouldSelectItem(OutlineView *, const QVariantMap &) { return true; }
 };
 
-// A tree of one named column whose contents come from a data source. One item may be selected; the
-// keyboard's current item is always the selected one.
+// A tree of one column from a data source. The keyboard's current item is the selected one.
 class OutlineView : public QTreeView {
     Q_OBJECT
   public:
@@ -57,14 +55,12 @@ class OutlineView : public QTreeView {
     void expandRow(int row);
     // Selects from code, without asking the delegate.
     void selectRow(int row);
-    // Selects the item as the user does: the delegate is asked. What is collapsed above it is
-    // expanded.
+    // Selects the item as the user does, expanding what is above it.
     void pickItem(const QVariantMap &item);
     // Fetches the marks of all items anew.
     void reloadMarks();
 
-    // Makes the outline as wide as its widest item, as it is expanded now, and a mark after it, and
-    // keeps it there.
+    // Makes the outline as wide as its widest item and a mark.
     void fitWidthToContents();
 
   protected:

@@ -2,9 +2,7 @@
 
 #include <QProxyStyle>
 
-// Qt's own style with frames that can be seen on dark colours too: it derives the outlines of
-// fields, check boxes and radio buttons from the background by darkening it, which leaves nothing
-// of them on a dark one.
+// Qt's own style with outlines that can be seen on dark colours, too.
 class OutlinedStyle : public QProxyStyle {
     Q_OBJECT
   public:

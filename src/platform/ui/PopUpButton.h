@@ -4,8 +4,7 @@
 #include <QStylePainter>
 #include <QWheelEvent>
 
-// A combo box that leaves the wheel to what it scrolls with: turning the wheel over it must not
-// change a choice that the user did not look at. With the focus it takes the wheel.
+// A combo box that takes the wheel only with the focus, so that scrolling changes no choice.
 class PopUpButton : public QComboBox {
     Q_OBJECT
   public:

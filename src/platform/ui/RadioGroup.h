@@ -4,8 +4,7 @@
 #include <QRadioButton>
 #include <QWidget>
 
-// A group of radio buttons of which at most one is selected. Its cells are the QRadioButtons inside
-// it; each carries an integer as its property "tag". Enabled and disabled as one.
+// A group of the QRadioButtons inside it, each with an integer property "tag". Enabled as one.
 class RadioGroup : public QWidget {
     Q_OBJECT
   public:

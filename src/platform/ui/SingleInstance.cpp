@@ -20,8 +20,7 @@ QString pathOf(const QString &suffix) {
 SingleInstance::SingleInstance(int longestAnswer) : m_lock(pathOf(QStringLiteral(".lock"))) {
     m_lock.setStaleLockTime(0);  // stale only when its process is gone
     const QString socket = pathOf(QStringLiteral(".socket"));
-    // The first process may be on its way in (no socket yet) or out (no lock any more). A folder in
-    // which nothing can be locked, or a first process without a socket, keeps nobody out.
+    // The first process may be starting (no socket yet) or ending (no lock any more).
     const QDeadlineTimer deadline(longestAnswer);
     while (!m_lock.tryLock(retryPause) && m_lock.error() == QLockFile::LockFailedError) {
         QLocalSocket first;

@@ -4,8 +4,7 @@
 #include <QLockFile>
 #include <QObject>
 
-// Makes the process the only one of its application for this user, or tells the one that runs
-// already that the user has started it again. Lock and socket are in the user's runtime folder.
+// Makes the process the user's only one, or notifies the one that runs. Uses the runtime folder.
 class SingleInstance : public QObject {
     Q_OBJECT
   public:

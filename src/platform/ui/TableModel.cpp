@@ -9,8 +9,7 @@
 
 namespace {
 
-// Names as a person orders them: by the rules of the language, "2" before "10". Without a language
-// the texts are English, and so is the order.
+// Orders names by the rules of the language, "2" before "10"; without one as English does.
 QCollator collatorOfNames() {
     QCollator collator(QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale());
     collator.setNumericMode(true);

@@ -10,8 +10,7 @@
 class TableDataSource;
 class TableView;
 
-// The data source of a table as Qt's model sees it: every row, in the order of the source. Nothing
-// is asked of the source before it is needed, and what takes time to make is made once.
+// The data source of a table as a Qt model, in its order; asked when needed, icons made once.
 class TableModel : public QAbstractTableModel {
   public:
     // The second line of a cell.

@@ -17,8 +17,7 @@ namespace {
 
 constexpr int DetailRole = TableModel::DetailRole;
 
-// How much of its colour the text of a second line keeps, in hundredths: quieter than the first,
-// and still with a contrast of more than 4.5 to 1.
+// How much of its colour a second line keeps, in hundredths: a contrast above 4.5 to 1.
 constexpr int quiet = 70;
 
 // So many rows have a say in the width of a column, besides those in sight.

@@ -7,8 +7,7 @@ class TableView;
 class TableModel;
 class ShownRows;
 
-// Gives a table its contents. A row is counted from 0 in the order of the source, wherever the
-// table shows it.
+// Gives a table its contents. Rows count from 0 in the order of the source.
 class TableDataSource {
   public:
     virtual ~TableDataSource() = default;
@@ -16,18 +15,16 @@ class TableDataSource {
     // What the cell shows; nothing for a column that the source does not know.
     virtual QVariant objectValueForTableColumn(TableView *table, const QString &column,
                                                int row) = 0;
-    // A second, quieter line below the cell's text, in a table that has room for it; none by
-    // default.
+    // A second, quieter line of a cell, where the table has room; none by default.
     virtual QString detailForTableColumn(TableView *, const QString &, int) { return {}; }
     // The picture before the cell's text; none by default.
     virtual QIcon iconForTableColumn(TableView *, const QString &, int) { return {}; }
-    // What a column sorts by: an int, or a text that is compared as names are. By default what the
-    // cell shows.
+    // The value a column sorts by: an int, or a text compared as a name; by default the cell's
+    // text.
     virtual QVariant sortValueForTableColumn(TableView *table, const QString &column, int row) {
         return objectValueForTableColumn(table, column, row);
     }
-    // What identifies a row, so that its selection survives a reload that moves it; not empty. By
-    // default the row itself.
+    // Identifies a row across reloads; not empty. By default the row itself.
     virtual QString rowKeyInTableView(TableView *, int row) { return QString::number(row); }
 };
 
@@ -39,9 +36,8 @@ class TableDelegate {
     virtual void tableViewSelectionDidChange(TableView *) {}
 };
 
-// A table whose columns are named and whose contents come from a data source. One whole row may be
-// selected. A click on a header, or Ctrl and the column's number, sorts by the column: ascending,
-// descending, and as the source has it. Rows are given and taken as the source counts them.
+// A table of named columns from a data source. One row may be selected. A click on a header, or
+// Ctrl and the column's number, sorts: ascending, descending, as the source. Rows are the source's.
 class TableView : public QTableView {
     Q_OBJECT
   public:
@@ -51,20 +47,17 @@ class TableView : public QTableView {
     void setTableDataSource(TableDataSource *source);
     void setTableDelegate(TableDelegate *delegate) { m_delegate = delegate; }
 
-    // Appends a column; its header is the identifier until it gets a title. The first column takes
-    // the room that the others, as wide as their contents, leave.
+    // Appends a column, titled by its identifier at first. The first column takes the spare room.
     void addColumn(const QString &identifier);
     void setHeaderTitle(const QString &identifier, const QString &title);
 
     // Gives every row room for a second line.
     void setHasDetails();
 
-    // Fetches everything anew; order and filter stay. The row of the selected key stays selected,
-    // also when it was missing in the meantime, until another one is selected or none.
+    // Fetches everything anew; order, filter and the selected key stay, also over an absence.
     void reloadData();
 
-    // Shows only the rows whose texts contain every word of `text`, in upper or lower case; all
-    // rows when it is empty. A selected row that is not shown is deselected.
+    // Shows the rows that contain every word of `text`, in any case. A hidden row is deselected.
     void setFilter(const QString &text);
 
     // What stands in the place of the rows while there are none, and while the filter leaves none.
@@ -76,12 +69,11 @@ class TableView : public QTableView {
 
     // -1 when no row is selected.
     int selectedRow() const;
-    // Selects a row from code, without asking the delegate whether it may; it is told. Selects
-    // nothing when the filter hides the row.
+    // Selects a row without asking the delegate, which is notified; nothing when the filter hides
+    // it.
     void selectRow(int row);
     void deselectAll();
-    // Does what Return does: doubleAction() for the selected row, or for the only one that is
-    // shown. False when there is neither.
+    // Opens the selected row, or the only one shown, as Return does. False when there is neither.
     bool openSelected();
 
     // The keys that sort by a column, counted from 0.

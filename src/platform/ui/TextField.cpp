@@ -96,8 +96,7 @@ void TextField::textIsNew() {
     m_userChange = false;
 }
 
-// Shows the old text once more while the begin is reported; false when the change is refused, or
-// the field went away.
+// Shows the old text while the begin is reported; false when the change is refused.
 bool TextField::beginEditing() {
     const QPointer<TextField> alive(this);
     const QString typed = text();

@@ -8,19 +8,16 @@ class TextField;
 class TextFieldDelegate {
   public:
     virtual ~TextFieldDelegate() = default;
-    // The user is about to make the first change after the field got the focus; the field still
-    // holds the old text. False undoes the change.
+    // Before the first change after the focus; the field has the old text. False undoes the change.
     virtual bool textShouldBeginEditing(TextField *) { return true; }
-    // The field loses the focus, or Return was pressed, whether or not anything was typed. False
-    // gives the focus back to the field.
+    // At the loss of focus or Return, typed or not. False gives the focus back.
     virtual bool textShouldEndEditing(TextField *) { return true; }
     // The user has changed the text.
     virtual void controlTextDidChange(TextField *) {}
 };
 
-// A line edit that reports editing as begin, change and end, however the user changes the text.
-// Text set by the program reports nothing, and the user's next change begins editing anew. A focus
-// that goes to a menu, or to another window, does not end editing. A read-only field reports
+// A line edit that reports the user's editing as begin, change and end; text set by code reports
+// nothing. A focus that goes to a menu or another window ends nothing. Read-only, it reports
 // nothing.
 class TextField : public QLineEdit {
     Q_OBJECT
@@ -30,14 +27,12 @@ class TextField : public QLineEdit {
     // `delegate` is not owned; it must outlive the field or be taken away with a null pointer.
     void setDelegate(TextFieldDelegate *delegate) { m_delegate = delegate; }
 
-    // Sets the text as one step of the undo history, with the caret at `caret` and nothing
-    // selected. For filters; reports nothing.
+    // For filters: sets the text as one undo step, with the caret at `caret`. Reports nothing.
     void replaceText(const QString &text, int caret);
 
     // Undoes the last step that the user made; for filters. Reports nothing.
     void takeBack();
-    // Empties the field and its undo history, as for a secret that was used; reports nothing, also
-    // when the field then loses the focus.
+    // Empties the field and its undo history, as for a used secret. Reports nothing.
     void forget();
 
     // Marks the text as one that cannot be used: by an icon inside the field, with `why` as its
@@ -49,8 +44,8 @@ class TextField : public QLineEdit {
   protected:
     // Editing begins; text() is the old text. Does nothing by itself.
     virtual void textDidBeginEditing() {}
-    // The user has changed the text. Tells the delegate, then posts
-    // "NSControlTextDidChangeNotification" with the field as sender.
+    // The user has changed the text: calls the delegate, then posts
+    // "NSControlTextDidChangeNotification" as sender.
     virtual void textDidChange();
 
     void focusInEvent(QFocusEvent *event) override;

@@ -5,24 +5,20 @@
 
 class QWidget;
 
-// Views stacked in one container, of which at most one is visible. The container is as large as
-// its largest view, so that a window does not change its size when views are switched.
+// Views in one container as large as the largest, of which at most one is visible.
 class ViewStack {
   public:
-    // The container must not have a layout; it owns the views from add() on, and outlives the use
-    // of the stack.
+    // The container has no layout, owns the views, and outlives the stack.
     explicit ViewStack(QWidget *container);
 
     // Adds a view under `key`, hidden.
     void add(const QString &key, QWidget *view);
 
-    // Shows the view of `key` and hides every other; an unknown key hides all. In a dialog the
-    // button of the view whose property "defaultButton" is true becomes the default one, and what
-    // the view says is announced to screen readers.
+    // Shows the view of `key` alone; none for an unknown key. In a dialog its button with the
+    // property "defaultButton" becomes the default one, and its text is announced.
     void select(const QString &key);
 
-    // Gives the focus to the first control of the shown view that takes it, push buttons aside; in
-    // a view of push buttons alone, to the default one.
+    // Gives the focus to the first control of the shown view, push buttons last.
     void focusFirstControl() const;
 
     // The key of the shown view; a null text when all are hidden.

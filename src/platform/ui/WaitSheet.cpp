@@ -8,8 +8,7 @@
 
 namespace {
 
-// How long the window system may take to show a window, in milliseconds; after that the work starts
-// all the same.
+// Longest wait for the window system to show a window, in milliseconds.
 constexpr int longestExposure = 500;
 
 WaitSheet *current = nullptr;

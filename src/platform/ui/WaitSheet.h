@@ -12,21 +12,18 @@ class QProgressBar;
 // Whether an object is a window, a control in it, or what the window system shows of it.
 bool isPartOf(const QObject *object, const QWidget *window);
 
-// Shows a wait window while it lives. Both windows have been painted when the constructor returns;
-// the indicator moves whenever the work calls idle(), and what the user does meanwhile is dropped:
-// the parent is inert. Only the sheet itself works; its button cancels the work's waits.
+// Shows a wait window while it lives, painted when the constructor returns. The parent is inert;
+// the indicator moves with idle(), and the sheet's button cancels the waits.
 class WaitSheet {
   public:
-    // `sheet` is shown window-modally, centred on `parent`; `indicator` is a bar inside it, busy at
-    // first, and `cancel` a button. The widgets stay the caller's.
+    // `sheet` is shown window-modally on `parent`, with `indicator` busy at first. Not owned.
     WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator, QAbstractButton *cancel);
     // Ends it, unless it has ended.
     ~WaitSheet();
     WaitSheet(const WaitSheet &) = delete;
     WaitSheet &operator=(const WaitSheet &) = delete;
 
-    // Ends the sheet that is shown, if there is one, so that something can be said instead of it.
-    // Result: the window that it was shown on; otherwise null.
+    // Ends the shown sheet, if any. Result: the window that it was shown on, or null.
     static QWidget *endCurrent();
 
   private:

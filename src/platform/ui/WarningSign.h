@@ -3,8 +3,7 @@
 #include <QLabel>
 #include <QStyle>
 
-// The style's sign of a warning, as large as a small icon. It is made when it is first shown, since
-// Qt looks through the icon themes for it.
+// The style's small warning sign, made when it is first shown.
 class WarningSign : public QLabel {
   public:
     using QLabel::QLabel;

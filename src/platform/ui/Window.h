@@ -5,8 +5,8 @@
 #include <QWidget>
 #include <functional>
 
-// A window that asks before the user closes it. Hiding it from code asks nobody. Return presses the
-// push button that has the focus; otherwise the visible one whose property "defaultButton" is true.
+// A window that asks before the user closes it. Return presses the focused push button, else the
+// one with the property "defaultButton".
 class Window : public QWidget {
     Q_OBJECT
   public:
@@ -17,8 +17,7 @@ class Window : public QWidget {
         m_shouldClose = std::move(shouldClose);
     }
 
-    // Makes the window as large as its contents wish, where the screen has the room, and centres
-    // it there.
+    // Makes the window as large as its contents wish, within the screen, and centres it.
     void fitToScreen();
 
     // Makes the window larger where its contents need it and the screen has room; never smaller.
