@@ -15,7 +15,6 @@
 
 namespace {
 
-constexpr int lookInterval = 50;        // ms
 constexpr std::size_t readArea = 4096;  // bytes
 
 // One host's connection: carries bytes between the open device and its channel. It ends itself.
@@ -35,9 +34,8 @@ class Connection : public QObject {
         m_writable.setEnabled(false);
         connect(&m_readable, &QSocketNotifier::activated, this, [this] { read(); });
         connect(&m_writable, &QSocketNotifier::activated, this, [this] { write(); });
-        // A gadget may wake its reader for a host that goes right before it can tell so.
         connect(&m_look, &QTimer::timeout, this, [this] { read(); });
-        m_look.start(lookInterval);
+        m_look.start(VirtualPrinterDevice::lookInterval);
     }
     ~Connection() override {
         if (m_descriptor >= 0) ::close(m_descriptor);

@@ -18,6 +18,9 @@
 class VirtualPrinterDevice : public QObject {
   public:
     static constexpr int reopenInterval = 100;  // ms
+    // How often the device is read without being readable: a gadget may wake its reader for a host
+    // that goes right before it can report that.
+    static constexpr int lookInterval = 50;  // ms
 
     VirtualPrinterDevice(std::shared_ptr<VirtualPrinter> printer, const QString &path,
                          QObject *parent = nullptr);

@@ -1,16 +1,7 @@
 #include "zmlib/NetworkSource.h"
 
-#include "platform/core/Waiting.h"
-
-namespace {
-
-constexpr int partOfTheTime = 2;  // that finding out where a printer is may take of an opening
-
-}  // namespace
-
 Listing NetworkSource::list() {
-    waitUntil([this] { return m_browser.isSettled(); }, m_firstLook,
-              [this](std::chrono::milliseconds slice) { m_browser.wait(slice); });
+    m_browser.settle(m_firstLook);
     Listing listing = announced();
     const std::lock_guard lock(m_mutex);
     m_listed = listing;
@@ -29,7 +20,7 @@ bool NetworkSource::lists(const QString &uri) {
 }
 
 Opened NetworkSource::open(const QString &uri, const QDeadlineTimer &deadline) {
-    const QDeadlineTimer asking(deadline.remainingTimeAsDuration() / partOfTheTime);
+    const QDeadlineTimer asking(deadline.remainingTimeAsDuration() / resolvingShare);
     return {openTcpTransport(m_browser.resolve(uri, asking), deadline)};
 }
 

@@ -8,6 +8,9 @@
 // The printers that announce themselves on the network.
 class NetworkSource : public PrinterSource {
   public:
+    // The part of an opening's time after which an address is needed: the rest is for connecting.
+    static constexpr int resolvingShare = 2;
+
     explicit NetworkSource(const BrowsingLimits &limits = {})
         : m_browser(limits), m_firstLook(limits.firstLook) {}
 
