@@ -7,6 +7,8 @@
 #include "link/Binding.h"
 #include "platform/core/Texts.h"
 
+using namespace Qt::StringLiterals;
+
 std::optional<QString> commandLineAnswer(int argc, char **argv) {
     for (int i = 1; i < argc; ++i) {
         if (std::strcmp(argv[i], "--version") == 0)
@@ -14,8 +16,7 @@ std::optional<QString> commandLineAnswer(int argc, char **argv) {
         if (std::strcmp(argv[i], "--help") != 0) continue;
         const QCoreApplication texts(argc, argv);
         installTexts();
-        return localized(QStringLiteral("DWT_Localize_CommandLine_Help"))
-            .arg(QStringLiteral("network-setting-tool"));
+        return localized("DWT_Localize_CommandLine_Help").arg(u"network-setting-tool"_s);
     }
     return std::nullopt;
 }

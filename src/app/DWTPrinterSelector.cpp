@@ -6,6 +6,8 @@
 #include "mainwindow/WPSGuide.h"
 #include "mainwindow/WaitWindow.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Tags of the two ways to connect.
@@ -32,7 +34,7 @@ void DWTPrinterSelector::awakeFromNib() {
 }
 
 void DWTPrinterSelector::DWT_UIInitialize() {
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/network-setting-tool-64.png")));
+    QApplication::setWindowIcon(QIcon(u":/icons/network-setting-tool-64.png"_s));
     window_PrinterSelector = new Window;
     setupUi(window_PrinterSelector);
     auto *const guide = new WPSGuide(view_PrinterSelector);

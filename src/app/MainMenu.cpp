@@ -13,6 +13,8 @@
 #include "platform/core/Texts.h"
 #include "platform/ui/Application.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QAction *add(QMenu *menu, const char *key, const QKeySequence &shortcut,
@@ -76,28 +78,26 @@ void pressBy(QAction *entry, QAbstractButton *button) {
 
 // The name of the licence, and whose the copyright is.
 QString licence() {
-    QFile file(QStringLiteral(":/LICENSE"));
+    QFile file(u":/LICENSE"_s);
     if (!file.open(QIODevice::ReadOnly)) return {};
-    return QString::fromUtf8(file.readAll()).section(QStringLiteral("\n\n"), 0, 1);
+    return QString::fromUtf8(file.readAll()).section(u"\n\n"_s, 0, 1);
 }
 
 void showAbout() {
-    const QString name = localized(QStringLiteral("DWT_Localize_App_Name"));
-    const QString contact = QStringLiteral("<a href=\"mailto:%1\">%1</a>");
-    const QStringList paragraphs{
-        localized(QStringLiteral("DWT_Localize_About_Text")).toHtmlEscaped(),
-        licence().toHtmlEscaped().replace(QStringLiteral("\n\n"), QStringLiteral("<br>")),
-        localized(QStringLiteral("DWT_Localize_About_Report"))
-            .toHtmlEscaped()
-            .arg(contact.arg(QStringLiteral(NST_CONTACT)))};
+    const QString name = localized("DWT_Localize_App_Name");
+    const QString contact = u"<a href=\"mailto:%1\">%1</a>"_s;
+    const QStringList paragraphs{localized("DWT_Localize_About_Text").toHtmlEscaped(),
+                                 licence().toHtmlEscaped().replace(u"\n\n"_s, u"<br>"_s),
+                                 localized("DWT_Localize_About_Report")
+                                     .toHtmlEscaped()
+                                     .arg(contact.arg(QStringLiteral(NST_CONTACT)))};
     auto *const box = new QMessageBox(QApplication::activeWindow());
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowTitle(name);
     box->setIconPixmap(QApplication::windowIcon().pixmap(64));
     box->setTextFormat(Qt::RichText);
-    box->setText(QStringLiteral("<h3>%1 %2</h3><p>%3</p>")
-                     .arg(name.toHtmlEscaped(), QStringLiteral(NST_VERSION),
-                          paragraphs.join(QStringLiteral("</p><p>"))));
+    box->setText(u"<h3>%1 %2</h3><p>%3</p>"_s.arg(name.toHtmlEscaped(), QStringLiteral(NST_VERSION),
+                                                  paragraphs.join(u"</p><p>"_s)));
     box->setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
     box->open();
 }
@@ -105,15 +105,15 @@ void showAbout() {
 }  // namespace
 
 MainMenu::MainMenu(QWidget *parent) : QMenuBar(parent) {
-    QMenu *const application = addMenu(QStringLiteral("DWT_Localize_Menu_Application"));
+    QMenu *const application = addMenu(u"DWT_Localize_Menu_Application"_s);
     add(application, "DWT_Localize_Menu_Quit", Qt::CTRL | Qt::Key_Q,
         [] { Application::terminate(); });
     addEditMenu();
-    QMenu *const printer = addMenu(QStringLiteral("DWT_Localize_Menu_Printer"));
+    QMenu *const printer = addMenu(u"DWT_Localize_Menu_Printer"_s);
     m_send = add(printer, "DWT_Localize_Menu_Send", Qt::CTRL | Qt::Key_S);
     m_readAgain = add(printer, "DWT_Localize_Menu_ReadAgain", Qt::Key_F5);
     for (QAction *entry : {m_send, m_readAgain, m_copyAllSettings}) entry->setEnabled(false);
-    QMenu *const window = addMenu(QStringLiteral("DWT_Localize_Menu_Window"));
+    QMenu *const window = addMenu(u"DWT_Localize_Menu_Window"_s);
     add(window, "DWT_Localize_Menu_PrinterList", Qt::CTRL | Qt::Key_L,
         [this] { Q_EMIT printerListChosen(); });
     window->addSeparator();
@@ -121,14 +121,14 @@ MainMenu::MainMenu(QWidget *parent) : QMenuBar(parent) {
         onWindow([](QWidget *w) { w->showMinimized(); }));
     add(window, "DWT_Localize_Menu_Close", Qt::CTRL | Qt::Key_W,
         onWindow([](QWidget *w) { w->close(); }));
-    QMenu *const help = addMenu(QStringLiteral("DWT_Localize_Menu_Help"));
+    QMenu *const help = addMenu(u"DWT_Localize_Menu_Help"_s);
     add(help, "DWT_Localize_Menu_Guide", {}, [this] { Q_EMIT guideChosen(); });
     help->addSeparator();
     add(help, "DWT_Localize_Menu_About", {}, showAbout);
 }
 
 void MainMenu::addEditMenu() {
-    QMenu *const edit = addMenu(QStringLiteral("DWT_Localize_Menu_Edit"));
+    QMenu *const edit = addMenu(u"DWT_Localize_Menu_Edit"_s);
     m_cut = add(edit, "DWT_Localize_Menu_Cut", QKeySequence::Cut, [this] {
         if (QLineEdit *const field = editable(m_focus)) field->cut();
     });

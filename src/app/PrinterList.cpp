@@ -10,12 +10,14 @@
 #include "settings/PrinterWords.h"
 #include "settings/Printers.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Columns of the table, under the names of their identifiers.
 // NOLINTBEGIN(bugprone-reserved-identifier)
-const QString _MODEL_NAME_ = QStringLiteral("_MODEL_NAME_");
-const QString _SERVICE_NAME_ = QStringLiteral("_SERVICE_NAME_");
+const QString _MODEL_NAME_ = u"_MODEL_NAME_"_s;
+const QString _SERVICE_NAME_ = u"_SERVICE_NAME_"_s;
 // NOLINTEND(bugprone-reserved-identifier)
 
 // A list of more printers than these has a field that filters it.
@@ -31,13 +33,13 @@ QString keyOfEmptyList(const QList<PrinterProblem> &problems, bool installer) {
                            [kind](const PrinterProblem &problem) { return problem.kind == kind; });
     };
     if (problems.isEmpty() || (installer && isOnly(PrinterProblem::NoNetworkService)))
-        return installer ? QStringLiteral("DWT_Localize_PrinterList_Empty_USB")
-                         : QStringLiteral("DWT_Localize_PrinterList_Empty");
+        return installer ? u"DWT_Localize_PrinterList_Empty_USB"_s
+                         : u"DWT_Localize_PrinterList_Empty"_s;
     if (isOnly(PrinterProblem::EmptyCatalogue))
-        return QStringLiteral("DWT_Localize_PrinterList_Empty_Catalogue");
+        return u"DWT_Localize_PrinterList_Empty_Catalogue"_s;
     if (isOnly(PrinterProblem::NoNetworkService))
-        return QStringLiteral("DWT_Localize_PrinterList_Empty_NoNetwork");
-    return QStringLiteral("DWT_Localize_PrinterList_Empty_Problems");
+        return u"DWT_Localize_PrinterList_Empty_NoNetwork"_s;
+    return u"DWT_Localize_PrinterList_Empty_Problems"_s;
 }
 
 }  // namespace
@@ -49,10 +51,10 @@ PrinterList::PrinterList(QWidget *parent, WaitWindow *wait) : QWidget(parent), w
         table.addColumn(column);
         table.setHeaderTitle(column, localized(titleKey));
     };
-    addColumn(_MODEL_NAME_, QStringLiteral("DWT_Localize_PrinterList_TableView_Name_Column"));
-    addColumn(_SERVICE_NAME_, QStringLiteral("DWT_Localize_PrinterList_TableView_Service_Column"));
+    addColumn(_MODEL_NAME_, u"DWT_Localize_PrinterList_TableView_Name_Column"_s);
+    addColumn(_SERVICE_NAME_, u"DWT_Localize_PrinterList_TableView_Service_Column"_s);
     table.setHasDetails();
-    table.setNoMatchText(localized(QStringLiteral("DWT_Localize_PrinterList_NoMatch")));
+    table.setNoMatchText(localized("DWT_Localize_PrinterList_NoMatch"));
     table.setTableDataSource(this);
     table.setTableDelegate(this);
     textField_PrinterlistFilter->setTable(&table);
@@ -86,8 +88,7 @@ void PrinterList::DWT_UpdatePrinterList() {
     const WaitSheet waiting = window_Wait->over(window());
     if (!ndm_Object) ndm_Object = make<DWTDataManager>();
     array_PrinterList.clear();
-    tableView_Printerlist->setEmptyText(
-        localized(QStringLiteral("DWT_Localize_PrinterList_Searching")));
+    tableView_Printerlist->setEmptyText(localized("DWT_Localize_PrinterList_Searching"));
     reloadData();
     ndm_Object->printerList([this](const PrinterEntry &printer) {
         array_PrinterList << printer;
@@ -95,7 +96,7 @@ void PrinterList::DWT_UpdatePrinterList() {
     });
     m_showing.stop();
     tableView_Printerlist->setEmptyText(localized(
-        isWaitCancelled() ? QStringLiteral("DWT_Localize_PrinterList_Cancelled")
+        isWaitCancelled() ? u"DWT_Localize_PrinterList_Cancelled"_s
                           : keyOfEmptyList(Printers::problems(), ndm_Object->checkLunchedMode())));
     reloadData();
     showPart(textField_PrinterlistFilter, array_PrinterList.size() > printersAtAGlance ||
@@ -118,8 +119,7 @@ void PrinterList::showProblems() {
     QStringList lines;
     for (const PrinterProblem &problem : problems.first(std::min(shownProblems, problems.size())))
         lines << wordsOf(problem);
-    if (problems.size() > shownProblems)
-        lines << QStringLiteral("… (+%1)").arg(problems.size() - shownProblems);
+    if (problems.size() > shownProblems) lines << u"… (+%1)"_s.arg(problems.size() - shownProblems);
     textField_Problems->setText(lines.join(u'\n'));
     showPart(view_Problems, !lines.isEmpty());
 }
@@ -134,10 +134,6 @@ PrinterEntry PrinterList::selectedPrinter() const {
     return array_PrinterList.value(tableView_Printerlist->selectedRow());
 }
 
-int PrinterList::numberOfRowsInTableView(TableView *) {
-    return int(array_PrinterList.size());
-}
-
 QVariant PrinterList::objectValueForTableColumn(TableView *, const QString &column, int row) {
     if (row >= array_PrinterList.size()) return {};
     const PrinterEntry &entry = array_PrinterList[row];
@@ -146,8 +142,8 @@ QVariant PrinterList::objectValueForTableColumn(TableView *, const QString &colu
         return network ? entry.value(PrinterKey::BonjourServiceName)
                        : readableText(entry.value(PrinterKey::MachineName));
     if (column == _SERVICE_NAME_)
-        return localized(network ? QStringLiteral("DWT_Localize_PrinterList_BonjourService_Network")
-                                 : QStringLiteral("DWT_Localize_PrinterList_BonjourService_USB"));
+        return localized(network ? u"DWT_Localize_PrinterList_BonjourService_Network"_s
+                                 : u"DWT_Localize_PrinterList_BonjourService_USB"_s);
     return {};
 }
 
@@ -156,14 +152,13 @@ QString PrinterList::detailForTableColumn(TableView *, const QString &column, in
     const PrinterEntry entry = array_PrinterList.value(row);
     QStringList parts{entry.value(PrinterKey::ProductName), whereaboutsOf(entry)};
     parts.removeAll(QString());
-    return parts.join(QStringLiteral(" · "));
+    return parts.join(u" · "_s);
 }
 
 QIcon PrinterList::iconForTableColumn(TableView *, const QString &column, int row) {
     if (column != _SERVICE_NAME_) return {};
     const bool network = array_PrinterList.value(row).contains(PrinterKey::BonjourServiceName);
-    return QIcon(network ? QStringLiteral(":/pictures/network.svg")
-                         : QStringLiteral(":/pictures/usb.svg"));
+    return QIcon(network ? u":/pictures/network.svg"_s : u":/pictures/usb.svg"_s);
 }
 
 QString PrinterList::rowKeyInTableView(TableView *, int row) {
@@ -172,8 +167,4 @@ QString PrinterList::rowKeyInTableView(TableView *, int row) {
 
 void PrinterList::tableViewSelectionDidChange(TableView *table) {
     button_PrinterlistOK->setEnabled(table->selectedRow() >= 0);
-}
-
-void PrinterList::DWT_DoubleAction(int clickedRow) {
-    if (clickedRow >= 0) Q_EMIT chosen();
 }

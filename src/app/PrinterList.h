@@ -33,7 +33,7 @@ class PrinterList : public QWidget,
     // The selected printer; an empty entry when none is selected.
     PrinterEntry selectedPrinter() const;
 
-    int numberOfRowsInTableView(TableView *table) override;
+    int numberOfRowsInTableView(TableView *table) override { return int(array_PrinterList.size()); }
     QVariant objectValueForTableColumn(TableView *table, const QString &column, int row) override;
     QString detailForTableColumn(TableView *table, const QString &column, int row) override;
     QIcon iconForTableColumn(TableView *table, const QString &column, int row) override;
@@ -48,7 +48,9 @@ class PrinterList : public QWidget,
 
   private:
     void DWT_UpdatePrinterList();
-    void DWT_DoubleAction(int clickedRow);
+    void DWT_DoubleAction(int clickedRow) {
+        if (clickedRow >= 0) Q_EMIT chosen();
+    }
     // Says below the list why printers may be missing.
     void showProblems();
     // Shows or hides a part of the view; the window grows by one that appears.

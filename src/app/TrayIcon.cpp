@@ -31,13 +31,11 @@ void TrayIcon::follow() {
 
 void TrayIcon::make() {
     m_menu = std::make_unique<QMenu>();
-    m_menu->addAction(localized(QStringLiteral("DWT_Localize_Tray_Show")), this,
-                      &TrayIcon::windowsWanted);
+    m_menu->addAction(localized("DWT_Localize_Tray_Show"), this, &TrayIcon::windowsWanted);
     m_menu->addSeparator();
-    m_menu->addAction(localized(QStringLiteral("DWT_Localize_Menu_Quit")), this,
-                      &TrayIcon::quitWanted);
+    m_menu->addAction(localized("DWT_Localize_Menu_Quit"), this, &TrayIcon::quitWanted);
     m_icon = new QSystemTrayIcon(QApplication::windowIcon(), this);
-    m_icon->setToolTip(localized(QStringLiteral("DWT_Localize_App_Name")));
+    m_icon->setToolTip(localized("DWT_Localize_App_Name"));
     m_icon->setContextMenu(m_menu.get());
     connect(m_icon, &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {

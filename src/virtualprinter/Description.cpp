@@ -7,6 +7,8 @@
 #include <cerrno>
 #include <system_error>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 DescriptionText failure() {
@@ -25,7 +27,7 @@ DescriptionText readDescription(const QString &path) {
     const QByteArray name = QFile::encodeName(path);
     struct stat about {};
     if (::stat(name.constData(), &about) != 0) return failure();
-    if (!S_ISREG(about.st_mode)) return {{}, QStringLiteral("not a regular file")};
+    if (!S_ISREG(about.st_mode)) return {{}, u"not a regular file"_s};
     // Should a pipe have taken its place meanwhile, it is not waited for either.
     const int descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (descriptor < 0) return failure();
@@ -34,7 +36,7 @@ DescriptionText readDescription(const QString &path) {
         return {{}, file.errorString()};
     const QByteArray bytes = file.read(longestDescription + 1);
     if (bytes.size() > longestDescription)
-        return {{}, QStringLiteral("larger than %1 MiB").arg(longestDescription >> 20)};
+        return {{}, u"larger than %1 MiB"_s.arg(longestDescription >> 20)};
     return {bytes, {}};
 }
 
@@ -45,7 +47,7 @@ QString quotable(const QString &text) {
         if (isPrintable(character))
             quote += QString::fromUcs4(&character, 1);
         else
-            quote += QStringLiteral("\\u%1").arg(uint{character}, 4, 16, QChar(u'0'));
+            quote += u"\\u%1"_s.arg(uint{character}, 4, 16, QChar(u'0'));
     if (text.size() > longestQuote) quote += u'…';
     return quote;
 }

@@ -27,7 +27,6 @@ class VirtualPrinter {
         enum Direction { Received, Sent };
         Direction direction;
         QByteArray bytes;
-        bool operator==(const LoggedFrame &) const = default;
     };
 
     struct Reply {

@@ -13,9 +13,10 @@
 
 #include "virtualprinter/DelayedActions.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr int lookInterval = 50;        // ms
 constexpr std::size_t readArea = 4096;  // bytes
 
 // One host's connection: carries bytes between the open device and its channel. It ends itself.
@@ -35,9 +36,8 @@ class Connection : public QObject {
         m_writable.setEnabled(false);
         connect(&m_readable, &QSocketNotifier::activated, this, [this] { read(); });
         connect(&m_writable, &QSocketNotifier::activated, this, [this] { write(); });
-        // A gadget may wake its reader for a host that goes right before it can tell so.
         connect(&m_look, &QTimer::timeout, this, [this] { read(); });
-        m_look.start(lookInterval);
+        m_look.start(VirtualPrinterDevice::lookInterval);
     }
     ~Connection() override {
         if (m_descriptor >= 0) ::close(m_descriptor);
@@ -120,11 +120,7 @@ bool VirtualPrinterDevice::open() {
         return true;
     }
     ::close(descriptor);
-    if (!isDevice) m_error = QStringLiteral("not a character device");
+    if (!isDevice) m_error = u"not a character device"_s;
     if (isDevice) m_reopen.start(reopenInterval);
     return isDevice;
-}
-
-QString VirtualPrinterDevice::errorString() const {
-    return m_error;
 }

@@ -13,13 +13,16 @@
 class VirtualPrinterDevice : public QObject {
   public:
     static constexpr int reopenInterval = 100;  // ms
+    // How often the device is read without being readable: a gadget may wake its reader for a host
+    // that goes right before it can report that.
+    static constexpr int lookInterval = 50;  // ms
 
     VirtualPrinterDevice(std::shared_ptr<VirtualPrinter> printer, const QString &path,
                          QObject *parent = nullptr);
 
     // Opens and serves the device. False, with an errorString(), when that fails.
     bool open();
-    QString errorString() const;
+    QString errorString() const { return m_error; }
 
   private:
     const std::shared_ptr<VirtualPrinter> m_printer;

@@ -17,10 +17,6 @@ Listing CatalogueSource::list() {
     return listing;
 }
 
-bool CatalogueSource::lists(const QString &uri) {
-    return m_listed.contains(uri);
-}
-
 Opened CatalogueSource::open(const QString &uri, const QDeadlineTimer &deadline) {
     if (!lists(uri)) return {};
     const QUrl url(uri);

@@ -13,7 +13,7 @@ class CatalogueSource : public PrinterSource {
     explicit CatalogueSource(Catalogue catalogue);
 
     Listing list() override;
-    bool lists(const QString &uri) override;
+    bool lists(const QString &uri) override { return m_listed.contains(uri); }
     Opened open(const QString &uri, const QDeadlineTimer &deadline) override;
     // Asks another machine only for its own address, since silence costs time.
     QStringList mayHave(const QString &address) override;

@@ -7,9 +7,6 @@
 
 namespace {
 
-// How long a printer that closes instead of taking settings is given to be noticed.
-constexpr std::chrono::milliseconds closingNotice{2};
-
 // The requests for the addresses in use: items 0x2002 (wired) and 0x3119 (wireless).
 const std::array addressRequests{QByteArray::fromHex("1b7b05660220887d"),
                                  QByteArray::fromHex("1b7b05661931b07d")};

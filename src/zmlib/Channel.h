@@ -4,6 +4,7 @@
 #include <QDeadlineTimer>
 #include <QSet>
 #include <QStringList>
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -15,6 +16,10 @@
 // after ZMLib::Closed the channel is of no use.
 class Channel {
   public:
+    // How long finish() looks whether the printer has closed instead of taking settings: the end of
+    // a connection arrives right behind the last reply.
+    static constexpr std::chrono::milliseconds closingNotice{2};
+
     explicit Channel(std::unique_ptr<Transport> transport);
 
     // Writes a frame that has no answer.

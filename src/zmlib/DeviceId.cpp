@@ -2,9 +2,9 @@
 
 #include <QList>
 
-Model modelOfDeviceId(const QByteArray &id) {
+Model modelOf(const QByteArray &deviceId, const QString &manufacturer, const QString &product) {
     Model model;
-    for (const QByteArray &field : id.split(';')) {
+    for (const QByteArray &field : deviceId.split(';')) {
         const qsizetype colon = field.indexOf(':');
         const QByteArray key = field.left(colon).trimmed().toUpper();
         const QString value = QString::fromUtf8(field.mid(colon + 1)).simplified();
@@ -12,11 +12,6 @@ Model modelOfDeviceId(const QByteArray &id) {
         if (model.maker.isEmpty() && (key == "MFG" || key == "MANUFACTURER")) model.maker = value;
         if (model.name.isEmpty() && (key == "MDL" || key == "MODEL")) model.name = value;
     }
-    return model;
-}
-
-Model modelOf(const QByteArray &deviceId, const QString &manufacturer, const QString &product) {
-    Model model = modelOfDeviceId(deviceId);
     if (!model.maker.isEmpty() && !model.name.isEmpty()) return model;
     return {manufacturer.simplified(), product.simplified()};
 }

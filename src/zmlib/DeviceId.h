@@ -10,14 +10,10 @@
 struct Model {
     QString maker;
     QString name;
-    bool operator==(const Model &) const = default;
 };
 
-// Maker and model of an IEEE 1284 device id, "MFG:Larkfield;MDL:L200;" or in the long forms
-// MANUFACTURER and MODEL; the first of a name counts. Takes any bytes.
-Model modelOfDeviceId(const QByteArray &id);
-
-// The product name: of the device id, otherwise of the USB strings.
+// The product name of a USB printer: of its IEEE 1284 device id, "MFG:Larkfield;MDL:L200;" or with
+// MANUFACTURER and MODEL, of which the first counts; otherwise of its USB strings. Takes any bytes.
 Model modelOf(const QByteArray &deviceId, const QString &manufacturer, const QString &product);
 
 // Maker and model as one name, as in the table of models; a doubled maker is left out.

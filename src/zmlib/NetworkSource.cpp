@@ -1,16 +1,7 @@
 #include "zmlib/NetworkSource.h"
 
-#include "platform/core/Waiting.h"
-
-namespace {
-
-constexpr int partOfTheTime = 2;  // that finding out where a printer is may take of an opening
-
-}  // namespace
-
 Listing NetworkSource::list() {
-    waitUntil([this] { return m_browser.isSettled(); }, m_firstLook,
-              [this](std::chrono::milliseconds slice) { m_browser.wait(slice); });
+    m_browser.settle(m_firstLook);
     Listing listing = announced();
     const std::lock_guard lock(m_mutex);
     m_listed = listing;
@@ -24,12 +15,8 @@ bool NetworkSource::hasChanged() {
     return listing != m_listed;
 }
 
-bool NetworkSource::lists(const QString &uri) {
-    return m_browser.isAnnounced(uri);
-}
-
 Opened NetworkSource::open(const QString &uri, const QDeadlineTimer &deadline) {
-    const QDeadlineTimer asking(deadline.remainingTimeAsDuration() / partOfTheTime);
+    const QDeadlineTimer asking(deadline.remainingTimeAsDuration() / resolvingShare);
     return {openTcpTransport(m_browser.resolve(uri, asking), deadline)};
 }
 

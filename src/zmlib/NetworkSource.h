@@ -8,12 +8,15 @@
 // The printers that announce themselves on the network.
 class NetworkSource : public PrinterSource {
   public:
+    // The part of an opening's time after which an address is needed: the rest is for connecting.
+    static constexpr int resolvingShare = 2;
+
     explicit NetworkSource(const BrowsingLimits &limits = {})
         : m_browser(limits), m_firstLook(limits.firstLook) {}
 
     Listing list() override;
     bool hasChanged() override;
-    bool lists(const QString &uri) override;
+    bool lists(const QString &uri) override { return m_browser.isAnnounced(uri); }
     Opened open(const QString &uri, const QDeadlineTimer &deadline) override;
     bool isOnThisNetwork() const override { return true; }
     std::optional<QList<QHostAddress>> addressesOf(const QString &uri,

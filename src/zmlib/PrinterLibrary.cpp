@@ -7,6 +7,8 @@
 
 #include "platform/core/Waiting.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Positions in a command list.
@@ -167,7 +169,7 @@ void PrinterLibrary::noteOpened(const QString &uri, int result) {
     QString name = uri;
     for (const PrinterEntry &entry : std::as_const(m_listing.entries))
         if (entry[PrinterKey::DeviceURI] == uri)
-            name = QStringLiteral("%1 (%2)").arg(
+            name = u"%1 (%2)"_s.arg(
                 entry[PrinterKey::ProductName],
                 entry.value(PrinterKey::SerialNumber, entry.value(PrinterKey::Port)));
     const auto kind = result == InUse ? PrinterProblem::InUse : PrinterProblem::NoPermission;

@@ -216,19 +216,13 @@ ServiceBrowser::ServiceBrowser(const BrowsingLimits &limits)
 
 ServiceBrowser::~ServiceBrowser() = default;
 
-bool ServiceBrowser::isSettled() const {
-    const std::lock_guard lock(m_mutex);
-    return m_isMissing || (m_isAllForNow && m_table.isSettled());
+void ServiceBrowser::settle(const QDeadlineTimer &deadline) const {
+    waitFor([this] { return m_isMissing || (m_isAllForNow && m_table.isSettled()); }, deadline);
 }
 
 bool ServiceBrowser::isMissing() const {
     const std::lock_guard lock(m_mutex);
     return m_isMissing;
-}
-
-void ServiceBrowser::wait(std::chrono::milliseconds slice) const {
-    std::unique_lock lock(m_mutex);
-    m_news.wait_for(lock, slice);
 }
 
 QList<AnnouncedPrinter> ServiceBrowser::printers() const {
@@ -257,12 +251,23 @@ QList<Endpoint> ServiceBrowser::resolve(const QString &uri, const QDeadlineTimer
     QList<Endpoint> found;
     std::optional<QDeadlineTimer> more;
     const auto isEnough = [&] {
-        const std::lock_guard lock(m_mutex);
         bool areAll = false;
         found = m_table.answersSince(uri, asked, areAll);
         if (!found.isEmpty() && !more) more.emplace(m_limits.moreAnswers);
         return areAll || (more && more->hasExpired());
     };
-    waitUntil(isEnough, deadline, [this](std::chrono::milliseconds slice) { wait(slice); });
+    waitFor(isEnough, deadline);
     return found;
+}
+
+void ServiceBrowser::waitFor(const std::function<bool()> &isDone,
+                             const QDeadlineTimer &deadline) const {
+    const auto isDoneNow = [&] {
+        const std::lock_guard lock(m_mutex);
+        return isDone();
+    };
+    waitUntil(isDoneNow, deadline, [this](std::chrono::milliseconds slice) {
+        std::unique_lock lock(m_mutex);
+        m_news.wait_for(lock, slice);
+    });
 }

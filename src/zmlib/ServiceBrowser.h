@@ -3,8 +3,8 @@
 #include <QDeadlineTimer>
 #include <QList>
 #include <QString>
-#include <chrono>
 #include <condition_variable>
+#include <functional>
 #include <memory>
 #include <mutex>
 
@@ -12,8 +12,8 @@
 
 // The printers that announce themselves on the network with DNS-SD (RFC 6763) as
 // "_pdl-datastream._tcp": the conversation with the system's own service (avahi), which keeps the
-// table of them current on a thread of its own. Callable from several threads; nothing but
-// resolve() waits.
+// table of them current on a thread of its own. Callable from several threads; only settle()
+// and resolve() wait.
 class ServiceBrowser {
   public:
     // The browser starts at once.
@@ -22,12 +22,10 @@ class ServiceBrowser {
     ServiceBrowser(const ServiceBrowser &) = delete;
     ServiceBrowser &operator=(const ServiceBrowser &) = delete;
 
-    // Whether what is announced for now is known, or that the system has no such service.
-    bool isSettled() const;
+    // Waits until what is announced for now is known, or that the system has no such service.
+    void settle(const QDeadlineTimer &deadline) const;
     // Whether the system's service is known not to run.
     bool isMissing() const;
-    // Waits for at most `slice` until one of the answers may have changed.
-    void wait(std::chrono::milliseconds slice) const;
 
     // The printers that are announced and located now, by name, each once.
     QList<AnnouncedPrinter> printers() const;
@@ -42,6 +40,8 @@ class ServiceBrowser {
 
   private:
     class Worker;
+    // Waits until `isDone` says so, which is called under m_mutex.
+    void waitFor(const std::function<bool()> &isDone, const QDeadlineTimer &deadline) const;
 
     const BrowsingLimits m_limits;
     mutable std::mutex m_mutex;  // guards what follows; never held while avahi is called

@@ -2,14 +2,16 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString uriOf(const QByteArray &name, const QByteArray &domain) {
     const auto encoded = [](const QByteArray &text) {
         return QString::fromLatin1(text.toPercentEncoding());
     };
-    return QStringLiteral("dnssd:///%1?type=%2&domain=%3")
-        .arg(encoded(name), QLatin1String(announcedType), encoded(domain));
+    return u"dnssd:///%1?type=%2&domain=%3"_s.arg(encoded(name), QLatin1String(announcedType),
+                                                  encoded(domain));
 }
 
 // Adds an endpoint once, behind those that are as good or better.

@@ -16,7 +16,6 @@ namespace {
 constexpr quint8 printerSubclass = 1;
 constexpr quint8 bothWays = 2;  // the protocol
 constexpr int packetSizeMask = 0x7FF;
-constexpr qint64 longestAttribute = qint64{64} * 1024;  // bytes
 
 // What the kernel tells anyone of a device or an interface.
 QByteArray attribute(const QString &node, const char *name) {

@@ -10,6 +10,9 @@
 
 // The printers on the USB, found without opening a device and so without any permission.
 
+// Longest attribute of a device that is read, in bytes: a device id has a length of 16 bits.
+inline constexpr qint64 longestAttribute = qint64{64} * 1024;
+
 // A printer interface: class 7, subclass 1, protocol 2 (both ways), with a bulk endpoint each way.
 struct UsbPrinter {
     std::shared_ptr<libusb_device> device;

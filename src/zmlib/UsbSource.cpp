@@ -17,10 +17,6 @@ bool UsbSource::hasChanged() {
     return plugged != m_listed;
 }
 
-bool UsbSource::lists(const QString &uri) {
-    return find(uri).has_value();
-}
-
 Opened UsbSource::open(const QString &uri, const QDeadlineTimer &deadline) {
     const auto printer = find(uri);
     if (!printer) return {};

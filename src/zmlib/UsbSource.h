@@ -13,7 +13,7 @@ class UsbSource : public PrinterSource {
   public:
     Listing list() override;
     bool hasChanged() override;
-    bool lists(const QString &uri) override;
+    bool lists(const QString &uri) override { return find(uri).has_value(); }
     Opened open(const QString &uri, const QDeadlineTimer &deadline) override;
     bool isOnThisNetwork() const override { return true; }
 

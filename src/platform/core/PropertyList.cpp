@@ -9,6 +9,8 @@
 #include <memory>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString &administrator() {
@@ -83,9 +85,8 @@ std::optional<QVariantMap> read(const QString &path) {
 
 QVariantMap PropertyList::dictionary(const QString &name, const QString &type) {
     QVariantMap list;
-    for (const QString &folder : {QStringLiteral(":/plists"), administrator()})
-        list.insert(
-            read(QStringLiteral("%1/%2.%3").arg(folder, name, type)).value_or(QVariantMap()));
+    for (const QString &folder : {u":/plists"_s, administrator()})
+        list.insert(read(u"%1/%2.%3"_s.arg(folder, name, type)).value_or(QVariantMap()));
     return list;
 }
 
@@ -95,8 +96,7 @@ QStringList PropertyList::unusable() {
         return {administrator()};
     QStringList files;
     for (const QFileInfo &file :
-         QDir(administrator())
-             .entryInfoList({QStringLiteral("*.plist")}, QDir::AllEntries | QDir::System))
+         QDir(administrator()).entryInfoList({u"*.plist"_s}, QDir::AllEntries | QDir::System))
         if (!read(file.filePath())) files << file.filePath();
     return files;
 }

@@ -6,6 +6,8 @@
 #include <QRegularExpression>
 #include <QTranslator>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isLineSeparator(QChar c) {
@@ -26,12 +28,12 @@ QString localized(const QString &key) {
 }
 
 QString withoutMnemonic(QString text) {
-    static const QRegularExpression mark(QStringLiteral("\\(&.\\)|&"));
+    static const QRegularExpression mark(u"\\(&.\\)|&"_s);
     return text.remove(mark);
 }
 
 QString nameInLabel(const QString &label) {
-    static const QRegularExpression end(QStringLiteral("[\\s:：]+$"));
+    static const QRegularExpression end(u"[\\s:：]+$"_s);
     return withoutMnemonic(label).remove(end);
 }
 
@@ -51,7 +53,7 @@ QString terminalText(const QString &text) {
     QString escaped;
     for (const QChar c : text) {
         if (c.category() == QChar::Other_Control || isLineSeparator(c) || isDirection(c))
-            escaped += QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
+            escaped += u"\\x%1"_s.arg(c.unicode(), 2, 16, QLatin1Char('0'));
         else
             escaped += c;
     }
@@ -61,13 +63,12 @@ QString terminalText(const QString &text) {
 bool installTexts() {
     // Qt's own texts, such as the context menus of fields; English without them.
     auto *const standard = new QTranslator(QCoreApplication::instance());
-    if (standard->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
+    if (standard->load(QLocale(), u"qtbase"_s, u"_"_s,
                        QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(standard);
     auto *const texts = new QTranslator(QCoreApplication::instance());
-    const QString name = QStringLiteral("network-setting-tool");
-    const QString folder = QStringLiteral(":/texts");
-    return (texts->load(QLocale(), name, QStringLiteral("_"), folder) ||
-            texts->load(name + QStringLiteral("_en"), folder)) &&
+    const QString name = u"network-setting-tool"_s;
+    const QString folder = u":/texts"_s;
+    return (texts->load(QLocale(), name, u"_"_s, folder) || texts->load(name + u"_en"_s, folder)) &&
            QCoreApplication::installTranslator(texts);
 }

@@ -11,6 +11,8 @@
 #include "platform/ui/OutlinedStyle.h"
 #include "platform/ui/SingleInstance.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Brings the modal window to the front that waits for an answer; false when there is none.
@@ -25,10 +27,10 @@ bool showModalWindow() {
 }  // namespace
 
 Application::Application(int &argc, char **argv) : QApplication(argc, argv) {
-    setApplicationName(QStringLiteral("network-setting-tool"));
+    setApplicationName(u"network-setting-tool"_s);
     setDesktopFileName(applicationName());
     setQuitOnLastWindowClosed(false);
-    if (style()->name() == QStringLiteral("fusion")) setStyle(new OutlinedStyle);
+    if (style()->name() == u"fusion"_s) setStyle(new OutlinedStyle);
     const auto askAtSessionEnd = [this](QSessionManager &session) {
         if (session.allowsInteraction() && !mayTerminate()) session.cancel();
     };
@@ -41,7 +43,7 @@ int Application::main(int argc, char **argv, const MakeDelegate &makeDelegate) {
     installTexts();
     if (!instance.isFirst()) {
         if (instance.isAnswered()) return 0;
-        const QString hangs = localized(QStringLiteral("DWT_Localize_App_Hangs"));
+        const QString hangs = localized("DWT_Localize_App_Hangs");
         std::fprintf(stderr, "%s\n", qUtf8Printable(hangs));
         return 1;
     }

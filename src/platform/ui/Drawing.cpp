@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QImageReader>
 
+using namespace Qt::StringLiterals;
+
 Drawing::Drawing(QWidget *parent) : QLabel(parent) {
     setAlignment(Qt::AlignCenter);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
@@ -19,7 +21,7 @@ bool Drawing::event(QEvent *event) {
 }
 
 void Drawing::draw() {
-    QFile file(QStringLiteral(":/pictures/%1.svg").arg(m_picture));
+    QFile file(u":/pictures/%1.svg"_s.arg(m_picture));
     if (!file.open(QIODevice::ReadOnly)) return;
     QByteArray svg = file.readAll();
     for (const auto &[inFile, role] :

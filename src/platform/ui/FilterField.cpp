@@ -23,8 +23,7 @@ void FilterField::setTable(TableView *table) {
 // Only then, since Qt looks through the icon themes for the picture of the button.
 void FilterField::showEvent(QShowEvent *event) {
     setClearButtonEnabled(true);
-    findChild<QToolButton *>()->setAccessibleName(
-        localized(QStringLiteral("DWT_Localize_Field_Clear")));
+    findChild<QToolButton *>()->setAccessibleName(localized("DWT_Localize_Field_Clear"));
     QLineEdit::showEvent(event);
 }
 

@@ -5,6 +5,8 @@
 
 #include "platform/ui/Colours.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Backgrounds below this lightness (0..255) count as dark.
@@ -12,7 +14,7 @@ constexpr int darkest = 100;
 
 }  // namespace
 
-OutlinedStyle::OutlinedStyle() : QProxyStyle(QStringLiteral("fusion")) {}
+OutlinedStyle::OutlinedStyle() : QProxyStyle(u"fusion"_s) {}
 
 void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                                   QPainter *painter, const QWidget *widget) const {

@@ -36,7 +36,3 @@ bool RadioGroup::event(QEvent *event) {
                     Qt::UniqueConnection);
     return QWidget::event(event);
 }
-
-void RadioGroup::cellClicked() {
-    Q_EMIT selected(selectedTag());
-}

@@ -28,5 +28,5 @@ class RadioGroup : public QWidget {
 
   private:
     QList<QRadioButton *> cells() const { return findChildren<QRadioButton *>(); }
-    void cellClicked();
+    void cellClicked() { Q_EMIT selected(selectedTag()); }
 };

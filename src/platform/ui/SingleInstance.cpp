@@ -5,6 +5,8 @@
 #include <QLocalSocket>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Between two tries, in milliseconds.
@@ -17,9 +19,9 @@ QString pathOf(const QString &suffix) {
 
 }  // namespace
 
-SingleInstance::SingleInstance(int longestAnswer) : m_lock(pathOf(QStringLiteral(".lock"))) {
+SingleInstance::SingleInstance(int longestAnswer) : m_lock(pathOf(u".lock"_s)) {
     m_lock.setStaleLockTime(0);  // stale only when its process is gone
-    const QString socket = pathOf(QStringLiteral(".socket"));
+    const QString socket = pathOf(u".socket"_s);
     // The first process may be starting (no socket yet) or ending (no lock any more).
     const QDeadlineTimer deadline(longestAnswer);
     while (!m_lock.tryLock(retryPause) && m_lock.error() == QLockFile::LockFailedError) {

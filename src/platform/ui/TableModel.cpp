@@ -52,8 +52,7 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
     if (role == Qt::DisplayRole) return m_titles.value(section);
     if (role != Qt::ToolTipRole) return {};
     const QKeySequence keys(TableView::sortKeyOfColumn(section));
-    return localized(QStringLiteral("DWT_Localize_Table_Sort"))
-        .arg(keys.toString(QKeySequence::NativeText));
+    return localized("DWT_Localize_Table_Sort").arg(keys.toString(QKeySequence::NativeText));
 }
 
 void TableModel::addColumn(const QString &identifier) {

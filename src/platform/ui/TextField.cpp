@@ -11,6 +11,8 @@
 #include "platform/core/NotificationCenter.h"
 #include "platform/ui/FieldLooks.h"
 
+using namespace Qt::StringLiterals;
+
 TextField::TextField(QWidget *parent) : QLineEdit(parent) {
     keepSelectionInMenus(this);
     // textEdited comes first, so that m_previous is still the old text when it is handled.
@@ -51,9 +53,7 @@ void TextField::setFault(const QString &why) {
 void TextField::textDidChange() {
     const QPointer<TextField> alive(this);
     if (m_delegate) m_delegate->controlTextDidChange(this);
-    if (alive)
-        NotificationCenter::shared().post(QStringLiteral("NSControlTextDidChangeNotification"),
-                                          this);
+    if (alive) NotificationCenter::shared().post(u"NSControlTextDidChangeNotification"_s, this);
 }
 
 void TextField::focusInEvent(QFocusEvent *event) {
