@@ -112,7 +112,7 @@ TEST_F(Selector, AnOpeningThatIsCancelledOrFailsComesBackToTheListAsItWas) {
         printer("packing-desk").setFaults(faults);
         EXPECT_FALSE(walk.open(text("Packing-Desk")));
         EXPECT_TRUE(isListed() && !walk.main()->isVisible());
-        EXPECT_EQ(window()->focusWidget(), walk.list());
+        EXPECT_TRUE(QTest::qWaitFor([this] { return walk.list()->hasFocus(); }));
         EXPECT_EQ(walk.list()->selectedRow(), 0);
     };
     SimulatedFaults silent, gone;
