@@ -33,7 +33,7 @@ class PrinterList : public QWidget,
     // The selected printer; an empty entry when none is selected.
     PrinterEntry selectedPrinter() const;
 
-    int numberOfRowsInTableView(TableView *table) override { return int(array_PrinterList.size()); }
+    int numberOfRowsInTableView(TableView *) override { return int(array_PrinterList.size()); }
     QVariant objectValueForTableColumn(TableView *table, const QString &column, int row) override;
     QString detailForTableColumn(TableView *table, const QString &column, int row) override;
     QIcon iconForTableColumn(TableView *table, const QString &column, int row) override;
