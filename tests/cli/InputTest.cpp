@@ -6,18 +6,12 @@
 
 #include "cli/SettingsFile.h"
 #include "cli/Table.h"
-#include "platform/core/Texts.h"
 #include "settings/SettingKeys.h"
 #include "support/DataManagers.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-class Input : public testing::Test {
-  protected:
-    static void SetUpTestSuite() { installTexts(); }
-};
 
 // Values and faults as lines of text: "wired.address.ip=10.0.0.1", "3 names.printer!" for a broken
 // rule, "3 names.printer" for any other fault.
@@ -51,7 +45,7 @@ std::string ofCsv(const QByteArray &csv) {
 
 }  // namespace
 
-TEST_F(Input, OfSettingsInJson) {
+TEST(Input, OfSettingsInJson) {
     const std::pair<QByteArray, const char *> rows[] = {
         {R"({"names": {"printer": "A-1", "bonjour": null}, "device": {"timeout": 30}})",
          "names.printer='A-1' | device.timeout=30"},
@@ -93,7 +87,7 @@ TEST_F(Input, OfSettingsInJson) {
     for (const auto &[json, expected] : rows) EXPECT_EQ(ofJson(json), expected) << json.constData();
 }
 
-TEST_F(Input, OfSecretsInFiles) {
+TEST(Input, OfSecretsInFiles) {
     const QTemporaryDir folder;
     const auto write = [&](const QString &name, const QByteArray &bytes) {
         QFile file(folder.filePath(name));
@@ -113,7 +107,7 @@ TEST_F(Input, OfSecretsInFiles) {
               "3 password.administrator");
 }
 
-TEST_F(Input, OfTables) {
+TEST(Input, OfTables) {
     const std::pair<QByteArray, const char *> rows[] = {
         {"mac,serial,name,names.printer\n02:00:00:00:00:0a,S1,,A\n,S2,N2,B\n,,\"N\"\"3\",\n",
          "2 02:00:00:00:00:0A: names.printer='A' / 3 S2: names.printer='B' / 4 N\"3: "},
@@ -143,7 +137,7 @@ TEST_F(Input, OfTables) {
     for (const auto &[csv, expected] : rows) EXPECT_EQ(ofCsv(csv), expected) << csv.constData();
 }
 
-TEST_F(Input, AgainstWhatAPrinterHolds) {
+TEST(Input, AgainstWhatAPrinterHolds) {
     const auto category = [](const QString &viewKey, const CategoryDictionary &values) {
         return SettingRecord{{viewKey, values}};
     };
