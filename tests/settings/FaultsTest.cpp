@@ -1,16 +1,13 @@
+#include "ItemRows.h"
 #include "platform/core/NotificationCenter.h"
-#include "support/DataManagers.h"
 
-// Everything that can go wrong with one reply, in every step of a reading and of a send. A printer
-// inside the process answers within the request, so that a short wait is enough on any machine.
+// Everything that can go wrong with one reply, in every step of a reading and of a send.
 
 namespace {
 
 using Login = Ending::Login;
 using State = Ending::State;
 using namespace Qt::StringLiterals;
-
-constexpr int wait = 2;  // ms
 
 enum class Effect { None, Silent, Foreign, Closed, ClosedAfter, Refused };
 struct Fault {
@@ -32,7 +29,7 @@ class Faults : public testing::Test, protected ServedManager {
     Faults()
         : ServedManager(R"({"password": "abcd1234", "scanPolls": 0, "networks": [{"ssid": "N"}],
                             "items": {"0x3103": 3, "0x3104": "Net"}})",
-                        OnePrinterLibrary::Transport::Virtual, wait) {
+                        OnePrinterLibrary::Transport::Virtual) {
         stop = NotificationCenter::shared().observe(
             DWT_DataSend_Stop_Message,
             [this](const Notification &n) {
@@ -48,7 +45,7 @@ class Faults : public testing::Test, protected ServedManager {
     // Logs in and sends, with a fault in the send.
     void sendWith(const QByteArray &item, const Fault *fault) {
         ASSERT_EQ(manager->connectPrinter(), 0);
-        ASSERT_EQ(manager->checkLoginPassword(enteredPassword).kind, WriteResult::Accepted);
+        ASSERT_EQ(manager->checkLoginPassword(u"abcd1234"_s).kind, WriteResult::Accepted);
         manager->disconnectPrinter();
         setFault(item, fault);
         stopped = -1;
@@ -85,7 +82,7 @@ TEST_F(Faults, OfOneReplyInASendNeverMakeTheSavedDataLie) {
         const QByteArray step = "0x" + QByteArray::number(code, 16);
         for (const Fault &fault : faults) {
             SCOPED_TRACE((step + ' ' + fault.description).constData());
-            changeAll(++round, code == 0x3106 ? 1 : 3);
+            changeAll(*this, ++round, code == 0x3106 ? 1 : 3);
             sendWith(step, &fault);
             const Ending ending = manager->ending();
             const Effect effect = fault.effect;
@@ -114,10 +111,9 @@ TEST_F(Faults, OfOneReplyInASendNeverMakeTheSavedDataLie) {
 
 TEST_F(Faults, OfOneReplyInAReadingWriteNothingThatWasNotTold) {
     ASSERT_EQ(manager->setupDataFromPrinter(0), 0);
-    const ItemCode steps[] = {0x1006, 0x1004, 0x1005, 0x3000, 0x3100, 0x3200, 0x3108, 0x3119,
-                              0x3101, 0x3102, 0x3103, 0x3104, 0x3204, 0x3205, 0x3210, 0x3211,
-                              0x3212, 0x3201, 0x3202, 0x2001, 0x2002, 0x2000, 0x1008, 0x1007};
-    for (const ItemCode code : steps) {
+    for (const ItemRow &row : itemRows()) {
+        if (row.reply.isNull()) continue;
+        const ItemCode code = row.code;
         const QByteArray step = "0x" + QByteArray::number(code, 16);
         for (const Fault &fault : faults) {
             SCOPED_TRACE((step + ' ' + fault.description).constData());
@@ -165,7 +161,7 @@ TEST_F(Faults, OfTheConnectionInASearchOrALoginEndThemAtOnce) {
     }
     ASSERT_EQ(manager->connectPrinter(), 0);
     setFault("0x1001", &faults[7]);
-    EXPECT_EQ(manager->checkLoginPassword(enteredPassword).kind, WriteResult::NoReply);
+    EXPECT_EQ(manager->checkLoginPassword(u"abcd1234"_s).kind, WriteResult::NoReply);
     manager->disconnectPrinter();
     setFault({}, nullptr);
     sendWith({}, nullptr);
