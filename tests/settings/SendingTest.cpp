@@ -12,6 +12,8 @@ class Send : public EveryTransport {
   protected:
     void read(const QByteArray &profile) { read(printerOf(profile)); }
     void read(const std::shared_ptr<VirtualPrinter> &printer) {
+        observers.clear();
+        m.reset();
         m = std::make_unique<ServedManager>(printer, GetParam());
         ASSERT_EQ(m->manager->setupDataFromPrinter(0), 0);
         m->served.receivedUntilEnd();
@@ -36,26 +38,15 @@ class Send : public EveryTransport {
         m->sendAndWait();
         return m->served.receivedUntilEnd();
     }
-    // Sends; the data of the setting frames, which are in the order of a send.
+    // Sends; the data of the setting frames, by item.
     QMap<ItemCode, QByteArray> sentBytes() {
         steps.clear();
         m->sendAndWait();
         QMap<ItemCode, QByteArray> sent;
-        QString order = u"start"_s;
-        for (const auto &[direction, bytes] : m->printer().log()) {
-            if (direction != VirtualPrinter::LoggedFrame::Received || bytes[0] != 'C') continue;
-            const auto code = ItemCode(quint8(bytes[7]) << 8 | quint8(bytes[6]));
-            sent.insert(code, bytes.mid(9, bytes.size() - 11));
-            order += u" =%1"_s.arg(code, 4, 16);
-        }
-        EXPECT_EQ(m->served.receivedUntilEnd(), order + u" update end"_s);
-        order.remove(u" =1001"_s);
-        const QString turns =
-            u"start =1003 =1004 =1005 =1006 =2001 =3000 =3102 =3103 =3104 =3105 =3106 =3108 "
-            "=3201 =3202 =1007"_s;
-        for (const QString &item : turns.split(u' '))
-            if (order.startsWith(item)) order.remove(0, item.size() + 1);
-        EXPECT_EQ(order, QString()) << "sent out of its turn";
+        for (const auto &[direction, bytes] : m->printer().log())
+            if (direction == VirtualPrinter::LoggedFrame::Received && bytes[0] == 'C')
+                sent.insert(ItemCode(quint8(bytes[7]) << 8 | quint8(bytes[6])),
+                            bytes.mid(9, bytes.size() - 11));
         return sent;
     }
     void logIn() {
@@ -87,31 +78,26 @@ INSTANTIATE_TEST_SUITE_P(, Send, allTransports, nameOf);
 const QString everyStep =
     u"Start0 Progress16 Progress33 Progress50 Progress66 Progress85 Progress100 Stop0 "_s;
 
-TEST_P(Send, WritesEveryItemInOrderAndThePrinterHoldsWhatWasSent) {
-    read("{}");
-    for (const int encryption : {Encryption::TKIP, Encryption::WEP}) {
+TEST_P(Send, WritesEveryItemInOrderAndKeepsAllButSecrets) {
+    for (const auto &[encryption, unused] : {std::pair(2, 0x3106), std::pair(1, 0x3105)}) {
+        read("{}");
         changeAll(*m, 1, encryption);
         const QMap<ItemCode, QByteArray> sent = sentBytes();
+        EXPECT_EQ(m->served.receivedUntilEnd(),
+                  u"start =1003 =1004 =1005 =1006 =2001 =3000 =3102 =3103 =3104 =3105 =3106 =3108 "
+                  "=3201 =3202 =1007 update end"_s.remove(u" =%1"_s.arg(unused, 4, 16)));
         EXPECT_EQ(steps, everyStep);
         for (const ItemRow &row : itemRows()) {
-            const bool isUsed = row.code != (encryption == Encryption::WEP ? 0x3105 : 0x3106);
+            if (row.frame.isNull() || row.code == unused || row.code == 0x3103) continue;
+            EXPECT_EQ(sent.value(row.code), row.frame) << row.values;
             const Item &item = *itemOf(row.code);
-            if (row.code != 0x3103) {
-                EXPECT_EQ(sent.value(row.code), isUsed ? row.frame : QByteArray()) << row.values;
-            }
             const CategoryDictionary values = valuesOf(row);
-            for (auto i = values.begin(); i != values.end() && !row.frame.isNull(); ++i)
-                if (row.code != 0x3103) {
-                    EXPECT_EQ(m->manager->savedData()[item.viewKey].value(i.key()) == *i,
-                              !item.isSecret)
-                        << row.values << ": keys and passwords are not taken over, others are";
-                }
+            for (auto i = values.begin(); i != values.end(); ++i)
+                EXPECT_EQ(m->manager->savedData()[item.viewKey].value(i.key()) == *i,
+                          !item.isSecret)
+                    << row.values;
         }
         EXPECT_EQ(m->printer().password(), QByteArray("abcd1234"));
-        ASSERT_EQ(m->manager->connectPrinter(), 0);
-        EXPECT_EQ(m->manager->checkLoginPassword(u"abcd1234"_s).kind, WriteResult::Accepted);
-        m->manager->disconnectPrinter();
-        m->served.receivedUntilEnd();
     }
 }
 

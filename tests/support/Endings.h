@@ -7,139 +7,63 @@
 #include "settings/SettingKeys.h"
 #include "support/Profiles.h"
 
-// How changes of a printer end, whichever program makes them: a row a change.
+// How a change of a printer with the password "open123" ends, whichever program makes it.
 struct EndingCase {
-    QByteArray profile;
-    const char *wanted;         // settings in JSON, by their whole names
-    const char *ending;         // how far it came, then the wanted settings and those not verified
-    ExitCode code;              // of the command line
-    const char *said;           // among other words
-    const char *saved;          // the value of the wanted setting that the data manager then holds
-    QByteArray inSend = {};     // what goes wrong in the send, after the login
-    QByteArray afterSend = {};  // and when the printer is read again
-    QByteArray password = "open123";
-    bool isWritten = true;  // whether a setting frame reached the printer, beside the login
+    const char *wanted;  // "names.bonjour=desk"
+    const char *ending;  // how far it came, then the wanted settings and those not verified
+    ExitCode code;       // of the command line
+    const char *said;    // among other words
+    // What goes wrong in the send, when it is read again, and from the beginning.
+    QByteArray inSend = {}, afterSend = {}, faults = {};
+    const char *password = "open123";  // that is given
 };
 
 inline QList<EndingCase> endingCases() {
     using enum ExitCode;
-    const char *const name = R"({"names.bonjour": "desk"})";
-    const char *const password = R"({"password.administrator": "new-1"})";
-    const char *const noPassword = R"({"password.administrator": ""})";
-    const QByteArray open = R"({"items": {"0x1004": "old"}})",
-                     locked = R"({"password": "open123"})";
-    const QByteArray fault = R"({"items": {"%1": {%2}}})";
-    const auto faultOf = [&](const char *item, const char *what) {
-        return QByteArray(fault).replace("%1", item).replace("%2", what);
+    const char *const name = "names.bonjour=desk", *const key = "accessPoint.key=office-key";
+    const char *const set = "password.administrator=new-1", *const remove =
+                                                                "password.administrator=";
+    const char *const done = "and has the new settings", *const away = "cannot be reached";
+    const auto item = [](const char *code, const char *fault) {
+        return QByteArray(R"({"items": {"%1": {%2}}})").replace("%1", code).replace("%2", fault);
     };
-    const auto profileWith = [&](const char *item, const char *what) {
-        return R"({"password": "open123", "faults": )" + faultOf(item, what) + '}';
-    };
+    const auto silent = [&](const char *code) { return item(code, R"("noReply": true)"); };
+    const auto kept = [&](const char *code) { return item(code, R"("result": 0)"); };
+    const QByteArray gone = R"({"refuseConnection": true})";
+    const QByteArray neither = item("0x1004", R"("noReply": true, "result": 0)");
+    const QByteArray foreign = item("0x1004", R"("code": "0x7777")");
     return {
-        {open, name, "Sent: names.bonjour=Verified", Done, "and has the new settings", "'desk'"},
-        {open, name, "Sent: names.bonjour=Refused", NotAccepted, "did not accept", "'old'",
-         faultOf("0x1004", R"("result": 5)")},
-        {open, name, "Sent: names.bonjour=Differs", NotAccepted,
-         "sent as desk, and read back as old", "'old'", faultOf("0x1004", R"("result": 0)")},
-        // Without a reply, taken or not.
-        {open, name, "Sent: names.bonjour=Verified", Done, "and has the new settings", "'desk'",
-         faultOf("0x1004", R"("noReply": true)")},
-        {open, name, "Sent: names.bonjour=Differs", NotAccepted, "read back as old", "'old'",
-         faultOf("0x1004", R"("noReply": true, "result": 0)")},
-        {open, name, "Sent: names.bonjour=Unclear", NotAccepted, "not clear", "'old'",
-         faultOf("0x1004", R"("noReply": true)"), faultOf("0x1004", R"("code": "0x7777")")},
-        {open,
-         name,
-         "Sent, unread: names.bonjour=Accepted",
-         NotReached,
-         "not verified",
-         "'desk'",
-         {},
-         R"({"refuseConnection": true})"},
-        {open, name, "Lost:", NotReached, "Nothing was applied", "'old'",
-         faultOf("0x1007", R"("closeAfterReply": true)")},
-        {open,
-         name,
-         "NotReached:",
-         NotReached,
-         "cannot be reached",
-         "'old'",
-         R"({"refuseConnection": true})",
-         {},
-         {},
-         false},
-
-        {locked, password, "Sent: password.administrator=Verified", Done, "has the new settings",
-         "''"},
-        {locked, password, "Sent: password.administrator=Differs", NotAccepted, "not read back",
-         "''", faultOf("0x1003", R"("result": 0)")},
-        {locked,
-         password,
-         "Sent: password.administrator=Accepted",
-         Done,
-         "password.administrator",
-         "''",
-         {},
-         faultOf("0x1001", R"("noReply": true)")},
-        {locked, noPassword, "Sent: password.administrator=Verified", Done, "has the new settings",
-         "''"},
-        {locked, noPassword, "Sent: password.administrator=Differs", NotAccepted, "not read back",
-         "''", faultOf("0x1003", R"("result": 0)")},
-        {locked,
-         noPassword,
-         "Sent: password.administrator=Accepted",
-         Done,
-         "password.administrator",
-         "''",
-         {},
-         faultOf("0x1000", R"("noReply": true)")},
-
-        {profileWith("0x1000", R"("noReply": true)"),
-         name,
-         "Login NotReached:",
-         NotReached,
-         "cannot be reached",
-         "'label-printer'",
-         {},
-         {},
-         "open123",
-         false},
-        {profileWith("0x1001", R"("result": 4)"),
-         name,
+        {name, "Sent: names.bonjour=Verified", Done, done},
+        {name, "Sent: names.bonjour=Verified", Done, done, silent("0x1004")},
+        {name, "Sent: names.bonjour=Differs", NotAccepted, "read back as label-", kept("0x1004")},
+        {name, "Sent: names.bonjour=Differs", NotAccepted, "read back as label-", neither},
+        {name, "Sent: names.bonjour=Unclear", NotAccepted, "not clear", neither, foreign},
+        {name, "Sent: names.bonjour=Refused", NotAccepted, "not accept",
+         item("0x1004", R"("result": 5)")},
+        {name, "Sent, unread: names.bonjour=Accepted", NotReached, "not verified", {}, gone},
+        {name, "Lost:", NotReached, "was lost", item("0x1007", R"("closeAfterReply": true)")},
+        {name, "NotReached:", NotReached, away, gone},
+        {name, "Login NotReached:", NotReached, away, {}, {}, silent("0x1000")},
+        {name, "Login NoReply:", NotReached, away, {}, {}, silent("0x1001")},
+        {name, "Login Refused:", LoginRefused, "not accept the password", {}, {}, {}, "other"},
+        {name,
          "Login Refused:",
          LoginRefused,
-         "did not accept the password",
-         "'label-printer'",
+         "not accept the password",
          {},
          {},
-         "open123",
-         false},
-        {profileWith("0x1001", R"("noReply": true)"),
-         name,
-         "Login NoReply:",
-         NotReached,
-         "cannot be reached",
-         "'label-printer'",
-         {},
-         {},
-         "open123",
-         false},
-        {locked,
-         name,
-         "Login Missing:",
-         LoginRefused,
-         "none was given",
-         "'label-printer'",
-         {},
-         {},
-         {},
-         false},
-
-        // Keys: this one is never reported, the other is.
-        {open, R"({"wireless.key": "office-key"})", "Sent: wireless.key=Accepted", Done,
-         "wireless.key", "''"},
-        {open, R"({"accessPoint.key": "office-key"})", "Sent: accessPoint.key=Differs", NotAccepted,
-         "accessPoint.key was not read back", "'00000000'", faultOf("0x3202", R"("result": 0)")},
+         item("0x1001", R"("result": 4)")},
+        {name, "Login Missing:", LoginRefused, "none was given", {}, {}, {}, ""},
+        {set, "Sent: password.administrator=Verified", Done, done},
+        {set, "Sent: password.administrator=Differs", NotAccepted, "not read", kept("0x1003")},
+        {set, "Sent: password.administrator=Accepted", Done, "compared", {}, silent("0x1001")},
+        {remove, "Sent: password.administrator=Verified", Done, done},
+        {remove, "Sent: password.administrator=Differs", NotAccepted, "not read", kept("0x1003")},
+        {remove, "Sent: password.administrator=Accepted", Done, "compared", {}, silent("0x1000")},
+        {key, "Sent: accessPoint.key=Verified", Done, done},
+        {key, "Sent: accessPoint.key=Differs", NotAccepted, "not read back", kept("0x3202")},
+        // This key is never reported.
+        {"wireless.key=office-key", "Sent: wireless.key=Accepted", Done, "compared: wireless.key"},
     };
 }
 
@@ -150,6 +74,7 @@ inline auto faultsOfSend(VirtualPrinter &printer, const EndingCase &c) {
             printer.setFaults(faultsOf(faults.isEmpty() ? "{}" : faults));
         });
     };
+    if (!c.faults.isEmpty()) printer.setFaults(faultsOf(c.faults));
     return std::array{at(DWT_DataSend_Start_Message, c.inSend),
                       at(DWT_DataSend_Stop_Message, c.afterSend)};
 }
