@@ -15,7 +15,9 @@ QList<WantedValue> valuesOf(const char *written) {
     QList<WantedValue> values;
     for (const QString &part : QString::fromUtf8(written).split(u'|')) {
         const Setting *const setting = settingOf(part.section(u'=', 0, 0));
-        const Parsed parsed = parsedText(*setting, part.section(u'=', 1));
+        const QString text = part.section(u'=', 1);
+        const bool isRead = setting->access() == Setting::Access::Read;  // here an address
+        const Parsed parsed = isRead ? Parsed{address(text), {}} : parsedText(*setting, text);
         values << WantedValue{setting, *parsed.value, {.name = setting->name}, parsed.fault};
     }
     return values;

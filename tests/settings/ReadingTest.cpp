@@ -68,8 +68,6 @@ TEST(ReadingFaults, AForeignReplyLeavesOneDefaultAndEndsItsCategory) {
         const char *values;
     } cases[] = {{"0x3108", DWT_View_Key_Infrastructure, ""},
                  {"0x2001", DWT_View_Key_Ethernet, "Ethernet_MACAddress='02004C00010C'"},
-                 {"0x1005", DWT_View_Key_Network,
-                  "Network_Bonjour='desk' Network_BonjourService=' ' Network_Printer='Desk'"},
                  {"0x3201", DWT_View_Key_SimpleAP,
                   "SimpleAP_Authentic=3 SimpleAP_Encryption=1 SimpleAP_IPAddress=10.9.0.1 "
                   "SimpleAP_PSK='12345678' SimpleAP_SSID=' ' SimpleAP_StartIPAddress=10.9.0.2 "
