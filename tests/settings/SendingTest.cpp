@@ -29,9 +29,6 @@ class Send : public EveryTransport {
         steps += n.name.section(u'_', 2, 2) +
                  n.userInfo.value(MSW_Searching_Value_Current).toString() + u' ';
     }
-    void change(const QString &viewKey, const CategoryDictionary &values) {
-        m->change(viewKey, values);
-    }
     // Sends; what the printer received.
     QString send() {
         steps.clear();
@@ -51,18 +48,12 @@ class Send : public EveryTransport {
     }
     void logIn() {
         ASSERT_EQ(m->manager->connectPrinter(), 0);
-        const auto tried = [&](const QString &password) {
-            const WriteResult result = m->manager->checkLoginPassword(password);
-            return std::pair(result.kind, result.code);
-        };
-        EXPECT_EQ(tried(u"no"_s),
-                  std::pair(WriteResult::Refused, int{VirtualPrinter::WrongPassword}));
-        EXPECT_EQ(tried(u"wrongwrong"_s),
-                  std::pair(WriteResult::Refused, int{VirtualPrinter::BadValue}));
-        EXPECT_EQ(tried({}), std::pair(WriteResult::Unsent, 0)) << "an empty password was sent";
-        EXPECT_EQ(tried(u"abc"_s), std::pair(WriteResult::Accepted, 0));
+        EXPECT_EQ(m->manager->checkLoginPassword(u"no"_s),
+                  (WriteResult{WriteResult::Refused, VirtualPrinter::WrongPassword}));
+        EXPECT_EQ(m->manager->checkLoginPassword({}).kind, WriteResult::Unsent);
+        EXPECT_EQ(m->manager->checkLoginPassword(u"abc"_s).kind, WriteResult::Accepted);
         m->manager->disconnectPrinter();
-        EXPECT_EQ(m->served.receivedUntilEnd(), u"start =1001 =1001 =1001 update end"_s);
+        EXPECT_EQ(m->served.receivedUntilEnd(), u"start =1001 =1001 update end"_s);
     }
     std::string saved(const QString &viewKey) {
         return asText(m->manager->setupDataToMainView(viewKey));
@@ -114,13 +105,13 @@ TEST_P(Send, TheKeyFollowsTheEncryptionAndTheSsidItsOrigin) {
     const std::pair<int, QString> cases[] = {
         {0, {}}, {1, u" =3106"_s}, {2, u" =3105"_s}, {3, u" =3105"_s}, {7, {}}};
     for (const auto &[encryption, key] : cases) {
-        change(DWT_View_Key_Infrastructure,
-               {{DWT_SaveData_Infrastructure_Encryption, encryption},
-                {DWT_SaveData_Infrastructure_SSID, u"typed"_s},
-                {DWT_SaveData_Infrastructure_SSIDList_SSID, hex("ff0001")},
-                {DWT_SaveData_Infrastructure_PSK, u"12345678"_s},
-                {DWT_SaveData_Infrastructure_WEPKeyIndex, 2},
-                {DWT_SaveData_Infrastructure_WEPKey, u"abcde"_s}});
+        m->change(DWT_View_Key_Infrastructure,
+                  {{DWT_SaveData_Infrastructure_Encryption, encryption},
+                   {DWT_SaveData_Infrastructure_SSID, u"typed"_s},
+                   {DWT_SaveData_Infrastructure_SSIDList_SSID, hex("ff0001")},
+                   {DWT_SaveData_Infrastructure_PSK, u"12345678"_s},
+                   {DWT_SaveData_Infrastructure_WEPKeyIndex, 2},
+                   {DWT_SaveData_Infrastructure_WEPKey, u"abcde"_s}});
         EXPECT_TRUE(send().contains(u" =3103 =3104"_s + key + u" =3108"_s)) << encryption;
     }
     EXPECT_EQ(m->printer().item(0x3104), hex("0300ff0001"));
@@ -131,8 +122,8 @@ TEST_P(Send, TheKeyFollowsTheEncryptionAndTheSsidItsOrigin) {
 TEST_P(Send, WhatTheEncoderRefusesKeepsItsSavedValueAndIsReported) {
     read("{}");
     const std::string before = saved(DWT_View_Key_Network);
-    change(DWT_View_Key_Network, {{DWT_SaveData_Network_Bonjour, QString()}});
-    change(DWT_View_Key_SimpleAP, {{DWT_SaveData_SimpleAP_SSID, QString(33, u'x')}});
+    m->change(DWT_View_Key_Network, {{DWT_SaveData_Network_Bonjour, QString()}});
+    m->change(DWT_View_Key_SimpleAP, {{DWT_SaveData_SimpleAP_SSID, QString(33, u'x')}});
     EXPECT_EQ(send(), u"start =1005 =1006 =2001 =3000 =3102 =3103 =3108 =3202 =1007 update end"_s);
     EXPECT_EQ(steps, everyStep);
     EXPECT_EQ(saved(DWT_View_Key_Network), before);
@@ -146,7 +137,7 @@ TEST_P(Send, LogsInOnceWithTheRememberedPasswordAndARefusedLoginWritesNothing) {
     m->served.receivedUntilEnd();
     logIn();
     EXPECT_TRUE(send().startsWith(u"start =1001 =1004"_s));
-    change(DWT_View_Key_Firmware, {{DWT_SaveData_Firmware_Timeout, 45}});
+    m->change(DWT_View_Key_Firmware, {{DWT_SaveData_Firmware_Timeout, 45}});
     EXPECT_TRUE(send().startsWith(u"start =1004"_s)) << "the password was used twice";
     logIn();
     m->setFaults(R"({"items": {"0x1001": {"result": 2}}})");
@@ -163,7 +154,7 @@ TEST_P(Send, LogsInOnceWithTheRememberedPasswordAndARefusedLoginWritesNothing) {
 
 TEST_P(Send, OutlivesItsOwnerAndFinishesWhenTheApplicationEnds) {
     read("{}");
-    change(DWT_View_Key_Firmware, {{DWT_SaveData_Firmware_Timeout, 45}});
+    m->change(DWT_View_Key_Firmware, {{DWT_SaveData_Firmware_Timeout, 45}});
     const std::weak_ptr<DWTDataManager> manager = m->manager;
     m->manager->sendDataToPrinter();
     m->manager.reset();
