@@ -6,18 +6,12 @@
 
 #include "cli/SettingsFile.h"
 #include "cli/Table.h"
-#include "platform/core/Texts.h"
 #include "settings/SettingKeys.h"
 #include "support/DataManagers.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-class Input : public testing::Test {
-  protected:
-    static void SetUpTestSuite() { installTexts(); }
-};
 
 // Values and faults as lines of text: "wired.address.ip=10.0.0.1", "3 names.printer!" for a broken
 // rule, "3 names.printer" for any other fault.
@@ -51,7 +45,7 @@ std::string ofCsv(const QByteArray &csv) {
 
 }  // namespace
 
-TEST_F(Input, OfSettingsInJson) {
+TEST(Input, OfSettingsInJson) {
     const std::pair<QByteArray, const char *> rows[] = {
         {R"({"names": {"printer": "A-1", "bonjour": null}, "device": {"timeout": 30}})",
          "names.printer='A-1' | device.timeout=30"},
@@ -93,7 +87,7 @@ TEST_F(Input, OfSettingsInJson) {
     for (const auto &[json, expected] : rows) EXPECT_EQ(ofJson(json), expected) << json.constData();
 }
 
-TEST_F(Input, OfSecretsInFiles) {
+TEST(Input, OfSecretsInFiles) {
     const QTemporaryDir folder;
     const auto write = [&](const QString &name, const QByteArray &bytes) {
         QFile file(folder.filePath(name));
@@ -113,7 +107,7 @@ TEST_F(Input, OfSecretsInFiles) {
               "3 password.administrator");
 }
 
-TEST_F(Input, OfTables) {
+TEST(Input, OfTables) {
     const std::pair<QByteArray, const char *> rows[] = {
         {"mac,serial,name,names.printer\n02:00:00:00:00:0a,S1,,A\n,S2,N2,B\n,,\"N\"\"3\",\n",
          "2 02:00:00:00:00:0A: names.printer='A' / 3 S2: names.printer='B' / 4 N\"3: "},
@@ -141,55 +135,4 @@ TEST_F(Input, OfTables) {
         {QByteArray("serial,names.printer\nS1,a\0b\n", 28), "2 S1:  / 2 names.printer"},
     };
     for (const auto &[csv, expected] : rows) EXPECT_EQ(ofCsv(csv), expected) << csv.constData();
-}
-
-TEST_F(Input, AgainstWhatAPrinterHolds) {
-    const auto category = [](const QString &viewKey, const CategoryDictionary &values) {
-        return SettingRecord{{viewKey, values}};
-    };
-    const SettingRecord security =
-        category(DWT_View_Key_Infrastructure, {{DWT_SaveData_Infrastructure_Authentic, 3},
-                                               {DWT_SaveData_Infrastructure_Encryption, 3},
-                                               {DWT_SaveData_Infrastructure_SSID, u"\u00e9"_s},
-                                               {DWT_SaveData_Infrastructure_PSK, QString()}});
-    const SettingRecord fixed = category(
-        DWT_View_Key_Ethernet, {{DWT_SaveData_Ethernet_IPAddressSetting, 1},
-                                {DWT_SaveData_Ethernet_IPAddress, address(u"10.0.0.5"_s)},
-                                {DWT_SaveData_Ethernet_Subnetmask, address(u"255.0.0.0"_s)},
-                                {DWT_SaveData_Ethernet_Gateway, address(u"0.0.0.0"_s)}});
-    struct Row {
-        const SettingRecord &saved;
-        const char *json;
-        const char *changes;  // then the faults
-    };
-    const Row rows[] = {
-        {security, R"({"wireless": {"ssid": "é", "encryption": "aes"}})", "|"},
-        {security, R"({"wireless": {"ssid": "è"}})", "| wireless.ssid"},
-        {security, R"({"wireless": {"encryption": "tkip", "key": "12345678"}})",
-         "wireless.encryption wireless.key |"},
-        {security, R"({"wireless": {"encryption": "wep", "wepKey": "abcde"}})",
-         "wireless.encryption wireless.wepKey | wireless.encryption"},
-        {security, R"({"wireless": {"authentication": "open", "encryption": "wep",
-                                    "key": "12345678"}})",
-         "wireless.authentication wireless.encryption wireless.key | wireless.key"},
-        {security, R"({"wireless": {"authentication": "shared"}})",
-         "wireless.authentication | wireless.authentication"},
-        {security, R"({"wireless": {"wepKeyNumber": 2}})",
-         "wireless.wepKeyNumber | wireless.wepKeyNumber"},
-        {fixed, R"({"wired": {"address": {"gateway": "0.0.0.0", "ip": "010.0.0.5"}}})", "|"},
-        {fixed, R"({"wired": {"address": {"ip": "10.0.0.6"}}})",
-         "wired.address.ip | wired.address.gateway"},
-        {fixed, R"({"wired": {"address": {"mode": "automatic"}}})", "wired.address.mode |"},
-        {fixed, R"({"wired": {"address": {"mode": "automatic", "ip": "10.0.0.6"}}})",
-         "wired.address.mode wired.address.ip | wired.address.ip"},
-        {fixed, R"({"password": {"administrator": ""}})", "password.administrator |"},
-    };
-    for (const Row &row : rows) {
-        const Plan plan = planOf(row.saved, settingsFromJson(row.json, {}).values);
-        QStringList words;
-        for (const Plan::Change &change : plan.changes) words << change.setting->name;
-        words << u"|"_s;
-        for (const Fault &fault : plan.faults) words << fault.place.name;
-        EXPECT_EQ(words.join(u' ').toStdString(), row.changes) << row.json;
-    }
 }

@@ -1,52 +1,60 @@
 #pragma once
 
-#include <sys/prctl.h>
-
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <csignal>
+#include <cstdio>
 #include <memory>
 #include <vector>
 
-#include "cli/ExitCode.h"
+#include "cli/Commands.h"
 #include "link/Binding.h"
-#include "settings/DWTDataManager.h"
+#include "support/PrinterServerThread.h"
 #include "support/Profiles.h"
 #include "zmlib/CatalogueSource.h"
 
-// Processes of virtual-printer, each with one printer, and a catalogue that names them; the folder
-// holds the files of a test.
+// Printers of this process, and the catalogue that names them; the folder holds the files of a
+// test.
 class Printers {
   public:
-    // A process for each description. Their serial numbers are "S1", "S2", ...
+    // A printer on USB for each description. Their serial numbers are "S1", "S2", ...
     explicit Printers(const QList<QByteArray> &profiles) {
-        for (const QByteArray &profile : profiles) start(profile);
-        QJsonArray entries;
-        for (const auto &process : m_processes) {
-            EXPECT_TRUE(process->waitForReadyRead());
-            const QByteArray port = process->readLine().trimmed().split(':').last();
-            m_entries << PrinterEntry{
-                {PrinterKey::DeviceURI,
-                 QStringLiteral("tcp://127.0.0.1:") + QString::fromLatin1(port)},
-                {PrinterKey::ConnectionType, PrinterConnection::USB},
-                {PrinterKey::ProductName, QStringLiteral("Larkfield L200")},
-                {PrinterKey::SerialNumber, QStringLiteral("S%1").arg(m_entries.size() + 1)}};
+        for (const QByteArray &profile : profiles) {
+            const QString number = QString::number(m_printers.size() + 1);
+            m_printers << printerOf(profile);
+            catalogue.virtualPrinters.insert(QStringLiteral("virtual://") + number,
+                                             m_printers.last());
+            add(QStringLiteral("virtual://") + number, QStringLiteral("S") + number);
         }
-        writeCatalogue();
     }
-    ~Printers() {
-        for (const auto &process : m_processes) process->kill();
-        for (const auto &process : m_processes) process->waitForFinished();
+    // Adds a printer that is on USB with a serial number, or without one on the network.
+    void add(const QString &uri, const QString &serial = {}) {
+        PrinterEntry entry{{PrinterKey::DeviceURI, uri},
+                           {PrinterKey::ConnectionType, PrinterConnection::USB},
+                           {PrinterKey::ProductName, QStringLiteral("Larkfield L200")},
+                           {PrinterKey::SerialNumber, serial}};
+        if (serial.isEmpty())
+            entry = {{PrinterKey::DeviceURI, uri},
+                     {PrinterKey::ConnectionType, PrinterConnection::Network},
+                     {PrinterKey::ProductName, QStringLiteral("Larkfield L400")},
+                     {PrinterKey::BonjourServiceName, QStringLiteral("Goods\x1b in")}};
+        catalogue.add(entry);
     }
 
-    // Adds an entry, or what an entry must not be, to the catalogue.
-    void add(const PrinterEntry &entry) {
-        m_entries << entry;
-        writeCatalogue();
+    // The printer of a number, counted from 1.
+    VirtualPrinter &operator[](int number) const { return *m_printers[number - 1]; }
+    // Its own name, address and time-out, which the tests change together.
+    std::string stateOf(int number) const {
+        const VirtualPrinter &printer = (*this)[number];
+        QByteArrayList octets;
+        for (const char octet : printer.item(0x2001).mid(2, 4))
+            octets << QByteArray::number(quint8(octet));
+        return (printer.item(0x1006) + ' ' + octets.join('.') + ' ' +
+                QByteArray::number(quint8(printer.item(0x1007)[0])))
+            .toStdString();
     }
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
@@ -62,57 +70,29 @@ class Printers {
         return file.readAll();
     }
 
-    // What the printer of a number, counted from 1, holds.
-    SettingRecord recordOf(int number) const {
-        Catalogue catalogue;
-        for (const PrinterEntry &entry : m_entries) catalogue.add(entry);
-        installLibrary(catalogueLibrary(catalogue));
-        const auto manager = DWTDataManager::dataManager(m_entries[number - 1]);
-        EXPECT_EQ(manager->setupDataFromPrinter(0), ReadResult::Complete);
-        SettingRecord record;
-        for (const QString &key : {DWT_View_Key_Network, DWT_View_Key_Ethernet,
-                                   DWT_View_Key_Infrastructure, DWT_View_Key_Firmware})
-            record.insert(key, manager->setupDataToMainView(key).value_or(CategoryDictionary()));
-        installLibrary(nullptr);
-        return record;
-    }
-    // Its own name, address and time-out, which the tests change together.
-    std::string stateOf(int number) const {
-        const SettingRecord record = recordOf(number);
-        return QStringLiteral("%1 %2 %3")
-            .arg(textValue(record[DWT_View_Key_Network], DWT_SaveData_Network_Printer),
-                 addressValue(record[DWT_View_Key_Ethernet], DWT_SaveData_Ethernet_IPAddress)
-                     .join(u'.'))
-            .arg(integerValue(record[DWT_View_Key_Firmware], DWT_SaveData_Firmware_Timeout))
-            .toStdString();
-    }
-
-    QString catalogue() const { return path(QStringLiteral("catalogue.json")); }
-
-  private:
-    void start(const QByteArray &profile) {
-        auto process = std::make_unique<QProcess>();
-        process->setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
-        const QString name = QStringLiteral("printer-%1.json").arg(m_processes.size());
-        process->start(QStringLiteral(NST_VIRTUAL_PRINTER),
-                       {QStringLiteral("--listen"), QStringLiteral("127.0.0.1:0"),
-                        QStringLiteral("--profile"), write(name, profile)});
-        m_processes.push_back(std::move(process));
-    }
-    void writeCatalogue() const {
+    // Serves the printers to other processes; gives the path of a catalogue that they can read.
+    QString serve() {
         QJsonArray entries;
-        for (const PrinterEntry &entry : m_entries) {
+        for (const PrinterEntry &entry : std::as_const(catalogue.entries)) {
             QJsonObject object;
             for (auto i = entry.begin(); i != entry.end(); ++i) object.insert(i.key(), i.value());
+            if (const auto printer =
+                    catalogue.virtualPrinters.value(entry[PrinterKey::DeviceURI])) {
+                m_servers.push_back(std::make_unique<PrinterServerThread>(printer));
+                object[PrinterKey::DeviceURI] = m_servers.back()->uri();
+            }
             entries << object;
         }
-        write(QStringLiteral("catalogue.json"),
-              QJsonDocument(QJsonObject{{QStringLiteral("printers"), entries}}).toJson());
+        return write(QStringLiteral("catalogue.json"),
+                     QJsonDocument(QJsonObject{{QStringLiteral("printers"), entries}}).toJson());
     }
 
+    Catalogue catalogue;
+
+  private:
     QTemporaryDir m_folder;
-    std::vector<std::unique_ptr<QProcess>> m_processes;
-    QList<PrinterEntry> m_entries;
+    QList<std::shared_ptr<VirtualPrinter>> m_printers;
+    std::vector<std::unique_ptr<PrinterServerThread>> m_servers;
 };
 
 // A run of the program on such printers.
@@ -121,30 +101,37 @@ struct Ended {
     QByteArray out, err;
 };
 
-inline void prepare(QProcess &process, const Printers &printers, const QByteArray &password = {}) {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("ZMLIB_PRINTERS"), printers.catalogue());
-    environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
-    environment.remove(QStringLiteral("NETWORK_SETTING_PASSWORD"));
-    if (!password.isEmpty())
-        environment.insert(QStringLiteral("NETWORK_SETTING_PASSWORD"), QString::fromUtf8(password));
-    process.setProcessEnvironment(environment);
-    process.setProgram(QStringLiteral(NST_PROGRAM));
+// Runs it inside this process. A silent printer is given up soon, which one that answers is in time
+// for however slow the machine is: it answers inside the request.
+inline Ended run(const Printers &printers, const QStringList &arguments,
+                 const QByteArray &password = {}) {
+    qputenv("ZMLIB_PRINTERS", "catalogue");  // the one that is installed
+    qputenv("NETWORK_SETTING_PASSWORD", password);
+    EXPECT_TRUE(std::freopen("/dev/null", "r", stdin));
+    installLibrary(catalogueLibrary(printers.catalogue, 20));
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    const ExitCode code =
+        runCommandLine(QStringList{QStringLiteral("network-setting")} + arguments);
+    const std::string out = testing::internal::GetCapturedStdout();
+    const std::string err = testing::internal::GetCapturedStderr();
+    installLibrary(nullptr);
+    qunsetenv("ZMLIB_PRINTERS");
+    return {code, QByteArray::fromStdString(out), QByteArray::fromStdString(err)};
 }
 
+// Starts it as a process of its own.
+inline void start(QProcess &process, Printers &printers, const QStringList &arguments) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("ZMLIB_PRINTERS"), printers.serve());
+    environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
+    process.setProcessEnvironment(environment);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.start(QStringLiteral(NST_PROGRAM), arguments);
+}
 inline Ended finish(QProcess &process) {
     EXPECT_TRUE(process.waitForFinished(60000)) << "still running";
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     return {ExitCode(process.exitCode()), process.readAllStandardOutput(),
             process.readAllStandardError()};
-}
-
-inline Ended run(const Printers &printers, const QStringList &arguments,
-                 const QByteArray &password = {}) {
-    QProcess process;
-    prepare(process, printers, password);
-    process.setArguments(arguments);
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.start();
-    return finish(process);
 }

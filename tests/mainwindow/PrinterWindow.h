@@ -31,9 +31,7 @@ class PrinterWindow : public testing::Test {
         served->printer().clearLog();
         return read;
     }
-    void setFaults(const QByteArray &faults) {
-        served->printer().setFaults(printerOf("{\"faults\": " + faults + "}")->faults());
-    }
+    void setFaults(const QByteArray &faults) { served->printer().setFaults(faultsOf(faults)); }
     // The name that the printer holds.
     QByteArray held() { return served->printer().item(0x1004); }
     template <typename Widget = QWidget>
@@ -48,23 +46,24 @@ class PrinterWindow : public testing::Test {
     bool isOpen() { return main->window()->isVisible(); }
     void type(const char *line, const char *typed) { typeInto(field(line), text(typed)); }
     void typeName(const char *typed) { type("textField_NetworkBonjour", typed); }
-    // Clicks the row of a category in the outline.
-    void choose(const char *category) {
-        auto *outline = control<OutlineView>("outlineView_Main");
-        const auto found = outline->model()->match(outline->model()->index(0, 0), Qt::DisplayRole,
-                                                   text(category), 1, Qt::MatchRecursive);
-        ASSERT_FALSE(found.isEmpty()) << category;
-        QTest::mouseClick(outline->viewport(), Qt::LeftButton, {},
-                          outline->visualRect(found.first()).center());
-    }
-    // What the sign beside a category in the outline says.
-    QString markOf(const char *category) {
+    QModelIndex rowOf(const char *category) {
         const auto *model = control<OutlineView>("outlineView_Main")->model();
         const auto found = model->match(model->index(0, 0), Qt::DisplayRole, text(category), 1,
                                         Qt::MatchRecursive);
-        const QString meaning = found.value(0).data(Qt::AccessibleDescriptionRole).toString();
-        EXPECT_EQ(found.value(0).data(Qt::DecorationRole).value<QIcon>().isNull(),
-                  meaning.isEmpty());
+        EXPECT_FALSE(found.isEmpty()) << category;
+        return found.value(0);
+    }
+    // Clicks the row of a category in the outline.
+    void choose(const char *category) {
+        auto *outline = control<OutlineView>("outlineView_Main");
+        QTest::mouseClick(outline->viewport(), Qt::LeftButton, {},
+                          outline->visualRect(rowOf(category)).center());
+    }
+    // What the sign beside a category in the outline says.
+    QString markOf(const char *category) {
+        const QModelIndex row = rowOf(category);
+        const QString meaning = row.data(Qt::AccessibleDescriptionRole).toString();
+        EXPECT_EQ(row.data(Qt::DecorationRole).value<QIcon>().isNull(), meaning.isEmpty());
         return meaning;
     }
     // Types into a pop-up what its item begins with.

@@ -30,17 +30,12 @@ TEST(Encoding, FramesAreTheseBytes) {
          "43463b28003b01323b2000c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a9c3a93bc"
          "4"},
         {"34 bytes of SSID", textWithLengthFrame(0x3201, QString(17, u'é')), nullptr},
-        {"WEP key", integerAndTextFrame(0x3106, 2, u"abcdefghijklm"_s),
-         "43463b24003b06313b02000d006162636465666768696a6b6c6d000000000000000000000000003b32"},
         {"27-byte WEP key", integerAndTextFrame(0x3106, 1, QString(27, u'a')), nullptr},
-        {"SSID bytes", bytesFrame(0x3104, hex("ff0041")),
-         "43463b28003b04313b0300ff004100000000000000000000000000000000000000000000000000000000003b2"
-         "9"},
         {"33 bytes", bytesFrame(0x3104, QByteArray(33, 'x')), nullptr},
         {"addresses",
-         integerAndAddressesFrame(0x2001, 1, address(u"192.168.0.10"_s),
-                                  address(u"255.255.255.0"_s), address(u"192.168.000.01"_s)),
-         "43463b14003b01203b0100c0a8000affffff00c0a800013bab"},
+         integerAndAddressesFrame(0x2001, 1, address(u"1.2.3.4"_s), address(u"1.2.3.4"_s),
+                                  address(u"001.02.3.4"_s)),
+         "43463b14003b01203b01000102030401020304010203043bf1"},
         {"three octets",
          integerAndAddressesFrame(0x2001, 1, address(u"1.2.3.4"_s), address(u"1.2.3"_s),
                                   address(u"1.2.3.4"_s)),
@@ -75,16 +70,11 @@ TEST(Decoding, TextsEndWhereTheReplySays) {
 }
 
 TEST(Decoding, NumbersAndAddressesOfTheirOwnItemsOnly) {
-    EXPECT_EQ(integer(hex("43463b08003b00303bffff"), 0x3000), 65535);
     EXPECT_EQ(integer(hex("4346"), 0), 0) << "bytes beyond the reply read as 0";
     EXPECT_EQ(integer(hex("4346"), 0x3000), std::nullopt);
-    EXPECT_EQ(macAddress(hex("43463b0c003b00203b0080920a1bff"), 0x2000), u"0080920A1BFF"_s);
     EXPECT_EQ(softwareVersion(hex("43463b08003b08103bbca0"), 0x1008), u"A.0BC"_s);
     const QByteArray inUse = hex("43463b12003b02203bc000a80affff000000000001");
     const QByteArray configured = hex("43463b14003b08313b0100c000a80affff000000000001");
-    EXPECT_EQ(
-        asText(addresses(inUse, 0x2002)),
-        "Connect_Gateway=0.0.0.1 Connect_IPAddress=192.0.168.10 Connect_Subnetmask=255.255.0.0");
     EXPECT_EQ(addresses(inUse, 0x3119), std::nullopt);
     EXPECT_EQ(addresses(configured, 0x3108), std::nullopt);
     EXPECT_EQ(integerAndAddresses(configured, 0x2001), std::nullopt);

@@ -1,7 +1,7 @@
+#include "ItemRows.h"
 #include "platform/core/NotificationCenter.h"
-#include "support/DataManagers.h"
 
-// Everything that can go wrong with one reply, in every step of a reading and of a send, over TCP.
+// Everything that can go wrong with one reply, in every step of a reading and of a send.
 
 namespace {
 
@@ -9,34 +9,27 @@ using Login = Ending::Login;
 using State = Ending::State;
 using namespace Qt::StringLiterals;
 
-// Short, so that hundreds of silent replies take seconds.
-constexpr int wait = 40;
-
 enum class Effect { None, Silent, Foreign, Closed, ClosedAfter, Refused };
 struct Fault {
     QByteArray description;
     Effect effect;
 };
-const Fault faults[] = {{R"("noReply": true)", Effect::Silent},
-                        {R"("delay": 60)", Effect::Silent},
-                        {R"("garbage": true)", Effect::Silent},
-                        {R"("truncate": 7)", Effect::Silent},
-                        {R"("length": 65535)", Effect::Silent},
-                        {R"("length": 0)", Effect::Foreign},
-                        {R"("code": "0x7777")", Effect::Foreign},
-                        {R"("doubled": true)", Effect::None},
-                        {R"("closed": true)", Effect::Closed},
-                        {R"("reset": true)", Effect::Closed},
-                        {R"("closeAfterReply": true)", Effect::ClosedAfter},
-                        {R"("result": 5)", Effect::Refused}};
+const Fault faults[] = {
+    {R"("noReply": true)", Effect::Silent}, {R"("garbage": true)", Effect::Silent},
+    {R"("truncate": 7)", Effect::Silent},   {R"("length": 65535)", Effect::Silent},
+    {R"("length": 0)", Effect::Foreign},    {R"("code": "0x7777")", Effect::Foreign},
+    {R"("doubled": true)", Effect::None},   {R"("closed": true)", Effect::Closed},
+    {R"("reset": true)", Effect::Closed},   {R"("closeAfterReply": true)", Effect::ClosedAfter},
+    {R"("result": 5)", Effect::Refused}};
 
 // A manager on a printer whose values can all be sent, and whose name and settings can be compared
 // with what another manager reads from the same printer.
 class Faults : public testing::Test, protected ServedManager {
   protected:
     Faults()
-        : ServedManager(R"({"password": "abcd1234", "items": {"0x3103": 3, "0x3104": "Net"}})",
-                        OnePrinterLibrary::Transport::Tcp, wait) {
+        : ServedManager(R"({"password": "abcd1234", "scanPolls": 0, "networks": [{"ssid": "N"}],
+                            "items": {"0x3103": 3, "0x3104": "Net"}})",
+                        OnePrinterLibrary::Transport::Virtual) {
         stop = NotificationCenter::shared().observe(
             DWT_DataSend_Stop_Message,
             [this](const Notification &n) {
@@ -52,7 +45,7 @@ class Faults : public testing::Test, protected ServedManager {
     // Logs in and sends, with a fault in the send.
     void sendWith(const QByteArray &item, const Fault *fault) {
         ASSERT_EQ(manager->connectPrinter(), 0);
-        ASSERT_EQ(manager->checkLoginPassword(enteredPassword).kind, WriteResult::Accepted);
+        ASSERT_EQ(manager->checkLoginPassword(u"abcd1234"_s).kind, WriteResult::Accepted);
         manager->disconnectPrinter();
         setFault(item, fault);
         stopped = -1;
@@ -89,7 +82,7 @@ TEST_F(Faults, OfOneReplyInASendNeverMakeTheSavedDataLie) {
         const QByteArray step = "0x" + QByteArray::number(code, 16);
         for (const Fault &fault : faults) {
             SCOPED_TRACE((step + ' ' + fault.description).constData());
-            changeAll(++round, code == 0x3106 ? 1 : 3);
+            changeAll(*this, ++round, code == 0x3106 ? 1 : 3);
             sendWith(step, &fault);
             const Ending ending = manager->ending();
             const Effect effect = fault.effect;
@@ -118,10 +111,9 @@ TEST_F(Faults, OfOneReplyInASendNeverMakeTheSavedDataLie) {
 
 TEST_F(Faults, OfOneReplyInAReadingWriteNothingThatWasNotTold) {
     ASSERT_EQ(manager->setupDataFromPrinter(0), 0);
-    const ItemCode steps[] = {0x1006, 0x1004, 0x1005, 0x3000, 0x3100, 0x3200, 0x3108, 0x3119,
-                              0x3101, 0x3102, 0x3103, 0x3104, 0x3204, 0x3205, 0x3210, 0x3211,
-                              0x3212, 0x3201, 0x3202, 0x2001, 0x2002, 0x2000, 0x1008, 0x1007};
-    for (const ItemCode code : steps) {
+    for (const ItemRow &row : itemRows()) {
+        if (row.reply.isNull()) continue;
+        const ItemCode code = row.code;
         const QByteArray step = "0x" + QByteArray::number(code, 16);
         for (const Fault &fault : faults) {
             SCOPED_TRACE((step + ' ' + fault.description).constData());
@@ -156,24 +148,17 @@ TEST_F(Faults, OfOneReplyInAReadingWriteNothingThatWasNotTold) {
     }
 }
 
-TEST_F(Faults, OfTheConnectionInASearchOrALoginEndThemAtOnce) {
-    manager->setScanInterval(std::chrono::milliseconds(100));
+TEST_F(Faults, OfTheConnectionInASearchEndItAtOnce) {
+    manager->setScanInterval(std::chrono::seconds(5));
     for (const char *frames : {"1", "2", "3"}) {
         SCOPED_TRACE(frames);
         setFaults(QByteArray("{\"closeAfterFrames\": ") + frames + "}");
-        const QDeadlineTimer soon(500);
+        const QDeadlineTimer interval(5000);
         EXPECT_EQ(manager->SSIDList(), std::nullopt);
-        EXPECT_FALSE(soon.hasExpired()) << "polled a closed connection";
+        EXPECT_FALSE(interval.hasExpired()) << "polled a closed connection";
         setFault({}, nullptr);
         EXPECT_TRUE(manager->SSIDList()) << "the next search";
     }
-    ASSERT_EQ(manager->connectPrinter(), 0);
-    setFault("0x1001", &faults[8]);
-    EXPECT_EQ(manager->checkLoginPassword(enteredPassword).kind, WriteResult::NoReply);
-    manager->disconnectPrinter();
-    setFault({}, nullptr);
-    sendWith({}, nullptr);
-    EXPECT_EQ(stopped, 0);
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include <QElapsedTimer>
 
-#include "support/DataManagers.h"
+#include "ItemRows.h"
 #include "support/RecordingLibrary.h"
 
 namespace {
@@ -9,55 +9,30 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using Transport = OnePrinterLibrary::Transport;
 
-const char *const profile = R"({"items": {
-    "0x1006": "Desk", "0x1004": "desk", "0x1005": "Desk's label", "0x3000": 2, "0x3100": "02004C000102",
-    "0x3200": "02004C000103", "0x3101": 5, "0x3102": 3, "0x3103": 2, "0x3104": "Ware house",
-    "0x3201": "DIRECT", "0x3202": "12345678", "0x1008": "1.20A", "0x3210": 4, "0x3211": 3,
-    "0x3212": 1, "0x1007": 90, "0x2000": "02004C000101", "0x3205": {"address": "10.9.0.2"},
-    "0x3204": {"address": "10.9.0.1", "mask": "255.255.0.0"},
-    "0x2001": {"setting": 1, "address": "10.0.0.5", "mask": "255.0.0.0", "gateway": "10.0.0.1"},
-    "0x3108": {"setting": 1, "address": "10.1.0.5", "mask": "255.255.0.0", "gateway": "10.1.0.1"}
-    }})";
-
-const std::pair<QString, const char *> asRead[] = {
-    {DWT_View_Key_Network,
-     "Network_Bonjour='desk' Network_BonjourService='Desk's label' Network_Printer='Desk'"},
-    {DWT_View_Key_Wireless,
-     "Wireless_CommunicateMode=2 Wireless_InfrastructureMACAddress='02004C000102' "
-     "Wireless_SampleAPMACAddress='02004C000103'"},
-    {DWT_View_Key_Infrastructure,
-     "Connect_Gateway=10.1.0.1 Connect_IPAddress=10.1.0.5 Connect_Subnetmask=255.255.0.0 "
-     "Infrastructure_Authentic=3 Infrastructure_Encryption=2 Infrastructure_Gateway=10.1.0.1 "
-     "Infrastructure_IPAddress=10.1.0.5 Infrastructure_IPAddressSetting=1 Infrastructure_PSK='' "
-     "Infrastructure_SSID='Ware house' Infrastructure_SSIDList_SSID='' "
-     "Infrastructure_Subnetmask=255.255.0.0 Infrastructure_WEPKey='' "
-     "Infrastructure_WEPKeyIndex=1 Infrastructure_WirelessMode=5"},
-    {DWT_View_Key_SimpleAP,
-     "SimpleAP_Authentic=3 SimpleAP_Encryption=1 SimpleAP_IPAddress=10.9.0.1 "
-     "SimpleAP_PSK='12345678' SimpleAP_SSID='DIRECT' SimpleAP_StartIPAddress=10.9.0.2 "
-     "SimpleAP_Subnetmask=255.255.0.0 SimpleAP_WirelessMode=4"},
-    {DWT_View_Key_Ethernet,
-     "Connect_Gateway=10.0.0.1 Connect_IPAddress=10.0.0.5 Connect_Subnetmask=255.0.0.0 "
-     "Ethernet_Gateway=10.0.0.1 Ethernet_IPAddress=10.0.0.5 Ethernet_IPAddressSetting=1 "
-     "Ethernet_MACAddress='02004C000101' Ethernet_Subnetmask=255.0.0.0"},
-    {DWT_View_Key_Firmware, "Firmware='1.20A' Firmware_Timeout=90"},
-    {DWT_View_Key_Password, "Password_Change=0 Password_Password=''"}};
-
 using Reading = EveryTransport;
 INSTANTIATE_TEST_SUITE_P(, Reading, allTransports, nameOf);
 
 TEST_P(Reading, FillsBothRecordsInTheOrderOfTheWire) {
-    ServedManager m(profile, GetParam());
+    ServedManager m(printerOfRows(), GetParam());
     EXPECT_EQ(m.manager->setupDataToMainView(DWT_View_Key_Network), std::nullopt);
     ASSERT_EQ(m.manager->setupDataFromPrinter(0), 0);
-    EXPECT_EQ(
-        m.served.receivedUntilEnd(),
-        u"start ?1006 ?1004 ?1005 ?3000 ?3100 ?3200 ?3108 ?3119 ?3101 ?3102 ?3103 ?3104 ?3204 "
-        "?3205 ?3210 ?3211 ?3212 ?3201 ?3202 ?2001 ?2002 ?2000 ?1008 ?1007 update end"_s);
-    for (const auto &[viewKey, values] : asRead) {
-        EXPECT_EQ(asText(m.manager->setupDataToMainView(viewKey)), values);
-        EXPECT_EQ(asText(m.manager->setupDataFromChangeData(viewKey)), values);
+    QString order = u"start"_s;
+    SettingRecord saved = m.manager->savedData(), changed = m.manager->changeData();
+    for (const ItemRow &row : itemRows()) {
+        if (row.reply.isNull()) continue;
+        order += u" ?%1"_s.arg(row.code, 4, 16);
+        const CategoryDictionary values = valuesOf(row);
+        for (auto i = values.begin(); i != values.end(); ++i)
+            for (SettingRecord *const record : {&saved, &changed})
+                EXPECT_EQ((*record)[itemOf(row.code)->viewKey].take(i.key()), *i) << row.values;
     }
+    EXPECT_EQ(m.served.receivedUntilEnd(), order + u" update end"_s);
+    EXPECT_EQ(saved, changed);
+    std::string rest;
+    for (const CategoryDictionary &category : saved) rest += asText(category) + '|';
+    EXPECT_EQ(rest,
+              "||Infrastructure_PSK='' Infrastructure_SSIDList_SSID='' Infrastructure_WEPKey='' "
+              "Infrastructure_WEPKeyIndex=1||Password_Change=0 Password_Password=''|||");
     EXPECT_TRUE(m.manager->isEqualToSaveData());
     CategoryDictionary network = *m.manager->setupDataFromChangeData(DWT_View_Key_Network);
     network.remove(DWT_SaveData_Network_Bonjour);
@@ -65,15 +40,17 @@ TEST_P(Reading, FillsBothRecordsInTheOrderOfTheWire) {
     EXPECT_FALSE(m.manager->isEqualToSaveData()) << "a missing key is a difference";
 }
 
-TEST_P(Reading, AMissingReplyEndsTheTrafficAndGivesSix) {
-    ServedManager m(profile, GetParam());
+TEST(ReadingFaults, AMissingReplyEndsTheTrafficAndGivesSix) {
+    ServedManager m(printerOfRows(), Transport::Virtual);
     m.setFaults(R"({"items": {"0x3000": {"noReply": true}}})");
     EXPECT_EQ(m.manager->setupDataFromPrinter(0), 6);
     EXPECT_EQ(m.served.receivedUntilEnd(), u"start ?1006 ?1004 ?1005 ?3000 update end"_s);
     const auto read = [&](const QString &key) {
         return asText(m.manager->setupDataToMainView(key));
     };
-    EXPECT_EQ(read(DWT_View_Key_Network), asRead[0].second);
+    EXPECT_EQ(
+        read(DWT_View_Key_Network),
+        "Network_Bonjour='desk' Network_BonjourService='Desk's label' Network_Printer='Desk'");
     EXPECT_EQ(read(DWT_View_Key_Wireless),
               "Wireless_CommunicateMode=0 Wireless_InfrastructureMACAddress=' ' "
               "Wireless_SampleAPMACAddress=' '");
@@ -84,21 +61,19 @@ TEST_P(Reading, AMissingReplyEndsTheTrafficAndGivesSix) {
     EXPECT_EQ(m.manager->isPassword(), 3) << "not asked once the read has failed";
 }
 
-TEST_P(Reading, AForeignReplyLeavesOneDefaultAndEndsItsCategory) {
+TEST(ReadingFaults, AForeignReplyLeavesOneDefaultAndEndsItsCategory) {
     const struct {
         QByteArray item;
         QString viewKey;
         const char *values;
     } cases[] = {{"0x3108", DWT_View_Key_Infrastructure, ""},
-                 {"0x2001", DWT_View_Key_Ethernet, "Ethernet_MACAddress='02004C000101'"},
-                 {"0x1005", DWT_View_Key_Network,
-                  "Network_Bonjour='desk' Network_BonjourService=' ' Network_Printer='Desk'"},
+                 {"0x2001", DWT_View_Key_Ethernet, "Ethernet_MACAddress='02004C00010C'"},
                  {"0x3201", DWT_View_Key_SimpleAP,
                   "SimpleAP_Authentic=3 SimpleAP_Encryption=1 SimpleAP_IPAddress=10.9.0.1 "
                   "SimpleAP_PSK='12345678' SimpleAP_SSID=' ' SimpleAP_StartIPAddress=10.9.0.2 "
                   "SimpleAP_Subnetmask=255.255.0.0 SimpleAP_WirelessMode=4"},
                  {"0x1007", DWT_View_Key_Firmware, "Firmware='1.20A' Firmware_Timeout=0"}};
-    ServedManager m(profile, GetParam());
+    ServedManager m(printerOfRows(), Transport::Virtual);
     for (const auto &c : cases) {
         m.setFaults(R"({"items": {")" + c.item + R"(": {"code": "0x7777"}}})");
         EXPECT_EQ(m.manager->setupDataFromPrinter(0), 0) << c.item.constData();
@@ -148,7 +123,6 @@ TEST_P(Reading, AScanReadsAsManyBlocksAsNetworksWereFound) {
 }
 
 TEST(Scan, PollsInEveryIntervalAndGivesUpAfterTen) {
-    EXPECT_EQ(DWTDataManager::defaultScanInterval * DWTDataManager::scanPolls, 10s);
     const auto received = [](const QByteArray &polls, int milliseconds, int networks) {
         ServedManager m(R"({"networks": [{"ssid": "N"}], "scanPolls": )" + polls + "}",
                         Transport::Virtual);

@@ -12,14 +12,15 @@ inline QStringList address(const QString &dotted) {
     return dotted.split(u'.');
 }
 
-inline const QString enteredPassword = QStringLiteral("abcd1234");  // also the keys
-
-// A data manager on a virtual printer, over either transport.
+// A data manager on a virtual printer, over every transport.
 class ServedManager {
   public:
-    ServedManager(const QByteArray &profile, OnePrinterLibrary::Transport transport,
-                  int wait = OnePrinterLibrary::longestWait)
-        : served(printerOf(profile), transport, {}, wait) {
+    ServedManager(const QByteArray &profile, OnePrinterLibrary::Transport transport)
+        : ServedManager(printerOf(profile), transport) {}
+    // A silent printer inside the process is given up at once: it answers within the request.
+    ServedManager(std::shared_ptr<VirtualPrinter> printer, OnePrinterLibrary::Transport transport)
+        : served(std::move(printer), transport, {},
+                 transport == OnePrinterLibrary::Transport::Virtual ? 2 : 5000) {
         installLibrary(served.library());
         manager = DWTDataManager::dataManager(served.entry());
     }
@@ -37,27 +38,6 @@ class ServedManager {
         auto category = manager->setupDataFromChangeData(viewKey).value_or(CategoryDictionary());
         category.insert(values);
         manager->setupDataFromMainView(category, viewKey);
-    }
-    // Enters a value for every item, others in every round.
-    void changeAll(int round, int encryption) {
-        using Layout = Item::Layout;
-        change(DWT_View_Key_Password, {{DWT_SaveData_Password_Change, 1}});
-        for (const Item &item : sentItems()) {
-            const QString name = QStringLiteral("n%1-%2").arg(round).arg(item.code, 4, 16);
-            CategoryDictionary values{
-                {item.keys[0], item.layout == Layout::IntegerAndAddresses ? 1 : round % 2 + 1}};
-            if (item.layout == Layout::Text || item.layout == Layout::CountedText)
-                values = {{item.keys[0], item.isSecret ? enteredPassword : name}};
-            if (item.layout == Layout::IntegerAndText)
-                values.insert(item.keys[1], QStringLiteral("abcde"));
-            for (int i = 1; item.layout == Layout::IntegerAndAddresses && i < 4; ++i)
-                values.insert(
-                    item.keys[i],
-                    address(
-                        QStringLiteral("10.%1.%2.%3").arg(i).arg(round / 200).arg(round % 200)));
-            if (item.code == 0x3103) values = {{item.keys[0], encryption}};
-            change(item.viewKey, values);
-        }
     }
     void sendAndWait() {
         manager->sendDataToPrinter();

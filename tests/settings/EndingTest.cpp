@@ -1,0 +1,146 @@
+// What changes in a printer, and how a change ends.
+
+#include <QRegularExpression>
+
+#include "settings/Session.h"
+#include "support/DataManagers.h"
+#include "support/Endings.h"
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Values as somebody gives them: "names.bonjour=desk|device.timeout=90".
+QList<WantedValue> valuesOf(const char *written) {
+    QList<WantedValue> values;
+    for (const QString &part : QString::fromUtf8(written).split(u'|')) {
+        const Setting *const setting = settingOf(part.section(u'=', 0, 0));
+        const QString text = part.section(u'=', 1);
+        const bool isRead = setting->access() == Setting::Access::Read;  // here an address
+        const Parsed parsed = isRead ? Parsed{address(text), {}} : parsedText(*setting, text);
+        values << WantedValue{setting, *parsed.value, {.name = setting->name}, parsed.fault};
+    }
+    return values;
+}
+
+TEST(Plans, HoldChangesFaultsAndWhatMayKeepThePrinterFromBeingReached) {
+    const char *const secured =
+        "wireless.authentication=wpa2|wireless.encryption=aes|wireless.ssid=é|wireless.key=";
+    const char *const fixed =
+        "wired.address.mode=fixed|wired.address.ip=10.0.0.5|wired.address.mask=255.0.0.0|"
+        "wired.address.gateway=0.0.0.0";
+    const char *const open =
+        "wireless.address.mode=fixed|wireless.address.ip=10.0.0.7|wireless.address.mask=255.255.0."
+        "0|"
+        "wireless.address.gateway=0.0.0.0|wireless.authentication=open|wireless.encryption=none|"
+        "wireless.ssid=Old|wireless.mode=infrastructure|wireless.inUse.ip=10.0.0.7|"
+        "accessPoint.address.ip=192.168.1.1";
+    const struct {
+        const char *saved, *wanted;
+        const char *plan;  // changes, faults and warnings
+    } cases[] = {
+        {secured, "wireless.ssid=é|wireless.encryption=aes", "//"},
+        {secured, "wireless.ssid=è", "/wireless.ssid/"},
+        {secured, "wireless.encryption=tkip|wireless.key=12345678",
+         "wireless.encryption wireless.key//"},
+        {secured, "wireless.encryption=wep|wireless.wepKey=abcde",
+         "wireless.encryption wireless.wepKey/wireless.encryption/"},
+        {secured, "wireless.authentication=open|wireless.encryption=wep|wireless.key=12345678",
+         "wireless.authentication wireless.encryption wireless.key/wireless.key/0 é"},
+        {secured, "wireless.authentication=shared",
+         "wireless.authentication/wireless.authentication/0 é"},
+        {secured, "wireless.wepKeyNumber=2", "wireless.wepKeyNumber/wireless.wepKeyNumber/"},
+        {fixed, "wired.address.gateway=0.0.0.0|wired.address.ip=010.0.0.5", "//"},
+        {fixed, "wired.address.ip=10.0.0.6", "wired.address.ip/wired.address.gateway/"},
+        {fixed, "wired.address.mode=automatic", "wired.address.mode//"},
+        {fixed, "wired.address.mode=automatic|wired.address.ip=10.0.0.6",
+         "wired.address.mode wired.address.ip/wired.address.ip/"},
+        {fixed, "password.administrator=", "password.administrator//"},
+        {open, "wireless.ssid=New", "wireless.ssid//"},
+        {open, "wireless.authentication=wpa2|wireless.encryption=aes",
+         "wireless.authentication wireless.encryption//0 Old"},
+        {open, "wireless.authentication=wpa2|wireless.encryption=aes|wireless.key=12345678",
+         "wireless.authentication wireless.encryption wireless.key//"},
+        {open, "wireless.encryption=wep|wireless.wepKey=abcde",
+         "wireless.encryption wireless.wepKey//"},
+        {open, "wireless.encryption=wep", "wireless.encryption//0 Old"},
+        {open, "wireless.address.gateway=10.0.255.255|wireless.address.mask=255.0.255.0",
+         "wireless.address.mask wireless.address.gateway//1 255.0.255.0"},
+        {open, "wireless.address.gateway=10.0.255.255|wireless.address.mask=128.0.0.0",
+         "wireless.address.mask wireless.address.gateway//"},
+        {open, "wireless.address.gateway=10.1.0.1", "wireless.address.gateway//2 10.1.0.1"},
+        {open, "wireless.address.gateway=10.0.255.255", "wireless.address.gateway//"},
+        {open, "wireless.mode=access-point", "wireless.mode//3 10.0.0.7"},
+        {open, "wireless.mode=off", "wireless.mode//3 10.0.0.7"}};
+    for (const auto &c : cases) {
+        SettingRecord saved;
+        for (const WantedValue &value : valuesOf(c.saved))
+            saved[value.setting->viewKey].insert(value.setting->key, value.value);
+        const Plan plan = planOf(saved, valuesOf(c.wanted));
+        QStringList changes, faults, warnings;
+        for (const Plan::Change &change : plan.changes) changes << change.setting->name;
+        for (const Fault &fault : plan.faults) faults << fault.place.name;
+        for (const SendWarning &warning : plan.warnings)
+            warnings << u"%1 %2"_s.arg(warning.kind).arg(warning.subject);
+        const QStringList parts{changes.join(u' '), faults.join(u' '), warnings.join(u' ')};
+        EXPECT_EQ(parts.join(u'/').toStdString(), c.plan) << c.wanted;
+    }
+}
+
+// "Sent: names.bonjour=Verified": the settings of the plan, and the others that are not verified.
+std::string asText(const Ending &ending, const Plan &plan) {
+    const char *const courses[] = {"Sent", "NotReached", "Lost", "Stopped"};
+    const char *const logins[] = {"Passed", "Missing", "Refused", "NoReply", "NotReached"};
+    const char *const states[] = {"Accepted", "Verified", "Differs", "Refused", "Unclear"};
+    std::string text = courses[int(ending.course)];
+    if (ending.login != Ending::Login::Passed)
+        text = std::string("Login ") + logins[int(ending.login)];
+    const bool isCompared = ending.comparison == Ending::Comparison::Done;
+    text += ending.isSent() && !isCompared ? ", unread:" : ":";
+    for (const Ending::Part &part : ending.parts)
+        if (ending.isSent() && (part.setting == plan.changes.first().setting ||
+                                (isCompared && part.state != Ending::State::Verified)))
+            text += ' ' + part.setting->name.toStdString() + '=' + states[int(part.state)];
+    return text;
+}
+
+TEST(Endings, SayOfEverySettingWhatThePrinterWasSeenToHave) {
+    for (const EndingCase &c : endingCases()) {
+        SCOPED_TRACE(std::string(c.wanted) + " -> " + c.ending);
+        ServedManager m(R"({"password": "open123"})", OnePrinterLibrary::Transport::Virtual);
+        const auto faults = faultsOfSend(m.printer(), c);
+        Session session(m.served.entry());
+        ASSERT_EQ(session.read(), Session::Reading::Complete);
+        m.served.received();
+        const Plan plan = planOf(session.record(), valuesOf(c.wanted));
+        ASSERT_EQ(plan.changes.size(), 1);
+        const auto password = [&] {
+            return *c.password ? std::optional(QString::fromUtf8(c.password)) : std::nullopt;
+        };
+        const Ending ending = session.change(plan, password, [] { return true; });
+        EXPECT_EQ(asText(ending, plan), c.ending);
+        const QString said = session.wordsOf(ending, Naming::Stable).join(u' ');
+        EXPECT_TRUE(said.contains(QLatin1String(c.said))) << qPrintable(said);
+        const bool isWritten = m.served.received().remove(u"=1001"_s).contains(u'=');
+        EXPECT_EQ(isWritten,
+                  QRegularExpression(u"^(Sent|Lost)"_s).match(QLatin1String(c.ending)).hasMatch());
+        const Setting &setting = *plan.changes.first().setting;
+        if (setting.isSecret()) continue;
+        EXPECT_EQ(textValue(session.manager()->savedData()[setting.viewKey], setting.key),
+                  QString::fromUtf8(m.printer().item(setting.item.code)))
+            << "saved is something else than the printer has";
+    }
+}
+
+TEST(Endings, NothingIsWrittenAfterAPersonHasStoppedIt) {
+    ServedManager m("{}", OnePrinterLibrary::Transport::Virtual);
+    Session session(m.served.entry());
+    session.read();
+    m.served.received();
+    const Plan plan = planOf(session.record(), valuesOf("names.bonjour=desk"));
+    const auto none = [] { return std::nullopt; };
+    EXPECT_EQ(asText(session.change(plan, none, [] { return false; }), plan), "Stopped:");
+    EXPECT_FALSE(m.served.received().contains(u'='));
+}
+
+}  // namespace
