@@ -1,6 +1,5 @@
 #include "cli/Commands.h"
 
-#include <algorithm>
 #include <cerrno>
 
 #include "cli/Interrupt.h"

@@ -4,7 +4,6 @@
 #include "mainwindow/WPSGuideWindow.h"
 #include "mainwindow/WaitWindow.h"
 #include "platform/core/Texts.h"
-#include "platform/core/Waiting.h"
 #include "platform/ui/Alert.h"
 #include "settings/PrinterWords.h"
 

@@ -150,7 +150,10 @@ void DWTBaseView::forceIntoRange(const Field &number) const {
 }
 
 bool DWTBaseView::passes(const Field &field) const {
-    return Rules::keeps(*field.rule, field.line()->text(), !field.input || *field.input);
+    const Rules::Rule &rule = *field.rule;
+    if (field.isAddress()) return itemInputCheckAddress(field.line(), !rule.loopback);
+    const bool input = !field.input || *field.input;
+    return itemInputCheckString(field.line(), rule.characters, rule.min, rule.max, input);
 }
 
 CategoryDictionary DWTBaseView::shownCategory() const {
@@ -204,20 +207,6 @@ void DWTBaseView::controlTextDidChange(TextField *control) {
     if (field->isAddress()) checkIPtextField(control);
     if (field->isNumber()) checkCountTextField(control);
     postSendState(itemCheckDifferentToDataManager());
-}
-
-bool DWTBaseView::itemInputCheckString(const QLineEdit *field, const QString &characterSet, int min,
-                                       int max, bool input) const {
-    return Rules::isText(field->text(), characterSet, min, max, input);
-}
-
-bool DWTBaseView::itemInputCheckAddress(const QLineEdit *field, bool localhostCheck) const {
-    return Rules::isAddress(field->text(), !localhostCheck);
-}
-
-bool DWTBaseView::isEqualAddress(const QStringList &address,
-                                 const QStringList &printerAddress) const {
-    return Rules::isSameAddress(address, printerAddress);
 }
 
 void DWTBaseView::showInputError(Alert &alert, const QString &fieldName,

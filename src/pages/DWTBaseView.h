@@ -73,9 +73,15 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // --- Checks (settings/Rules.h) on fields ---
 
     bool itemInputCheckString(const QLineEdit *field, const QString &characterSet, int min, int max,
-                              bool input) const;
-    bool itemInputCheckAddress(const QLineEdit *field, bool localhostCheck) const;
-    bool isEqualAddress(const QStringList &address, const QStringList &printerAddress) const;
+                              bool input) const {
+        return Rules::isText(field->text(), characterSet, min, max, input);
+    }
+    bool itemInputCheckAddress(const QLineEdit *field, bool localhostCheck) const {
+        return Rules::isAddress(field->text(), !localhostCheck);
+    }
+    bool isEqualAddress(const QStringList &address, const QStringList &printerAddress) const {
+        return Rules::isSameAddress(address, printerAddress);
+    }
     // Shows that a field's text cannot be used, and why.
     void showInputError(Alert &alert, const QString &fieldName, const QString &rule) const;
 

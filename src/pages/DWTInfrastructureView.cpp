@@ -108,11 +108,9 @@ void DWTInfrastructureView::enableAllItems(bool enabled) {
 // A name from the list needs no check: it may hold characters that cannot be typed.
 bool DWTInfrastructureView::passes(const Field &field) const {
     if (field.control == textField_InfrastructureSSID && bool_SSIDfromSelectSSID) return true;
+    if (field.control == textField_InfrastructureWEPKey)
+        return itemInputCheckWEPKey(textField_InfrastructureWEPKey, bool_InfrastructureWEPKeyInput);
     return InterfaceView::passes(field);
-}
-
-bool DWTInfrastructureView::itemInputCheckWEPKey(const QLineEdit *field, bool input) const {
-    return Rules::isWEPKey(field->text(), input);
 }
 
 void DWTInfrastructureView::markInput(const Field &field, bool ended) {

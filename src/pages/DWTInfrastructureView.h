@@ -69,7 +69,9 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
     // The code of the chosen encryption; 0 when none is chosen.
     int itemInputCheckInfrastructureEncryption() const;
     // A WEP key has 5 or 13 characters, or 10 or 26 hexadecimal digits.
-    bool itemInputCheckWEPKey(const QLineEdit *field, bool input) const;
+    bool itemInputCheckWEPKey(const QLineEdit *field, bool input) const {
+        return Rules::isWEPKey(field->text(), input);
+    }
 
     // Each stores its field in the change data, whatever it holds. Always true.
     bool itemInputCheckInfrastructureSSID() { return store(textField_InfrastructureSSID); }

@@ -1,7 +1,6 @@
 #include "settings/ItemCodec.h"
 
 #include <algorithm>
-#include <array>
 
 #include "settings/Frames.h"
 #include "settings/ReplyCursor.h"

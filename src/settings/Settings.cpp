@@ -16,10 +16,7 @@ using Kind = Setting::Kind;
 using Layout = Item::Layout;
 using Rules::Rule;
 
-// The numbers of WEP keys.
 constexpr int firstWEPKey = 1, lastWEPKey = 4;
-
-// --- Rules ---------------------------------------------------------------------------------------
 
 Rule text(const char *ruleKey, const QString &characters, int min, int max) {
     return {Rule::Kind::Text, ruleKey, characters, min, max};
@@ -42,8 +39,6 @@ Rule psk() {
     return secret(text("DWT_Localize_Alert_InfoText_PSK_InputErr", Rules::printableCharacters,
                        Rules::shortestPSK, Rules::longestPSK));
 }
-
-// --- Rows ----------------------------------------------------------------------------------------
 
 // The texts of the codes of a choice, from the property list of a page.
 QStringList itemTexts(const QString &list, const QString &key) {
@@ -114,8 +109,7 @@ const QStringList standards{u"b"_s, u"bg"_s, u"bgn"_s};
 const QStringList authentications{u"open"_s, u"shared"_s, u"wpa"_s, u"wpa2"_s};
 const QStringList encryptions{u"none"_s, u"wep"_s, u"tkip"_s, u"aes"_s};
 
-// --- Pages ---------------------------------------------------------------------------------------
-// Numbers of an item: code, layout, turn in a reading, turn in a send.
+// The pages. Numbers of an item: code, layout, turn in a reading, turn in a send.
 
 QList<Setting> listedPrinter() {
     Rows rows{QString()};

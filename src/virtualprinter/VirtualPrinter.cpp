@@ -1,7 +1,5 @@
 #include "virtualprinter/VirtualPrinter.h"
 
-#include <algorithm>
-
 #include "virtualprinter/Bytes.h"
 #include "virtualprinter/Items.h"
 

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <functional>
 #include <future>
 #include <memory>
 

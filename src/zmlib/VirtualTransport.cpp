@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <deque>
 
 #include "platform/core/Waiting.h"
