@@ -71,7 +71,13 @@ TEST(Plans, HoldChangesFaultsAndWhatMayKeepThePrinterFromBeingReached) {
         {open, "wireless.address.gateway=10.1.0.1", "wireless.address.gateway//2 10.1.0.1"},
         {open, "wireless.address.gateway=10.0.255.255", "wireless.address.gateway//"},
         {open, "wireless.mode=access-point", "wireless.mode//3 10.0.0.7"},
-        {open, "wireless.mode=off", "wireless.mode//3 10.0.0.7"}};
+        {open, "wireless.mode=off", "wireless.mode//3 10.0.0.7"},
+        {open, "wireless.address.mask=0.0.0.1",
+         "wireless.address.mask/wireless.address.gateway/1 0.0.0.1"},
+        {"device.timeout=60", "device.timeout=30", "device.timeout//"},
+        {"device.timeout=60", "device.timeout=29", "/device.timeout/"},
+        {"device.timeout=60", "device.timeout=300", "device.timeout//"},
+        {"device.timeout=60", "device.timeout=301", "/device.timeout/"}};
     for (const auto &c : cases) {
         SettingRecord saved;
         for (const WantedValue &value : valuesOf(c.saved))
