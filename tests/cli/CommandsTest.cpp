@@ -52,6 +52,7 @@ TEST(Commands, ShowEverythingButSecrets) {
     for (const QString &name : {u"Desk"_s, u"S1"_s}) {
         const Ended shown = run(printers, {u"show"_s, name});
         EXPECT_EQ(shown.code, Done);
+        EXPECT_TRUE(shown.out.startsWith("Desk, Larkfield L200, serial number S1\n"));
         EXPECT_TRUE(shown.out.contains("  MAC address ")) << shown.out.constData();
         EXPECT_TRUE(shown.out.contains(" 02:00:4C:0A:1B:01\n")) << shown.out.constData();
         EXPECT_TRUE(shown.out.contains("Fixed address")) << shown.out.constData();
@@ -163,12 +164,12 @@ TEST(Commands, EndAChangeAsThePrinterWasSeenToHaveIt) {
 TEST(Commands, TellFaultsWithTheirPlacesInJson) {
     const Printers printers({});
     const QString file = printers.write(
-        u"f.json"_s, "{\"device\":\n {\"timeout\": 5},\n \"names\": {\"printer\": \"a b\"}}");
+        u"f.json"_s, "{\"device\": {\"timeout\": 5},\n \"names\": {\"printer\": \"a b\"}}");
     const Ended ended = run(printers, {u"check"_s, file, u"--json"_s});
     EXPECT_EQ(ended.code, InputRefused);
     const QList<QByteArray> lines = ended.err.trimmed().split('\n');
     ASSERT_EQ(lines.size(), 2) << ended.err.constData();
-    const std::pair<int, QString> faults[] = {{2, u"device.timeout"_s}, {3, u"names.printer"_s}};
+    const std::pair<int, QString> faults[] = {{1, u"device.timeout"_s}, {2, u"names.printer"_s}};
     for (int i = 0; i < 2; ++i) {
         QJsonObject fault = jsonOf(lines[i]);
         EXPECT_FALSE(fault.take(u"message"_s).toString().isEmpty());

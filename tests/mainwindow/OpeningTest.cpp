@@ -15,7 +15,15 @@ const char *const cannotBeUsed = "Connection to the printer cannot be used";
 
 class Opening : public PrinterWindow {
   protected:
-    bool canBeTyped(const char *name) { return isEnabled(name) && !field(name)->isReadOnly(); }
+    // Of a window that has been read, anew or again.
+    void expectState(const char *bonjourName, bool editable) {
+        const auto *const line = field("textField_NetworkBonjour");
+        EXPECT_EQ(line->text(), text(bonjourName));
+        EXPECT_EQ(line->isEnabled() && !line->isReadOnly(), editable);
+        EXPECT_EQ(control("textField_ReadOnly")->isVisible(), !editable);
+        EXPECT_FALSE(isEnabled("button_MainSend"));
+        EXPECT_TRUE(dialogs.isDone());
+    }
     void pressByAssistiveTechnology(const char *button) {
         auto *actions = QAccessible::queryAccessibleInterface(control(button))->actionInterface();
         actions->doAction(QAccessibleActionInterface::pressAction());
@@ -35,38 +43,25 @@ TEST_F(Opening, EveryReadingResultEndsInItsOwnState) {
         if (c.alert) dialogs.alert(cannotBeUsed);
         EXPECT_EQ(open(R"({"items": {"0x1004": "desk"}, "faults": )" + c.faults + "}", c.more),
                   c.opens);
-        EXPECT_TRUE(dialogs.isDone());
         EXPECT_EQ(isOpen(), c.opens);
         EXPECT_EQ(closings, c.opens ? QList<QVariantMap>() : QList<QVariantMap>{{}});
-        EXPECT_FALSE(isEnabled("button_MainSend"));
         if (!c.opens) continue;
-        EXPECT_EQ(name(), text("desk"));
-        EXPECT_EQ(canBeTyped("textField_NetworkBonjour"), c.editable);
+        expectState("desk", c.editable);
         EXPECT_EQ(isEnabled("radioButton_InfrastructureIPAddressSetting"), c.editable);
-        EXPECT_EQ(control("textField_ReadOnly")->isVisible(), !c.editable);
         EXPECT_EQ(selectedCategory(), text("Names"));
         EXPECT_TRUE(control("textField_NetworkBonjour")->isVisible());
         EXPECT_EQ(control<QLabel>("textField_SelectPrinterName")->text(), text("Larkfield L200"));
     }
-}
-
-TEST_F(Opening, ReadingAgainEndsInItsOwnState) {
-    const struct {
-        const char *faults;
-        bool alert, editable;
-    } cases[] = {{silentItem, false, false}, {gone, true, false}, {"{}", false, true}};
     open("{}");
     typeName("other");
     dialogs.on("view_UpdateChangeCheck", "button_UpdateChangeCheckOK");
-    for (const auto &c : cases) {
-        if (c.alert) dialogs.alert(cannotBeUsed);
-        setFaults(c.faults);
+    for (const auto &[faults, alert, editable] :
+         {std::tuple(silentItem, false, false), {gone, true, false}, {"{}", false, true}}) {
+        if (alert) dialogs.alert(cannotBeUsed);
+        setFaults(faults);
         click("button_MainNewSetting");
-        EXPECT_TRUE(isOpen() && closings.isEmpty() && dialogs.isDone());
-        EXPECT_EQ(name(), text("label-printer"));
-        EXPECT_EQ(canBeTyped("textField_NetworkBonjour"), c.editable);
-        EXPECT_EQ(control("textField_ReadOnly")->isVisible(), !c.editable);
-        EXPECT_FALSE(isEnabled("button_MainSend"));
+        EXPECT_TRUE(isOpen() && closings.isEmpty());
+        expectState("label-printer", editable);
     }
 }
 

@@ -38,12 +38,6 @@ const struct {
      "127.0.0.1", "1.2.3"},
     {a<DWTEthernetView>, manual, "textField_EthernetDefaultGateway", "Default gateway", "Router",
      "127.0.0.1", "0.0.0.0|65536*1"},
-    {a<DWTInfrastructureView>, manual, "textField_InfrastructureIpAddress", "IP address",
-     "IpAddress", "10.0.0.9", "127.0.0.1"},
-    {a<DWTInfrastructureView>, manual, "textField_InfrastructureSubnetMask", "Subnet mask",
-     "Subnetmask", "127.0.0.1", "1.2.3"},
-    {a<DWTInfrastructureView>, manual, "textField_InfrastructureDefaultGateway", "Default gateway",
-     "Router", "127.0.0.1", "1.2.3"},
     {a<DWTInfrastructureView>, manual, "textField_InfrastructureSSID", "Network name (SSID)",
      "Infrastructure_SSID", "32*s| |Café", "33*s|名前|"},  // the printer's own is not checked
     {a<DWTInfrastructureView>, manual, "textField_InfrastructurePSK", "WPA key", "PSK",

@@ -23,6 +23,13 @@ QList<WantedValue> valuesOf(const char *written) {
     return values;
 }
 
+SettingRecord recordOf(const char *written) {
+    SettingRecord record;
+    for (const WantedValue &value : valuesOf(written))
+        record[value.setting->viewKey].insert(value.setting->key, value.value);
+    return record;
+}
+
 TEST(Plans, HoldChangesFaultsAndWhatMayKeepThePrinterFromBeingReached) {
     const char *const secured =
         "wireless.authentication=wpa2|wireless.encryption=aes|wireless.ssid=é|wireless.key=";
@@ -71,12 +78,15 @@ TEST(Plans, HoldChangesFaultsAndWhatMayKeepThePrinterFromBeingReached) {
         {open, "wireless.address.gateway=10.1.0.1", "wireless.address.gateway//2 10.1.0.1"},
         {open, "wireless.address.gateway=10.0.255.255", "wireless.address.gateway//"},
         {open, "wireless.mode=access-point", "wireless.mode//3 10.0.0.7"},
-        {open, "wireless.mode=off", "wireless.mode//3 10.0.0.7"}};
+        {open, "wireless.mode=off", "wireless.mode//3 10.0.0.7"},
+        {open, "wireless.address.mask=0.0.0.1",
+         "wireless.address.mask/wireless.address.gateway/1 0.0.0.1"},
+        {"device.timeout=60", "device.timeout=30", "device.timeout//"},
+        {"device.timeout=60", "device.timeout=29", "/device.timeout/"},
+        {"device.timeout=60", "device.timeout=300", "device.timeout//"},
+        {"device.timeout=60", "device.timeout=301", "/device.timeout/"}};
     for (const auto &c : cases) {
-        SettingRecord saved;
-        for (const WantedValue &value : valuesOf(c.saved))
-            saved[value.setting->viewKey].insert(value.setting->key, value.value);
-        const Plan plan = planOf(saved, valuesOf(c.wanted));
+        const Plan plan = planOf(recordOf(c.saved), valuesOf(c.wanted));
         QStringList changes, faults, warnings;
         for (const Plan::Change &change : plan.changes) changes << change.setting->name;
         for (const Fault &fault : plan.faults) faults << fault.place.name;
@@ -85,6 +95,22 @@ TEST(Plans, HoldChangesFaultsAndWhatMayKeepThePrinterFromBeingReached) {
         const QStringList parts{changes.join(u' '), faults.join(u' '), warnings.join(u' ')};
         EXPECT_EQ(parts.join(u'/').toStdString(), c.plan) << c.wanted;
     }
+}
+
+TEST(Plans, SayWhatChangesAsAPersonReadsIt) {
+    const std::pair<const char *, const char *> cases[] = {
+        {"device.timeout=090", "60 → 90"},
+        {"names.printer=Desk", "(empty) → Desk"},
+        {"wired.address.mode=fixed", "Automatic (DHCP) → Fixed address"},
+        {"wired.address.ip=010.0.0.5", "(empty) → 10.0.0.5"},
+        {"wireless.key=12345678", "new"},
+        {"password.administrator=", "removed"}};
+    const SettingRecord saved = recordOf("device.timeout=60|wired.address.mode=automatic");
+    for (const auto &[wanted, words] : cases)
+        EXPECT_EQ(planOf(saved, valuesOf(wanted)).changes.value(0).words().toStdString(), words);
+    EXPECT_TRUE(
+        parsedText(*settingOf(u"wireless.mode"_s), u"on"_s).fault.contains(u"off, infra"_s));
+    EXPECT_TRUE(parsedText(*settingOf(u"device.timeout"_s), u"x"_s).fault.contains(u"30 to 300"_s));
 }
 
 // "Sent: names.bonjour=Verified": the settings of the plan, and the others that are not verified.
@@ -132,7 +158,7 @@ TEST(Endings, SayOfEverySettingWhatThePrinterWasSeenToHave) {
     }
 }
 
-TEST(Endings, NothingIsWrittenAfterAPersonHasStoppedIt) {
+TEST(Endings, APersonCanStopAChangeAndAPrinterAReading) {
     ServedManager m("{}", OnePrinterLibrary::Transport::Virtual);
     Session session(m.served.entry());
     session.read();
@@ -141,6 +167,10 @@ TEST(Endings, NothingIsWrittenAfterAPersonHasStoppedIt) {
     const auto none = [] { return std::nullopt; };
     EXPECT_EQ(asText(session.change(plan, none, [] { return false; }), plan), "Stopped:");
     EXPECT_FALSE(m.served.received().contains(u'='));
+    m.setFaults(R"({"items": {"0x3000": {"noReply": true}}})");
+    EXPECT_EQ(session.read(), Session::Reading::StoppedAnswering);
+    m.setFaults(R"({"refuseConnection": true})");
+    EXPECT_EQ(session.read(), Session::Reading::NotReached);
 }
 
 }  // namespace

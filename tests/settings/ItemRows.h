@@ -69,10 +69,11 @@ inline QList<ItemRow> itemRows() {
     };
 }
 
-// A printer that holds all of them.
-inline std::shared_ptr<VirtualPrinter> printerOfRows() {
+// A printer that holds all of them; the Bonjour service name may be other bytes.
+inline std::shared_ptr<VirtualPrinter> printerOfRows(const QByteArray &service = {}) {
     Profile profile = *profileFromJson({}).profile;
     for (const ItemRow &row : itemRows()) profile.items.insert(row.code, row.reply);
+    if (!service.isEmpty()) profile.items[0x1005] = service;
     return std::make_shared<VirtualPrinter>(profile);
 }
 

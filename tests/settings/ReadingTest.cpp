@@ -68,10 +68,6 @@ TEST(ReadingFaults, AForeignReplyLeavesOneDefaultAndEndsItsCategory) {
         const char *values;
     } cases[] = {{"0x3108", DWT_View_Key_Infrastructure, ""},
                  {"0x2001", DWT_View_Key_Ethernet, "Ethernet_MACAddress='02004C00010C'"},
-                 {"0x3201", DWT_View_Key_SimpleAP,
-                  "SimpleAP_Authentic=3 SimpleAP_Encryption=1 SimpleAP_IPAddress=10.9.0.1 "
-                  "SimpleAP_PSK='12345678' SimpleAP_SSID=' ' SimpleAP_StartIPAddress=10.9.0.2 "
-                  "SimpleAP_Subnetmask=255.255.0.0 SimpleAP_WirelessMode=4"},
                  {"0x1007", DWT_View_Key_Firmware, "Firmware='1.20A' Firmware_Timeout=0"}};
     ServedManager m(printerOfRows(), Transport::Virtual);
     for (const auto &c : cases) {
