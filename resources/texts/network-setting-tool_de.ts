@@ -1180,5 +1180,8 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
     <message id="DWT_Localize_Send_End_Comparing">
         <translation>Die Einstellungen werden zum Vergleich zurückgelesen…</translation>
     </message>
+    <message id="DWT_Localize_Ending_PartlyVerified">
+        <translation>%1 wurde geändert. Jede Einstellung, die der Drucker mitteilt, wurde so zurückgelesen, wie sie gesendet wurde.</translation>
+    </message>
 </context>
 </TS>

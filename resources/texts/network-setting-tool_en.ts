@@ -1180,5 +1180,8 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
     <message id="DWT_Localize_Send_End_Comparing">
         <translation>Reading the settings back to compare them…</translation>
     </message>
+    <message id="DWT_Localize_Ending_PartlyVerified">
+        <translation>%1 was changed. Every setting that it reports was read back as it was sent.</translation>
+    </message>
 </context>
 </TS>

@@ -1180,5 +1180,8 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
     <message id="DWT_Localize_Send_End_Comparing">
         <translation>Volviendo a leer los ajustes para compararlos…</translation>
     </message>
+    <message id="DWT_Localize_Ending_PartlyVerified">
+        <translation>%1 se ha cambiado. Todos los ajustes que comunica se leyeron tal como se enviaron.</translation>
+    </message>
 </context>
 </TS>

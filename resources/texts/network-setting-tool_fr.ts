@@ -1180,5 +1180,8 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
     <message id="DWT_Localize_Send_End_Comparing">
         <translation>Relecture des paramètres pour les comparer…</translation>
     </message>
+    <message id="DWT_Localize_Ending_PartlyVerified">
+        <translation>%1 a été modifiée. Tous les réglages qu’elle communique ont été relus tels qu’ils ont été envoyés.</translation>
+    </message>
 </context>
 </TS>

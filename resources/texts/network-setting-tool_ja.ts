@@ -1180,5 +1180,8 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
     <message id="DWT_Localize_Send_End_Comparing">
         <translation>照合のために設定を読み直しています…</translation>
     </message>
+    <message id="DWT_Localize_Ending_PartlyVerified">
+        <translation>%1 を変更しました。報告される設定はすべて、送信したとおりに読み取られました。</translation>
+    </message>
 </context>
 </TS>

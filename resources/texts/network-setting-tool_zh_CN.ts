@@ -1180,5 +1180,8 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
     <message id="DWT_Localize_Send_End_Comparing">
         <translation>正在读回设置以进行核对…</translation>
     </message>
+    <message id="DWT_Localize_Ending_PartlyVerified">
+        <translation>%1 已更改。它报告的每项设置读回的都与发送的一致。</translation>
+    </message>
 </context>
 </TS>

@@ -87,7 +87,11 @@ QStringList wordsOf(const Ending &ending, const QString &printer, Naming naming)
     if (ending.comparison == Ending::Comparison::Failed)
         sentences << localized("DWT_Localize_Ending_NotReadBack").arg(printer);
     if (ending.comparison != Ending::Comparison::Done) return sentences;
-    if (sentences.isEmpty()) sentences << localized("DWT_Localize_Ending_Verified").arg(printer);
-    say("DWT_Localize_Ending_NotComparable", ending.in(Ending::State::Accepted));
+    const QList<const Setting *> unseen = ending.in(Ending::State::Accepted);
+    if (sentences.isEmpty())
+        sentences << localized(unseen.isEmpty() ? "DWT_Localize_Ending_Verified"
+                                                : "DWT_Localize_Ending_PartlyVerified")
+                         .arg(printer);
+    say("DWT_Localize_Ending_NotComparable", unseen);
     return sentences;
 }

@@ -26,6 +26,7 @@ struct Parsed {
     // Why it can be none or, of a value, the rule that it breaks, in words; otherwise empty.
     QString fault;
 };
+// The setting can be entered: a text or an address has its rule.
 Parsed parsedText(const Setting &setting, const QString &text);
 Parsed parsedNumber(const Setting &setting, qint64 number);
 
