@@ -45,14 +45,14 @@ QStringList itemTexts(const QString &list, const QString &key) {
     return PropertyList::dictionary(list, u"plist"_s).value(key).toStringList();
 }
 
-// Collects the rows of a page.
-class Rows {
+class Rows {  // of a page
   public:
     explicit Rows(QString viewKey) : m_viewKey(std::move(viewKey)) {}
 
     Rows &shown(const QString &name, const QString &key, const char *labelKey, const Item &item,
                 Kind kind = Kind::Text) {
-        m_rows << Setting{name, m_viewKey, key, kind, QLatin1String(labelKey), item};
+        const Setting row{name, m_viewKey, key, kind, QLatin1String(labelKey), item};
+        m_rows.append(row);
         return *this;
     }
     Rows &entered(const QString &name, const QString &key, const char *labelKey, const Rule &rule,
