@@ -2,6 +2,8 @@
 
 #include <sys/socket.h>
 
+#include <QNetworkProxy>
+
 #include "virtualprinter/DelayedActions.h"
 
 namespace {
@@ -56,6 +58,9 @@ VirtualPrinterServer::VirtualPrinterServer(std::shared_ptr<VirtualPrinter> print
 }
 
 bool VirtualPrinterServer::listen(const QHostAddress &address, quint16 port) {
+    // Looking for a proxy would take the system's own threads.
+    m_server.setProxy(QNetworkProxy::NoProxy);
+    m_refusing.setProxy(QNetworkProxy::NoProxy);
     if (m_printer->faults().refuseConnection)
         return m_refusing.bind(address, port, QTcpSocket::ReuseAddressHint);
     return m_server.listen(address, port);
