@@ -1183,5 +1183,14 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
     <message id="DWT_Localize_Ending_PartlyVerified">
         <translation>%1 wurde geändert. Jede Einstellung, die der Drucker mitteilt, wurde so zurückgelesen, wie sie gesendet wurde.</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_SilentNetworkService">
+        <translation>Drucker im Netzwerk werden nicht gefunden: Der Suchdienst (Avahi) dieses Computers antwortet nicht.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_NotLocated">
+        <translation>Im Netzwerk angekündigte Drucker, deren Adresse noch nicht bekannt ist: %1.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
+        <translation>%1 ist angeschlossen, wird aber nicht aufgeführt, weil das Programm dieses Modell nicht kennt.</translation>
+    </message>
 </context>
 </TS>

@@ -1183,5 +1183,14 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
     <message id="DWT_Localize_Ending_PartlyVerified">
         <translation>%1 was changed. Every setting that it reports was read back as it was sent.</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_SilentNetworkService">
+        <translation>Printers on the network are not found: the discovery service (Avahi) of this computer does not answer.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_NotLocated">
+        <translation>Printers announced on the network whose address is not known yet: %1.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
+        <translation>%1 is connected, but not listed: the tool does not know this model.</translation>
+    </message>
 </context>
 </TS>

@@ -1183,5 +1183,14 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
     <message id="DWT_Localize_Ending_PartlyVerified">
         <translation>%1 se ha cambiado. Todos los ajustes que comunica se leyeron tal como se enviaron.</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_SilentNetworkService">
+        <translation>No se encuentran las impresoras de la red: el servicio de detección (Avahi) de este equipo no responde.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_NotLocated">
+        <translation>Impresoras anunciadas en la red cuya dirección aún no se conoce: %1.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
+        <translation>%1 está conectada, pero no aparece en la lista: la herramienta no conoce este modelo.</translation>
+    </message>
 </context>
 </TS>

@@ -1183,5 +1183,14 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
     <message id="DWT_Localize_Ending_PartlyVerified">
         <translation>%1 a été modifiée. Tous les réglages qu’elle communique ont été relus tels qu’ils ont été envoyés.</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_SilentNetworkService">
+        <translation>Les imprimantes du réseau ne sont pas trouvées : le service de découverte (Avahi) de cet ordinateur ne répond pas.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_NotLocated">
+        <translation>Imprimantes annoncées sur le réseau dont l’adresse n’est pas encore connue : %1.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
+        <translation>%1 est connectée, mais n’est pas affichée : l’outil ne connaît pas ce modèle.</translation>
+    </message>
 </context>
 </TS>

@@ -1183,5 +1183,14 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
     <message id="DWT_Localize_Ending_PartlyVerified">
         <translation>%1 を変更しました。報告される設定はすべて、送信したとおりに読み取られました。</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_SilentNetworkService">
+        <translation>ネットワーク上のプリンターを検索できません。このコンピューターの検出サービス (Avahi) が応答しません。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_NotLocated">
+        <translation>ネットワーク上で見つかったが、アドレスがまだわからないプリンター: %1 台</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
+        <translation>%1 が接続されていますが、対応していない機種のため一覧に表示されません。</translation>
+    </message>
 </context>
 </TS>

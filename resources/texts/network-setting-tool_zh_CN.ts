@@ -1183,5 +1183,14 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
     <message id="DWT_Localize_Ending_PartlyVerified">
         <translation>%1 已更改。它报告的每项设置读回的都与发送的一致。</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_SilentNetworkService">
+        <translation>找不到网络上的打印机：此计算机的发现服务 (Avahi) 无响应。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_NotLocated">
+        <translation>网络上已发现但地址尚未知的打印机：%1 台。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
+        <translation>%1 已连接，但本工具不支持此型号，因此未列出。</translation>
+    </message>
 </context>
 </TS>

@@ -9,7 +9,11 @@ QString wordsOf(const PrinterProblem &problem) {
         {PrinterProblem::NoNetworkService, "DWT_Localize_PrinterList_Problem_NoNetworkService"},
         {PrinterProblem::NoPermission, "DWT_Localize_PrinterList_Problem_NoPermission"},
         {PrinterProblem::InUse, "DWT_Localize_PrinterList_Problem_InUse"},
-        {PrinterProblem::BadFile, "DWT_Localize_PrinterList_Problem_BadFile"}};
+        {PrinterProblem::BadFile, "DWT_Localize_PrinterList_Problem_BadFile"},
+        {PrinterProblem::SilentNetworkService,
+         "DWT_Localize_PrinterList_Problem_SilentNetworkService"},
+        {PrinterProblem::NotLocated, "DWT_Localize_PrinterList_Problem_NotLocated"},
+        {PrinterProblem::UnknownModel, "DWT_Localize_PrinterList_Problem_UnknownModel"}};
     const QString text = localized(keys.value(problem.kind));
     return problem.subject.isEmpty() ? text : text.arg(shownText(problem.subject));
 }

@@ -22,6 +22,7 @@ struct Listing {
 struct Opened {
     std::unique_ptr<Transport> transport;
     int result = ZMLib::UnknownPrinter;  // a negative ZMLib::Result, when there is no transport
+    QString address = {};                // where a network printer was reached
 };
 
 // Where printers come from. Callable from several threads.
@@ -29,8 +30,11 @@ class PrinterSource {
   public:
     virtual ~PrinterSource() = default;
 
-    // The printers of this moment; opens none of them.
+    // The printers that are known at this moment, at once; opens none of them.
     virtual Listing list() = 0;
+
+    // Whether list() gives all that is there; false while a search goes on.
+    virtual bool isSettled() { return true; }
 
     // Whether list() would give something else than the last time; opens no printer.
     virtual bool hasChanged() { return false; }

@@ -21,6 +21,8 @@ inline const QString BonjourServiceName = QStringLiteral("BonjourServiceName");
 inline const QString Address = QStringLiteral("Address");
 inline const QString SerialNumber = QStringLiteral("SerialNumber");
 inline const QString Port = QStringLiteral("Port");
+// Of a USB printer: changes whenever it is plugged in.
+inline const QString Plug = QStringLiteral("Plug");
 // The printer's own name; not from the library, added by who asked the printer for it.
 inline const QString MachineName = QStringLiteral("MachineName");
 }  // namespace PrinterKey
@@ -39,15 +41,18 @@ inline bool isUSB(const PrinterEntry &entry) {
 // Why a printer is not listed or cannot be used, for who looks for it.
 struct PrinterProblem {
     enum Kind {
-        NoPermission,      // the user may not open the printer's device
-        InUse,             // another program has it
-        BadFile,           // a file with printers or models cannot be used, or not all of it
-        NoNetworkService,  // the system does not tell which printers are on the network
-        EmptyCatalogue     // printers are listed from a catalogue, and it has none
+        NoPermission,          // the user may not open the printer's device
+        InUse,                 // another program has it
+        BadFile,               // a file with printers or models cannot be used, or not all of it
+        NoNetworkService,      // the system's service that finds network printers does not run
+        EmptyCatalogue,        // printers are listed from a catalogue, and it has none
+        SilentNetworkService,  // that service runs, but does not answer
+        NotLocated,            // printers are announced whose address is not known yet
+        UnknownModel           // a USB printer is none of the supported models
     };
     Kind kind;
-    QString
-        subject;  // the printer as a user knows it, or the file and what is wrong with it, if any
+    // The printer as a user knows it, the file and what is wrong with it, or how many printers.
+    QString subject;
     bool operator==(const PrinterProblem &) const = default;
 };
 
@@ -90,6 +95,12 @@ class ZMLib {
 
     // Whether the list or its problems changed since the last one. Opens no printer; quick.
     virtual bool hasListChanged() { return false; }
+
+    // Whether the last list had everything that is there; false while a search goes on.
+    virtual bool isListComplete() { return true; }
+
+    // The address at which a network printer was opened last; empty for any other.
+    virtual QString addressOf(const QString & /*uri*/) { return {}; }
 
     // 1: closed, and the printer can be reached; 0: held open by this process; or a negative
     // Result. The connection that showed it is kept a short while for the engage.
