@@ -35,7 +35,7 @@ void exchangeOfTheTransport(benchmark::State &state) {
     int done = 0;
     for (auto _ : state) {
         QByteArray reply;
-        opened.transport->dropArrived({});
+        opened.transport->drain({}, QDeadlineTimer(drainWithin));
         opened.transport->write(request, deadline);
         opened.transport->read(reply, 512, deadline);
         if (reply.isEmpty()) state.SkipWithError("no reply");

@@ -287,7 +287,7 @@ ExitCode runCommandLine(const QStringList &arguments) {
         code = terminal.fail(ExitCode::UsedWrongly, options.error);
         terminal.note(localized("DWT_Localize_Cli_SeeHelp"));
     } else {
-        Interrupt::watch();
+        Interrupt::ignoreLostReaders();
         code = Run(options).run();
     }
     // Who reads only the beginning of a pipe has got what was wanted.

@@ -5,9 +5,6 @@
 
 namespace {
 
-// How often the main thread looks, while it waits, whether it is to stop.
-constexpr std::chrono::milliseconds lookInterval{50};
-
 std::atomic<bool> requested{false};
 static_assert(std::atomic<bool>::is_always_lock_free);  // a signal handler writes it
 
@@ -17,6 +14,9 @@ void Interrupt::watch() {
     struct sigaction noting {};
     noting.sa_handler = [](int) { requested = true; };
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) ::sigaction(signal, &noting, nullptr);
+}
+
+void Interrupt::ignoreLostReaders() {
     struct sigaction ignoring {};
     ignoring.sa_handler = SIG_IGN;
     for (const int signal : {SIGPIPE, SIGXFSZ}) ::sigaction(signal, &ignoring, nullptr);
@@ -24,11 +24,4 @@ void Interrupt::watch() {
 
 bool Interrupt::isRequested() {
     return requested;
-}
-
-InterruptibleWait::InterruptibleWait() : m_wait([](const QObject *) { return false; }) {
-    m_timer.callOnTimeout([this] {
-        if (Interrupt::isRequested()) m_wait.cancel();
-    });
-    m_timer.start(lookInterval);
 }

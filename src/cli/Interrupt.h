@@ -1,27 +1,27 @@
 #pragma once
 
-#include <QTimer>
-
 #include "platform/core/Waiting.h"
 
 // The user's wish to stop: Ctrl+C, an end of the session, a closed terminal.
 namespace Interrupt {
 
-// From now on, SIGINT, SIGTERM and SIGHUP are noted and do not end the program; nor do SIGPIPE and
-// SIGXFSZ.
+// From now on, SIGINT, SIGTERM and SIGHUP are noted and do not end the program. Before, while inputs
+// are read that may never come, they end it at once.
 void watch();
+
+// From now on, SIGPIPE and SIGXFSZ do not end the program: the write fails instead.
+void ignoreLostReaders();
 
 // Whether the user wants to stop.
 bool isRequested();
 
 }  // namespace Interrupt
 
-// While it lives, what the main thread waits for ends early when the user wants to stop.
+// While it lives, what its thread waits for ends early when the user wants to stop.
 class InterruptibleWait {
   public:
-    InterruptibleWait();
+    InterruptibleWait() { Interrupt::watch(); }
 
   private:
-    CancellableWait m_wait;
-    QTimer m_timer;
+    const CancellableWait m_wait{Interrupt::isRequested};
 };

@@ -53,6 +53,7 @@ ExitCode Provision::run(const QString &resultFile) {
         return m_terminal.fail(
             ExitCode::InputRefused,
             localized("DWT_Localize_Cli_Unwritable").arg(resultFile, m_results.errorString()));
+    Interrupt::watch();
     look();
     if (!isEnd()) {
         if (m_present.isEmpty()) m_terminal.note(localized("DWT_Localize_Cli_Waiting"));

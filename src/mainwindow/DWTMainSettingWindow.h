@@ -178,7 +178,7 @@ class DWTMainSettingWindow : public QObject,
     std::shared_ptr<DWTDataManager> dataManager_Object;  // the session's
     Plan m_plan;                                         // what the marks show
     Ending m_ending;                                     // of the last send
-    CancellableWait *m_comparing = nullptr;
+    bool m_comparing = false;                            // the printer is read again
     bool m_endIsRead = false;
     PrinterEntry dictionary_PrinterInfo;
     bool bool_usbPrinter = true;

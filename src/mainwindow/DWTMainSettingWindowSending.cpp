@@ -142,11 +142,12 @@ void DWTMainSettingWindow::showEnding(bool comparing) {
 
 void DWTMainSettingWindow::compareWithPrinter() {
     if (m_endIsRead) return;
-    CancellableWait wait(
+    const CancellableWait wait(
+        [this] { return m_endIsRead; },
         [this](const QObject *object) { return isPartOf(object, window_SendData); });
-    m_comparing = &wait;
+    m_comparing = true;
     m_ending = m_session->verify();
-    m_comparing = nullptr;
+    m_comparing = false;
     showEnding(false);
     if (m_endIsRead) push_SendEndOK();
 }
@@ -154,7 +155,7 @@ void DWTMainSettingWindow::compareWithPrinter() {
 // Values that the printer did not take stay as they were entered, keys and passwords, too.
 void DWTMainSettingWindow::push_SendEndOK() {
     m_endIsRead = true;
-    if (m_comparing) return m_comparing->cancel();
+    if (m_comparing) return;
     window_SendData->closeDialog();
     if (m_ending.isClean(DWT_SaveData_Infrastructure_PSK) &&
         m_ending.isClean(DWT_SaveData_Infrastructure_WEPKey))

@@ -38,13 +38,15 @@ const QByteArray queryEnd = QByteArray::fromHex("1b7b045500557d");
 Channel::Channel(std::unique_ptr<Transport> transport) : m_transport(std::move(transport)) {}
 
 int Channel::send(const QByteArray &frame, const QDeadlineTimer &deadline) {
+    m_isBegun = true;
     return resultOf(m_transport->write(frame, deadline));
 }
 
 int Channel::exchange(const QByteArray &frame, int replySize, QByteArray &reply,
                       const QDeadlineTimer &deadline) {
-    int result = resultOf(m_transport->dropArrived({}));
-    if (result == ZMLib::Success) result = send(frame, deadline);
+    int result = ZMLib::Closed;
+    if (m_transport->drain({}, deadline) != Transport::Completion::Closed)
+        result = send(frame, deadline);
     const QByteArray expected = answerTo(frame);
     m_wroteSettings |= isSetting(frame);
     QByteArray answer;
@@ -64,10 +66,17 @@ int Channel::exchange(const QByteArray &frame, int replySize, QByteArray &reply,
 int Channel::finish(const QByteArray &update, const QByteArray &end,
                     const QDeadlineTimer &deadline) {
     const auto notice = m_wroteSettings ? closingNotice : std::chrono::milliseconds(0);
-    int result = resultOf(m_transport->dropArrived(notice));
-    if (result == ZMLib::Success) result = send(update, deadline);
-    if (result == ZMLib::Success) send(end, deadline);
+    const auto drained =
+        m_transport->drain(notice, std::min(deadline, QDeadlineTimer(drainWithin)));
+    if (drained == Transport::Completion::Closed) return ZMLib::Closed;
+    const int result = send(update, deadline);
+    if (result == ZMLib::Success) m_isBegun = send(end, deadline) != ZMLib::Success;
     return result;
+}
+
+void Channel::abandon() {
+    if (m_isBegun) send(queryEnd, QDeadlineTimer(abandonWithin));
+    m_isBegun = false;
 }
 
 std::optional<QStringList> Channel::addressesInUse(const QDeadlineTimer &deadline) {

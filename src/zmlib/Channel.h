@@ -20,6 +20,9 @@ class Channel {
     // a connection arrives right behind the last reply.
     static constexpr std::chrono::milliseconds closingNotice{2};
 
+    // Longest time for the end frame of a transaction that is given up.
+    static constexpr std::chrono::milliseconds abandonWithin{200};
+
     explicit Channel(std::unique_ptr<Transport> transport);
 
     // Writes a frame that has no answer.
@@ -34,6 +37,13 @@ class Channel {
     // Success once the update frame is out.
     int finish(const QByteArray &update, const QByteArray &end, const QDeadlineTimer &deadline);
 
+    // Sends the end frame of a transaction that was begun and not finished, so that a printer which
+    // is still there drops what it has staged. The channel is of no use afterwards.
+    void abandon();
+
+    // Whether the destructor may take as long as a call.
+    bool endsSlowly() const { return m_transport->endsSlowly(); }
+
     // The dotted addresses of the printer's interfaces, the wired one first. Inside a start only.
     std::optional<QStringList> addressesInUse(const QDeadlineTimer &deadline);
 
@@ -42,6 +52,7 @@ class Channel {
     // What the exchanges so far waited for: the kind of reply ("F" or "R") and the item code.
     QSet<QByteArray> m_asked;
     bool m_wroteSettings = false;
+    bool m_isBegun = false;  // a frame went out, and no end frame since
 };
 
 // Frames around a query that changes nothing: no update frame goes between them.

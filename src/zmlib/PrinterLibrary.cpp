@@ -1,10 +1,14 @@
 #include "zmlib/PrinterLibrary.h"
 
 #include <QHostAddress>
+#include <QSet>
 #include <QStringList>
 #include <QThread>
 #include <algorithm>
+#include <condition_variable>
+#include <set>
 
+#include "platform/core/MainThread.h"
 #include "platform/core/Waiting.h"
 
 using namespace Qt::StringLiterals;
@@ -18,12 +22,49 @@ constexpr qsizetype endFrame = 2;
 
 }  // namespace
 
+// The URIs of the channels that are being destroyed, which takes a while. Any thread.
+class EndingChannels {
+  public:
+    void add(const QString &uri) {
+        const std::lock_guard lock(m_mutex);
+        m_uris.insert(uri);
+    }
+    void remove(const QString &uri) {
+        const std::lock_guard lock(m_mutex);
+        m_uris.erase(m_uris.find(uri));
+        m_changed.notify_all();
+    }
+    // Waits until no channel of the URI is left.
+    void wait(const QString &uri, const QDeadlineTimer &deadline) {
+        const auto isOver = [&] {
+            const std::lock_guard lock(m_mutex);
+            return !m_uris.contains(uri);
+        };
+        waitUntil(isOver, deadline, [&](std::chrono::milliseconds slice) {
+            std::unique_lock lock(m_mutex);
+            m_changed.wait_for(lock, slice, [&] { return !m_uris.contains(uri); });
+        });
+    }
+
+  private:
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::multiset<QString> m_uris;
+};
+
 PrinterLibrary::PrinterLibrary(std::vector<std::unique_ptr<PrinterSource>> sources, int longestWait,
                                ProbePorts ports)
-    : m_sources(std::move(sources)), m_longestWait(longestWait), m_ports(ports) {
+    : m_sources(std::move(sources)),
+      m_longestWait(longestWait),
+      m_ports(ports),
+      m_ending(std::make_shared<EndingChannels>()) {
     m_closing.setSingleShot(true);
     m_closing.setTimerType(Qt::PreciseTimer);  // not before what it closes has expired
     m_closing.callOnTimeout([this] { closeExpired(); });
+}
+
+PrinterLibrary::~PrinterLibrary() {
+    for (auto &[uri, open] : m_channels) open.channel.abandon();
 }
 
 std::optional<QList<PrinterEntry>> PrinterLibrary::ZMCreatePrinterURI() {
@@ -33,9 +74,12 @@ std::optional<QList<PrinterEntry>> PrinterLibrary::ZMCreatePrinterURI() {
         listing.entries += found.entries;
         listing.problems += found.problems;
     }
+    QSet<QString> listed;
+    for (const PrinterEntry &entry : std::as_const(listing.entries))
+        listed << entry[PrinterKey::DeviceURI];
     const std::lock_guard lock(m_mutex);
     m_listing = listing;
-    m_refused.clear();
+    std::erase_if(m_refused, [&](const auto &one) { return !listed.contains(one.first); });
     return listing.entries;
 }
 
@@ -76,13 +120,15 @@ int PrinterLibrary::ZMEngageConnectAndStartCommand(const QString &uri,
 int PrinterLibrary::ZMEndCommandAndEngageDisConnect(const QString &uri,
                                                     const QList<QByteArray> &commands, int,
                                                     int timeout) {
-    const auto end = [&](Channel &channel, const QDeadlineTimer &deadline) {
+    const auto finish = [&](Channel &channel, const QDeadlineTimer &deadline) {
         return channel.finish(commands.value(updateFrame), commands.value(endFrame), deadline);
     };
-    const int result = useChannel(uri, timeout, end);
-    const std::lock_guard lock(m_mutex);
-    if (const auto found = m_channels.find(uri); found != m_channels.end() && !found->second.busy)
-        m_channels.erase(found);
+    const QDeadlineTimer deadline = deadlineFor(timeout);
+    const int result = useChannel(uri, timeout, finish);
+    if (auto channel = takeOpen(uri)) {
+        channel->abandon();
+        end(uri, std::move(*channel), deadline);
+    }
     return result;
 }
 
@@ -135,6 +181,17 @@ bool PrinterLibrary::hasListChanged() {
                        [](const auto &source) { return source->hasChanged(); });
 }
 
+bool PrinterLibrary::isListComplete() {
+    return std::all_of(m_sources.begin(), m_sources.end(),
+                       [](const auto &source) { return source->isSettled(); });
+}
+
+QString PrinterLibrary::addressOf(const QString &uri) {
+    const std::lock_guard lock(m_mutex);
+    const auto found = m_addresses.find(uri);
+    return found == m_addresses.end() ? QString() : found->second;
+}
+
 QDeadlineTimer PrinterLibrary::deadlineFor(int timeout) const {
     return QDeadlineTimer(std::min(timeout, m_longestWait));
 }
@@ -151,28 +208,30 @@ bool PrinterLibrary::isOpen(const QString &uri) {
 
 std::variant<Channel, int> PrinterLibrary::open(const QString &uri,
                                                 const QDeadlineTimer &deadline) {
+    m_ending->wait(uri, deadline);
     Opened opened;
     for (const auto &source : m_sources) {
         opened = source->open(uri, deadline);
         if (opened.transport || opened.result != UnknownPrinter) break;
     }
-    noteOpened(uri, opened.transport ? static_cast<int>(Success) : opened.result);
+    noteOpened(uri, opened);
     if (!opened.transport) return opened.result;
     return Channel(std::move(opened.transport));
 }
 
-// What keeps a listed printer from being opened, unless it is merely gone, is a problem to be told.
-void PrinterLibrary::noteOpened(const QString &uri, int result) {
+// What keeps a listed printer from being opened is a problem, unless it is merely gone.
+void PrinterLibrary::noteOpened(const QString &uri, const Opened &opened) {
     const std::lock_guard lock(m_mutex);
     m_refused.erase(uri);
-    if (result != NoPermission && result != InUse) return;
+    if (!opened.address.isEmpty()) m_addresses.insert_or_assign(uri, opened.address);
+    if (opened.transport || (opened.result != NoPermission && opened.result != InUse)) return;
     QString name = uri;
     for (const PrinterEntry &entry : std::as_const(m_listing.entries))
         if (entry[PrinterKey::DeviceURI] == uri)
             name = u"%1 (%2)"_s.arg(
                 entry[PrinterKey::ProductName],
                 entry.value(PrinterKey::SerialNumber, entry.value(PrinterKey::Port)));
-    const auto kind = result == InUse ? PrinterProblem::InUse : PrinterProblem::NoPermission;
+    const auto kind = opened.result == InUse ? PrinterProblem::InUse : PrinterProblem::NoPermission;
     m_refused.insert_or_assign(uri, PrinterProblem{kind, name});
 }
 
@@ -180,6 +239,8 @@ void PrinterLibrary::noteOpened(const QString &uri, int result) {
 void PrinterLibrary::letWait(const QString &uri, Channel channel) {
     const auto wait = std::min(engageWait, std::chrono::milliseconds(m_longestWait));
     closeExpired();
+    auto earlier = takeWaiting(uri);
+    if (earlier) end(uri, std::move(*earlier), {});
     {
         const std::lock_guard lock(m_mutex);
         m_waiting.insert_or_assign(uri, Waiting{std::move(channel), {wait, Qt::PreciseTimer}});
@@ -195,8 +256,36 @@ std::optional<Channel> PrinterLibrary::takeWaiting(const QString &uri) {
 }
 
 void PrinterLibrary::closeExpired() {
+    std::map<QString, Waiting> expired;
+    {
+        const std::lock_guard lock(m_mutex);
+        for (auto i = m_waiting.begin(); i != m_waiting.end();) {
+            const auto next = std::next(i);
+            if (i->second.until.hasExpired()) expired.insert(m_waiting.extract(i));
+            i = next;
+        }
+    }
+    for (auto &[uri, waiting] : expired) end(uri, std::move(waiting.channel), {});
+}
+
+std::optional<Channel> PrinterLibrary::takeOpen(const QString &uri) {
     const std::lock_guard lock(m_mutex);
-    std::erase_if(m_waiting, [](const auto &entry) { return entry.second.until.hasExpired(); });
+    const auto found = m_channels.find(uri);
+    if (found == m_channels.end() || found->second.busy) return {};
+    return std::move(m_channels.extract(found).mapped().channel);
+}
+
+void PrinterLibrary::end(const QString &uri, Channel channel, const QDeadlineTimer &deadline) {
+    if (!channel.endsSlowly()) return;
+    m_ending->add(uri);
+    std::shared_ptr<Channel> ending(new Channel(std::move(channel)),
+                                    [all = m_ending, uri](const Channel *ended) {
+                                        delete ended;
+                                        all->remove(uri);
+                                    });
+    if (!MainThread::isCurrent()) return;
+    if (MainThread::startBackgroundWork([ending = std::move(ending)] {}))
+        m_ending->wait(uri, deadline);
 }
 
 // Claims the channel for one exchange. It stays open until its printer has closed it.
@@ -209,10 +298,17 @@ int PrinterLibrary::useChannel(const QString &uri, int timeout, const Exchange &
         open = &found->second;
         open->busy = true;
     }
-    const int result = exchange(open->channel, deadlineFor(timeout));
-    const std::lock_guard lock(m_mutex);
-    open->busy = false;
-    if (result == Closed) m_channels.erase(uri);
+    const QDeadlineTimer deadline = deadlineFor(timeout);
+    const int result = exchange(open->channel, deadline);
+    {
+        const std::lock_guard lock(m_mutex);
+        open->busy = false;
+    }
+    if (result != Closed) return result;
+    if (auto channel = takeOpen(uri)) {
+        channel->abandon();
+        end(uri, std::move(*channel), deadline);
+    }
     return result;
 }
 

@@ -17,6 +17,8 @@
 #include "zmlib/PrinterSource.h"
 #include "zmlib/ZMLib.h"
 
+class EndingChannels;
+
 // The library that ships. Any thread may call it; a channel serves one call at a time.
 class PrinterLibrary : public ZMLib {
   public:
@@ -29,6 +31,8 @@ class PrinterLibrary : public ZMLib {
     explicit PrinterLibrary(std::vector<std::unique_ptr<PrinterSource>> sources,
                             int longestWait = std::numeric_limits<int>::max(),
                             ProbePorts ports = {});
+    // Gives up the transactions that are open.
+    ~PrinterLibrary() override;
 
     std::optional<QList<PrinterEntry>> ZMCreatePrinterURI() override;
     int ZMGetEngageStatusSub(const QString &uri, int timeout) override;
@@ -48,6 +52,8 @@ class PrinterLibrary : public ZMLib {
                        int timeout) override;
     QList<PrinterProblem> problems() override;
     bool hasListChanged() override;
+    bool isListComplete() override;
+    QString addressOf(const QString &uri) override;
 
   private:
     struct OpenChannel {
@@ -64,21 +70,29 @@ class PrinterLibrary : public ZMLib {
     QDeadlineTimer deadlineFor(int timeout) const;
     bool isListed(const QString &uri) const;
     bool isOpen(const QString &uri);
-    // The channel, or a negative Result.
+    // The channel, or a negative Result. Waits for the end of an earlier channel.
     std::variant<Channel, int> open(const QString &uri, const QDeadlineTimer &deadline);
-    void noteOpened(const QString &uri, int result);
+    void noteOpened(const QString &uri, const Opened &opened);
     void letWait(const QString &uri, Channel channel);
     std::optional<Channel> takeWaiting(const QString &uri);
     void closeExpired();
+    // Takes an open channel that no call uses out of the table.
+    std::optional<Channel> takeOpen(const QString &uri);
+    // Destroys a channel, never under the lock; one that ends slowly in the background, while the
+    // main thread waits in slices for it until `deadline`.
+    void end(const QString &uri, Channel channel, const QDeadlineTimer &deadline);
     int useChannel(const QString &uri, int timeout, const Exchange &exchange);
     bool answersAt(const QString &uri, const QString &address, const QDeadlineTimer &deadline);
 
     const std::vector<std::unique_ptr<PrinterSource>> m_sources;
     const int m_longestWait;
     const ProbePorts m_ports;
+    // Of this library's channels that end; the background may outlive the library.
+    const std::shared_ptr<EndingChannels> m_ending;
     std::mutex m_mutex;  // guards what follows; never held while a call waits
     Listing m_listing;   // the last one
     std::map<QString, PrinterProblem> m_refused;  // printers that could not be opened since
+    std::map<QString, QString> m_addresses;       // where printers were opened last, by URI
     std::map<QString, OpenChannel> m_channels;
     std::map<QString, Waiting> m_waiting;
     QTimer m_closing;  // of channels that waited too long; runs on the thread of the library

@@ -13,7 +13,6 @@
 
 #include "platform/core/MainThread.h"
 #include "platform/core/Waiting.h"
-#include "zmlib/Replies.h"
 #include "zmlib/Socket.h"
 #include "zmlib/Transport.h"
 #include "zmlib/ZMLib.h"
@@ -28,13 +27,13 @@ class TcpTransport : public Transport {
         ::setsockopt(m_socket.fd(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
     }
 
-    Completion write(const QByteArray &bytes, const QDeadlineTimer &deadline) override {
-        qsizetype written = 0;
-        while (written < bytes.size()) {
-            const ssize_t n = ::send(m_socket.fd(), bytes.constData() + written,
-                                     static_cast<size_t>(bytes.size() - written), MSG_NOSIGNAL);
+  private:
+    Completion transmit(const QDeadlineTimer &deadline) override {
+        while (!m_unsent.isEmpty()) {
+            const ssize_t n = ::send(m_socket.fd(), m_unsent.constData(),
+                                     static_cast<size_t>(m_unsent.size()), MSG_NOSIGNAL);
             if (n >= 0) {
-                written += n;
+                m_unsent.remove(0, n);
             } else if (errno == EAGAIN || errno == EWOULDBLOCK) {
                 if (!m_socket.waitFor(POLLOUT, deadline)) return Completion::TimedOut;
             } else if (errno != EINTR) {
@@ -44,16 +43,6 @@ class TcpTransport : public Transport {
         return Completion::Done;
     }
 
-    Completion dropArrived(std::chrono::milliseconds notice) override {
-        const QDeadlineTimer deadline(notice);
-        auto completion = Completion::Done;
-        while (completion == Completion::Done && m_received.size() <= skippedBytes)
-            completion = receive(deadline);
-        m_received.clear();
-        return completion == Completion::Closed ? Completion::Closed : Completion::Done;
-    }
-
-  private:
     // Awake at first, and takes all that has come, so that one call serves a whole reply.
     Completion receive(const QDeadlineTimer &deadline) override {
         std::array<char, ZMLib::replyArea> buffer;

@@ -19,8 +19,16 @@ class Transport {
 
     virtual ~Transport() = default;
 
-    // Writes all of `bytes`.
-    virtual Completion write(const QByteArray &bytes, const QDeadlineTimer &deadline) = 0;
+    // Writes all of `bytes`, after the rest of a frame that was begun before and timed out: a
+    // printer would take the next frame for that rest. A frame that has not begun is dropped.
+    Completion write(const QByteArray &bytes, const QDeadlineTimer &deadline) {
+        m_unsent += bytes;
+        const auto completion = transmit(deadline);
+        if (completion == Completion::Closed) m_unsent.clear();
+        if (completion == Completion::TimedOut && m_unsent.size() >= bytes.size())
+            m_unsent.chop(bytes.size());
+        return completion;
+    }
 
     // Waits for at least one byte and appends what has come, `limit` bytes at most, to `bytes`.
     Completion read(QByteArray &bytes, qsizetype limit, const QDeadlineTimer &deadline) {
@@ -31,15 +39,27 @@ class Transport {
         return completion;
     }
 
-    // Drops unread bytes and those that arrive within `notice`. Closed when the printer has closed.
-    virtual Completion dropArrived(std::chrono::milliseconds notice) = 0;
+    // Drops unread bytes and those that arrive until `silence` passes without any, drainedBytes
+    // have come or `deadline` has passed (TimedOut: more may come). Closed when the printer has
+    // closed.
+    Completion drain(std::chrono::milliseconds silence, const QDeadlineTimer &deadline);
+
+    // Whether the destructor may take as long as a call.
+    virtual bool endsSlowly() const { return false; }
 
   protected:
     // Waits for at least one byte and appends what has come to m_received.
     virtual Completion receive(const QDeadlineTimer &deadline) = 0;
+    // Writes m_unsent and removes from it what the printer has taken.
+    virtual Completion transmit(const QDeadlineTimer &deadline) = 0;
 
     QByteArray m_received;  // and not read yet
+    QByteArray m_unsent;
 };
+
+// Most bytes that are dropped at a time, and the longest time that this may take.
+inline constexpr qsizetype drainedBytes = qsizetype{64} * 1024;
+inline constexpr std::chrono::milliseconds drainWithin{500};
 
 // How long TCP answers are looked for without sleeping, as local printers answer at once.
 inline constexpr std::chrono::microseconds nearAnswer{100};

@@ -1,4 +1,5 @@
 #include <deque>
+#include <utility>
 
 #include "platform/core/Waiting.h"
 #include "virtualprinter/VirtualPrinter.h"
@@ -12,9 +13,10 @@ class VirtualTransport : public Transport {
                      std::unique_ptr<VirtualPrinter::Channel> channel)
         : m_printer(std::move(printer)), m_channel(std::move(channel)) {}
 
-    Completion write(const QByteArray &bytes, const QDeadlineTimer &) override {
+  private:
+    Completion transmit(const QDeadlineTimer &) override {
         if (!m_channel->isOpen()) return Completion::Closed;
-        for (const auto &reply : m_channel->receive(bytes))
+        for (const auto &reply : m_channel->receive(std::exchange(m_unsent, {})))
             m_replies.push_back({reply.bytes, QDeadlineTimer(reply.delay)});
         return Completion::Done;
     }
@@ -30,13 +32,6 @@ class VirtualTransport : public Transport {
         return Completion::Done;
     }
 
-    Completion dropArrived(std::chrono::milliseconds) override {
-        m_received.clear();
-        while (!m_replies.empty() && m_replies.front().due.hasExpired()) m_replies.pop_front();
-        return m_channel->isOpen() ? Completion::Done : Completion::Closed;
-    }
-
-  private:
     struct Pending {
         QByteArray bytes;
         QDeadlineTimer due;

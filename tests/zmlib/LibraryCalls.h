@@ -6,6 +6,7 @@
 inline const QList<QByteArray> commands{hex("1b7b045501567d"), hex("1b7b0377777d"),
                                         hex("1b7b045500557d")};
 inline const QByteArray readName = hex("1b7b056606107c7d");
+inline const QByteArray writeAB = hex("43463b09003b06103b4142003b4a");
 inline const QByteArray nameAB = hex("43463b08003b06103b41423b4a");  // its reply
 inline constexpr int limit = 15000;  // ms; longer than anything takes
 

@@ -2,13 +2,13 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QUrl>
+#include <semaphore>
 
 #include "LibraryCalls.h"
 #include "zmlib/Replies.h"
 
 namespace {
 
-const QByteArray writeAB = hex("43463b09003b06103b4142003b4a");
 const QByteArray accepted = hex("43523b08003b06103b00003bc7");
 
 class Library : public EveryTransport, protected LibraryCalls {
@@ -41,8 +41,10 @@ TEST_P(Library, ATransactionPutsExactlyItsFramesOnTheWire) {
     EXPECT_EQ(get(6), 0);
     EXPECT_EQ(reply.toHex(), nameAB.left(6).toHex()) << "more than the reply area";
     EXPECT_EQ(finish(), 0);
-    EXPECT_EQ(status(), 1);
+    EXPECT_EQ(served->printer().log().first().bytes == commands[2], GetParam() == Transport::Usb)
+        << "what another host staged";
     EXPECT_EQ(served->receivedUntilEnd(), QStringLiteral("start start =1006 ?1006 update end"));
+    EXPECT_EQ(status(), 1);
 }
 
 TEST_P(Library, TheConnectionOfTheStatusIsTheOneThatIsEngaged) {
@@ -52,6 +54,45 @@ TEST_P(Library, TheConnectionOfTheStatusIsTheOneThatIsEngaged) {
     served->printer().setFaults(faultsOf(R"({"refuseConnection": true})"));
     ASSERT_EQ(engage(), 0) << "a second connection";
     EXPECT_EQ(finish(), 0);
+}
+
+// A printer whose connection ends only when the test says so.
+class SlowEnds : public PrinterSource {
+  public:
+    explicit SlowEnds(std::counting_semaphore<> &gate) : m_gate(gate) {}
+    Listing list() override { return {}; }
+    bool lists(const QString &uri) override { return !uri.isEmpty(); }
+    Opened open(const QString &, const QDeadlineTimer &) override {
+        return {std::make_unique<Connection>(m_gate)};
+    }
+
+  private:
+    struct Connection : Transport {
+        explicit Connection(std::counting_semaphore<> &gate) : end(gate) {}
+        ~Connection() override { end.acquire(); }
+        bool endsSlowly() const override { return true; }
+        Completion receive(const QDeadlineTimer &) override { return Completion::TimedOut; }
+        Completion transmit(const QDeadlineTimer &) override {
+            m_unsent.clear();
+            return Completion::Done;
+        }
+        std::counting_semaphore<> &end;
+    };
+    std::counting_semaphore<> &m_gate;
+};
+
+TEST(SlowLibrary, ServesOtherPrintersAndTheWindowsWhileAConnectionEnds) {
+    std::counting_semaphore<> gate(0);
+    const auto library = libraryOf<SlowEnds>(limit, ProbePorts(), std::ref(gate));
+    const QString uri = QStringLiteral("slow");
+    int served = 0;
+    QTimer::singleShot(0, [&] {
+        served = library->ZMGetEngageStatusSub(QStringLiteral("other"), limit);
+        gate.release(2);
+    });
+    ASSERT_EQ(library->ZMEngageConnectAndStartCommand(uri, commands, 20, limit), 0);
+    EXPECT_EQ(library->ZMEndCommandAndEngageDisConnect(uri, commands, 20, limit), 0);
+    EXPECT_EQ(served, 1);
 }
 
 TEST_P(Library, AnswersForTheAddressesOfThePrintersThatCanBeReached) {

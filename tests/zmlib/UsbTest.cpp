@@ -54,8 +54,6 @@ class Usb : public testing::Test, protected LibraryCalls {
     const UsbBed bed;
     std::vector<std::shared_ptr<VirtualPrinter>> printers;
     std::vector<std::unique_ptr<UsbEmulator>> usb;
-
-  private:
     std::shared_ptr<PrinterLibrary> m_library;
 };
 
@@ -131,7 +129,9 @@ TEST_F(Usb, WhoMayNotOrCannotOpenAPrinterIsTold) {
     ::setfsuid(0);
     EXPECT_EQ(problems(), QStringList{u"0Larkfield L200 (0001)"_s});
     listed();
-    EXPECT_EQ(problems(), QStringList()) << "kept beyond the next list";
+    EXPECT_EQ(problems(), QStringList{u"0Larkfield L200 (0001)"_s}) << "forgotten by the next list";
+    printer.unplug();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return listed().isEmpty(); })) << "kept without a printer";
 }
 
 TEST_F(Usb, APrinterThatMisbehavesGivesAResultInTime) {
@@ -155,6 +155,53 @@ TEST_F(Usb, APrinterThatMisbehavesGivesAResultInTime) {
     printer.stallIn = true;
     EXPECT_EQ(get(), ZMLib::Closed);
     EXPECT_EQ(printer.claims, printer.releases);
+}
+
+TEST_F(Usb, NothingThatAPrinterOrTheSystemDoesKeepsACallBeyondItsTime) {
+    UsbEmulator &printer = plug({});
+    printer.drips = true;
+    QElapsedTimer time;
+    time.start();
+    EXPECT_EQ(status(), ZMLib::UnknownPrinter);
+    printer.drips = false;
+    ASSERT_EQ(engage(), 0);
+    printer.drips = true;
+    EXPECT_EQ(finish(), 0);
+    printer.drips = false;
+    printer.room = 0;
+    EXPECT_EQ(library().ZMGetEngageStatusSub(uri, 100), ZMLib::UnknownPrinter);
+    printer.room = -1;
+    ASSERT_EQ(engage(), 0);
+    printer.reapFails = true;
+    EXPECT_EQ(get(), ZMLib::Closed);
+    EXPECT_LT(time.elapsed(), limit);
+}
+
+TEST_F(Usb, AFrameThatTimedOutHalfWayIsFinishedBeforeTheNext) {
+    UsbEmulator &printer = plug({}, R"({"items": {"0x1006": "AB"}})");
+    ASSERT_EQ(engage(), 0);
+    for (const int room : {0, 3}) {
+        printer.room = room;
+        EXPECT_EQ(get(ZMLib::replyArea, 50), ZMLib::TimedOut);
+        printer.room = -1;
+        EXPECT_EQ(get(), 0) << room;
+        EXPECT_EQ(reply, nameAB) << room;
+    }
+    EXPECT_EQ(finish(), 0);
+}
+
+TEST_F(Usb, WhatWasStagedIsDroppedWhenATransactionIsGivenUp) {
+    UsbEmulator &printer = plug({}, R"({"items": {"0x1006": "XY"}})");
+    for (const bool stalls : {true, false}) {  // otherwise the program ends
+        ASSERT_EQ(engage(), 0);
+        const int size = static_cast<int>(writeAB.size());
+        ASSERT_EQ(library().ZMSendSettingData(uri, size, writeAB, reply, commands, limit), 0);
+        printer.stallIn = stalls;
+        EXPECT_EQ(get(), stalls ? ZMLib::Closed : ZMLib::Success);
+        m_library.reset();
+        EXPECT_EQ(printers[0]->log().last().bytes, commands[2]) << stalls;
+        EXPECT_TRUE(printers[0]->item(0x1006).startsWith("XY")) << stalls;
+    }
 }
 
 TEST_F(Usb, APulledCableEndsAReadThatWaits) {

@@ -56,7 +56,8 @@ class OnePrinterLibrary {
     const PrinterEntry &entry() const { return m_entry; }
 
     // What the printer received since the last call, as text: "start", "update", "end", "?1006" for
-    // a request, "=1006" for a setting frame.
+    // a request, "=1006" for a setting frame. Without the end frame that begins an opening over
+    // USB.
     QString received() {
         QStringList names;
         for (const auto &[direction, b] : m_printer->log()) {
@@ -72,6 +73,7 @@ class OnePrinterLibrary {
                 names << QLatin1String(b[3] == 'w' ? "update" : b[4] == 1 ? "start" : "end");
         }
         m_printer->clearLog();
+        if (m_usb && !names.isEmpty() && names.first() == QLatin1String("end")) names.removeFirst();
         return names.join(u' ');
     }
     // The same, once the transaction has ended: over a socket its last frames may be on their way.

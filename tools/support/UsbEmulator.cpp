@@ -3,6 +3,7 @@
 #include <sys/ioctl.h>
 
 #include <cstring>
+#include <utility>
 
 UsbEmulator::UsbEmulator(const UsbBed &bed, std::shared_ptr<VirtualPrinter> printer,
                          Description description)
@@ -107,6 +108,10 @@ void UsbEmulator::end(usbdevfs_urb *urb, int status, int moved) {
 }
 
 void UsbEmulator::giveBytes() {
+    if (drips && m_toHost.empty() && m_drip.hasExpired()) {
+        m_toHost.push_back({QByteArray(1, 'x'), QDeadlineTimer(0)});
+        m_drip = QDeadlineTimer(dripPause);
+    }
     while (!m_reading.empty()) {
         usbdevfs_urb *const urb = m_reading.front();
         if (stallIn) {
@@ -134,9 +139,15 @@ void UsbEmulator::submit(usbdevfs_urb *urb) {
         return giveBytes();
     }
     if (stallOut || !m_channel) return end(urb, -EPIPE, 0);
-    end(urb, 0, urb->buffer_length);
+    const int taken = room < 0 ? urb->buffer_length : std::min(room.load(), urb->buffer_length);
+    if (room > 0) room -= taken;
+    if (taken == urb->buffer_length)
+        end(urb, 0, taken);
+    else
+        m_writing = urb;
+    urb->actual_length = taken;
     for (const auto &reply :
-         m_channel->receive(QByteArray(static_cast<const char *>(urb->buffer), urb->buffer_length)))
+         m_channel->receive(QByteArray(static_cast<const char *>(urb->buffer), taken)))
         m_toHost.push_back({reply.bytes, QDeadlineTimer(reply.delay, Qt::PreciseTimer)});
     giveBytes();
     if (!m_channel->isOpen()) vanish();
@@ -146,6 +157,7 @@ void UsbEmulator::submit(usbdevfs_urb *urb) {
 int UsbEmulator::control(unsigned long request, void *argument) {
     if (request == USBDEVFS_REAPURBNDELAY) {
         giveBytes();
+        if (reapFails) return -EIO;
         if (m_done.empty()) return m_gone ? -ENODEV : -EAGAIN;
         *static_cast<void **>(argument) = m_done.front();
         m_done.pop_front();
@@ -195,6 +207,11 @@ int UsbEmulator::control(unsigned long request, void *argument) {
             submit(static_cast<usbdevfs_urb *>(argument));
             return 0;
         case USBDEVFS_DISCARDURB: {
+            if (argument == m_writing) {
+                end(std::exchange(m_writing, nullptr), -ENOENT,
+                    static_cast<usbdevfs_urb *>(argument)->actual_length);
+                return 0;
+            }
             const auto found = std::find(m_reading.begin(), m_reading.end(), argument);
             if (found == m_reading.end()) return -EINVAL;
             end(*found, -ENOENT, 0);

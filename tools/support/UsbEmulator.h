@@ -60,6 +60,10 @@ class UsbEmulator {
     QByteArray node() const;
 
     std::atomic<bool> stallIn = false, stallOut = false, emptyPackets = false;
+    std::atomic<bool> drips = false;      // sends a byte every dripPause, without an end
+    std::atomic<bool> reapFails = false;  // the system cannot say which transfers have ended
+    std::atomic<int> room = -1;           // bytes that it still takes; negative: any number
+    static constexpr std::chrono::milliseconds dripPause{8};
     std::atomic<int> packet = 512;      // bytes of the longest packet to the host
     std::atomic<int> requestsLeft = 0;  // before it vanishes; 0: no limit
     std::atomic<int> claims = 0, releases = 0, opens = 0;
@@ -95,5 +99,7 @@ class UsbEmulator {
         QDeadlineTimer due;
     };
     std::deque<Bytes> m_toHost;
+    QDeadlineTimer m_drip{0};
     std::deque<usbdevfs_urb *> m_reading, m_done;
+    usbdevfs_urb *m_writing = nullptr;  // waits for room
 };

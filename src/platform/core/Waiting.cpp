@@ -12,8 +12,8 @@
 
 namespace {
 
-// The innermost one; used by the main thread alone.
-CancellableWait *cancellable = nullptr;
+// The innermost one of each thread.
+thread_local CancellableWait *cancellable = nullptr;
 
 // Swallows what a person does while the program waits.
 class InputFilter : public QObject {
@@ -63,15 +63,18 @@ void idle() {
     QCoreApplication::processEvents();
 }
 
-CancellableWait::CancellableWait(std::function<bool(const QObject *)> isControl)
-    : m_isControl(std::move(isControl)), m_outer(std::exchange(cancellable, this)) {}
+CancellableWait::CancellableWait(std::function<bool()> isCancelled,
+                                 std::function<bool(const QObject *)> isControl)
+    : m_isCancelled(std::move(isCancelled)),
+      m_isControl(std::move(isControl)),
+      m_outer(std::exchange(cancellable, this)) {}
 
 CancellableWait::~CancellableWait() {
     cancellable = m_outer;
 }
 
 bool isWaitCancelled() {
-    return MainThread::isCurrent() && cancellable && cancellable->isCancelled();
+    return cancellable && cancellable->isCancelled();
 }
 
 bool waitUntil(const std::function<bool()> &done, const QDeadlineTimer &deadline,

@@ -15,26 +15,29 @@ inline constexpr std::chrono::milliseconds waitSlice{20};
 // but those for a control of a CancellableWait. Otherwise does nothing.
 void idle();
 
-// Lets waits of the main thread end early on demand; the last one made counts.
+// Lets the waits of its thread end early; the last one made counts.
 class CancellableWait {
   public:
-    // `isControl`: whether input reaches an object even so, as the button that calls cancel().
-    explicit CancellableWait(std::function<bool(const QObject *)> isControl);
+    // `isCancelled` is asked after every slice, on the thread of the object; once it says yes, it
+    // must not say no again. `isControl`: whether input reaches an object even so, as the button
+    // that cancels; for the main thread only.
+    explicit CancellableWait(
+        std::function<bool()> isCancelled,
+        std::function<bool(const QObject *)> isControl = [](const QObject *) { return false; });
     ~CancellableWait();
     CancellableWait(const CancellableWait &) = delete;
     CancellableWait &operator=(const CancellableWait &) = delete;
 
-    void cancel() { m_cancelled = true; }
-    bool isCancelled() const { return m_cancelled; }
+    bool isCancelled() const { return m_isCancelled(); }
     bool hasControl(const QObject *object) const { return m_isControl(object); }
 
   private:
+    const std::function<bool()> m_isCancelled;
     const std::function<bool(const QObject *)> m_isControl;
     CancellableWait *const m_outer;
-    bool m_cancelled = false;
 };
 
-// Whether a person has cancelled what the main thread waits for; false on every other thread.
+// Whether what this thread waits for was cancelled.
 bool isWaitCancelled();
 
 // Waits until `done` answers true, asked after every slice, or `deadline` has passed.

@@ -52,9 +52,10 @@ WaitSheet::WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator,
     waitForExposure(sheet);
     sheet->repaint();
     parent->repaint();
-    m_wait.emplace([this](const QObject *object) { return m_sheet && isPartOf(object, m_sheet); });
+    m_wait.emplace([this] { return m_isCancelled; },
+                   [this](const QObject *object) { return m_sheet && isPartOf(object, m_sheet); });
     m_cancelling = QObject::connect(cancel, &QAbstractButton::clicked, sheet, [this, cancel] {
-        m_wait->cancel();
+        m_isCancelled = true;
         cancel->setEnabled(false);
     });
 }

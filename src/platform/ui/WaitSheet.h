@@ -32,6 +32,7 @@ class WaitSheet {
 
     const QPointer<QWidget> m_sheet;
     const QPointer<QProgressBar> m_indicator;
+    bool m_isCancelled = false;
     std::optional<CancellableWait> m_wait;  // until the sheet has ended
     QMetaObject::Connection m_cancelling;
     std::optional<InertWindow> m_inert;
