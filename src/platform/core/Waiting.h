@@ -21,8 +21,7 @@ class CancellableWait {
     // `isControl`: whether input reaches an object even so, as the button that calls cancel().
     explicit CancellableWait(std::function<bool(const QObject *)> isControl);
     ~CancellableWait();
-    CancellableWait(const CancellableWait &) = delete;
-    CancellableWait &operator=(const CancellableWait &) = delete;
+    Q_DISABLE_COPY_MOVE(CancellableWait)
 
     void cancel() { m_cancelled = true; }
     bool isCancelled() const { return m_cancelled; }
