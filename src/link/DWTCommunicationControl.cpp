@@ -2,45 +2,10 @@
 
 #include "link/Binding.h"
 
-namespace {
-
-// Stores a copy of `frame`; true when there is none.
-bool store(QByteArray &field, const QByteArray &frame) {
-    field = frame;
-    return field.isNull();
-}
-
-}  // namespace
-
 std::shared_ptr<DWTCommunicationControl> DWTCommunicationControl::communicationControl(
     const PrinterEntry &entry) {
     auto link = make<DWTCommunicationControl>();
     return link && link->NUS_InitMember(entry) ? link : nullptr;
-}
-
-void DWTCommunicationControl::communicationToPrinterList(const PrinterEntry &entry) {
-    dictionary_PrinterInfomation = entry;
-}
-
-bool DWTCommunicationControl::setStartSetting(const QByteArray &frame) {
-    return store(settingStartCommand_Data, frame);
-}
-
-bool DWTCommunicationControl::setEndSetting(const QByteArray &frame) {
-    return store(settingEndCommand_Data, frame);
-}
-
-bool DWTCommunicationControl::setUpdateSetting(const QByteArray &frame) {
-    return store(settingUpdateCommand_Data, frame);
-}
-
-void DWTCommunicationControl::setCommandSettingToArray() {
-    settingCommands_Array = {settingStartCommand_Data, settingUpdateCommand_Data,
-                             settingEndCommand_Data};
-}
-
-void DWTCommunicationControl::qkStatusLength(int length) {
-    qkStatusLength_Integer = length;
 }
 
 std::optional<QList<PrinterEntry>> DWTCommunicationControl::printerList() {
@@ -58,16 +23,14 @@ bool DWTCommunicationControl::hasPrinterListChanged() {
 int DWTCommunicationControl::connectPrinter(int) {
     const auto library = installedLibrary();
     const QString uri = deviceURI();
-    switch (library->ZMGetEngageStatusSub(uri, callTimeout)) {
-        case 0:
-            return library->ZMStartCommand(uri, settingCommands_Array, qkStatusLength_Integer,
-                                           callTimeout);
-        case 1:
-            return library->ZMEngageConnectAndStartCommand(uri, settingCommands_Array,
-                                                           qkStatusLength_Integer, callTimeout);
-        default:
-            return 1;
-    }
+    const int status = library->ZMGetEngageStatusSub(uri, callTimeout);
+    if (status == 0)
+        return library->ZMStartCommand(uri, settingCommands_Array, qkStatusLength_Integer,
+                                       callTimeout);
+    if (status == 1)
+        return library->ZMEngageConnectAndStartCommand(uri, settingCommands_Array,
+                                                       qkStatusLength_Integer, callTimeout);
+    return 1;
 }
 
 int DWTCommunicationControl::disconnectPrinter(int) {
@@ -91,10 +54,6 @@ std::optional<QByteArray> DWTCommunicationControl::sendSetting(const QByteArray 
     return replyOf(result, reply);
 }
 
-bool DWTCommunicationControl::isClosedByPrinter() const {
-    return m_exchange == ZMLib::Closed || m_exchange == ZMLib::NotOpen;
-}
-
 int DWTCommunicationControl::checkConnect(const QString &address) {
     const QString target = isUSB(dictionary_PrinterInfomation) ? ZMLib::anyPrinter : deviceURI();
     return installedLibrary()->ZMIOOpenForUDP(target, address, qkStatusLength_Integer, callTimeout);
@@ -109,11 +68,7 @@ void DWTCommunicationControl::NUS_Dealloc() {}
 
 bool DWTCommunicationControl::NUS_InitMember(const PrinterEntry &entry) {
     dictionary_PrinterInfomation = entry;
-    return !dictionary_PrinterInfomation.isEmpty();
-}
-
-QString DWTCommunicationControl::deviceURI() const {
-    return dictionary_PrinterInfomation.value(PrinterKey::DeviceURI);
+    return !entry.isEmpty();
 }
 
 // The reply when the library reported success.

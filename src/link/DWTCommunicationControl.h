@@ -25,18 +25,25 @@ class DWTCommunicationControl : public DWTBaseClass {
     static std::shared_ptr<DWTCommunicationControl> communicationControl(const PrinterEntry &entry);
 
     // Points the link at another printer; frames, command list and status length stay.
-    void communicationToPrinterList(const PrinterEntry &entry);
+    void communicationToPrinterList(const PrinterEntry &entry) {
+        dictionary_PrinterInfomation = entry;
+    }
 
     // Each stores a copy of a command frame. Result: true when there was NO frame to store.
-    bool setStartSetting(const QByteArray &frame);
-    bool setEndSetting(const QByteArray &frame);
-    bool setUpdateSetting(const QByteArray &frame);
+    bool setStartSetting(const QByteArray &frame) { return store(settingStartCommand_Data, frame); }
+    bool setEndSetting(const QByteArray &frame) { return store(settingEndCommand_Data, frame); }
+    bool setUpdateSetting(const QByteArray &frame) {
+        return store(settingUpdateCommand_Data, frame);
+    }
 
     // Builds the command list from the three frames, in the order start, update, end.
-    void setCommandSettingToArray();
+    void setCommandSettingToArray() {
+        settingCommands_Array = {settingStartCommand_Data, settingUpdateCommand_Data,
+                                 settingEndCommand_Data};
+    }
 
     // Stores the status length (bytes) of the model; ZMLib::defaultStatusLength until then.
-    void qkStatusLength(int length);
+    void qkStatusLength(int length) { qkStatusLength_Integer = length; }
 
     // The printers that the library can reach; nothing when it gives no list. Needs no connection.
     std::optional<QList<PrinterEntry>> printerList();
@@ -61,7 +68,9 @@ class DWTCommunicationControl : public DWTBaseClass {
     std::optional<QByteArray> sendSetting(const QByteArray &frame);
 
     // Whether the last exchange (the two above) found the channel closed by the printer.
-    bool isClosedByPrinter() const;
+    bool isClosedByPrinter() const {
+        return m_exchange == ZMLib::Closed || m_exchange == ZMLib::NotOpen;
+    }
 
     // Whether a printer answers at `address` (dotted IPv4); negative when not. For a USB printer
     // any printer counts. Needs no connection.
@@ -69,7 +78,12 @@ class DWTCommunicationControl : public DWTBaseClass {
 
   private:
     bool NUS_InitMember(const PrinterEntry &entry);
-    QString deviceURI() const;
+    // Stores a copy of `frame`; true when there is none.
+    static bool store(QByteArray &field, const QByteArray &frame) {
+        field = frame;
+        return field.isNull();
+    }
+    QString deviceURI() const { return dictionary_PrinterInfomation.value(PrinterKey::DeviceURI); }
     std::optional<QByteArray> replyOf(int result, const QByteArray &reply);
 
     QByteArray settingStartCommand_Data;

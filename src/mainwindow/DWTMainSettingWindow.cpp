@@ -5,13 +5,8 @@
 #include "mainwindow/WaitWindow.h"
 #include "platform/core/Texts.h"
 #include "platform/ui/Alert.h"
-#include "settings/PrinterWords.h"
 
 using namespace Qt::StringLiterals;
-
-DWTMainSettingWindow::~DWTMainSettingWindow() {
-    MSW_Dealloc();
-}
 
 void DWTMainSettingWindow::MSW_Dealloc() {
     m_observers.clear();
@@ -19,10 +14,7 @@ void DWTMainSettingWindow::MSW_Dealloc() {
         outlineView_Main->setOutlineDelegate(nullptr);
         outlineView_Main->setOutlineDataSource(nullptr);
     }
-    dictionary_ViewManagement.clear();
-    dictionary_OutlineView.clear();
     DWTBaseClass::BaseClass()->nsObjectRelease(dataManager_Object);
-    dictionary_PrinterInfo.clear();
     delete window_Main;  // and every window that belongs to it
 }
 
@@ -49,7 +41,6 @@ void DWTMainSettingWindow::MSW_UIInitialize() {
     connectButtons();
     button_MainSend->setEnabled(false);
     window_Main->setShouldClose([this] { return windowShouldClose(); });
-    bool_usbPrinter = true;
 }
 
 void DWTMainSettingWindow::makePages() {
@@ -205,10 +196,6 @@ void DWTMainSettingWindow::enableAllViews(bool enabled) {
     if (!enabled) button_MainSend->setEnabled(false);
 }
 
-void DWTMainSettingWindow::MSW_UISelector(const QString &viewKey) {
-    m_pages->select(viewKey);
-}
-
 std::optional<QString> DWTMainSettingWindow::MSW_SelectedUIString() const {
     const QString key = m_pages->selectedKey();
     return key.isNull() ? std::nullopt : std::optional(key);
@@ -229,9 +216,7 @@ QString DWTMainSettingWindow::report() const {
 
 void DWTMainSettingWindow::showStandardAlert(const char *titleKey, const char *kindKey,
                                              const char *informationKey) {
-    Alert alert(Alert::Style::Warning);
-    alert.setButtonTitle(localized("DWT_Localize_Alert_Button_OK"));
-    alert.setMessageText(u"%1 %2"_s.arg(localized(titleKey), localized(kindKey)));
-    alert.setInformativeText(localized(informationKey));
-    alert.runModal(window_Main && window_Main->isVisible() ? window_Main.data() : nullptr);
+    const bool isShown = window_Main && window_Main->isVisible();
+    Alert::runModal(Alert::Style::Warning, u"%1 %2"_s.arg(localized(titleKey), localized(kindKey)),
+                    localized(informationKey), isShown ? window_Main.data() : nullptr);
 }

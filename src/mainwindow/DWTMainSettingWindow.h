@@ -42,7 +42,7 @@ class DWTMainSettingWindow : public QObject,
     Q_OBJECT
   public:
     DWTMainSettingWindow() = default;
-    ~DWTMainSettingWindow() override;
+    ~DWTMainSettingWindow() override { MSW_Dealloc(); }
     // First step of the set-up, through make<T>(): fields only.
     bool init() { return MSW_Init(); }
 
@@ -110,7 +110,7 @@ class DWTMainSettingWindow : public QObject,
     SettingRecord shownRecord() const;
     Plan shownPlan() const;
     void enableAllViews(bool enabled);
-    void MSW_UISelector(const QString &viewKey);
+    void MSW_UISelector(const QString &viewKey) { m_pages->select(viewKey); }
     std::optional<QString> MSW_SelectedUIString() const;
     void showStandardAlert(const char *titleKey, const char *kindKey, const char *informationKey);
 
@@ -138,8 +138,14 @@ class DWTMainSettingWindow : public QObject,
     // The networks that the printer sees; `over` waits. Nothing, after an alert, on failure.
     NetworkList::Found networksInReach(QWidget *over);
     void push_InfrastructureWPSGuide();
-    void push_EthernetConnect();
-    void push_InfrastructureConnect();
+    void push_EthernetConnect() {
+        checkConnection(*ethernet_ViewObject, DWT_SaveData_Ethernet_IPAddressSetting,
+                        DWT_SaveData_Ethernet_IPAddress);
+    }
+    void push_InfrastructureConnect() {
+        checkConnection(*infrastructure_ViewObject, DWT_SaveData_Infrastructure_IPAddressSetting,
+                        DWT_SaveData_Infrastructure_IPAddress);
+    }
     // Tests the address of a page; `settingKey` and `addressKey` are that page's keys.
     void checkConnection(InterfaceView &page, const QString &settingKey, const QString &addressKey);
 

@@ -47,16 +47,6 @@ void DWTMainSettingWindow::push_InfrastructureWPSGuide() {
     window_WPSGuide->run();
 }
 
-void DWTMainSettingWindow::push_EthernetConnect() {
-    checkConnection(*ethernet_ViewObject, DWT_SaveData_Ethernet_IPAddressSetting,
-                    DWT_SaveData_Ethernet_IPAddress);
-}
-
-void DWTMainSettingWindow::push_InfrastructureConnect() {
-    checkConnection(*infrastructure_ViewObject, DWT_SaveData_Infrastructure_IPAddressSetting,
-                    DWT_SaveData_Infrastructure_IPAddress);
-}
-
 void DWTMainSettingWindow::checkConnection(InterfaceView &page, const QString &settingKey,
                                            const QString &addressKey) {
     const WaitSheet waiting = window_Wait->over(window_Main);

@@ -82,15 +82,10 @@ std::optional<QString> DWTMainSettingWindow::sendViewAskingPassword() {
     const WaitSheet waiting = window_Wait->over(window_Main);
     const int password = dataManager_Object->isPassword();
     if (isWaitCancelled()) return {};
-    switch (password) {
-        case PasswordState::Set:
-            window_SendData->clearPassword();
-            return DWT_View_Key_Send_Login;
-        case PasswordState::NotSet:
-            return DWT_View_Key_Send_Confirm;
-        default:
-            return DWT_View_Key_Send_ConnectError;
-    }
+    if (password == PasswordState::NotSet) return DWT_View_Key_Send_Confirm;
+    if (password != PasswordState::Set) return DWT_View_Key_Send_ConnectError;
+    window_SendData->clearPassword();
+    return DWT_View_Key_Send_Login;
 }
 
 void DWTMainSettingWindow::push_SendLoginOK() {

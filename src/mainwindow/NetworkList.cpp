@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "platform/core/Texts.h"
-#include "platform/ui/Modal.h"
 
 using namespace Qt::StringLiterals;
 
@@ -115,14 +114,7 @@ void NetworkList::tableViewSelectionDidChange(TableView *table) {
     button_SelectSSIDWindowOK->setEnabled(table->selectedRow() >= 0);
 }
 
-void NetworkList::push_SelectSSIDWindowCancel() {
-    Modal::stop(this);
-    hide();
-}
-
 void NetworkList::MSW_SetSelectSSID() {
     const int row = tableView_SelectSSIDWindow->selectedRow();
-    if (row < 0) return;
-    Modal::stop(this, row);
-    hide();
+    if (row >= 0) Modal::stop(this, row);
 }

@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 
+#include "platform/ui/Modal.h"
 #include "platform/ui/ModalWindow.h"
 #include "platform/ui/TableView.h"
 #include "settings/ItemCodec.h"
@@ -48,7 +49,7 @@ class NetworkList : public ModalWindow,
         if (clickedRow >= 0) MSW_SetSelectSSID();
     }
     void push_SelectSSIDWindowOK() { MSW_SetSelectSSID(); }
-    void push_SelectSSIDWindowCancel();
+    void push_SelectSSIDWindowCancel() { Modal::stop(this); }
     // Ends the run with the selected row as its outcome; does nothing when none is selected.
     void MSW_SetSelectSSID();
 

@@ -72,11 +72,6 @@ int SendDialog::runOn(const QString &viewKey) {
     return Modal::run(this);
 }
 
-void SendDialog::closeDialog(int outcome) {
-    Modal::stop(this, outcome);
-    hide();
-}
-
 void SendDialog::setChanges(const QStringList &changes, const QStringList &warnings) {
     textView_SendConfirm->setPlainText(changes.join(u'\n'));
     const int lines = std::clamp(int(changes.size()), 3, shownLines);
@@ -126,14 +121,6 @@ void SendDialog::sayInstead(const QString &viewKey, const QString &text) {
 void SendDialog::push_SendLoginErrorOK() {
     MSW_SendUISelector(DWT_View_Key_Send_Login);
     textField_Password->selectAll();
-}
-
-void SendDialog::MSW_DataSendStart(const Notification &notification) {
-    MSW_SetProgressInfo(notification.userInfo);
-}
-
-void SendDialog::MSW_DataSendProgress(const Notification &notification) {
-    MSW_SetProgressInfo(notification.userInfo);
 }
 
 void SendDialog::MSW_DataSendStop(const Notification &notification) {

@@ -35,7 +35,7 @@ class SendDialog : public ModalWindow, private Ui::SendDialog {
     // Shows the dialog on the view of the key and runs until it is closed. Result: the outcome.
     int runOn(const QString &viewKey);
     // Ends the run with the outcome and hides the dialog.
-    void closeDialog(int outcome = Modal::stoppedOutcome);
+    void closeDialog(int outcome = Modal::stoppedOutcome) { Modal::stop(this, outcome); }
     // What the confirmation lists, in lines, and what it warns of; until others are given.
     void setChanges(const QStringList &changes, const QStringList &warnings);
     // Shows the view of the key and hides the others.
@@ -79,8 +79,8 @@ class SendDialog : public ModalWindow, private Ui::SendDialog {
     void push_SendLoginCancel() { closeDialog(); }
     void push_SendLoginErrorOK();
     void push_SendConnectErrorOK() { closeDialog(); }
-    void MSW_DataSendStart(const Notification &notification);
-    void MSW_DataSendProgress(const Notification &notification);
+    void MSW_DataSendStart(const Notification &posted) { MSW_SetProgressInfo(posted.userInfo); }
+    void MSW_DataSendProgress(const Notification &posted) { MSW_SetProgressInfo(posted.userInfo); }
     void MSW_DataSendStop(const Notification &notification);
     void MSW_SetProgressInfo(const QVariantMap &progress);
 

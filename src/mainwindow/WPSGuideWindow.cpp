@@ -4,7 +4,6 @@
 
 #include "mainwindow/WPSGuide.h"
 #include "platform/core/Texts.h"
-#include "platform/ui/Modal.h"
 
 WPSGuideWindow::WPSGuideWindow(QWidget *parent)
     : ModalWindow(parent), view_WPSGuide(new QWidget), dictionary_WPSViewManagement(view_WPSGuide) {
@@ -28,9 +27,4 @@ void WPSGuideWindow::run() {
 void WPSGuideWindow::MSW_WPSUISelector(const QString &viewKey) {
     dictionary_WPSViewManagement.select(viewKey);
     dictionary_WPSViewManagement.focusFirstControl();
-}
-
-void WPSGuideWindow::closeGuide() {
-    Modal::stop(this);
-    hide();
 }

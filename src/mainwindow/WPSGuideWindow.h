@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/core/Key.h"
+#include "platform/ui/Modal.h"
 #include "platform/ui/ModalWindow.h"
 #include "platform/ui/ViewStack.h"
 
@@ -24,7 +25,7 @@ class WPSGuideWindow : public ModalWindow {
     void push_WPSGuide1Exit() { closeGuide(); }
     void push_WPSGuide2Next() { closeGuide(); }
     void push_WPSGuide2Exit() { closeGuide(); }
-    void closeGuide();
+    void closeGuide() { Modal::stop(this); }
 
     QWidget *const view_WPSGuide;
     ViewStack dictionary_WPSViewManagement;

@@ -9,8 +9,6 @@
 using namespace Qt::StringLiterals;
 
 bool DWTBaseView::TBV_Init() {
-    nsObjectRelease(ndm_Object);
-    string_ViewKey.clear();
     view_Base = new QWidget;
     return true;
 }
@@ -56,8 +54,6 @@ const Field *DWTBaseView::fieldOf(const QWidget *control) const {
 
 void DWTBaseView::initializeUI() {
     notificationManager();
-    for (const Field &field : m_fields)
-        if (field.input) *field.input = false;
 }
 
 void DWTBaseView::showDataManager() {
@@ -81,15 +77,14 @@ void DWTBaseView::showForReading(bool reading) {
 }
 
 bool DWTBaseView::itemInputCheck() {
-    Alert alert(alertStyle());
     updateMarks(true);
-    bool passed = checkAddresses(alert);
+    bool passed = checkAddresses();
     for (const Field &field : m_fields) {
         if (field.isAddress()) continue;
         if (field.isNumber() && field.edited && field.control->isEnabled()) forceIntoRange(field);
         const QString rule = brokenRuleOf(field);
         if (rule.isEmpty()) continue;
-        showInputError(alert, field.name, rule);
+        showInputError(field.name, rule);
         passed = false;
     }
     return passed;
@@ -125,7 +120,7 @@ TextField *DWTBaseView::firstFault() const {
     return nullptr;
 }
 
-bool DWTBaseView::checkAddresses(Alert &alert) const {
+bool DWTBaseView::checkAddresses() const {
     QStringList names, rules;
     for (const Field &field : m_fields) {
         const QString rule = brokenRuleOf(field);
@@ -139,7 +134,7 @@ bool DWTBaseView::checkAddresses(Alert &alert) const {
     }
     if (names.isEmpty()) return true;
     rules.prepend(pageName());
-    showInputError(alert, names.join(u'\n'), rules.join(u'\n'));
+    showInputError(names.join(u'\n'), rules.join(u'\n'));
     return false;
 }
 
@@ -209,13 +204,9 @@ void DWTBaseView::controlTextDidChange(TextField *control) {
     postSendState(itemCheckDifferentToDataManager());
 }
 
-void DWTBaseView::showInputError(Alert &alert, const QString &fieldName,
-                                 const QString &rule) const {
-    alert.setButtonTitle(localized("DWT_Localize_Alert_Button_OK"));
-    alert.setMessageText(
-        u"%1 %2"_s.arg(fieldName, localized("DWT_Localize_Alert_MessageText_Error")));
-    alert.setInformativeText(rule);
-    alert.runModal(view_Base);
+void DWTBaseView::showInputError(const QString &fieldName, const QString &rule) const {
+    const QString kind = localized("DWT_Localize_Alert_MessageText_Error");
+    Alert::runModal(alertStyle(), u"%1 %2"_s.arg(fieldName, kind), rule, view_Base);
 }
 
 bool DWTBaseView::store(const QWidget *control) {

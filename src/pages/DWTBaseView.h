@@ -83,7 +83,7 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
         return Rules::isSameAddress(address, printerAddress);
     }
     // Shows that a field's text cannot be used, and why.
-    void showInputError(Alert &alert, const QString &fieldName, const QString &rule) const;
+    void showInputError(const QString &fieldName, const QString &rule) const;
 
     static QString addressNumberToString(const QStringList &address) {
         return shownAddress(address);
@@ -150,7 +150,7 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     bool isUnchangedText(const Field &field) const;
     // Whether the printer did not report the value of a row, and nobody entered one.
     bool isUnknown(const Field &field) const;
-    bool checkAddresses(Alert &alert) const;
+    bool checkAddresses() const;
     // Marks what is wrong among the fields that are marked already, or among all.
     void updateMarks(bool all = false);
     TextField *firstFault() const;

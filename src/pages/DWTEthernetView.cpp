@@ -5,18 +5,15 @@ bool DWTEthernetView::ETV_Init() {
     setupUi(view_Base);
     addShown(textField_EthernetMACAddress, DWT_SaveData_Ethernet_MACAddress);
     addField(radioButton_EthernetIPAddressSetting, DWT_SaveData_Ethernet_IPAddressSetting);
-    addAddress(
-        textField_EthernetIpAddress, DWT_SaveData_Ethernet_IPAddress,
-        DWT_SaveData_Connect_IPAddress, [this] { return itemInputCheckEthernetIpAddress(); },
-        &bool_EthernetIPAddressInput);
-    addAddress(
-        textField_EthernetSubnetMask, DWT_SaveData_Ethernet_Subnetmask,
-        DWT_SaveData_Connect_Subnetmask, [this] { return itemInputCheckEthernetSubnetMask(); },
-        &bool_EthernetSubnetMaskInput);
-    addAddress(
-        textField_EthernetDefaultGateway, DWT_SaveData_Ethernet_Gateway,
-        DWT_SaveData_Connect_Gateway, [this] { return itemInputCheckEthernetGateway(); },
-        &bool_EthernetGatewayInput);
+    addAddress(textField_EthernetIpAddress, DWT_SaveData_Ethernet_IPAddress,
+               DWT_SaveData_Connect_IPAddress, &bool_EthernetIPAddressInput,
+               [this] { return itemInputCheckEthernetIpAddress(); });
+    addAddress(textField_EthernetSubnetMask, DWT_SaveData_Ethernet_Subnetmask,
+               DWT_SaveData_Connect_Subnetmask, &bool_EthernetSubnetMaskInput,
+               [this] { return itemInputCheckEthernetSubnetMask(); });
+    addAddress(textField_EthernetDefaultGateway, DWT_SaveData_Ethernet_Gateway,
+               DWT_SaveData_Connect_Gateway, &bool_EthernetGatewayInput,
+               [this] { return itemInputCheckEthernetGateway(); });
     setControls({radioButton_EthernetIPAddressSetting, textField_EthernetIpAddress,
                  textField_EthernetConnection, button_EthernetConnect,
                  "DWT_Localize_Ethernet_Text_Connection_Online",
@@ -26,6 +23,4 @@ bool DWTEthernetView::ETV_Init() {
     return true;
 }
 
-void DWTEthernetView::ETV_Dealloc() {
-    mutableDictionary_ViewSettings.clear();
-}
+void DWTEthernetView::ETV_Dealloc() {}

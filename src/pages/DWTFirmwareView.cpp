@@ -17,6 +17,4 @@ bool DWTFirmwareView::NFW_Init() {
     return true;
 }
 
-void DWTFirmwareView::NFW_Dealloc() {
-    mutableDictionary_ViewSettings.clear();
-}
+void DWTFirmwareView::NFW_Dealloc() {}

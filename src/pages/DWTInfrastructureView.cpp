@@ -27,22 +27,19 @@ bool DWTInfrastructureView::ISV_Init() {
     return true;
 }
 
-void DWTInfrastructureView::ISV_Dealloc() {
-    mutableDictionary_ViewSettings.clear();
-    mutableDictionary_selectSSID.clear();
-}
+void DWTInfrastructureView::ISV_Dealloc() {}
 
 void DWTInfrastructureView::addAddressFields() {
     addField(radioButton_InfrastructureIPAddressSetting,
              DWT_SaveData_Infrastructure_IPAddressSetting);
     addAddress(textField_InfrastructureIpAddress, DWT_SaveData_Infrastructure_IPAddress,
-               DWT_SaveData_Connect_IPAddress,
+               DWT_SaveData_Connect_IPAddress, nullptr,
                [this] { return itemInputCheckInfrastructureIpAddress(); });
     addAddress(textField_InfrastructureSubnetMask, DWT_SaveData_Infrastructure_Subnetmask,
-               DWT_SaveData_Connect_Subnetmask,
+               DWT_SaveData_Connect_Subnetmask, nullptr,
                [this] { return itemInputCheckInfrastructureSubnetMask(); });
     addAddress(textField_InfrastructureDefaultGateway, DWT_SaveData_Infrastructure_Gateway,
-               DWT_SaveData_Connect_Gateway,
+               DWT_SaveData_Connect_Gateway, nullptr,
                [this] { return itemInputCheckInfrastructureGateway(); });
     setControls({radioButton_InfrastructureIPAddressSetting, textField_InfrastructureIpAddress,
                  textField_InfrastructureConnection, button_InfrastructureConnect,
@@ -65,8 +62,6 @@ void DWTInfrastructureView::addSecurityFields() {
 
 void DWTInfrastructureView::initializeUI() {
     InterfaceView::initializeUI();
-    mutableDictionary_selectSSID.clear();
-    bool_SSIDfromSelectSSID = false;
     dictionary_itemData = PropertyList::dictionary(u"InfrastructureItemData"_s, u"plist"_s);
     const auto items = [this](const char *key) {
         return dictionary_itemData.value(QLatin1String(key)).toStringList();
@@ -237,10 +232,6 @@ void DWTInfrastructureView::select_InfrastructureSelectWEPKey() {
         storeChoice(popupbutton_InfrastructureSelectWEPKey);
 }
 
-void DWTInfrastructureView::initializeEncryption() {
-    offer(popupbutton_InfrastructureEncryption, array_popUpButton_Encryption);
-}
-
 // If the printer reported only one of the two, both stay: a corrected pair would be sent.
 void DWTInfrastructureView::adjustSecurity() {
     const auto isReported = [this](const QString &key) {
@@ -287,8 +278,4 @@ void DWTInfrastructureView::selectEncryptionCodeInput() {
 void DWTInfrastructureView::storeChoice(const QComboBox *popup) {
     store(popup);
     sendNotificationSendOK();
-}
-
-int DWTInfrastructureView::itemInputCheckInfrastructureEncryption() const {
-    return popupbutton_InfrastructureEncryption->currentData().toInt();
 }

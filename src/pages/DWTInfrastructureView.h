@@ -50,7 +50,9 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
     void push_InfrastructureWPSFunction() { Q_EMIT wpsGuideRequested(); }
 
     // Offers all four encryptions.
-    void initializeEncryption();
+    void initializeEncryption() {
+        offer(popupbutton_InfrastructureEncryption, array_popUpButton_Encryption);
+    }
     // Whether a row is a text that is typed: the network's name, or a key.
     static bool isText(const Field &field) {
         return field.edited && field.setting->kind == Setting::Kind::Text;
@@ -67,7 +69,9 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
     // Stores the choice of a pop-up, and posts the record's state.
     void storeChoice(const QComboBox *popup);
     // The code of the chosen encryption; 0 when none is chosen.
-    int itemInputCheckInfrastructureEncryption() const;
+    int itemInputCheckInfrastructureEncryption() const {
+        return popupbutton_InfrastructureEncryption->currentData().toInt();
+    }
     // A WEP key has 5 or 13 characters, or 10 or 26 hexadecimal digits.
     bool itemInputCheckWEPKey(const QLineEdit *field, bool input) const {
         return Rules::isWEPKey(field->text(), input);

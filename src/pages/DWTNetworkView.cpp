@@ -20,6 +20,4 @@ bool DWTNetworkView::NNW_Init() {
     return true;
 }
 
-void DWTNetworkView::NNW_Dealloc() {
-    mutableDictionary_ViewSettings.clear();
-}
+void DWTNetworkView::NNW_Dealloc() {}

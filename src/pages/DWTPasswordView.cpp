@@ -3,9 +3,7 @@
 #include "platform/core/Texts.h"
 #include "platform/ui/FieldLooks.h"
 
-void DWTPasswordView::NPS_Dealloc() {
-    mutableDictionary_ViewSettings.clear();
-}
+void DWTPasswordView::NPS_Dealloc() {}
 
 bool DWTPasswordView::NPS_Init() {
     SetViewKey(DWT_View_Key_Password);
@@ -39,9 +37,7 @@ bool DWTPasswordView::itemInputCheck() {
     if (!secureTextField_Password->isEnabled()) return true;
     if (!DWTBaseView::itemInputCheck()) return false;
     if (fieldsAgree()) return true;
-    Alert alert(alertStyle());
-    showInputError(alert, passwordName(),
-                   localized("DWT_Localize_Alert_InfoText_Password_MatchingErr"));
+    showInputError(passwordName(), localized("DWT_Localize_Alert_InfoText_Password_MatchingErr"));
     return false;
 }
 
@@ -73,10 +69,6 @@ void DWTPasswordView::clearPassword(bool) {
 void DWTPasswordView::push_PasswordChange() {
     passwordChangeSetting(checkbox_PasswordChange->isEnabled() &&
                           checkbox_PasswordChange->isChecked());
-}
-
-bool DWTPasswordView::fieldsAgree() const {
-    return secureTextField_Password->text() == secureTextField_PasswordReinput->text();
 }
 
 void DWTPasswordView::enableFields(bool enabled) {

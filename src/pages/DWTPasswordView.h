@@ -29,7 +29,9 @@ class DWTPasswordView : public DWTBaseView, private Ui::PasswordPage {
     // Store the password in the change data when both fields agree. Always true.
     bool itemInputCheckPassword() { return !fieldsAgree() || store(secureTextField_Password); }
     bool itemInputCheckPasswordReinput() { return itemInputCheckPassword(); }
-    bool fieldsAgree() const;
+    bool fieldsAgree() const {
+        return secureTextField_Password->text() == secureTextField_PasswordReinput->text();
+    }
     QString passwordName() const { return fieldOf(secureTextField_Password)->name; }
     void enableFields(bool enabled);
     void emptyFields();

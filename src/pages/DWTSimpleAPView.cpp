@@ -19,9 +19,7 @@ bool DWTSimpleAPView::SAP_Init() {
     return true;
 }
 
-void DWTSimpleAPView::SAP_Dealloc() {
-    mutableDictionary_ViewSettings.clear();
-}
+void DWTSimpleAPView::SAP_Dealloc() {}
 
 void DWTSimpleAPView::fill(const Field &field) {
     if (field.edited)

@@ -19,6 +19,4 @@ void DWTWirelessView::select_WirelessCommunicateMode() {
     sendNotificationSendOK();
 }
 
-void DWTWirelessView::NWL_Dealloc() {
-    mutableDictionary_ViewSettings.clear();
-}
+void DWTWirelessView::NWL_Dealloc() {}

@@ -8,7 +8,7 @@
 using namespace Qt::StringLiterals;
 
 void InterfaceView::addAddress(TextField *field, const QString &key, const QString &keyInUse,
-                               std::function<bool()> store, bool *input) {
+                               bool *input, std::function<bool()> store) {
     m_keysInUse.insert(key, keyInUse);
     addField(field, key, input, std::move(store));
 }

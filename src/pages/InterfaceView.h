@@ -31,8 +31,8 @@ class InterfaceView : public DWTBaseView {
 
   protected:
     // Adds the row of an address with its keys: configured, and in use.
-    void addAddress(TextField *field, const QString &key, const QString &keyInUse,
-                    std::function<bool()> store, bool *input = nullptr);
+    void addAddress(TextField *field, const QString &key, const QString &keyInUse, bool *input,
+                    std::function<bool()> store);
 
     // The controls of an interface; the choice has a row in the page's table.
     struct Controls {

@@ -53,12 +53,8 @@ void DWTDataManager::adopt(const Item &item, const DWTDataManager &other) {
     m_reported.insert(item.code, other.m_reported.value(item.code));
 }
 
+// Every field has its first value already.
 bool DWTDataManager::NDM_Init() {
-    dictionary_SaveData.reset();
-    mutableDictionary_ChangeData.reset();
-    nsObjectRelease(ncc_Object);
-    resultSettingRequest_BOOL = true;
-    loginPassword_String.clear();
     return true;
 }
 

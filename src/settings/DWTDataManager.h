@@ -178,13 +178,26 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     void forgetMissing();
 
     // Items written.
-    WriteResult NDM_StringToData(ItemCode code, const QString &text);
-    WriteResult NDM_IntegerToData(ItemCode code, int value);
-    WriteResult NDM_StringAndLengthToData(ItemCode code, const QString &text);
-    WriteResult NDM_IntegerAndStringAndLengthToData(ItemCode code, int value, const QString &text);
-    WriteResult NDM_DataToData(ItemCode code, const QByteArray &bytes);
+    WriteResult NDM_StringToData(ItemCode code, const QString &text) {
+        return sendFrame(code, ItemCodec::textFrame(code, text));
+    }
+    WriteResult NDM_IntegerToData(ItemCode code, int value) {
+        return sendFrame(code, ItemCodec::integerFrame(code, value));
+    }
+    WriteResult NDM_StringAndLengthToData(ItemCode code, const QString &text) {
+        return sendFrame(code, ItemCodec::textWithLengthFrame(code, text));
+    }
+    WriteResult NDM_IntegerAndStringAndLengthToData(ItemCode code, int value, const QString &text) {
+        return sendFrame(code, ItemCodec::integerAndTextFrame(code, value, text));
+    }
+    WriteResult NDM_DataToData(ItemCode code, const QByteArray &bytes) {
+        return sendFrame(code, ItemCodec::bytesFrame(code, bytes));
+    }
     WriteResult NDM_IntegerAndArrayToData(ItemCode code, int value, const QStringList &first,
-                                          const QStringList &second, const QStringList &third);
+                                          const QStringList &second, const QStringList &third) {
+        return sendFrame(code,
+                         ItemCodec::integerAndAddressesFrame(code, value, first, second, third));
+    }
     WriteResult sendFrame(ItemCode code, std::optional<QByteArray> frame);
 
     // The send, on its own thread.
@@ -221,7 +234,7 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     CategoryDictionary firmwareData_Dictionary;
     CategoryDictionary passwordData_Dictionary;
     // True while every request since the last full read got a reply.
-    bool resultSettingRequest_BOOL = false;
+    bool resultSettingRequest_BOOL = true;
     // Password of the last successful login; consumed by the next send.
     QString loginPassword_String;
     // The values that the printer reported or accepted, by item, as the very bytes.

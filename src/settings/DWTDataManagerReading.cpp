@@ -14,14 +14,6 @@ constexpr int scanFinished = 2;
 constexpr std::pair<int, ItemCode> scanBlocks[] = {
     {1, 0x3121}, {6, 0x3122}, {11, 0x3123}, {16, 0x3124}};
 
-// A decoder's value, from a reply that may be missing.
-template <typename Value>
-std::optional<Value> decoded(const QByteArray &reply, ItemCode code,
-                             std::optional<Value> (*decoder)(const QByteArray &, ItemCode)) {
-    if (reply.isEmpty()) return {};
-    return decoder(reply, code);
-}
-
 }  // namespace
 
 int DWTDataManager::setupDataFromPrinter(int, const Progress &progress) {
@@ -104,7 +96,7 @@ std::optional<Value> DWTDataManager::ask(ItemCode code,
     if (m_progress) m_progress(int(m_asked.size()), int(readItems().size()));
     const QByteArray reply = NDM_SendCommandSettingRequest(code);
     noteReported(code, reply);
-    return decoded(reply, code, decoder);
+    return decoder(reply, code);
 }
 
 QString DWTDataManager::NDM_DataToString(ItemCode code) {
@@ -136,7 +128,7 @@ std::optional<CategoryDictionary> DWTDataManager::NDM_DataToIntegerAndArray(Item
 }
 
 std::optional<QList<SSIDEntry>> DWTDataManager::NDM_SSIDInfo(ItemCode code) {
-    return decoded(NDM_SendCommandSettingRequest(code), code, ItemCodec::networks);
+    return ItemCodec::networks(NDM_SendCommandSettingRequest(code), code);
 }
 
 CategoryDictionary DWTDataManager::valuesOf(const Item &item) {
@@ -157,11 +149,9 @@ CategoryDictionary DWTDataManager::valuesOf(const Item &item) {
             return NDM_DataToArray(item.code).value_or(CategoryDictionary());
         case Layout::IntegerAndAddresses:
             return NDM_DataToIntegerAndArray(item.code).value_or(CategoryDictionary());
-        case Layout::Integer:
-        case Layout::IntegerAndText:  // no printer reports its text
-            break;
+        default:  // no printer reports the text of IntegerAndText
+            return one(NDM_DataToInteger(item.code));
     }
-    return one(NDM_DataToInteger(item.code));
 }
 
 CategoryDictionary DWTDataManager::readCategory(const QString &viewKey) {

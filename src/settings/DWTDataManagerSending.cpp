@@ -47,34 +47,6 @@ WriteResult DWTDataManager::NDM_ResultDataToInteger(const std::optional<QByteArr
     return {*result == 0 ? WriteResult::Accepted : WriteResult::Refused, *result};
 }
 
-WriteResult DWTDataManager::NDM_StringToData(ItemCode code, const QString &text) {
-    return sendFrame(code, ItemCodec::textFrame(code, text));
-}
-
-WriteResult DWTDataManager::NDM_IntegerToData(ItemCode code, int value) {
-    return sendFrame(code, ItemCodec::integerFrame(code, value));
-}
-
-WriteResult DWTDataManager::NDM_StringAndLengthToData(ItemCode code, const QString &text) {
-    return sendFrame(code, ItemCodec::textWithLengthFrame(code, text));
-}
-
-WriteResult DWTDataManager::NDM_IntegerAndStringAndLengthToData(ItemCode code, int value,
-                                                                const QString &text) {
-    return sendFrame(code, ItemCodec::integerAndTextFrame(code, value, text));
-}
-
-WriteResult DWTDataManager::NDM_DataToData(ItemCode code, const QByteArray &bytes) {
-    return sendFrame(code, ItemCodec::bytesFrame(code, bytes));
-}
-
-WriteResult DWTDataManager::NDM_IntegerAndArrayToData(ItemCode code, int value,
-                                                      const QStringList &first,
-                                                      const QStringList &second,
-                                                      const QStringList &third) {
-    return sendFrame(code, ItemCodec::integerAndAddressesFrame(code, value, first, second, third));
-}
-
 WriteResult DWTDataManager::sendFrame(ItemCode code, std::optional<QByteArray> frame) {
     if (!ncc_Object || !frame) return {WriteResult::Unsent};
     const auto reply = ncc_Object->sendSetting(*frame);
@@ -195,9 +167,8 @@ WriteResult DWTDataManager::write(const Item &item, const CategoryDictionary &ch
                 item.code, integerValue(change, keys[0]), addressValue(change, keys[1]),
                 addressValue(change, keys[2]), addressValue(change, keys[3]));
         default:
-            break;
+            return NDM_IntegerToData(item.code, integerValue(change, keys[0]));
     }
-    return NDM_IntegerToData(item.code, integerValue(change, keys[0]));
 }
 
 void DWTDataManager::note(const Item &item, const WriteResult &result) {

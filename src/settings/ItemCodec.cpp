@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "settings/Frames.h"
+#include "settings/Items.h"
 #include "settings/ReplyCursor.h"
 #include "settings/SettingKeys.h"
-#include "settings/Settings.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,5 @@
 #include "settings/ReplyCursor.h"
 
-#include <algorithm>
-
 ReplyCursor::ReplyCursor(QByteArray reply) : m_reply(std::move(reply)) {
     m_reply.truncate(areaSize);
 }

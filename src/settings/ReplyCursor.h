@@ -1,8 +1,7 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
-#include <QtGlobal>
+#include <algorithm>
 
 #include "zmlib/ZMLib.h"
 

@@ -15,7 +15,7 @@ quint32 numberOf(const QStringList &address) {
     return number;
 }
 
-// Whether ones, then zeros, make up the mask.
+// Whether ones, then zeros, make up the mask; it may have no ones.
 bool isMask(quint32 mask) {
     const quint32 hosts = ~mask;
     return (hosts & (hosts + 1)) == 0;
@@ -28,7 +28,7 @@ QList<SendWarning> warningsOf(const AddressSetup &setup, const CategoryDictionar
     const auto warning = [&](SendWarning::Kind kind, const Setting *setting) {
         return QList{SendWarning{kind, setting->viewKey, parts(setting).join(u'.')}};
     };
-    if (mask != 0 && !isMask(mask)) return warning(SendWarning::NotAMask, setup.mask);
+    if (!isMask(mask)) return warning(SendWarning::NotAMask, setup.mask);
     if (gateway != 0 && ((gateway ^ numberOf(parts(setup.address))) & mask) != 0)
         return warning(SendWarning::GatewayOutside, setup.gateway);
     return {};
@@ -46,16 +46,12 @@ bool isNewNetworkWithoutKey(const CategoryDictionary &saved, const CategoryDicti
 
 // The address under which a communication mode makes the printer reached.
 QStringList addressOf(int mode, const SettingRecord &record) {
-    switch (mode) {
-        case CommunicationMode::Infrastructure:
-            return addressValue(record.value(DWT_View_Key_Infrastructure),
-                                DWT_SaveData_Connect_IPAddress);
-        case CommunicationMode::AccessPoint:
-            return addressValue(record.value(DWT_View_Key_SimpleAP),
-                                DWT_SaveData_SimpleAP_IPAddress);
-        default:
-            return {};
-    }
+    if (mode == CommunicationMode::Infrastructure)
+        return addressValue(record.value(DWT_View_Key_Infrastructure),
+                            DWT_SaveData_Connect_IPAddress);
+    if (mode == CommunicationMode::AccessPoint)
+        return addressValue(record.value(DWT_View_Key_SimpleAP), DWT_SaveData_SimpleAP_IPAddress);
+    return {};
 }
 
 }  // namespace

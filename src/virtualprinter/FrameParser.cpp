@@ -9,12 +9,6 @@ namespace {
 
 constexpr char escape = '\x1B';
 
-quint8 sum(QByteArrayView bytes, qsizetype from, qsizetype count) {
-    unsigned total = 0;
-    for (qsizetype i = from; i < from + count; ++i) total += static_cast<quint8>(bytes[i]);
-    return static_cast<quint8>(total);
-}
-
 // How far a frame at the begin of the buffer is.
 enum class Progress { Incomplete, Wrong, Complete };
 
@@ -26,12 +20,11 @@ Progress parseEscape(QByteArrayView buffer, FrameParser::Frame &frame) {
     const int rest = static_cast<quint8>(buffer[2]);
     if (rest < 3) return Progress::Wrong;
     if (buffer.size() < 3 + rest) return Progress::Incomplete;
-    const qsizetype summed = rest - 2;
-    if (buffer[2 + rest] != '}' || static_cast<quint8>(buffer[1 + rest]) != sum(buffer, 3, summed))
-        return Progress::Wrong;
+    const QByteArrayView summed = buffer.sliced(3, rest - 2);
+    if (buffer[2 + rest] != '}' || buffer[1 + rest] != checksum(summed)) return Progress::Wrong;
     frame.bytes = buffer.first(3 + rest).toByteArray();
-    frame.command = buffer[3];
-    frame.payload = buffer.sliced(4, summed - 1).toByteArray();
+    frame.command = summed[0];
+    frame.payload = summed.sliced(1).toByteArray();
     if (frame.command == 'f') {
         if (frame.payload.size() != 2) return Progress::Wrong;
         frame.code = littleEndianAt(frame.payload, 0);
@@ -52,7 +45,7 @@ Progress parseSetting(QByteArrayView buffer, FrameParser::Frame &frame) {
     if (buffer.size() < 5 + length) return Progress::Incomplete;
     const qsizetype last = 4 + length;
     if (buffer[5] != ';' || buffer[8] != ';' || buffer[last - 1] != ';') return Progress::Wrong;
-    if (static_cast<quint8>(buffer[last]) != sum(buffer, 5, length - 1)) return Progress::Wrong;
+    if (buffer[last] != checksum(buffer.sliced(5, length - 1))) return Progress::Wrong;
     frame.bytes = buffer.first(last + 1).toByteArray();
     frame.code = littleEndianAt(buffer, 6);
     frame.payload = buffer.sliced(9, length - 6).toByteArray();

@@ -184,12 +184,9 @@ std::optional<QByteArray> Items::fromJson(const Item &item, const QJsonValue &js
         case Kind::Addresses:
         case Kind::Interface:
             return addressesFromJson(item, json, problem);
-        case Kind::Text:
-        case Kind::CountedText:
-        case Kind::WepKey:
-            break;
+        default:
+            return textFromJson(item, json, problem);
     }
-    return textFromJson(item, json, problem);
 }
 
 std::optional<QByteArray> Items::fromPayload(const Item &item, const QByteArray &payload) {
@@ -211,10 +208,7 @@ std::optional<QByteArray> Items::fromPayload(const Item &item, const QByteArray 
         case Kind::Interface:
             if (payload.size() < 2 || littleEndianAt(payload, 0) > greatestSetting) return {};
             break;
-        case Kind::Integer:
-        case Kind::Mac:
-        case Kind::Version:
-        case Kind::Addresses:
+        default:
             break;
     }
     return payload.size() == item.initial.size() ? std::optional(payload) : std::nullopt;

@@ -39,7 +39,7 @@ const QList<Item> &all();
 // The item of a code; a null pointer when the printer has none.
 const Item *find(quint16 code);
 
-// The value of an item from a setting frame; nothing when the payload is not what it takes.
+// The value of an item from a description; nothing, and why in `problem`, when it is not one.
 std::optional<QByteArray> fromJson(const Item &item, const QJsonValue &json, QString &problem);
 
 // The value of an item from a setting frame; nothing when the payload is not what it takes.

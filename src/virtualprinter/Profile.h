@@ -31,7 +31,7 @@ struct ItemFault {
     int delay = 0;                  // ms before the reply, on top of the printer's own
 };
 
-// What goes wrong with the reply to an item; but for resultCode a setting is taken all the same.
+// What goes wrong with connections and replies.
 struct SimulatedFaults {
     bool refuseConnection = false;
     // The channel closes after that many frames; 0: never.

@@ -30,10 +30,8 @@ const QByteArray wirelessAutomatic = QByteArray::fromHex("c0a80165ffffff00c0a801
 // "C" kind ";" length ";" code ";" payload ";" checksum, as a setting frame is built.
 QByteArray replyFrame(char kind, quint16 code, const QByteArray &payload) {
     const QByteArray summed = ';' + littleEndian(code) + ';' + payload + ';';
-    unsigned sum = 0;
-    for (const char byte : summed) sum += static_cast<quint8>(byte);
     return QByteArray("C") + kind + ';' + littleEndian(static_cast<int>(summed.size()) + 1) +
-           summed + static_cast<char>(sum & 0xFF);
+           summed + checksum(summed);
 }
 
 // The bytes of a fault's reply.
@@ -45,8 +43,6 @@ QByteArray spoil(QByteArray bytes, const ItemFault &fault) {
 }
 
 }  // namespace
-
-VirtualPrinter::Channel::~Channel() = default;
 
 QList<VirtualPrinter::Reply> VirtualPrinter::Channel::receive(const QByteArray &bytes) {
     QList<Reply> replies;

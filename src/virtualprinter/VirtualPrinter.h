@@ -38,8 +38,6 @@ class VirtualPrinter {
     // applied by the update frame, otherwise dropped.
     class Channel {
       public:
-        ~Channel();
-
         // Takes bytes in any pieces and gives the replies to complete frames, in order. Wrong
         // frames, and those outside start and end, have none.
         QList<Reply> receive(const QByteArray &bytes);

@@ -26,8 +26,7 @@ class FolderOverride {
   public:
     explicit FolderOverride(const QString &folder);
     ~FolderOverride();
-    FolderOverride(const FolderOverride &) = delete;
-    FolderOverride &operator=(const FolderOverride &) = delete;
+    Q_DISABLE_COPY_MOVE(FolderOverride)
 };
 
 }  // namespace PropertyList

@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QObject>
+#include <QSet>
 #include <algorithm>
 #include <thread>
 #include <utility>
@@ -23,25 +24,15 @@ class InputFilter : public QObject {
   protected:
     bool eventFilter(QObject *object, QEvent *event) override {
         if (cancellable && cancellable->hasControl(object)) return false;
-        switch (event->type()) {
-            case QEvent::Close:
-                event->ignore();  // the window stays open
-                return true;
-            case QEvent::Shortcut:
-            case QEvent::InputMethod:
-            case QEvent::DragEnter:
-            case QEvent::DragMove:
-            case QEvent::DragLeave:
-            case QEvent::Drop:
-                return true;
-            case QEvent::Enter:  // where the pointer is stays known
-            case QEvent::HoverEnter:
-            case QEvent::HoverMove:
-            case QEvent::HoverLeave:
-                return false;
-            default:
-                return event->isInputEvent();
-        }
+        // Where the pointer is stays known.
+        static const QSet<int> passed{QEvent::Enter, QEvent::HoverEnter, QEvent::HoverMove,
+                                      QEvent::HoverLeave};
+        static const QSet<int> dropped{QEvent::Close,     QEvent::Shortcut, QEvent::InputMethod,
+                                       QEvent::DragEnter, QEvent::DragMove, QEvent::DragLeave,
+                                       QEvent::Drop};
+        if (event->type() == QEvent::Close) event->ignore();  // the window stays open
+        return dropped.contains(event->type()) ||
+               (event->isInputEvent() && !passed.contains(event->type()));
     }
 };
 

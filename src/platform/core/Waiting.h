@@ -25,8 +25,7 @@ class CancellableWait {
         std::function<bool()> isCancelled,
         std::function<bool(const QObject *)> isControl = [](const QObject *) { return false; });
     ~CancellableWait();
-    CancellableWait(const CancellableWait &) = delete;
-    CancellableWait &operator=(const CancellableWait &) = delete;
+    Q_DISABLE_COPY_MOVE(CancellableWait)
 
     bool isCancelled() const { return m_isCancelled(); }
     bool hasControl(const QObject *object) const { return m_isControl(object); }

@@ -6,9 +6,11 @@
 #include <QPointer>
 #include <QPushButton>
 
+#include "platform/core/Texts.h"
 #include "platform/ui/WaitSheet.h"
 
-void Alert::runModal(QWidget *parent) const {
+void Alert::runModal(Style style, const QString &message, const QString &information,
+                     QWidget *parent) {
     QWidget *const waited = WaitSheet::endCurrent();
     QWidget *const active = waited ? waited : QApplication::activeWindow();
     // It goes with its parent, which may happen while it is up.
@@ -17,11 +19,12 @@ void Alert::runModal(QWidget *parent) const {
     QMessageBox &box = *shown;
     box.setWindowTitle(over ? over->window()->windowTitle()
                             : QGuiApplication::applicationDisplayName());
-    box.setIcon(m_style == Style::Critical ? QMessageBox::Critical : QMessageBox::Warning);
-    box.setText(m_messageText);
-    box.setInformativeText(m_informativeText);
+    box.setIcon(style == Style::Critical ? QMessageBox::Critical : QMessageBox::Warning);
+    box.setText(message);
+    box.setInformativeText(information);
     for (QLabel *label : box.findChildren<QLabel *>()) label->setTextFormat(Qt::PlainText);
-    QPushButton *const button = box.addButton(m_buttonTitle, QMessageBox::AcceptRole);
+    QPushButton *const button =
+        box.addButton(localized("DWT_Localize_Alert_Button_OK"), QMessageBox::AcceptRole);
     box.setDefaultButton(button);
     box.setEscapeButton(button);
     box.setEnabled(true);  // its parent may be inert

@@ -28,22 +28,15 @@ void FilterField::showEvent(QShowEvent *event) {
 }
 
 void FilterField::keyPressEvent(QKeyEvent *event) {
-    switch (event->key()) {
-        case Qt::Key_Up:
-        case Qt::Key_Down:
-            m_table->setFocus();
-            QCoreApplication::sendEvent(m_table, event);
-            return;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            m_table->openSelected();
-            return;
-        case Qt::Key_Escape:
-            if (text().isEmpty()) break;
-            clear();
-            return;
-        default:
-            break;
+    const int key = event->key();
+    if (key == Qt::Key_Up || key == Qt::Key_Down) {
+        m_table->setFocus();
+        QCoreApplication::sendEvent(m_table, event);
+    } else if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        m_table->openSelected();
+    } else if (key == Qt::Key_Escape && !text().isEmpty()) {
+        clear();
+    } else {
+        QLineEdit::keyPressEvent(event);
     }
-    QLineEdit::keyPressEvent(event);
 }

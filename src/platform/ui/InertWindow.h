@@ -10,8 +10,7 @@ class InertWindow {
   public:
     explicit InertWindow(QWidget *window);
     ~InertWindow();
-    InertWindow(const InertWindow &) = delete;
-    InertWindow &operator=(const InertWindow &) = delete;
+    Q_DISABLE_COPY_MOVE(InertWindow)
 
   private:
     const QPointer<QWidget> m_window;

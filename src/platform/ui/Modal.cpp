@@ -41,13 +41,15 @@ int Modal::run(QWidget *window) {
     return current.outcome;
 }
 
-void Modal::stop(const QWidget *window, int outcome) {
+void Modal::stop(QWidget *window, int outcome) {
     const auto runsNow = [window](const Run *run) {
         return run->window == window && !run->stopped;
     };
     const auto found = std::find_if(runs().rbegin(), runs().rend(), runsNow);
-    if (found == runs().rend()) return;
-    (*found)->outcome = outcome;
-    (*found)->stopped = true;
-    (*found)->loop.quit();
+    if (found != runs().rend()) {
+        (*found)->outcome = outcome;
+        (*found)->stopped = true;
+        (*found)->loop.quit();
+    }
+    window->hide();
 }

@@ -9,11 +9,11 @@ namespace Modal {
 inline constexpr int stoppedOutcome = -1000;
 
 // Runs `window` application-modally until stop(). The outcome comes when the action that stopped it
-// has finished; a run started in that action ends first. The caller of stop() hides the window; the
-// end of the application or of the window ends the run.
+// has finished; a run started in that action ends first. The end of the application or of the
+// window ends the run, too.
 int run(QWidget *window);
 
-// Ends the innermost run of `window`, if any.
-void stop(const QWidget *window, int outcome = stoppedOutcome);
+// Ends the innermost run of `window`, if any, and hides the window.
+void stop(QWidget *window, int outcome = stoppedOutcome);
 
 }  // namespace Modal

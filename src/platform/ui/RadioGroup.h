@@ -13,11 +13,8 @@ class RadioGroup : public QWidget {
     // The tag of the selected cell; -1 when none is selected.
     int selectedTag() const;
 
-    // Selects the cell with the tag; an unknown tag selects none and gives false.
-    bool selectTag(int tag);
-
-    // The title of the cell with the tag, without its mnemonic; empty for an unknown tag.
-    QString titleOf(int tag) const;
+    // Selects the cell with the tag; an unknown tag selects none.
+    void selectTag(int tag);
 
   Q_SIGNALS:
     // The user picked the cell with the tag, also the one that was selected before.

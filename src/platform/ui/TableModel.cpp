@@ -22,14 +22,6 @@ QCollator collatorOfNames() {
 TableModel::TableModel(TableView *table)
     : QAbstractTableModel(table), m_table(table), m_collator(collatorOfNames()) {}
 
-int TableModel::rowCount(const QModelIndex &parent) const {
-    return parent.isValid() ? 0 : m_rows;
-}
-
-int TableModel::columnCount(const QModelIndex &parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_identifiers.size());
-}
-
 QVariant TableModel::data(const QModelIndex &index, int role) const {
     if (!m_source || !index.isValid()) return {};
     const QString &column = m_identifiers[index.column()];

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QSet>
 #include <QStyledItemDelegate>
 #include <QTextDocument>
 #include <QToolTip>
@@ -216,29 +217,16 @@ bool TableView::sortByKey(QKeyCombination pressed) {
 
 // The current cell of a table without a selection is one that nobody has chosen.
 int TableView::rowReachedBy(int key) const {
-    switch (key) {
-        case Qt::Key_Home:
-            return 0;
-        case Qt::Key_End:
-            return m_shown->rowCount() - 1;
-        case Qt::Key_Up:
-        case Qt::Key_Down:
-        case Qt::Key_Left:
-        case Qt::Key_Right:
-        case Qt::Key_PageUp:
-        case Qt::Key_PageDown:
-            return selectedRow() < 0 ? 0 : -1;
-        default:
-            return -1;
-    }
+    static const QSet<int> stepping{Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Left,
+                                    Qt::Key_Right, Qt::Key_PageUp, Qt::Key_PageDown};
+    if (key == Qt::Key_Home) return 0;
+    if (key == Qt::Key_End) return m_shown->rowCount() - 1;
+    return stepping.contains(key) && selectedRow() < 0 ? 0 : -1;
 }
 
 void TableView::keyPressEvent(QKeyEvent *event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && selectedRow() >= 0) {
-        openSelected();
-        return;
-    }
+    if (enter && selectedRow() >= 0 && openSelected()) return;
     const int row = rowReachedBy(event->key());
     if (row >= 0)
         setCurrentIndex(m_shown->index(row, 0));

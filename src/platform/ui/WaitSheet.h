@@ -20,8 +20,7 @@ class WaitSheet {
     WaitSheet(QWidget *sheet, QWidget *parent, QProgressBar *indicator, QAbstractButton *cancel);
     // Ends it, unless it has ended.
     ~WaitSheet();
-    WaitSheet(const WaitSheet &) = delete;
-    WaitSheet &operator=(const WaitSheet &) = delete;
+    Q_DISABLE_COPY_MOVE(WaitSheet)
 
     // Ends the shown sheet, if any. Result: the window that it was shown on, or null.
     static QWidget *endCurrent();

@@ -22,10 +22,6 @@ void Window::bringToFront() {
     activateWindow();
 }
 
-void Window::closeEvent(QCloseEvent *event) {
-    event->setAccepted(!m_shouldClose || m_shouldClose());
-}
-
 void Window::keyPressEvent(QKeyEvent *event) {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         return QWidget::keyPressEvent(event);

@@ -26,7 +26,9 @@ class Window : public QWidget {
     void bringToFront();
 
   protected:
-    void closeEvent(QCloseEvent *event) override;
+    void closeEvent(QCloseEvent *event) override {
+        event->setAccepted(!m_shouldClose || m_shouldClose());
+    }
     void keyPressEvent(QKeyEvent *event) override;
 
   private:

@@ -21,7 +21,7 @@ TEST(Modal, DeliversTheOutcomeWhenTheStoppingActionHasFinished) {
     QStringList order;
     const int outer = run(window, [&] {
         Modal::stop(&window, 5);
-        window.hide();
+        EXPECT_FALSE(window.isVisible());
         order << QStringLiteral("stopped");
         // The same window again, from inside the action.
         order << QString::number(run(window, [&] { Modal::stop(&window, 7); }));
@@ -38,7 +38,6 @@ TEST(Modal, StopsTheRunOfTheWindowAndNoOther) {
         outcomes << run(inner, [&] {
             Modal::stop(&outer, 4);
             Modal::stop(&inner);
-            inner.hide();
         });
         Modal::stop(&inner, 5);
         Modal::stop(&outer, 6);
@@ -50,7 +49,7 @@ TEST(Modal, StopsTheRunOfTheWindowAndNoOther) {
 TEST(Alert, EndsWithItsParent) {
     auto *const parent = new QWidget;
     QTimer::singleShot(0, parent, [parent] { delete parent; });
-    Alert(Alert::Style::Warning).runModal(parent);
+    Alert::runModal(Alert::Style::Warning, {}, {}, parent);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
