@@ -1,13 +1,9 @@
 // What files and tables give, and what is said of those that cannot be used.
 
-#include <gtest/gtest.h>
-
-#include <QTemporaryDir>
-
 #include "cli/SettingsFile.h"
 #include "cli/Table.h"
-#include "settings/SettingKeys.h"
 #include "support/DataManagers.h"
+#include "support/Folder.h"
 
 using namespace Qt::StringLiterals;
 
@@ -88,20 +84,15 @@ TEST(Input, OfSettingsInJson) {
 }
 
 TEST(Input, OfSecretsInFiles) {
-    const QTemporaryDir folder;
-    const auto write = [&](const QString &name, const QByteArray &bytes) {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    };
-    write(u"key"_s, " key with spaces \r\nmore");
-    write(u"long"_s, QByteArray(longestInput + 1, 'x'));
-    write(u"empty"_s, "\nsecond");
-    write(u"bytes"_s, "\xFF\xFE");
-    write(u"f.json"_s, R"({"wireless": {"key": {"file": "key"}, "wepKey": {"file": "long"}},
+    const Folder folder;
+    folder.write(u"key"_s, " key with spaces \r\nmore");
+    folder.write(u"long"_s, QByteArray(longestInput + 1, 'x'));
+    folder.write(u"empty"_s, "\nsecond");
+    folder.write(u"bytes"_s, "\xFF\xFE");
+    folder.write(u"f.json"_s, R"({"wireless": {"key": {"file": "key"}, "wepKey": {"file": "long"}},
                            "accessPoint": {"key": {"file": "empty"}},
                            "password": {"administrator": {"file": "bytes"}}})");
-    const GivenSettings given = settingsFromFile(folder.filePath(u"f.json"_s));
+    const GivenSettings given = settingsFromFile(folder.path(u"f.json"_s));
     EXPECT_EQ(asText(given.values, given.faults),
               "wireless.key=' key with spaces ' | 1 wireless.wepKey | 2 accessPoint.key | "
               "3 password.administrator");

@@ -1,24 +1,23 @@
 #pragma once
 
-#include <QFile>
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <cstdio>
 #include <memory>
 #include <vector>
 
 #include "cli/Commands.h"
 #include "link/Binding.h"
+#include "support/Folder.h"
 #include "support/PrinterServerThread.h"
 #include "support/Profiles.h"
 #include "zmlib/CatalogueSource.h"
 
-// Printers of this process, and the catalogue that names them; the folder holds the files of a
-// test.
-class Printers {
+// Printers of this process, the catalogue that names them, and the folder of the programs.
+class Printers : public Folder {
   public:
     // A printer on USB for each description. Their serial numbers are "S1", "S2", ...
     explicit Printers(const QList<QByteArray> &profiles) {
@@ -57,19 +56,6 @@ class Printers {
             .toStdString();
     }
 
-    QString path(const QString &name) const { return m_folder.filePath(name); }
-    QString write(const QString &name, const QByteArray &bytes) const {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        return file.fileName();
-    }
-    QByteArray read(const QString &name) const {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
-
     // Serves the printers to other processes; gives the path of a catalogue that they can read.
     QString serve() {
         QJsonArray entries;
@@ -90,7 +76,6 @@ class Printers {
     Catalogue catalogue;
 
   private:
-    QTemporaryDir m_folder;
     QList<std::shared_ptr<VirtualPrinter>> m_printers;
     std::vector<std::unique_ptr<PrinterServerThread>> m_servers;
 };
@@ -107,7 +92,7 @@ inline Ended run(const Printers &printers, const QStringList &arguments,
                  const QByteArray &password = {}) {
     qputenv("ZMLIB_PRINTERS", "catalogue");  // the one that is installed
     qputenv("NETWORK_SETTING_PASSWORD", password);
-    EXPECT_TRUE(std::freopen("/dev/null", "r", stdin));
+    EXPECT_TRUE(std::freopen("/dev/null", "r", stdin) && QDir::setCurrent(printers.path({})));
     installLibrary(catalogueLibrary(printers.catalogue, 20));
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
@@ -120,14 +105,19 @@ inline Ended run(const Printers &printers, const QStringList &arguments,
     return {code, QByteArray::fromStdString(out), QByteArray::fromStdString(err)};
 }
 
-// Starts it as a process of its own.
-inline void start(QProcess &process, Printers &printers, const QStringList &arguments) {
+inline Ended run(const Printers &printers, const char *arguments, const QByteArray &password = {}) {
+    return run(printers, QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts), password);
+}
+
+// Starts it, or one that starts it, as a process of its own.
+inline void start(QProcess &process, Printers &printers, const QString &program,
+                  const QStringList &arguments) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("ZMLIB_PRINTERS"), printers.serve());
     environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
     process.setProcessEnvironment(environment);
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.start(QStringLiteral(NST_PROGRAM), arguments);
+    process.setWorkingDirectory(printers.path({}));
+    process.start(program, arguments);
 }
 inline Ended finish(QProcess &process) {
     EXPECT_TRUE(process.waitForFinished(60000)) << "still running";

@@ -113,7 +113,8 @@ class ProvisionProcess : public testing::Test {
             table += "S" + n + ",New-" + n + ",10.0.0." + n + ",90\n";
         }
         printers = std::make_unique<Printers>(profiles);
-        start(process, *printers,
+        process.setStandardInputFile(QProcess::nullDevice());
+        start(process, *printers, QStringLiteral(NST_PROGRAM),
               {u"provision"_s, printers->write(u"table.csv"_s, table), u"--result"_s,
                printers->path(u"out.csv"_s)});
     }

@@ -58,9 +58,10 @@ TEST_F(Closing, AChangedAccessPointKeyStaysADifferenceAfterItWasSent) {
     open("{}");
     choose("Access point");
     type("textField_SimpleAPPSK", "12345678");
-    dialogs.confirmAndEnd().on("view_SendChangeCheck", "button_SendChangeCheckNoReflect");
-    click("button_MainSend");
+    dialogs.confirmAndEnd();
+    send();
     EXPECT_TRUE(served->printer().item(0x3202).endsWith("12345678"));
+    dialogs.on("view_SendChangeCheck", "button_SendChangeCheckNoReflect");
     click("button_MainCancel");
     EXPECT_FALSE(isOpen());
 }
@@ -82,13 +83,12 @@ TEST_F(Closing, ReadingAgainAsksBeforeItDropsChangesAndSecrets) {
     click("button_MainNewSetting");
     EXPECT_EQ(name(), text("new-name"));
     EXPECT_TRUE(isEnabled("button_MainSend"));
-    for (const char *secret : secrets) EXPECT_NE(field(secret)->text(), QString()) << secret;
+    for (const char *secret : secrets) EXPECT_FALSE(field(secret)->text().isEmpty()) << secret;
     dialogs.on("view_UpdateChangeCheck", "button_UpdateChangeCheckOK");
     click("button_MainNewSetting");
     EXPECT_EQ(name(), text("label-printer"));
-    for (const char *secret : secrets) EXPECT_EQ(field(secret)->text(), QString()) << secret;
+    for (const char *secret : secrets) EXPECT_TRUE(field(secret)->text().isEmpty()) << secret;
     EXPECT_FALSE(isEnabled("button_MainSend"));
-    EXPECT_TRUE(isEnabled("textField_NetworkBonjour"));
 }
 
 }  // namespace

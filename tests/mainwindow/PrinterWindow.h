@@ -39,6 +39,8 @@ class PrinterWindow : public testing::Test {
         return controlOf<Widget>(main->window(), name);
     }
     QLineEdit *field(const char *name) { return control<QLineEdit>(name); }
+    QString said(const char *label) { return control<QLabel>(label)->text(); }
+    bool isShown(const char *name) { return control(name)->isVisible(); }
     // The name of the printer as the window shows it.
     QString name() { return field("textField_NetworkBonjour")->text(); }
     void click(const char *button) { press(main->window(), button); }
@@ -71,6 +73,12 @@ class PrinterWindow : public testing::Test {
         control(popup)->setFocus();
         QTest::keyClicks(control(popup), text(beginning));
     }
+    void send() {
+        click("button_MainSend");
+        EXPECT_TRUE(dialogs.isDone());
+    }
+    // The change of a name warns, whatever happens then.
+    DialogScript &warned() { return dialogs.alert("Connection to the printer – please note"); }
     QString selectedCategory() {
         return control<OutlineView>("outlineView_Main")->currentIndex().data().toString();
     }

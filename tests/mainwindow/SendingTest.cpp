@@ -1,4 +1,3 @@
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QRadioButton>
@@ -23,17 +22,10 @@ class Sending : public PrinterWindow {
         EXPECT_EQ(name(), text("new-name"));
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     }
-    void send() {
-        click("button_MainSend");
-        EXPECT_TRUE(dialogs.isDone());
-    }
-    // The change of a name warns, whatever happens then.
-    DialogScript &warned() { return dialogs.alert("Connection to the printer – please note"); }
-    DialogScript::Answer says(const char *label, const char *part) {
+    static DialogScript::Answer says(const char *label, const char *part) {
         return [=](QWidget *dialog) {
-            const QString said = controlOf<QLabel>(dialog, label)->text();
-            EXPECT_TRUE(said.contains(text(part))) << qPrintable(said);
             const auto *shown = controlOf<QLabel>(dialog, label);
+            EXPECT_TRUE(shown->text().contains(text(part))) << qPrintable(shown->text());
             const auto fits = [=] {
                 return shown->heightForWidth(shown->width()) <= shown->height();
             };
@@ -87,15 +79,6 @@ TEST_F(Sending, TheLoginIsAskedForUntilItIsRightOrCancelled) {
     send();
     expectUnsent();
     EXPECT_EQ(held(), QByteArray("label-printer"));
-    warned()
-        .on("view_SendLogin",
-            [](QWidget *dialog) {
-                typeInto(controlOf<QLineEdit>(dialog, "textField_Password"), text("open123"));
-                QTest::keyClick(dialog, Qt::Key_Return);
-            })
-        .confirmAndEnd();
-    send();
-    EXPECT_EQ(held(), QByteArray("new-name"));
 }
 
 TEST_F(Sending, WrongInputOnTwoPagesIsToldAndLeadsToTheFirstFieldToMend) {
@@ -186,10 +169,6 @@ TEST_F(Sending, APrinterUnpluggedBeforeTheSendLosesNothing) {
         .on("view_SendConnectError", "button_SendConnectErrorOK");
     send();
     expectUnsent();
-    setFaults("{}");
-    warned().login("open123").confirmAndEnd();
-    send();
-    EXPECT_EQ(held(), QByteArray("new-name"));
 }
 
 TEST_F(Sending, TheEndSaysWhatBecameOfTheSettings) {
@@ -203,18 +182,16 @@ TEST_F(Sending, TheEndSaysWhatBecameOfTheSettings) {
         {R"({"items": {"0x1004": {"result": 0}}})",
          "Names: Bonjour name was sent as new-name, and read back as label-printer."},
         {R"({"items": {"0x1004": {"noReply": true}}})", "it could not be read again"},
-        {R"({"items": {"0x1001": {"result": 4}}})",
-         "did not accept the password. Nothing was sent"},
-        {R"({"closeAfterFrames": 2})", "was lost. Nothing was applied", true},
         {R"({"items": {"0x1007": {"closeAfterReply": true}}})", "was lost. Nothing was applied",
          true}};
     const auto sendAndRead = [&](const QByteArray &faults_, bool lost, const char *said) {
-        warned()
-            .login("open123")
-            .on("view_SendConfirm", faults(faults_), "button_SendConfirmTransmission")
-            .said(lost ? "view_SendConnectError" : "view_SendEnd",
-                  lost ? "textField_SendConnectError" : "textField_SendEnd", said,
-                  lost ? "button_SendConnectErrorOK" : "button_SendEndOK");
+        warned().login("open123").on("view_SendConfirm", faults(faults_),
+                                     "button_SendConfirmTransmission");
+        if (lost)
+            dialogs.said("view_SendConnectError", "textField_SendConnectError", said,
+                         "button_SendConnectErrorOK");
+        else
+            dialogs.said("view_SendEnd", "textField_SendEnd", said, "button_SendEndOK");
         send();
     };
     for (const auto &c : cases) {
@@ -274,20 +251,16 @@ TEST_F(Sending, EscapeCancelsWhereTheViewCanBeCancelled) {
 TEST_F(Sending, TheConnectionTestAsksTheAddressInUse) {
     open(R"({"items": {"0x2001": {"setting": 0, "address": "10.9.9.9", "mask": "255.0.0.0",
          "gateway": "10.0.0.1"}}})");
-    const struct {
-        const char *category, *button, *label, *faults, *answer;
-    } cases[] = {{"Wired network", "button_EthernetConnect", "textField_EthernetConnection", "{}",
-                  "The printer answers"},
-                 {"Wired network", "button_EthernetConnect", "textField_EthernetConnection", gone,
-                  "The printer does not answer"},
-                 {"Infrastructure", "button_InfrastructureConnect",
-                  "textField_InfrastructureConnection", "{}", "The printer answers"}};
-    for (const auto &c : cases) {
-        choose(c.category);
-        setFaults(c.faults);
-        click(c.button);
-        EXPECT_EQ(control<QLabel>(c.label)->text(), text(c.answer));
-    }
+    choose("Wired network");
+    click("button_EthernetConnect");
+    EXPECT_EQ(said("textField_EthernetConnection"), text("The printer answers"));
+    setFaults(gone);
+    click("button_EthernetConnect");
+    EXPECT_EQ(said("textField_EthernetConnection"), text("The printer does not answer"));
+    setFaults("{}");
+    choose("Infrastructure");
+    click("button_InfrastructureConnect");
+    EXPECT_EQ(said("textField_InfrastructureConnection"), text("The printer answers"));
 }
 
 }  // namespace

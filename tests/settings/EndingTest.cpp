@@ -10,77 +10,47 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// Values as somebody gives them: "names.bonjour=desk|device.timeout=90".
-QList<WantedValue> valuesOf(const char *written) {
-    QList<WantedValue> values;
-    for (const QString &part : QString::fromUtf8(written).split(u'|')) {
-        const Setting *const setting = settingOf(part.section(u'=', 0, 0));
-        const QString text = part.section(u'=', 1);
-        const bool isRead = setting->access() == Setting::Access::Read;  // here an address
-        const Parsed parsed = isRead ? Parsed{address(text), {}} : parsedText(*setting, text);
-        values << WantedValue{setting, *parsed.value, {.name = setting->name}, parsed.fault};
-    }
-    return values;
-}
-
-SettingRecord recordOf(const char *written) {
-    SettingRecord record;
-    for (const WantedValue &value : valuesOf(written))
-        record[value.setting->viewKey].insert(value.setting->key, value.value);
-    return record;
-}
-
 TEST(Plans, HoldChangesFaultsAndWhatMayKeepThePrinterFromBeingReached) {
-    const char *const secured =
-        "wireless.authentication=wpa2|wireless.encryption=aes|wireless.ssid=é|wireless.key=";
+    const char *const secured = "wireless.authentication=wpa2|.encryption=aes|.ssid=é|.key=";
     const char *const fixed =
-        "wired.address.mode=fixed|wired.address.ip=10.0.0.5|wired.address.mask=255.0.0.0|"
-        "wired.address.gateway=0.0.0.0";
+        "wired.address.mode=fixed|.ip=10.0.0.5|.mask=255.0.0.0|.gateway=0.0.0.0";
     const char *const open =
-        "wireless.address.mode=fixed|wireless.address.ip=10.0.0.7|wireless.address.mask=255.255.0."
-        "0|"
-        "wireless.address.gateway=0.0.0.0|wireless.authentication=open|wireless.encryption=none|"
-        "wireless.ssid=Old|wireless.mode=infrastructure|wireless.inUse.ip=10.0.0.7|"
-        "accessPoint.address.ip=192.168.1.1";
+        "wireless.address.mode=fixed|.ip=10.0.0.7|.mask=255.255.0.0|.gateway=0.0.0.0|"
+        "wireless.authentication=open|.encryption=none|.ssid=Old|.mode=infrastructure|"
+        "wireless.inUse.ip=10.0.0.7|accessPoint.address.ip=192.168.1.1";
     const struct {
         const char *saved, *wanted;
-        const char *plan;  // changes, faults and warnings
+        const char *plan;  // changes, faults and warnings, without "wireless."
     } cases[] = {
-        {secured, "wireless.ssid=é|wireless.encryption=aes", "//"},
-        {secured, "wireless.ssid=è", "/wireless.ssid/"},
-        {secured, "wireless.encryption=tkip|wireless.key=12345678",
-         "wireless.encryption wireless.key//"},
-        {secured, "wireless.encryption=wep|wireless.wepKey=abcde",
-         "wireless.encryption wireless.wepKey/wireless.encryption/"},
-        {secured, "wireless.authentication=open|wireless.encryption=wep|wireless.key=12345678",
-         "wireless.authentication wireless.encryption wireless.key/wireless.key/0 é"},
-        {secured, "wireless.authentication=shared",
-         "wireless.authentication/wireless.authentication/0 é"},
-        {secured, "wireless.wepKeyNumber=2", "wireless.wepKeyNumber/wireless.wepKeyNumber/"},
-        {fixed, "wired.address.gateway=0.0.0.0|wired.address.ip=010.0.0.5", "//"},
+        {secured, "wireless.ssid=é|.encryption=aes", "//"},
+        {secured, "wireless.ssid=è", "/ssid/"},
+        {secured, "wireless.encryption=tkip|.key=12345678", "encryption key//"},
+        {secured, "wireless.encryption=wep|.wepKey=abcde", "encryption wepKey/encryption/"},
+        {secured, "wireless.authentication=open|.encryption=wep|.key=12345678",
+         "authentication encryption key/key/0 é"},
+        {secured, "wireless.authentication=shared", "authentication/authentication/0 é"},
+        {secured, "wireless.wepKeyNumber=2", "wepKeyNumber/wepKeyNumber/"},
+        {fixed, "wired.address.gateway=0.0.0.0|.ip=010.0.0.5", "//"},
         {fixed, "wired.address.ip=10.0.0.6", "wired.address.ip/wired.address.gateway/"},
         {fixed, "wired.address.mode=automatic", "wired.address.mode//"},
-        {fixed, "wired.address.mode=automatic|wired.address.ip=10.0.0.6",
+        {fixed, "wired.address.mode=automatic|.ip=10.0.0.6",
          "wired.address.mode wired.address.ip/wired.address.ip/"},
         {fixed, "password.administrator=", "password.administrator//"},
-        {open, "wireless.ssid=New", "wireless.ssid//"},
-        {open, "wireless.authentication=wpa2|wireless.encryption=aes",
-         "wireless.authentication wireless.encryption//0 Old"},
-        {open, "wireless.authentication=wpa2|wireless.encryption=aes|wireless.key=12345678",
-         "wireless.authentication wireless.encryption wireless.key//"},
-        {open, "wireless.encryption=wep|wireless.wepKey=abcde",
-         "wireless.encryption wireless.wepKey//"},
-        {open, "wireless.encryption=wep", "wireless.encryption//0 Old"},
-        {open, "wireless.address.gateway=10.0.255.255|wireless.address.mask=255.0.255.0",
-         "wireless.address.mask wireless.address.gateway//1 255.0.255.0"},
-        {open, "wireless.address.gateway=10.0.255.255|wireless.address.mask=128.0.0.0",
-         "wireless.address.mask wireless.address.gateway//"},
-        {open, "wireless.address.gateway=10.1.0.1", "wireless.address.gateway//2 10.1.0.1"},
-        {open, "wireless.address.gateway=10.0.255.255", "wireless.address.gateway//"},
-        {open, "wireless.mode=access-point", "wireless.mode//3 10.0.0.7"},
-        {open, "wireless.mode=off", "wireless.mode//3 10.0.0.7"},
-        {open, "wireless.address.mask=0.0.0.1",
-         "wireless.address.mask/wireless.address.gateway/1 0.0.0.1"},
+        {open, "wireless.ssid=New", "ssid//"},
+        {open, "wireless.authentication=wpa2|.encryption=aes", "authentication encryption//0 Old"},
+        {open, "wireless.authentication=wpa2|.encryption=aes|.key=12345678",
+         "authentication encryption key//"},
+        {open, "wireless.encryption=wep|.wepKey=abcde", "encryption wepKey//"},
+        {open, "wireless.encryption=wep", "encryption//0 Old"},
+        {open, "wireless.address.gateway=10.0.255.255|.mask=255.0.255.0",
+         "address.mask address.gateway//1 255.0.255.0"},
+        {open, "wireless.address.gateway=10.0.255.255|.mask=128.0.0.0",
+         "address.mask address.gateway//"},
+        {open, "wireless.address.gateway=10.1.0.1", "address.gateway//2 10.1.0.1"},
+        {open, "wireless.address.gateway=10.0.255.255", "address.gateway//"},
+        {open, "wireless.mode=access-point", "mode//3 10.0.0.7"},
+        {open, "wireless.mode=off", "mode//3 10.0.0.7"},
+        {open, "wireless.address.mask=0.0.0.1", "address.mask/address.gateway/1 0.0.0.1"},
         {"device.timeout=60", "device.timeout=30", "device.timeout//"},
         {"device.timeout=60", "device.timeout=29", "/device.timeout/"},
         {"device.timeout=60", "device.timeout=300", "device.timeout//"},
@@ -93,7 +63,7 @@ TEST(Plans, HoldChangesFaultsAndWhatMayKeepThePrinterFromBeingReached) {
         for (const SendWarning &warning : plan.warnings)
             warnings << u"%1 %2"_s.arg(warning.kind).arg(warning.subject);
         const QStringList parts{changes.join(u' '), faults.join(u' '), warnings.join(u' ')};
-        EXPECT_EQ(parts.join(u'/').toStdString(), c.plan) << c.wanted;
+        EXPECT_EQ(parts.join(u'/').remove(u"wireless."_s).toStdString(), c.plan) << c.wanted;
     }
 }
 

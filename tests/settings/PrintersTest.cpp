@@ -1,11 +1,10 @@
-#include <QTemporaryDir>
-
 #include "link/Binding.h"
 #include "platform/core/PropertyList.h"
 #include "settings/DWTDataManager.h"
 #include "settings/Printers.h"
 #include "support/Arguments.h"
 #include "support/Catalogues.h"
+#include "support/Folder.h"
 #include "support/RecordingLibrary.h"
 
 namespace {
@@ -85,9 +84,8 @@ TEST_F(ListedPrinters, AnAdministratorAddsAModelAndIsToldOfAFileThatCannotBeUsed
     for (const char *model : {"L200", "New"})
         catalogue.entries << entry(model, PrinterConnection::Network, model);
     installLibrary(catalogueLibrary(catalogue, 100));
-    const QTemporaryDir folder;
-    const PropertyList::FolderOverride administrators(folder.path());
-    const QString path = folder.filePath(u"ZMPrinterStatusTable.plist"_s);
+    const Folder folder;
+    const PropertyList::FolderOverride administrators(folder.path({}));
     const QByteArray table = R"(<?xml version="1.0"?><plist version="1.0"><dict>
         <key>Larkfield New</key><dict/></dict></plist>)";
     const struct {
@@ -99,12 +97,9 @@ TEST_F(ListedPrinters, AnAdministratorAddsAModelAndIsToldOfAFileThatCannotBeUsed
                  {table + QByteArray(PropertyList::longestFile, ' '), 1, true},
                  {"", 1, true}};
     for (const auto &c : cases) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(c.contents) == c.contents.size());
-        file.close();
+        const QString path = folder.write(u"ZMPrinterStatusTable.plist"_s, c.contents);
         EXPECT_EQ(manager->printerList()->size(), c.listed) << c.contents.left(30).constData();
-        const auto problems = Printers::problems();
-        EXPECT_EQ(problems.value(0).subject, c.problem ? path : QString());
+        EXPECT_EQ(Printers::problems().value(0).subject, c.problem ? path : QString());
     }
 }
 

@@ -21,10 +21,10 @@ TEST_P(Reading, FillsBothRecordsInTheOrderOfTheWire) {
     for (const ItemRow &row : itemRows()) {
         if (row.reply.isNull()) continue;
         order += u" ?%1"_s.arg(row.code, 4, 16);
-        const CategoryDictionary values = valuesOf(row);
-        for (auto i = values.begin(); i != values.end(); ++i)
+        for (const WantedValue &value : valuesOf(row.values))
             for (SettingRecord *const record : {&saved, &changed})
-                EXPECT_EQ((*record)[itemOf(row.code)->viewKey].take(i.key()), *i) << row.values;
+                EXPECT_EQ((*record)[value.setting->viewKey].take(value.setting->key), value.value)
+                    << row.values;
     }
     EXPECT_EQ(m.served.receivedUntilEnd(), order + u" update end"_s);
     EXPECT_EQ(saved, changed);
@@ -45,19 +45,18 @@ TEST(ReadingFaults, AMissingReplyEndsTheTrafficAndGivesSix) {
     m.setFaults(R"({"items": {"0x3000": {"noReply": true}}})");
     EXPECT_EQ(m.manager->setupDataFromPrinter(0), 6);
     EXPECT_EQ(m.served.receivedUntilEnd(), u"start ?1006 ?1004 ?1005 ?3000 update end"_s);
-    const auto read = [&](const QString &key) {
-        return asText(m.manager->setupDataToMainView(key));
-    };
-    EXPECT_EQ(
-        read(DWT_View_Key_Network),
-        "Network_Bonjour='desk' Network_BonjourService='Desk's label' Network_Printer='Desk'");
-    EXPECT_EQ(read(DWT_View_Key_Wireless),
-              "Wireless_CommunicateMode=0 Wireless_InfrastructureMACAddress=' ' "
-              "Wireless_SampleAPMACAddress=' '");
-    EXPECT_EQ(read(DWT_View_Key_Infrastructure), "");
-    EXPECT_EQ(read(DWT_View_Key_SimpleAP), "SimpleAP_WirelessMode=0");
-    EXPECT_EQ(read(DWT_View_Key_Ethernet), "Ethernet_MACAddress=' '");
-    EXPECT_EQ(read(DWT_View_Key_Firmware), "Firmware=' ' Firmware_Timeout=0");
+    const std::pair<QString, const char *> read[] = {
+        {DWT_View_Key_Network,
+         "Network_Bonjour='desk' Network_BonjourService='Desk's label' Network_Printer='Desk'"},
+        {DWT_View_Key_Wireless,
+         "Wireless_CommunicateMode=0 Wireless_InfrastructureMACAddress=' ' "
+         "Wireless_SampleAPMACAddress=' '"},
+        {DWT_View_Key_Infrastructure, ""},
+        {DWT_View_Key_SimpleAP, "SimpleAP_WirelessMode=0"},
+        {DWT_View_Key_Ethernet, "Ethernet_MACAddress=' '"},
+        {DWT_View_Key_Firmware, "Firmware=' ' Firmware_Timeout=0"}};
+    for (const auto &[key, values] : read)
+        EXPECT_EQ(asText(m.manager->setupDataToMainView(key)), values);
     EXPECT_EQ(m.manager->isPassword(), 3) << "not asked once the read has failed";
 }
 
@@ -78,22 +77,20 @@ TEST(ReadingFaults, AForeignReplyLeavesOneDefaultAndEndsItsCategory) {
 }
 
 TEST(ReadingResults, ConnectResultsAreHandedOnAndWithoutALinkNothingExists) {
-    ServedManager m(R"({"faults": {"refuseConnection": true}})", Transport::Virtual);
-    EXPECT_EQ(m.manager->setupDataFromPrinter(0), 1);
-    EXPECT_FALSE(m.manager->isEqualToSaveData());
-    EXPECT_EQ(m.manager->SSIDList(), std::nullopt);
+    const ServedManager m(R"({"faults": {"refuseConnection": true}})", Transport::Virtual);
+    const auto plain = make<DWTDataManager>();
+    for (const auto &manager : {m.manager, plain}) {
+        EXPECT_EQ(manager->setupDataFromPrinter(0), 1);
+        EXPECT_FALSE(manager->isEqualToSaveData());
+        EXPECT_EQ(manager->SSIDList(), std::nullopt);
+    }
     const auto library = std::make_shared<RecordingLibrary>();
     library->result = 5;
     installLibrary(library);
     EXPECT_EQ(m.manager->setupDataFromPrinter(0), 5);
-
     EXPECT_FALSE(DWTDataManager::dataManager({}));
-    const auto plain = make<DWTDataManager>();
-    EXPECT_EQ(plain->setupDataFromPrinter(0), 1);
     plain->setupDataFromMainView({{u"k"_s, 1}}, DWT_View_Key_Network);
     EXPECT_EQ(plain->setupDataFromChangeData(DWT_View_Key_Network), std::nullopt);
-    EXPECT_FALSE(plain->isEqualToSaveData());
-    EXPECT_EQ(plain->SSIDList(), std::nullopt);
 }
 
 TEST_P(Reading, AScanReadsAsManyBlocksAsNetworksWereFound) {

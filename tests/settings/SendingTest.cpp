@@ -29,22 +29,16 @@ class Send : public EveryTransport {
         steps += n.name.section(u'_', 2, 2) +
                  n.userInfo.value(MSW_Searching_Value_Current).toString() + u' ';
     }
-    // Sends; what the printer received.
+    // Sends; what the printer received. The data of the setting frames is in `sent`.
     QString send() {
         steps.clear();
         m->sendAndWait();
-        return m->served.receivedUntilEnd();
-    }
-    // Sends; the data of the setting frames, by item.
-    QMap<ItemCode, QByteArray> sentBytes() {
-        steps.clear();
-        m->sendAndWait();
-        QMap<ItemCode, QByteArray> sent;
+        sent.clear();
         for (const auto &[direction, bytes] : m->printer().log())
             if (direction == VirtualPrinter::LoggedFrame::Received && bytes[0] == 'C')
                 sent.insert(ItemCode(quint8(bytes[7]) << 8 | quint8(bytes[6])),
                             bytes.mid(9, bytes.size() - 11));
-        return sent;
+        return m->served.receivedUntilEnd();
     }
     void logIn() {
         ASSERT_EQ(m->manager->connectPrinter(), 0);
@@ -62,6 +56,7 @@ class Send : public EveryTransport {
     std::unique_ptr<ServedManager> m;
     std::vector<NotificationCenter::Observer> observers;
     QString steps;
+    QMap<ItemCode, QByteArray> sent;
 };
 
 INSTANTIATE_TEST_SUITE_P(, Send, allTransports, nameOf);
@@ -73,19 +68,16 @@ TEST_P(Send, WritesEveryItemInOrderAndKeepsAllButSecrets) {
     for (const auto &[encryption, unused] : {std::pair(2, 0x3106), std::pair(1, 0x3105)}) {
         read("{}");
         changeAll(*m, 1, encryption);
-        const QMap<ItemCode, QByteArray> sent = sentBytes();
-        EXPECT_EQ(m->served.receivedUntilEnd(),
+        EXPECT_EQ(send(),
                   u"start =1003 =1004 =1005 =1006 =2001 =3000 =3102 =3103 =3104 =3105 =3106 =3108 "
                   "=3201 =3202 =1007 update end"_s.remove(u" =%1"_s.arg(unused, 4, 16)));
         EXPECT_EQ(steps, everyStep);
         for (const ItemRow &row : itemRows()) {
             if (row.frame.isNull() || row.code == unused || row.code == 0x3103) continue;
             EXPECT_EQ(sent.value(row.code), row.frame) << row.values;
-            const Item &item = *itemOf(row.code);
-            const CategoryDictionary values = valuesOf(row);
-            for (auto i = values.begin(); i != values.end(); ++i)
-                EXPECT_EQ(m->manager->savedData()[item.viewKey].value(i.key()) == *i,
-                          !item.isSecret)
+            for (const auto &[setting, value, place, fault] : valuesOf(row.values))
+                EXPECT_EQ(m->manager->savedData()[setting->viewKey].value(setting->key) == value,
+                          !itemOf(row.code)->isSecret)
                     << row.values;
         }
         EXPECT_EQ(m->printer().password(), QByteArray("abcd1234"));
@@ -94,7 +86,7 @@ TEST_P(Send, WritesEveryItemInOrderAndKeepsAllButSecrets) {
 
 TEST_P(Send, WhatWasNotChangedGoesBackAsTheBytesThatCame) {
     read(printerOfRows("Caf\xe9"));  // no UTF-8
-    QMap<ItemCode, QByteArray> sent = sentBytes();
+    send();
     EXPECT_EQ(sent.take(0x1005), QByteArray("Caf\xe9\0", 5));
     for (const ItemRow &row : itemRows()) {
         if (row.code == 0x1005) continue;
@@ -108,13 +100,10 @@ TEST_P(Send, TheKeyFollowsTheEncryptionAndTheSsidItsOrigin) {
     const std::pair<int, QString> cases[] = {
         {0, {}}, {1, u" =3106"_s}, {2, u" =3105"_s}, {3, u" =3105"_s}, {7, {}}};
     for (const auto &[encryption, key] : cases) {
+        m->enter("wireless.ssid=typed|.key=12345678|.wepKeyNumber=2|.wepKey=abcde");
         m->change(DWT_View_Key_Infrastructure,
                   {{DWT_SaveData_Infrastructure_Encryption, encryption},
-                   {DWT_SaveData_Infrastructure_SSID, u"typed"_s},
-                   {DWT_SaveData_Infrastructure_SSIDList_SSID, hex("ff0001")},
-                   {DWT_SaveData_Infrastructure_PSK, u"12345678"_s},
-                   {DWT_SaveData_Infrastructure_WEPKeyIndex, 2},
-                   {DWT_SaveData_Infrastructure_WEPKey, u"abcde"_s}});
+                   {DWT_SaveData_Infrastructure_SSIDList_SSID, hex("ff0001")}});
         EXPECT_TRUE(send().contains(u" =3103 =3104"_s + key + u" =3108"_s)) << encryption;
     }
     EXPECT_EQ(m->printer().item(0x3104), hex("0300ff0001"));
@@ -125,8 +114,7 @@ TEST_P(Send, TheKeyFollowsTheEncryptionAndTheSsidItsOrigin) {
 TEST_P(Send, WhatTheEncoderRefusesKeepsItsSavedValueAndIsReported) {
     read("{}");
     const std::string before = saved(DWT_View_Key_Network);
-    m->change(DWT_View_Key_Network, {{DWT_SaveData_Network_Bonjour, QString()}});
-    m->change(DWT_View_Key_SimpleAP, {{DWT_SaveData_SimpleAP_SSID, QString(33, u'x')}});
+    m->enter("names.bonjour=|accessPoint.ssid=a network of more than 32 bytes..");
     EXPECT_EQ(send(), u"start =1005 =1006 =2001 =3000 =3102 =3103 =3108 =3202 =1007 update end"_s);
     EXPECT_EQ(steps, everyStep);
     EXPECT_EQ(saved(DWT_View_Key_Network), before);
@@ -140,7 +128,7 @@ TEST_P(Send, LogsInOnceWithTheRememberedPasswordAndARefusedLoginWritesNothing) {
     m->served.receivedUntilEnd();
     logIn();
     EXPECT_TRUE(send().startsWith(u"start =1001 =1004"_s));
-    m->change(DWT_View_Key_Firmware, {{DWT_SaveData_Firmware_Timeout, 45}});
+    m->enter("device.timeout=45");
     EXPECT_TRUE(send().startsWith(u"start =1004"_s)) << "the password was used twice";
     logIn();
     m->setFaults(R"({"items": {"0x1001": {"result": 2}}})");
@@ -157,7 +145,7 @@ TEST_P(Send, LogsInOnceWithTheRememberedPasswordAndARefusedLoginWritesNothing) {
 
 TEST_P(Send, OutlivesItsOwnerAndFinishesWhenTheApplicationEnds) {
     read("{}");
-    m->change(DWT_View_Key_Firmware, {{DWT_SaveData_Firmware_Timeout, 45}});
+    m->enter("device.timeout=45");
     const std::weak_ptr<DWTDataManager> manager = m->manager;
     m->manager->sendDataToPrinter();
     m->manager.reset();

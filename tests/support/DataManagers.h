@@ -5,11 +5,39 @@
 #include "link/Binding.h"
 #include "platform/core/MainThread.h"
 #include "settings/DWTDataManager.h"
-#include "settings/Rules.h"
+#include "settings/Plan.h"
 #include "support/Catalogues.h"
 
 inline QStringList address(const QString &dotted) {
     return dotted.split(u'.');
+}
+
+// Values as somebody gives them: "names.bonjour=desk|.service=Desk|wireless.mode=2". A name that
+// begins with a dot is of the group of the name before; a code may be a number.
+inline QList<WantedValue> valuesOf(const char *written) {
+    QList<WantedValue> values;
+    for (const QString &part : QString::fromUtf8(written).split(u'|')) {
+        QString name = part.section(u'=', 0, 0);
+        if (name.startsWith(u'.')) name = values.last().setting->name.section(u'.', 0, -2) + name;
+        const Setting *const setting = settingOf(name);
+        const QString text = part.section(u'=', 1);
+        Parsed parsed{text, {}};
+        if (setting->kind == Setting::Kind::Choice && text[0].isDigit())
+            parsed.value = text.toInt();
+        else if (setting->access() != Setting::Access::Read)
+            parsed = parsedText(*setting, text);
+        else if (setting->kind == Setting::Kind::Address)
+            parsed.value = address(text);
+        values << WantedValue{setting, *parsed.value, {.name = name}, parsed.fault};
+    }
+    return values;
+}
+
+inline SettingRecord recordOf(const char *written) {
+    SettingRecord record;
+    for (const WantedValue &value : valuesOf(written))
+        record[value.setting->viewKey].insert(value.setting->key, value.value);
+    return record;
 }
 
 // A data manager on a virtual printer, over every transport.
@@ -38,6 +66,10 @@ class ServedManager {
         auto category = manager->setupDataFromChangeData(viewKey).value_or(CategoryDictionary());
         category.insert(values);
         manager->setupDataFromMainView(category, viewKey);
+    }
+    void enter(const char *written) {
+        const SettingRecord record = recordOf(written);
+        for (auto i = record.begin(); i != record.end(); ++i) change(i.key(), *i);
     }
     void sendAndWait() {
         manager->sendDataToPrinter();

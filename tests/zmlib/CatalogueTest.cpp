@@ -1,9 +1,6 @@
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <QFile>
-#include <QTemporaryDir>
-
+#include "support/Folder.h"
 #include "virtualprinter/Description.h"
 #include "zmlib/Catalogue.h"
 
@@ -38,21 +35,23 @@ TEST(Catalogue, BadEntriesAreNamedAndTheGoodOnesListed) {
 }
 
 TEST(Catalogue, IsFoundThroughTheEnvironment) {
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("printers.json")));
+    const Folder folder;
     const auto problemsWith = [](const QByteArray &value) {
         qputenv("ZMLIB_PRINTERS", value);
         return catalogueFromEnvironment().problems.join(u'|');
     };
-    EXPECT_TRUE(problemsWith(file.fileName().toUtf8()).startsWith(file.fileName()));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("{\"printers\": [") && file.flush());
-    EXPECT_TRUE(problemsWith(file.fileName().toUtf8()).contains(QLatin1String("not JSON")));
-    ASSERT_TRUE(file.resize(longestDescription + 1));
-    EXPECT_TRUE(
-        problemsWith(file.fileName().toUtf8()).endsWith(QLatin1String("larger than 16 MiB")));
-    const QByteArray pipe = folder.filePath(QStringLiteral("pipe")).toUtf8();
+    const QString missing = folder.path(QStringLiteral("missing"));
+    EXPECT_TRUE(problemsWith(missing.toUtf8()).startsWith(missing));
+    const std::pair<QByteArray, const char *> cases[] = {
+        {"{\"printers\": [", "not JSON"},
+        {QByteArray(longestDescription + 1, ' '), "larger than 16 MiB"}};
+    for (const auto &[bytes, problem] : cases) {
+        const QString file = folder.write(QStringLiteral("printers.json"), bytes);
+        EXPECT_TRUE(problemsWith(file.toUtf8()).contains(QLatin1String(problem))) << problem;
+    }
+    const QByteArray pipe = folder.path(QStringLiteral("pipe")).toUtf8();
     ASSERT_EQ(::mkfifo(pipe.constData(), 0600), 0);
-    for (const QByteArray &path : {pipe, QByteArray("/dev/zero"), folder.path().toUtf8()})
+    for (const QByteArray &path : {pipe, QByteArray("/dev/zero"), folder.path({}).toUtf8()})
         EXPECT_TRUE(problemsWith(path).endsWith(QLatin1String("not a regular file")))
             << path.data();
     EXPECT_EQ(problemsWith("demo"), QString());
