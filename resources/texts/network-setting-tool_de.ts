@@ -892,9 +892,6 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_Cancelled">
         <translation>Das Einlesen wurde abgebrochen, daher lässt sich nichts ändern. Wählen Sie „Neu einlesen“, um fortzufahren.</translation>
     </message>
-    <message id="DWT_Localize_PrinterList_Cancelled">
-        <translation>Die Suche wurde abgebrochen, bevor ein Drucker geantwortet hat. Wählen Sie „Erneut suchen“, um neu zu beginnen.</translation>
-    </message>
     <message id="DWT_Localize_SSIDList_Cancelled">
         <translation>Die Suche wurde abgebrochen. Drücken Sie F5, um erneut zu suchen.</translation>
     </message>
@@ -1191,6 +1188,15 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
     </message>
     <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
         <translation>%1 ist angeschlossen, wird aber nicht aufgeführt, weil das Programm dieses Modell nicht kennt.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Name_Asked">
+        <translation>Name wird abgefragt …</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Name_Silent">
+        <translation>Antwortet nicht</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSearch">
+        <translation>Die Suche nach WLANs ist fehlgeschlagen: %1 hat kein Ergebnis gemeldet.</translation>
     </message>
 </context>
 </TS>

@@ -892,9 +892,6 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_Cancelled">
         <translation>Reading was cancelled, so nothing can be changed. Choose “Read again” to go on.</translation>
     </message>
-    <message id="DWT_Localize_PrinterList_Cancelled">
-        <translation>The search was cancelled before a printer answered. Choose “Look again” to start it anew.</translation>
-    </message>
     <message id="DWT_Localize_SSIDList_Cancelled">
         <translation>The search was cancelled. Press F5 to search again.</translation>
     </message>
@@ -1191,6 +1188,15 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
     </message>
     <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
         <translation>%1 is connected, but not listed: the tool does not know this model.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Name_Asked">
+        <translation>Asking for the name…</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Name_Silent">
+        <translation>Does not answer</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSearch">
+        <translation>The search for wireless networks failed: %1 reported no result.</translation>
     </message>
 </context>
 </TS>

@@ -892,9 +892,6 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_Cancelled">
         <translation>Se canceló la lectura, por lo que no se puede cambiar nada. Elija «Volver a leer» para continuar.</translation>
     </message>
-    <message id="DWT_Localize_PrinterList_Cancelled">
-        <translation>Se canceló la búsqueda antes de que respondiera una impresora. Elija «Buscar de nuevo» para empezar otra vez.</translation>
-    </message>
     <message id="DWT_Localize_SSIDList_Cancelled">
         <translation>Se canceló la búsqueda. Pulse F5 para buscar de nuevo.</translation>
     </message>
@@ -1191,6 +1188,15 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
     </message>
     <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
         <translation>%1 está conectada, pero no aparece en la lista: la herramienta no conoce este modelo.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Name_Asked">
+        <translation>Consultando el nombre…</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Name_Silent">
+        <translation>No responde</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSearch">
+        <translation>La búsqueda de redes Wi-Fi falló: %1 no comunicó ningún resultado.</translation>
     </message>
 </context>
 </TS>

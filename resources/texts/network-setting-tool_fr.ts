@@ -892,9 +892,6 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_Cancelled">
         <translation>La lecture a été annulée ; rien ne peut donc être modifié. Choisissez « Relire les paramètres » pour continuer.</translation>
     </message>
-    <message id="DWT_Localize_PrinterList_Cancelled">
-        <translation>La recherche a été annulée avant qu’une imprimante ne réponde. Choisissez « Rechercher à nouveau » pour recommencer.</translation>
-    </message>
     <message id="DWT_Localize_SSIDList_Cancelled">
         <translation>La recherche a été annulée. Appuyez sur F5 pour rechercher à nouveau.</translation>
     </message>
@@ -1191,6 +1188,15 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
     </message>
     <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
         <translation>%1 est connectée, mais n’est pas affichée : l’outil ne connaît pas ce modèle.</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Name_Asked">
+        <translation>Lecture du nom…</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Name_Silent">
+        <translation>Ne répond pas</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSearch">
+        <translation>La recherche de réseaux Wi-Fi a échoué : %1 n’a communiqué aucun résultat.</translation>
     </message>
 </context>
 </TS>

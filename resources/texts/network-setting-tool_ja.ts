@@ -892,9 +892,6 @@
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_Cancelled">
         <translation>読み込みをキャンセルしたため、設定を変更できません。続けるには［再読み込み］をクリックしてください。</translation>
     </message>
-    <message id="DWT_Localize_PrinterList_Cancelled">
-        <translation>プリンターが応答する前に検索をキャンセルしました。やり直すには［再検索］をクリックしてください。</translation>
-    </message>
     <message id="DWT_Localize_SSIDList_Cancelled">
         <translation>検索をキャンセルしました。F5 キーを押すと再検索します。</translation>
     </message>
@@ -1191,6 +1188,15 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
     </message>
     <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
         <translation>%1 が接続されていますが、対応していない機種のため一覧に表示されません。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Name_Asked">
+        <translation>名前を取得しています…</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Name_Silent">
+        <translation>応答なし</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSearch">
+        <translation>無線ネットワークの検索に失敗しました。%1 から結果が返りませんでした。</translation>
     </message>
 </context>
 </TS>

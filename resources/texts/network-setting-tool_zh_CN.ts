@@ -892,9 +892,6 @@
     <message id="DWT_Localize_MainDialog_Text_ReadOnly_Cancelled">
         <translation>读取已取消，因此无法更改任何设置。要继续，请选择“重新读取”。</translation>
     </message>
-    <message id="DWT_Localize_PrinterList_Cancelled">
-        <translation>在打印机应答之前搜索已取消。要重新开始，请选择“重新搜索”。</translation>
-    </message>
     <message id="DWT_Localize_SSIDList_Cancelled">
         <translation>搜索已取消。按 F5 键可重新搜索。</translation>
     </message>
@@ -1191,6 +1188,15 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
     </message>
     <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
         <translation>%1 已连接，但本工具不支持此型号，因此未列出。</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Name_Asked">
+        <translation>正在获取名称…</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Name_Silent">
+        <translation>无响应</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSearch">
+        <translation>搜索无线网络失败：%1 未返回结果。</translation>
     </message>
 </context>
 </TS>

@@ -39,7 +39,7 @@ void DWTPrinterSelector::DWT_UIInitialize() {
     setupUi(window_PrinterSelector);
     auto *const guide = new WPSGuide(view_PrinterSelector);
     window_Wait = new WaitWindow(window_PrinterSelector);
-    view_Printerlist = new PrinterList(view_PrinterSelector, window_Wait);
+    view_Printerlist = new PrinterList(view_PrinterSelector);
     dictionary_ViewManagement = std::make_unique<ViewStack>(view_PrinterSelector);
     ViewStack &views = *dictionary_ViewManagement;
     views.add(DWT_View_Key_ToolPerform, view_ToolPerform);
@@ -88,7 +88,7 @@ void DWTPrinterSelector::connectButtons(const WPSGuide *guide) {
     connect(view_Printerlist, &PrinterList::left, this, &Self::push_PrinterListExit);
 }
 
-// The window comes first: finding the printers may take a while.
+// The window comes first.
 void DWTPrinterSelector::applicationDidFinishLaunching() {
     window_PrinterSelector->bringToFront();
     DWT_UISelector(checkLunchedMode() ? DWT_View_Key_ToolPerform : DWT_View_Key_Printerlist);
@@ -131,6 +131,7 @@ void DWTPrinterSelector::DWT_ShowMainSettingWindow() {
     bool opened = false;
     {
         const WaitSheet waiting = window_Wait->over(window_PrinterSelector);
+        view_Printerlist->leave(printer);
         msw_Object->showWindow();
         Window *const opening = msw_Object->window();
         opening->layout()->setMenuBar(m_menu->shareWith(opening));

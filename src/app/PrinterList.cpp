@@ -3,9 +3,7 @@
 #include <QShortcut>
 #include <algorithm>
 
-#include "mainwindow/WaitWindow.h"
 #include "platform/core/Texts.h"
-#include "platform/core/Waiting.h"
 #include "platform/ui/Window.h"
 #include "settings/PrinterWords.h"
 #include "settings/Printers.h"
@@ -44,7 +42,7 @@ QString keyOfEmptyList(const QList<PrinterProblem> &problems, bool installer) {
 
 }  // namespace
 
-PrinterList::PrinterList(QWidget *parent, WaitWindow *wait) : QWidget(parent), window_Wait(wait) {
+PrinterList::PrinterList(QWidget *parent) : QWidget(parent) {
     setupUi(this);
     TableView &table = *tableView_Printerlist;
     const auto addColumn = [&](const QString &column, const QString &titleKey) {
@@ -62,7 +60,7 @@ PrinterList::PrinterList(QWidget *parent, WaitWindow *wait) : QWidget(parent), w
     view_Problems->hide();
     setFocusProxy(&table);
     m_showing.setSingleShot(true);
-    m_showing.callOnTimeout([this] { reloadData(); });
+    m_showing.callOnTimeout([this] { show(); });
     m_looking.callOnTimeout([this] { followPrinters(); });
     connect(&table, &TableView::doubleAction, this, &PrinterList::DWT_DoubleAction);
     connect(button_PrinterlistOK, &QPushButton::clicked, this, &PrinterList::chosen);
@@ -79,36 +77,40 @@ PrinterList::~PrinterList() {
 }
 
 void PrinterList::push_PrinterListReload() {
+    m_names.askAgain();
     DWT_UpdatePrinterList();
     tableView_Printerlist->deselectAll();
     button_PrinterlistOK->setEnabled(false);
 }
 
 void PrinterList::DWT_UpdatePrinterList() {
-    const WaitSheet waiting = window_Wait->over(window());
     if (!ndm_Object) ndm_Object = make<DWTDataManager>();
-    array_PrinterList.clear();
-    tableView_Printerlist->setEmptyText(localized("DWT_Localize_PrinterList_Searching"));
-    reloadData();
-    ndm_Object->printerList([this](const PrinterEntry &printer) {
-        array_PrinterList << printer;
-        m_showing.start();
-    });
-    m_showing.stop();
+    array_PrinterList = ndm_Object->printerList().value_or(QList<PrinterEntry>());
+    m_isComplete = Printers::isListComplete();
+    m_names.ask(array_PrinterList);
+    show();
+    m_looking.start(lookInterval);
+}
+
+void PrinterList::show() {
     tableView_Printerlist->setEmptyText(localized(
-        isWaitCancelled() ? u"DWT_Localize_PrinterList_Cancelled"_s
-                          : keyOfEmptyList(Printers::problems(), ndm_Object->checkLunchedMode())));
+        m_isComplete ? keyOfEmptyList(Printers::problems(), ndm_Object->checkLunchedMode())
+                     : u"DWT_Localize_PrinterList_Searching"_s));
     reloadData();
     showPart(textField_PrinterlistFilter, array_PrinterList.size() > printersAtAGlance ||
                                               !textField_PrinterlistFilter->text().isEmpty());
     showProblems();
-    m_looking.start(lookInterval);
+}
+
+bool PrinterList::isLooking() const {
+    return !m_isComplete || m_names.isAsking() || m_showing.isActive();
 }
 
 void PrinterList::followPrinters() {
-    const bool idle = isVisible() && !window()->isMinimized() && !window_Wait->isVisible() &&
+    const bool idle = isVisible() && !window()->isMinimized() &&
                       !QApplication::activeModalWidget() && !QApplication::activePopupWidget();
-    if (idle && ndm_Object && Printers::hasListChanged()) DWT_UpdatePrinterList();
+    if (idle && (Printers::hasListChanged() || m_isComplete != Printers::isListComplete()))
+        DWT_UpdatePrinterList();
 }
 
 void PrinterList::showProblems() {
@@ -131,16 +133,28 @@ void PrinterList::showPart(QWidget *part, bool shown) {
 }
 
 PrinterEntry PrinterList::selectedPrinter() const {
-    return array_PrinterList.value(tableView_Printerlist->selectedRow());
+    return m_names.named(array_PrinterList.value(tableView_Printerlist->selectedRow()));
+}
+
+// The name of a printer on USB, or why it is missing.
+QString PrinterList::nameOf(const PrinterEntry &entry) const {
+    switch (m_names.stateOf(entry)) {
+        case PrinterNames::State::Asked:
+            return localized("DWT_Localize_PrinterList_Name_Asked");
+        case PrinterNames::State::Silent:
+            return localized("DWT_Localize_PrinterList_Name_Silent");
+        case PrinterNames::State::Known:
+            break;
+    }
+    return readableText(m_names.named(entry).value(PrinterKey::MachineName));
 }
 
 QVariant PrinterList::objectValueForTableColumn(TableView *, const QString &column, int row) {
     if (row >= array_PrinterList.size()) return {};
     const PrinterEntry &entry = array_PrinterList[row];
     const bool network = entry.contains(PrinterKey::BonjourServiceName);
-    if (column == _MODEL_NAME_)
-        return network ? entry.value(PrinterKey::BonjourServiceName)
-                       : readableText(entry.value(PrinterKey::MachineName));
+    if (column == _MODEL_NAME_ && !network) return nameOf(entry);
+    if (column == _MODEL_NAME_) return entry.value(PrinterKey::BonjourServiceName);
     if (column == _SERVICE_NAME_)
         return localized(network ? u"DWT_Localize_PrinterList_BonjourService_Network"_s
                                  : u"DWT_Localize_PrinterList_BonjourService_USB"_s);
@@ -162,7 +176,7 @@ QIcon PrinterList::iconForTableColumn(TableView *, const QString &column, int ro
 }
 
 QString PrinterList::rowKeyInTableView(TableView *, int row) {
-    return array_PrinterList.value(row).value(PrinterKey::DeviceURI);
+    return Printers::identityOf(array_PrinterList.value(row));
 }
 
 void PrinterList::tableViewSelectionDidChange(TableView *table) {

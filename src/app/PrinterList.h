@@ -5,12 +5,11 @@
 
 #include "platform/ui/TableView.h"
 #include "settings/DWTDataManager.h"
+#include "settings/PrinterNames.h"
 #include "ui_PrinterList.h"
 
-class WaitWindow;
-
-// The table of printers with its filter, its reasons for being empty, and problems. Main thread
-// only.
+// The table of printers with its filter, its reasons for being empty, and problems. It waits for
+// nothing: rows come as they are known. Main thread only.
 class PrinterList : public QWidget,
                     public TableDataSource,
                     public TableDelegate,
@@ -18,20 +17,24 @@ class PrinterList : public QWidget,
     Q_OBJECT
   public:
     // How often is looked for printers that came or went.
-    static constexpr std::chrono::milliseconds lookInterval{1000};
+    static constexpr std::chrono::milliseconds lookInterval{500};
 
-    // Empty at first. `parent`'s window is a Window; `wait` outlives the view.
-    PrinterList(QWidget *parent, WaitWindow *wait);
+    // Empty at first. `parent`'s window is a Window.
+    explicit PrinterList(QWidget *parent);
     ~PrinterList() override;
 
-    // Fetches the list anew and selects nothing in it.
+    // Fetches the list anew, asks every printer for its name, and selects nothing.
     void push_PrinterListReload();
+    // Whether printers are still looked for, or asked for their names.
+    bool isLooking() const;
     // Every lookInterval: fetches a changed list again, unless the user is busy elsewhere.
     void followPrinters();
     // Asks the table's contents anew; the list stays.
     void reloadData() { tableView_Printerlist->reloadData(); }
     // The selected printer; an empty entry when none is selected.
     PrinterEntry selectedPrinter() const;
+    // Asks a printer nothing more, since it is to be opened.
+    void leave(const PrinterEntry &printer) { m_names.leave(printer); }
 
     int numberOfRowsInTableView(TableView *) override { return int(array_PrinterList.size()); }
     QVariant objectValueForTableColumn(TableView *table, const QString &column, int row) override;
@@ -48,17 +51,21 @@ class PrinterList : public QWidget,
 
   private:
     void DWT_UpdatePrinterList();
+    // Shows what is known by now.
+    void show();
     void DWT_DoubleAction(int clickedRow) {
         if (clickedRow >= 0) Q_EMIT chosen();
     }
+    QString nameOf(const PrinterEntry &entry) const;
     // Says below the list why printers may be missing.
     void showProblems();
     // Shows or hides a part of the view; the window grows by one that appears.
     void showPart(QWidget *part, bool shown);
 
-    WaitWindow *const window_Wait;
     std::shared_ptr<DWTDataManager> ndm_Object;
     QList<PrinterEntry> array_PrinterList;
-    QTimer m_showing;  // the rows of printers that have just answered, once work lets windows paint
+    bool m_isComplete = false;  // nothing that is there is missing in it
+    PrinterNames m_names{[this] { m_showing.start(); }};
+    QTimer m_showing;  // what has come, once for all that comes at a time
     QTimer m_looking;  // for printers that come or go
 };

@@ -1,8 +1,10 @@
 #include "cli/Commands.h"
 
+#include <QSet>
 #include <cerrno>
 
 #include "cli/Interrupt.h"
+#include "cli/Look.h"
 #include "cli/Options.h"
 #include "cli/Passwords.h"
 #include "cli/Provision.h"
@@ -37,21 +39,37 @@ class Run {
     }
 
   private:
+    // Rows are printed as soon as they are whole; those of silent printers come last.
     ExitCode list() {
         const InterruptibleWait wait;
-        const auto printers = DWTDataManager::printerList().value_or(QList<PrinterEntry>());
-        if (m_options.json) {
-            QJsonArray array;
-            for (const PrinterEntry &entry : printers) array << asJson(entry);
-            m_terminal.print(array);
-        } else if (!printers.isEmpty()) {
+        Look look;
+        QJsonArray array;
+        QList<int> widths;
+        QSet<QString> printed;
+        const auto print = [&](bool isEnd) {
             QList<QStringList> rows;
-            for (const PrinterEntry &entry : printers) rows << cellsOf(entry);
-            m_terminal.print(rows);
+            for (const PrinterEntry &entry : look.printers()) {
+                const QString identity = Printers::identityOf(entry);
+                if (printed.contains(identity) || (look.isAsked(entry) && !isEnd)) continue;
+                printed << identity;
+                array << asJson(entry);
+                rows << cellsOf(entry);
+                if (look.isNameless(entry))
+                    rows.last().first() = localized("DWT_Localize_PrinterList_Name_Silent");
+            }
+            if (!m_options.json) m_terminal.print(rows, widths);
+            Terminal::flush();
+        };
+        const QDeadlineTimer deadline(Look::longest);
+        for (bool isOver = false; !isOver && !isWaitCancelled();) {
+            isOver = look.wait(std::min(deadline, QDeadlineTimer(Look::gathering))) ||
+                     deadline.hasExpired();
+            print(isOver);
         }
+        if (m_options.json) m_terminal.print(array);
         m_terminal.note(Printers::problems());
         if (isWaitCancelled()) return stopped();
-        if (printers.isEmpty() && !m_options.json)
+        if (printed.isEmpty() && !m_options.json)
             m_terminal.note(localized("DWT_Localize_Cli_NoPrinters"));
         return ExitCode::Done;
     }
@@ -150,10 +168,9 @@ class Run {
                     .arg(std::chrono::ceil<std::chrono::seconds>(left).count()));
         });
         if (isWaitCancelled()) return stopped();
-        if (!found) {
-            const auto reading = Session::Reading::NotReached;
-            return m_terminal.fail(codeOf(reading), session->wordsOf(reading).join(u' '));
-        }
+        if (!found)
+            return m_terminal.fail(ExitCode::NotReached,
+                                   localized("DWT_Localize_Cli_NoSearch").arg(session->name()));
         if (m_options.json)
             m_terminal.print(asJson(*found));
         else
@@ -165,17 +182,39 @@ class Run {
 
     // --- Printers ---
 
-    // The printer that the command names; null, and m_code says why.
+    // The printer that the command names; null, and m_code says why. A URI and a serial number that
+    // one printer has are known at once; whose a name is shows when all names are known.
     std::optional<Session> open() {
         const QString named = m_options.arguments.first();
-        for (const PrinterEntry &entry : Printers::supported())
-            if (entry.value(PrinterKey::DeviceURI) == named) return Session(entry);
-        QList<PrinterEntry> meant;
-        for (const PrinterEntry &entry :
-             DWTDataManager::printerList().value_or(QList<PrinterEntry>()))
-            if (entry.value(PrinterKey::SerialNumber) == named || listedName(entry) == named)
-                meant << entry;
-        if (meant.size() == 1) return Session(meant.first());
+        Look look;
+        const auto with = [&](const auto &isMeant) {
+            QList<PrinterEntry> meant;
+            for (const PrinterEntry &entry : look.printers())
+                if (isMeant(entry)) meant << entry;
+            return meant;
+        };
+        const auto atOnce = [&] {
+            const auto byUri = with([&](const PrinterEntry &entry) {
+                return entry.value(PrinterKey::DeviceURI) == named;
+            });
+            const auto bySerial = with([&](const PrinterEntry &entry) {
+                return entry.value(PrinterKey::SerialNumber) == named;
+            });
+            return byUri.isEmpty() ? bySerial : byUri;
+        };
+        QList<PrinterEntry> meant = atOnce();
+        if (meant.size() != 1) {
+            look.wait(QDeadlineTimer(Look::longest), [&] { return atOnce().size() == 1; });
+            meant = atOnce();
+        }
+        if (meant.size() != 1)
+            meant = with([&](const PrinterEntry &entry) {
+                return entry.value(PrinterKey::SerialNumber) == named || listedName(entry) == named;
+            });
+        if (meant.size() == 1) {
+            look.leave(meant.first());
+            return Session(meant.first());
+        }
         if (isWaitCancelled()) {
             m_code = stopped();
             return {};

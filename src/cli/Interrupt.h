@@ -5,8 +5,8 @@
 // The user's wish to stop: Ctrl+C, an end of the session, a closed terminal.
 namespace Interrupt {
 
-// From now on, SIGINT, SIGTERM and SIGHUP are noted and do not end the program. Before, while inputs
-// are read that may never come, they end it at once.
+// From now on, SIGINT, SIGTERM and SIGHUP are noted and do not end the program. Before, while
+// inputs are read that may never come, they end it at once.
 void watch();
 
 // From now on, SIGPIPE and SIGXFSZ do not end the program: the write fails instead.

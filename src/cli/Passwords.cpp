@@ -22,7 +22,8 @@ bool Passwords::load(const QString &file, Fault &fault) {
 }
 
 std::optional<QString> Passwords::forPrinter(const QString &printer) {
-    if (!m_password)
+    if (!m_password && !m_isDeclined)
         m_password = Terminal::askPassword(localized("DWT_Localize_Cli_AskPassword").arg(printer));
+    m_isDeclined = !m_password;
     return m_password ? std::optional(ownCopy(*m_password)) : std::nullopt;
 }

@@ -24,4 +24,5 @@ class Passwords {
 
   private:
     std::optional<QString> m_password;
+    bool m_isDeclined = false;  // it was asked for, and not entered
 };

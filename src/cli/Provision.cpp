@@ -9,6 +9,7 @@
 #include "link/Binding.h"
 #include "platform/core/MainThread.h"
 #include "platform/core/Texts.h"
+#include "platform/core/Waiting.h"
 #include "settings/PrinterWords.h"
 #include "settings/Printers.h"
 
@@ -67,6 +68,7 @@ ExitCode Provision::run(const QString &resultFile) {
 void Provision::tick() {
     if (!m_stopping && Interrupt::isRequested()) {
         m_stopping = true;
+        m_names.ask({});
         if (!m_working.isEmpty()) m_terminal.note(localized("DWT_Localize_Cli_Stopping"));
     }
     const bool follow = !m_stopping && !listsCatalogue();
@@ -75,43 +77,42 @@ void Provision::tick() {
     if (isEnd()) m_loop.quit();
 }
 
-// Asks for names only where a row finds its printer by name. A printer that comes again while it is
-// worked on has its turn afterwards.
+// A printer that comes again while it is worked on has its turn afterwards.
 void Provision::look() {
-    if (m_looking) return;
-    m_looking = true;
     m_lookAgain = false;
-    const auto link = make<DWTCommunicationControl>();
     const auto before = std::exchange(m_present, {});
-    QList<PrinterEntry> added;
-    for (PrinterEntry entry : Printers::supported()) {
+    for (const PrinterEntry &entry : Printers::supported()) {
         if (!isUSB(entry)) continue;
-        const QString uri = entry.value(PrinterKey::DeviceURI);
-        if (const auto known = before.constFind(uri); known != before.constEnd()) {
-            m_present.insert(uri, *known);
-            continue;
-        }
-        if (m_working.contains(uri)) {
+        const QString identity = Printers::identityOf(entry);
+        if (!before.contains(identity) && m_working.contains(entry.value(PrinterKey::DeviceURI))) {
             m_lookAgain = true;
             continue;
         }
-        if (m_rows.needNames())
-            entry.insert(PrinterKey::MachineName, DWTDataManager::printerName(link, entry));
-        m_present.insert(uri, entry);
-        added << entry;
+        m_present.insert(identity, entry);
+        if (!before.contains(identity)) m_waiting << entry;
     }
-    auto problems = Printers::problems();
-    for (const PrinterProblem &problem : std::exchange(m_problems, problems))
-        problems.removeOne(problem);
-    m_terminal.note(problems);
-    m_waiting += added;
-    m_looking = false;
+    if (m_rows.needNames()) m_names.ask(m_present.values());
+    noteProblems();
     startNext();
 }
 
+// Printers on the network have no part in it.
+void Provision::noteProblems() {
+    auto problems = Printers::problems();
+    problems.removeIf([](const PrinterProblem &problem) {
+        return problem.kind == PrinterProblem::NoNetworkService ||
+               problem.kind == PrinterProblem::SilentNetworkService ||
+               problem.kind == PrinterProblem::NotLocated;
+    });
+    for (const PrinterProblem &problem : std::exchange(m_problems, problems))
+        problems.removeOne(problem);
+    m_terminal.note(problems);
+}
+
+// Whether a name is unique shows when all are known.
 void Provision::startNext() {
-    while (!m_stopping && !m_looking && m_working.size() < printersAtATime &&
-           !m_waiting.isEmpty()) {
+    if (m_names.isAsking()) return;
+    while (!m_stopping && m_working.size() < printersAtATime && !m_waiting.isEmpty()) {
         const PrinterEntry entry = m_waiting.takeFirst();
         if (!MainThread::startBackgroundWork([this, entry] { work(entry); })) {
             m_waiting.prepend(entry);  // the system has no thread for it at the moment
@@ -129,8 +130,19 @@ void Provision::work(const PrinterEntry &entry) {
 }
 
 Provision::Result Provision::provision(Session &session) {
-    const auto read = session.readWhenReady([this] { return !m_stopping.load(); });
+    const auto isStopped = [this] { return m_stopping || Interrupt::isRequested(); };
+    Session::Reading read;
+    {
+        const CancellableWait wait(isStopped);
+        read = session.readWhenReady();
+    }
     Result result;
+    if (isStopped()) {
+        result.code = ExitCode::Stopped;
+        result.word = wordOf(result.code);
+        result.text = localized("DWT_Localize_Cli_Stopped");
+        return result;
+    }
     if (read == Session::Reading::Complete) {
         MainThread::callAndWait([&] { result = claim(session); });
         if (result.granted) changeByRow(session, result);
@@ -158,12 +170,14 @@ void Provision::changeByRow(Session &session, Result &result) {
         result.word = u"unchanged"_s;
         return;
     }
+    const auto mayBegin = [this] { return !m_stopping && !Interrupt::isRequested(); };
     const auto password = [&] {
         std::optional<QString> given;
-        MainThread::callAndWait([&] { given = m_passwords.forPrinter(name); });
+        MainThread::callAndWait([&] {
+            if (mayBegin()) given = m_passwords.forPrinter(name);
+        });
         return given;
     };
-    const auto mayBegin = [this] { return !m_stopping && !Interrupt::isRequested(); };
     const Ending ending = session.change(plan, password, mayBegin);
     end(codeOf(ending), session.wordsOf(ending, Naming::Stable));
 }
@@ -174,7 +188,7 @@ Provision::Result Provision::claim(const Session &session) {
     const QString &name = result.printer.name;
     const auto namesakes =
         std::count_if(m_present.begin(), m_present.end(), [&](const PrinterEntry &entry) {
-            return readableText(entry.value(PrinterKey::MachineName)) == name;
+            return readableText(m_names.named(entry).value(PrinterKey::MachineName)) == name;
         });
     const Rows::Claim claim = m_rows.claim(result.printer, namesakes);
     result.row = claim.row;
@@ -229,7 +243,7 @@ void Provision::note(const Session &session, const Result &result) {
 }
 
 bool Provision::isEnd() const {
-    if (!m_working.isEmpty() || m_looking) return false;
+    if (!m_working.isEmpty()) return false;
     return m_stopping || (m_waiting.isEmpty() && (m_rows.isAllDone() || listsCatalogue()));
 }
 

@@ -11,6 +11,7 @@
 #include "cli/ResultFile.h"
 #include "cli/Rows.h"
 #include "cli/Terminal.h"
+#include "settings/PrinterNames.h"
 #include "settings/Session.h"
 
 // Changes every USB printer that has a row in a table, several at a time. Main thread.
@@ -43,6 +44,7 @@ class Provision {
 
     void tick();
     void look();
+    void noteProblems();
     void startNext();
     void work(const PrinterEntry &entry);
     Result provision(Session &session);
@@ -57,11 +59,11 @@ class Provision {
     Passwords &m_passwords;
     Rows m_rows;
     ResultFile m_results;
-    QMap<QString, PrinterEntry> m_present;  // the printers of the last look, by URI
-    QList<PrinterProblem> m_problems;       // of the last look
+    QMap<QString, PrinterEntry> m_present;  // the printers of the last look, by identity
+    PrinterNames m_names{[this] { startNext(); }};
+    QList<PrinterProblem> m_problems;  // of the last look
     QList<PrinterEntry> m_waiting;
-    QSet<QString> m_working;  // URIs of the printers that are worked on
-    bool m_looking = false;
+    QSet<QString> m_working;              // URIs of the printers that are worked on
     bool m_lookAgain = false;             // a printer came that was still worked on
     std::atomic<bool> m_stopping{false};  // read by the workers
     bool m_writeFailed = false;

@@ -63,8 +63,7 @@ void Terminal::print(const QString &line) {
     put(stdout, terminalText(line) + u'\n');
 }
 
-void Terminal::print(const QList<QStringList> &rows) {
-    QList<int> widths;
+void Terminal::print(const QList<QStringList> &rows, QList<int> &widths) {
     for (const QStringList &row : rows)
         for (qsizetype i = 0; i < row.size(); ++i) {
             if (widths.size() <= i) widths << 0;

@@ -19,8 +19,13 @@ class Terminal {
     // --- Results, on standard output ---
 
     void print(const QString &line);
-    // Rows of cells in columns, one wide enough for its cells each.
-    void print(const QList<QStringList> &rows);
+    // Rows of cells in columns, each wide enough for its cells, and at least as wide as `widths`
+    // says, which becomes what they are.
+    void print(const QList<QStringList> &rows, QList<int> &widths);
+    void print(const QList<QStringList> &rows) {
+        QList<int> widths;
+        print(rows, widths);
+    }
     void print(const QJsonValue &value);
     // Hands what was printed to the system. False when it was not taken.
     static bool flush();

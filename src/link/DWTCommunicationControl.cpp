@@ -20,6 +20,14 @@ bool DWTCommunicationControl::hasPrinterListChanged() {
     return installedLibrary()->hasListChanged();
 }
 
+bool DWTCommunicationControl::isPrinterListComplete() {
+    return installedLibrary()->isListComplete();
+}
+
+QString DWTCommunicationControl::openedAddress() const {
+    return installedLibrary()->addressOf(deviceURI());
+}
+
 int DWTCommunicationControl::connectPrinter(int) {
     const auto library = installedLibrary();
     const QString uri = deviceURI();

@@ -54,6 +54,12 @@ class DWTCommunicationControl : public DWTBaseClass {
     // Whether printers came or went since the last printerList(). Needs no connection.
     bool hasPrinterListChanged();
 
+    // Whether the last printerList() had every printer that is there. Needs no connection.
+    bool isPrinterListComplete();
+
+    // The address at which a network printer was opened last; empty for any other.
+    QString openedAddress() const;
+
     // Opens the printer's channel unless it is open, and starts a transaction. The argument is not
     // used. Result: 0; 1 for an engage status other than 0 and 1; otherwise the library's.
     int connectPrinter(int);

@@ -64,9 +64,9 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     // Polls of a search for networks, and the time between two.
     static constexpr int scanPolls = 10;
     static constexpr std::chrono::milliseconds defaultScanInterval{1000};
-    // The networks that the printer finds; empty when there are none, scanPolls polls did not
-    // finish, or the wait was cancelled; nothing when it cannot be connected or closes the
-    // connection.
+    // The networks that the printer finds; empty when there are none. Nothing when the printer
+    // cannot be connected, falls silent, does not finish within scanPolls polls, leaves out a part
+    // of the list, or the wait was cancelled.
     std::optional<QList<SSIDEntry>> SSIDList(const Progress &progress = {});
     // Waits another time than defaultScanInterval between two polls; for tests.
     void setScanInterval(std::chrono::milliseconds interval) { m_scanInterval = interval; }
@@ -86,14 +86,13 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
 
     // --- Printers (DWTDataManagerPrinters.cpp) ---
 
-    // The supported printers (settings/Printers.h) that can be reached, those on USB with their
-    // PrinterKey::MachineName; nothing without a link. `found` gets each at once. A cancelled wait
-    // leaves out the rest.
-    static std::optional<QList<PrinterEntry>> printerList(
-        const std::function<void(const PrinterEntry &)> &found = {});
+    // The supported printers that are known now (settings/Printers.h); nothing without a link.
+    static std::optional<QList<PrinterEntry>> printerList();
     // The name of the printer of `entry`, asked through `link`; " " when it cannot be read.
     static QString printerName(const std::shared_ptr<DWTCommunicationControl> &link,
                                const PrinterEntry &entry);
+    // The address at which the printer was opened last, if it is on the network; otherwise empty.
+    QString openedAddress() const;
     // Whether a printer answers at an address of four parts; negative when not, or without a link.
     int isCheckConnectToPrinter(const QStringList &address);
 
@@ -171,6 +170,8 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
         return firmwareData_Dictionary = readCategory(DWT_View_Key_Firmware);
     }
     std::optional<QList<SSIDEntry>> NDM_DataToSSIDArray(const Progress &progress);
+    // The blocks of the list that a search for networks has filled.
+    std::optional<QList<SSIDEntry>> networksOf(int count);
 
     // Notes whether a reply reports the value of an item that a send writes.
     void noteReported(ItemCode code, const QByteArray &reply);

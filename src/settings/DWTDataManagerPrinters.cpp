@@ -1,6 +1,5 @@
 // Listing printers and checking an address.
 
-#include "platform/core/Waiting.h"
 #include "settings/DWTDataManager.h"
 #include "settings/Frames.h"
 #include "settings/Printers.h"
@@ -12,28 +11,19 @@ constexpr ItemCode nameItem = 0x1006;
 
 }  // namespace
 
-std::optional<QList<PrinterEntry>> DWTDataManager::printerList(
-    const std::function<void(const PrinterEntry &)> &found) {
-    const auto link = make<DWTCommunicationControl>();
-    if (!link) return {};
-    QList<PrinterEntry> reached;
-    for (PrinterEntry entry : Printers::supported()) {
-        if (isUSB(entry)) {
-            if (isWaitCancelled()) continue;
-            const QString name = printerName(link, entry);
-            if (name == unreadable) continue;
-            entry.insert(PrinterKey::MachineName, name);
-        }
-        reached.append(entry);
-        if (found) found(entry);
-    }
-    return reached;
+std::optional<QList<PrinterEntry>> DWTDataManager::printerList() {
+    if (!make<DWTCommunicationControl>()) return {};
+    return Printers::supported();
 }
 
 QString DWTDataManager::printerName(const std::shared_ptr<DWTCommunicationControl> &link,
                                     const PrinterEntry &entry) {
     NDM_InitMemberToPrinterList(link, entry);  // the name is asked for whatever it says
     return NDM_DataToPrinterName(link);
+}
+
+QString DWTDataManager::openedAddress() const {
+    return ncc_Object ? ncc_Object->openedAddress() : QString();
 }
 
 int DWTDataManager::isCheckConnectToPrinter(const QStringList &address) {

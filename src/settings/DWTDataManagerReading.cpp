@@ -47,10 +47,8 @@ int DWTDataManager::setupDataFromPrinter(int, const Progress &progress) {
 std::optional<QList<SSIDEntry>> DWTDataManager::SSIDList(const Progress &progress) {
     if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) return {};
     const auto networks = NDM_DataToSSIDArray(progress);
-    const bool closed = ncc_Object->isClosedByPrinter();
     ncc_Object->disconnectPrinter(0);
-    if (closed) return {};
-    return networks.value_or(QList<SSIDEntry>());
+    return networks;
 }
 
 QList<const Setting *> DWTDataManager::notReported() const {
@@ -161,21 +159,27 @@ CategoryDictionary DWTDataManager::readCategory(const QString &viewKey) {
     return categoryOf(viewKey, values);
 }
 
-// Nothing when no poll had a well-formed answer.
+// Nothing when the printer falls silent, does not finish, or leaves out a part of the list.
 std::optional<QList<SSIDEntry>> DWTDataManager::NDM_DataToSSIDArray(const Progress &progress) {
     NDM_IntegerToData(0x3120, 1);  // starts the search; whether it says so does not matter
-    std::optional<QList<SSIDEntry>> networks;
-    std::optional<ItemCodec::ScanStatus> status;
     for (int poll = 0; poll < scanPolls && !isWaitCancelled(); ++poll) {
         if (progress) progress(poll, scanPolls);
-        status = ItemCodec::scanStatus(NDM_SendCommandSettingRequest(0x3120));
-        if (status) networks = QList<SSIDEntry>();
-        if (status && status->state == scanFinished) break;
-        if (ncc_Object->isClosedByPrinter()) break;
+        const QByteArray reply = NDM_SendCommandSettingRequest(0x3120);
+        if (reply.isEmpty()) return {};
+        const auto status = ItemCodec::scanStatus(reply);
+        if (status && status->state == scanFinished) return networksOf(status->count);
         waitFor(m_scanInterval);
     }
-    if (!status || status->state != scanFinished) return networks;
-    for (const auto &[first, code] : scanBlocks)
-        if (status->count >= first) *networks += NDM_SSIDInfo(code).value_or(QList<SSIDEntry>());
+    return {};
+}
+
+std::optional<QList<SSIDEntry>> DWTDataManager::networksOf(int count) {
+    QList<SSIDEntry> networks;
+    for (const auto &[first, code] : scanBlocks) {
+        if (count < first) break;
+        const auto block = NDM_SSIDInfo(code);
+        if (!block) return {};
+        networks += *block;
+    }
     return networks;
 }

@@ -33,6 +33,8 @@ Session::Reading Session::read(const DWTDataManager::Progress &progress) {
     const int result =
         m_manager ? m_manager->setupDataFromPrinter(0, progress) : int{ReadResult::NoLink};
     m_record = m_manager ? m_manager->savedData() : SettingRecord();
+    const QString address = m_manager ? m_manager->openedAddress() : QString();
+    if (!address.isEmpty()) m_entry.insert(PrinterKey::Address, address);
     m_record.insert(QString(), listedCategory(m_entry));
     forgetUnreported(result == ReadResult::Complete);
     m_record[QString()].insert(PrinterKey::MachineName, name());
@@ -40,10 +42,10 @@ Session::Reading Session::read(const DWTDataManager::Progress &progress) {
     return result == ReadResult::MissingReply ? Reading::StoppedAnswering : Reading::NotReached;
 }
 
-Session::Reading Session::readWhenReady(const std::function<bool()> &goOn) {
+Session::Reading Session::readWhenReady() {
     const QDeadlineTimer deadline(readyWithin);
     Reading reading = read();
-    while (reading != Reading::Complete && !deadline.hasExpired() && !isWaitCancelled() && goOn()) {
+    while (reading != Reading::Complete && !deadline.hasExpired() && !isWaitCancelled()) {
         waitFor(readPause);
         reading = read();
     }

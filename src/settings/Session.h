@@ -29,10 +29,10 @@ class Session {
     };
     Reading read(const DWTDataManager::Progress &progress = {});
     // The same for a printer that was plugged in or changed just now: again and again, readPause
-    // apart, for readyWithin or until `goOn` says no.
+    // apart, for readyWithin or until the wait is cancelled.
     static constexpr std::chrono::milliseconds readPause{500};
     static constexpr std::chrono::milliseconds readyWithin{2000};
-    Reading readWhenReady(const std::function<bool()> &goOn = [] { return true; });
+    Reading readWhenReady();
     // What the printer reported, and what the list knows of it (without a category).
     const SettingRecord &record() const { return m_record; }
 

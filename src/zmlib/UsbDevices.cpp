@@ -142,7 +142,8 @@ QString kernelPrinterFile(const UsbPrinter &printer) {
 PrinterEntry entryOf(const UsbPrinter &printer) {
     PrinterEntry entry{{PrinterKey::DeviceURI, printer.uri},
                        {PrinterKey::ConnectionType, PrinterConnection::USB},
-                       {PrinterKey::ProductName, printer.productName}};
+                       {PrinterKey::ProductName, printer.productName},
+                       {PrinterKey::Plug, u"%1#%2"_s.arg(printer.port).arg(printer.address)}};
     if (printer.serial.isEmpty())
         entry.insert(PrinterKey::Port, printer.port);
     else

@@ -71,6 +71,8 @@ class SelectionWindow : public testing::Test {
             QWidget *const modal = QApplication::activeModalWidget();
             QWidget *const front = modal ? modal : isListed() ? window() : walk.main();
             front->activateWindow();
+            if (QGuiApplication::focusWindow() == front->windowHandle())
+                QApplication::setActiveWindow(front);  // shown again, it is not activated here
             return front->isActiveWindow();
         }));
     }

@@ -47,18 +47,20 @@ TEST(Commands, ListsWhatTheWindowLists) {
     const Ended people = run(printers, "list");
     EXPECT_EQ(people.code, Done);
     const QList<QByteArray> lines = people.out.trimmed().split('\n');
-    ASSERT_EQ(lines.size(), 2) << people.out.constData();
+    ASSERT_EQ(lines.size(), 3) << people.out.constData();
     EXPECT_TRUE(lines[0].startsWith("Desk") && lines[0].contains("serial number S1"));
-    EXPECT_EQ(lines[0].indexOf("Larkfield"), lines[1].indexOf("Larkfield"));
+    EXPECT_TRUE(lines[1].startsWith("Does not answer") && lines[1].contains("S2"));
+    EXPECT_EQ(lines[0].indexOf("Larkfield"), lines[2].indexOf("Larkfield"));
     expectIn(people.err, {"printers[3]"});
 
     const Ended programs = run(printers, "list --json");
     const QJsonArray array = QJsonDocument::fromJson(programs.out).array();
-    ASSERT_EQ(array.size(), 2);
+    ASSERT_EQ(array.size(), 3);
     EXPECT_EQ(array[0][u"name"], u"Desk"_s);
     EXPECT_EQ(array[0][u"connection"], u"usb"_s);
     EXPECT_EQ(array[0][u"serial"], u"S1"_s);
-    EXPECT_TRUE(array[1][u"serial"].isNull());
+    EXPECT_TRUE(array[1][u"name"].isNull());
+    EXPECT_TRUE(array[2][u"serial"].isNull());
     expectIn(programs.err, {"{\"note\":"});
 }
 
@@ -202,6 +204,9 @@ TEST(Commands, ListTheNetworksThatThePrinterFinds) {
         {"ssid": "Office", "mode": 2, "authentic": 3, "encryption": 4, "signal": -61},
         {"ssidHex": "436166c3a9", "mode": 2, "authentic": 0, "encryption": 9, "signal": -70}],
         "scanPolls": 0})"});
+    printers[1].setFaults(faultsOf(R"({"items": {"0x3120": {"noReply": true}}})"));
+    EXPECT_EQ(run(printers, "networks S1").code, NotReached) << "silence is no empty list";
+    printers[1].setFaults({});
     const Ended people = run(printers, "networks S1");
     EXPECT_EQ(people.code, Done) << people.err.constData();
     expectIn(people.out, {"Office  wpa/wpa2  tkip/aes  -61 dBm"});

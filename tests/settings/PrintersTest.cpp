@@ -1,6 +1,9 @@
+#include <QTest>
+
 #include "link/Binding.h"
 #include "platform/core/PropertyList.h"
 #include "settings/DWTDataManager.h"
+#include "settings/PrinterNames.h"
 #include "settings/Printers.h"
 #include "support/Arguments.h"
 #include "support/Catalogues.h"
@@ -21,12 +24,18 @@ class ListedPrinters : public testing::Test {
   protected:
     ~ListedPrinters() override { installLibrary(nullptr); }
 
-    // URI and name of each listed printer.
+    // URI and name of each listed printer, once those that have to be are asked.
     QString list() {
-        QStringList names;
-        for (const PrinterEntry &one : manager->printerList().value_or(QList<PrinterEntry>()))
-            names << one[PrinterKey::DeviceURI] + u'=' + one.value(PrinterKey::MachineName);
-        return names.join(u' ');
+        const auto listed = manager->printerList().value_or(QList<PrinterEntry>());
+        names.ask(listed);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !names.isAsking(); }));
+        QStringList lines;
+        for (const PrinterEntry &one : listed)
+            lines << one[PrinterKey::DeviceURI] + u'=' +
+                         (names.stateOf(one) == PrinterNames::State::Silent
+                              ? u"(silent)"_s
+                              : names.named(one).value(PrinterKey::MachineName));
+        return lines.join(u' ');
     }
     // A data manager on a library that answers with this result and reply.
     std::shared_ptr<DWTDataManager> recorded(int result, const QByteArray &reply) {
@@ -39,6 +48,7 @@ class ListedPrinters : public testing::Test {
 
     std::shared_ptr<RecordingLibrary> library;
     const std::shared_ptr<DWTDataManager> manager = make<DWTDataManager>();
+    PrinterNames names{[] {}};
 };
 
 TEST_F(ListedPrinters, ListsSupportedModelsAndAsksOnlyUsbPrintersForTheirName) {
@@ -64,7 +74,11 @@ TEST_F(ListedPrinters, ListsSupportedModelsAndAsksOnlyUsbPrintersForTheirName) {
     }
     const auto listed = catalogueLibrary(catalogue, 100);
     installLibrary(listed);
-    EXPECT_EQ(list(), u"net= usb=Desk last=Last"_s);
+    const QString usbOnes =
+        u"usb=Desk refusing=(silent) silent=(silent) foreign=(silent) last=Last"_s;
+    EXPECT_EQ(list(), u"net= "_s + usbOnes);
+    EXPECT_EQ(Printers::problems(),
+              QList<PrinterProblem>({{PrinterProblem::UnknownModel, u"Larkfield P900"_s}}));
     for (const auto &p : printers) {
         const auto log = catalogue.virtualPrinters[QLatin1String(p.uri)]->log();
         EXPECT_EQ(!log.isEmpty(), p.asked) << p.uri;
@@ -73,10 +87,38 @@ TEST_F(ListedPrinters, ListsSupportedModelsAndAsksOnlyUsbPrintersForTheirName) {
     }
     {
         const ArgumentOverride other("-Installers");
-        EXPECT_EQ(list(), u"net= usb=Desk last=Last"_s);
+        EXPECT_EQ(list(), u"net= "_s + usbOnes);
     }
     const ArgumentOverride installer("-installer");
-    EXPECT_EQ(list(), u"usb=Desk last=Last"_s) << "installer mode lists USB printers only";
+    EXPECT_EQ(list(), usbOnes) << "installer mode lists USB printers only";
+}
+
+TEST_F(ListedPrinters, APrinterIsAskedOnceAfterEachPlugAndOpenedWhileItIsAsked) {
+    Catalogue catalogue;
+    catalogue.entries << entry("usb", PrinterConnection::USB, "L200");
+    const auto printer = printerOf(R"({"items": {"0x1006": "Desk"}})");
+    catalogue.virtualPrinters.insert(u"usb"_s, printer);
+    const auto isAsked = [&] {
+        printer->clearLog();
+        EXPECT_EQ(list(), u"usb=Desk"_s);
+        return !printer->log().isEmpty();
+    };
+    for (const char *plug : {"1", "2"}) {
+        catalogue.entries[0][PrinterKey::Plug] = QLatin1String(plug);
+        installLibrary(catalogueLibrary(catalogue));
+        EXPECT_TRUE(isAsked()) << plug;
+        EXPECT_FALSE(isAsked()) << plug;
+    }
+    names.askAgain();
+    EXPECT_TRUE(isAsked());
+    printer->setFaults(faultsOf(R"({"items": {"0x1006": {"noReply": true}}})"));
+    printer->clearLog();
+    names.askAgain();
+    names.ask(catalogue.entries);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return printer->log().size() == 2; })) << "not asked";
+    EXPECT_EQ(names.named(catalogue.entries[0])[PrinterKey::MachineName], u"Desk"_s);
+    names.leave(catalogue.entries[0]);
+    EXPECT_EQ(installedLibrary()->ZMGetEngageStatusSub(u"usb"_s, 100), 1) << "still in use";
 }
 
 TEST_F(ListedPrinters, AnAdministratorAddsAModelAndIsToldOfAFileThatCannotBeUsed) {

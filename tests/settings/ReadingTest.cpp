@@ -115,20 +115,37 @@ TEST_P(Reading, AScanReadsAsManyBlocksAsNetworksWereFound) {
     }
 }
 
-TEST(Scan, PollsInEveryIntervalAndGivesUpAfterTen) {
-    const auto received = [](const QByteArray &polls, int milliseconds, int networks) {
-        ServedManager m(R"({"networks": [{"ssid": "N"}], "scanPolls": )" + polls + "}",
-                        Transport::Virtual);
+TEST(Scan, EndsWithWhatThePrinterFoundOrWithNothing) {
+    const struct {
+        const char *profile;  // of a printer with six networks
+        std::optional<int> networks;
+        int polls;
+        const char *blocks;
+    } cases[] = {
+        {R"("scanPolls": 1)", 6, 2, " ?3121 ?3122"},
+        {R"("scanPolls": 1000)", {}, DWTDataManager::scanPolls, ""},
+        {R"("scanPolls": 0, "faults": {"items": {"0x3120": {"noReply": true}}})", {}, 1, ""},
+        {R"("faults": {"items": {"0x3120": {"code": "0x7777"}}})",
+         {},
+         DWTDataManager::scanPolls,
+         ""},
+        {R"("scanPolls": 0, "faults": {"items": {"0x3122": {"noReply": true}}})",
+         {},
+         1,
+         " ?3121 ?3122"}};
+    for (const auto &c : cases) {
+        const QByteArray six = QByteArray(R"(,{"ssid": "N"})").repeated(6).mid(1);
+        ServedManager m(R"({"networks": [)" + six + "], " + c.profile + '}', Transport::Virtual);
         m.manager->setScanInterval(20ms);
         QElapsedTimer clock;
         clock.start();
-        EXPECT_EQ(m.manager->SSIDList().value().size(), networks);
-        EXPECT_GE(clock.elapsed(), milliseconds);
-        return m.served.received();
-    };
-    EXPECT_EQ(received("1", 20, 1), u"start =3120 ?3120 ?3120 ?3121 update end"_s);
-    EXPECT_EQ(received("1000", 200, 0),
-              u"start =3120"_s + u" ?3120"_s.repeated(10) + u" update end"_s);
+        const auto found = m.manager->SSIDList();
+        EXPECT_GE(clock.elapsed(), 20 * (c.polls - 1)) << c.profile;
+        EXPECT_EQ(found ? std::optional(int(found->size())) : std::nullopt, c.networks)
+            << c.profile;
+        EXPECT_EQ(m.served.received(), u"start =3120"_s + u" ?3120"_s.repeated(c.polls) +
+                                           QLatin1String(c.blocks) + u" update end"_s);
+    }
 }
 
 }  // namespace

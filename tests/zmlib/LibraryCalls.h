@@ -31,7 +31,10 @@ class LibraryCalls {
     QString listed() {
         QStringList lines;
         const auto list = library().ZMCreatePrinterURI().value_or(QList<PrinterEntry>());
-        for (const PrinterEntry &entry : list) lines << QStringList(entry.values()).join(u'|');
+        for (PrinterEntry entry : list) {
+            entry.remove(PrinterKey::Plug);
+            lines << QStringList(entry.values()).join(u'|');
+        }
         return (lines + problems()).join(u'\n');
     }
     // The problems, as the number of the kind and the subject.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <atomic>
+
 #include "zmlib/CatalogueSource.h"
 #include "zmlib/PrinterLibrary.h"
 #include "zmlib/PrinterSource.h"
@@ -8,9 +10,9 @@
 class PluggedSource : public PrinterSource {
   public:
     struct State {
-        bool plugged = true;
-        int result = ZMLib::NoPermission;
-        int openings = 0;
+        std::atomic<bool> plugged = true;
+        std::atomic<int> result = ZMLib::NoPermission;
+        std::atomic<int> openings = 0;
     };
     explicit PluggedSource(State &state) : m_state(state) {}
 

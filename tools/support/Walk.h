@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/DWTPrinterSelector.h"
+#include "app/PrinterList.h"
 #include "link/Binding.h"
 #include "support/DialogScript.h"
 #include "virtualprinter/VirtualPrinter.h"
@@ -31,6 +32,9 @@ class Walk {
 
     void launch() {
         selector->applicationDidFinishLaunching();
+        const auto *printers = controlOf<PrinterList>(selector->window(), "view_Printerlist");
+        [[maybe_unused]] const bool whole =
+            QTest::qWaitFor([&] { return !printers->isVisible() || !printers->isLooking(); });
         report(QStringLiteral("%1 printers are listed").arg(list()->model()->rowCount()),
                selector->window());
     }
