@@ -22,6 +22,7 @@ void addPrinters(QStandardItemModel &printers) {
         {"Packing-Desk", "Larkfield L200 · serial number A2E0117", "USB", ":/pictures/usb.svg"},
         {"Dispatch", "Larkfield L400 · serial number B4E0052", "USB", ":/pictures/usb.svg"},
         {"Loading-Bay-faulty", "Larkfield L200 · USB port 1-2", "USB", ":/pictures/usb.svg"},
+        {"Does not answer", "Larkfield L200 · serial number A2E0243", "USB", ":/pictures/usb.svg"},
         {"Goods in (first floor)", "Larkfield L400 · 192.168.20.47", "Network",
          ":/pictures/network.svg"}};
     for (const auto &row : rows)

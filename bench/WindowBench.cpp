@@ -6,6 +6,8 @@
 #include <functional>
 
 #include "app/DWTPrinterSelector.h"
+#include "app/PrinterList.h"
+#include "link/Binding.h"
 #include "platform/core/Texts.h"
 #include "platform/ui/ModalWindow.h"
 #include "ui_EthernetPage.h"
@@ -20,6 +22,8 @@
 #include "ui_WPSGuide.h"
 #include "ui_WaitWindow.h"
 #include "ui_WirelessPage.h"
+#include "virtualprinter/VirtualPrinter.h"
+#include "zmlib/CatalogueSource.h"
 
 namespace {
 
@@ -44,6 +48,49 @@ void openPrinter(benchmark::State &state) {
     }
 }
 BENCHMARK(openPrinter)->Unit(benchmark::kMillisecond);
+
+// The list of forty printers on USB of which six report no name: from its showing to the first
+// painted row that can be opened, and to the last name.
+void listWithSilentPrinters(benchmark::State &state) {
+    Catalogue catalogue;
+    for (int i = 0; i < 40; ++i) {
+        const QString uri = QStringLiteral("virtual://%1").arg(i);
+        catalogue.entries << PrinterEntry{
+            {PrinterKey::DeviceURI, uri},
+            {PrinterKey::ConnectionType, PrinterConnection::USB},
+            {PrinterKey::ProductName, QStringLiteral("Larkfield L200")}};
+        Profile profile;
+        profile.faults.items[0x1006].noReply = i < 6;
+        catalogue.virtualPrinters.insert(uri, std::make_shared<VirtualPrinter>(profile));
+    }
+    installLibrary(catalogueLibrary(catalogue));
+    double last = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        const auto selector = make<DWTPrinterSelector>();
+        selector->awakeFromNib();
+        QElapsedTimer clock;
+        clock.start();
+        state.ResumeTiming();
+        selector->applicationDidFinishLaunching();
+        auto *const list = selector->window()->findChild<TableView *>();
+        list->selectRow(0);
+        selector->window()->repaint();
+        if (!selector->window()
+                 ->findChild<QPushButton *>(QStringLiteral("button_PrinterlistOK"))
+                 ->isEnabled())
+            state.SkipWithError("the first row cannot be opened");
+        state.PauseTiming();
+        const auto *const printers = selector->window()->findChild<PrinterList *>();
+        if (!QTest::qWaitFor([&] { return !printers->isLooking(); }, 20000))
+            state.SkipWithError("names are missing");
+        last = double(clock.nsecsElapsed()) / 1e6;
+        state.ResumeTiming();
+    }
+    state.counters["last_ms"] = last;
+    installLibrary(nullptr);
+}
+BENCHMARK(listWithSilentPrinters)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 template <typename Form, typename Widget>
 Form madeIn(Widget *widget) {

@@ -36,18 +36,14 @@ void DWTPrinterSelector::awakeFromNib() {
 void DWTPrinterSelector::DWT_UIInitialize() {
     QApplication::setWindowIcon(QIcon(u":/icons/network-setting-tool-64.png"_s));
     window_PrinterSelector = new Window;
-    setupUi(window_PrinterSelector);
-    auto *const guide = new WPSGuide(view_PrinterSelector);
+    Ui::PrinterSelector::setupUi(window_PrinterSelector);
     window_Wait = new WaitWindow(window_PrinterSelector);
     view_Printerlist = new PrinterList(view_PrinterSelector);
+    connect(view_Printerlist, &PrinterList::chosen, this, &DWTPrinterSelector::push_PrinterListOK);
+    connect(view_Printerlist, &PrinterList::left, this, &DWTPrinterSelector::push_PrinterListExit);
     dictionary_ViewManagement = std::make_unique<ViewStack>(view_PrinterSelector);
-    ViewStack &views = *dictionary_ViewManagement;
-    views.add(DWT_View_Key_ToolPerform, view_ToolPerform);
-    views.add(DWT_View_Key_ChooseConnect, view_ChooseConnect);
-    views.add(DWT_View_Key_USBConnect, view_USBConnect);
-    views.add(DWT_View_Key_WPS1, guide->firstView());
-    views.add(DWT_View_Key_WPS2, guide->secondView());
-    views.add(DWT_View_Key_Printerlist, view_Printerlist);
+    dictionary_ViewManagement->add(DWT_View_Key_Printerlist, view_Printerlist);
+    if (checkLunchedMode()) makeGuide();
     m_menu = new MainMenu(window_PrinterSelector);
     window_PrinterSelector->layout()->setMenuBar(m_menu);
     m_menu->localize();
@@ -60,7 +56,6 @@ void DWTPrinterSelector::DWT_UIInitialize() {
     connect(m_tray, &TrayIcon::windowsWanted, this,
             [this] { applicationShouldHandleReopen(false); });
     connect(m_tray, &TrayIcon::quitWanted, this, [] { Application::terminate(); });
-    connectButtons(guide);
     window_PrinterSelector->setShouldClose([this] {
         windowWillClose();
         return true;
@@ -68,7 +63,16 @@ void DWTPrinterSelector::DWT_UIInitialize() {
     window_PrinterSelector->fitToScreen();
 }
 
-void DWTPrinterSelector::connectButtons(const WPSGuide *guide) {
+// Most starts show the list alone.
+void DWTPrinterSelector::makeGuide() {
+    Ui::ConnectGuide::setupUi(view_PrinterSelector);
+    auto *const guide = new WPSGuide(view_PrinterSelector);
+    ViewStack &views = *dictionary_ViewManagement;
+    views.add(DWT_View_Key_ToolPerform, view_ToolPerform);
+    views.add(DWT_View_Key_ChooseConnect, view_ChooseConnect);
+    views.add(DWT_View_Key_USBConnect, view_USBConnect);
+    views.add(DWT_View_Key_WPS1, guide->firstView());
+    views.add(DWT_View_Key_WPS2, guide->secondView());
     using Self = DWTPrinterSelector;
     const auto pushes = [this](QAbstractButton *button, void (Self::*operation)()) {
         connect(button, &QAbstractButton::clicked, this, operation);
@@ -84,8 +88,7 @@ void DWTPrinterSelector::connectButtons(const WPSGuide *guide) {
     connect(guide, &WPSGuide::next2, this, &Self::push_WPSSetting2Next);
     connect(guide, &WPSGuide::back2, this, &Self::push_WPSSetting2Back);
     connect(guide, &WPSGuide::exit2, this, &Self::push_WPSSetting2Exit);
-    connect(view_Printerlist, &PrinterList::chosen, this, &Self::push_PrinterListOK);
-    connect(view_Printerlist, &PrinterList::left, this, &Self::push_PrinterListExit);
+    window_PrinterSelector->growToContents();
 }
 
 // The window comes first.
@@ -109,6 +112,7 @@ int DWTPrinterSelector::applicationShouldTerminate() {
 }
 
 void DWTPrinterSelector::DWT_UISelector(const QString &viewKey) {
+    if (!dictionary_ViewManagement->contains(viewKey)) makeGuide();
     dictionary_ViewManagement->select(viewKey);
     dictionary_ViewManagement->focusFirstControl();
     if (viewKey != DWT_View_Key_Printerlist) return;
@@ -120,6 +124,7 @@ void DWTPrinterSelector::DWT_CloseMainDialog(const Notification &notification) {
     const QVariantMap &info = notification.userInfo;
     if (info.isEmpty() || info.value(DWT_IsShowPrinterSelectDialog_Flag).toBool())
         window_PrinterSelector->bringToFront();
+    view_Printerlist->resume();
     show_mainDialog = false;
 }
 

@@ -7,19 +7,20 @@
 #include "platform/ui/Application.h"
 #include "platform/ui/ViewStack.h"
 #include "platform/ui/Window.h"
+#include "ui_ConnectGuide.h"
 #include "ui_PrinterSelector.h"
 
 class MainMenu;
 class PrinterList;
 class TrayIcon;
-class WPSGuide;
 class WaitWindow;
 
 // The application's delegate and its selection window: a wizard that ends at the list of printers.
 // It opens the window of the picked one and hides meanwhile. Main thread only.
 class DWTPrinterSelector : public DWTBaseClass,
                            public ApplicationDelegate,
-                           private Ui::PrinterSelector {
+                           private Ui::PrinterSelector,
+                           private Ui::ConnectGuide {
     DWT_SETUP(DWTPrinterSelector, DWTBaseClass, DWT_Init, DWT_Dealloc)
 
   public:
@@ -50,7 +51,8 @@ class DWTPrinterSelector : public DWTBaseClass,
         QStringLiteral("DWT_View_Key_Printerlist");
 
     void DWT_UIInitialize();
-    void connectButtons(const WPSGuide *guide);
+    // Makes the views of the guide to connecting a printer.
+    void makeGuide();
     // Shows the view and hides the others; the printer list is fetched anew when it is shown.
     void DWT_UISelector(const QString &viewKey);
     void DWT_CloseMainDialog(const Notification &notification);

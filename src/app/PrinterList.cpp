@@ -169,10 +169,10 @@ QString PrinterList::detailForTableColumn(TableView *, const QString &column, in
     return parts.join(u" · "_s);
 }
 
-QIcon PrinterList::iconForTableColumn(TableView *, const QString &column, int row) {
+QString PrinterList::pictureForTableColumn(TableView *, const QString &column, int row) {
     if (column != _SERVICE_NAME_) return {};
     const bool network = array_PrinterList.value(row).contains(PrinterKey::BonjourServiceName);
-    return QIcon(network ? u":/pictures/network.svg"_s : u":/pictures/usb.svg"_s);
+    return network ? u":/pictures/network.svg"_s : u":/pictures/usb.svg"_s;
 }
 
 QString PrinterList::rowKeyInTableView(TableView *, int row) {

@@ -35,11 +35,13 @@ class PrinterList : public QWidget,
     PrinterEntry selectedPrinter() const;
     // Asks a printer nothing more, since it is to be opened.
     void leave(const PrinterEntry &printer) { m_names.leave(printer); }
+    // Asks the printer that was left again: its name may be another one now.
+    void resume() { m_names.ask(array_PrinterList); }
 
     int numberOfRowsInTableView(TableView *) override { return int(array_PrinterList.size()); }
     QVariant objectValueForTableColumn(TableView *table, const QString &column, int row) override;
     QString detailForTableColumn(TableView *table, const QString &column, int row) override;
-    QIcon iconForTableColumn(TableView *table, const QString &column, int row) override;
+    QString pictureForTableColumn(TableView *table, const QString &column, int row) override;
     QString rowKeyInTableView(TableView *table, int row) override;
     void tableViewSelectionDidChange(TableView *table) override;
 

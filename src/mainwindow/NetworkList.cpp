@@ -90,9 +90,9 @@ QVariant NetworkList::objectValueForTableColumn(TableView *, const QString &colu
     return {};
 }
 
-QIcon NetworkList::iconForTableColumn(TableView *, const QString &column, int row) {
+QString NetworkList::pictureForTableColumn(TableView *, const QString &column, int row) {
     if (column != u"Intensity"_s) return {};
-    return QIcon(QLatin1String(intensityOf(array_SSIDList.value(row)).picture));
+    return QLatin1String(intensityOf(array_SSIDList.value(row)).picture);
 }
 
 QVariant NetworkList::sortValueForTableColumn(TableView *table, const QString &column, int row) {

@@ -36,7 +36,7 @@ class NetworkList : public ModalWindow,
 
     int numberOfRowsInTableView(TableView *) override { return int(array_SSIDList.size()); }
     QVariant objectValueForTableColumn(TableView *table, const QString &column, int row) override;
-    QIcon iconForTableColumn(TableView *table, const QString &column, int row) override;
+    QString pictureForTableColumn(TableView *table, const QString &column, int row) override;
     QVariant sortValueForTableColumn(TableView *table, const QString &column, int row) override;
     QString rowKeyInTableView(TableView *table, int row) override;
     bool selectionShouldChangeInTableView(TableView *) override { return true; }

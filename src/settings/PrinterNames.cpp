@@ -1,6 +1,7 @@
 #include "settings/PrinterNames.h"
 
 #include <atomic>
+#include <thread>
 #include <utility>
 
 #include "platform/core/MainThread.h"
@@ -44,11 +45,19 @@ void PrinterNames::askAgain() {
 }
 
 void PrinterNames::leave(const PrinterEntry &entry) {
-    m_queue.removeOne(entry);
-    const auto question = m_answers.value(Printers::identityOf(entry)).question;
+    const QString identity = Printers::identityOf(entry);
+    m_queue.removeIf(
+        [&](const PrinterEntry &one) { return Printers::identityOf(one) == identity; });
+    const auto answer = m_answers.find(identity);
+    if (answer == m_answers.end()) return;
+    answer->isDue = true;
+    const auto question = answer->question;
     if (!question) return;
     question->isLeft = true;
-    waitUntil([&] { return question->hasEnded.load(); }, QDeadlineTimer(answerWithin));
+    waitUntil([&] { return question->hasEnded.load(); }, QDeadlineTimer(answerWithin),
+              [](std::chrono::milliseconds) {
+                  std::this_thread::sleep_for(std::chrono::milliseconds(1));
+              });
 }
 
 PrinterNames::State PrinterNames::stateOf(const PrinterEntry &entry) const {
@@ -88,13 +97,11 @@ void PrinterNames::askNext() {
     }
 }
 
-// A question that was left is asked again when the printer is listed anew.
 void PrinterNames::end(const std::shared_ptr<Question> &question, const QString &name) {
     --m_running;
     const auto answer = m_answers.find(Printers::identityOf(question->entry));
     if (answer != m_answers.end() && answer->question == question) {
         answer->question.reset();
-        answer->isDue |= question->isLeft;
         if (!question->isLeft) {
             answer->state = name == unreadable ? State::Silent : State::Known;
             answer->name = name == unreadable ? QString() : name;

@@ -35,7 +35,8 @@ class PrinterNames {
     void ask(const QList<PrinterEntry> &listed);
     // Lets the next ask() ask every printer. Known names stay until then.
     void askAgain();
-    // Ends the question of a printer that is to be opened, within some slices.
+    // Ends the question of a printer that is to be opened, within some slices. The next ask() asks
+    // that printer again.
     void leave(const PrinterEntry &entry);
 
     bool isAsking() const { return m_running > 0 || !m_queue.isEmpty(); }

@@ -184,6 +184,8 @@ TEST_F(List, RowsCanBeUsedWhilePrintersAreAskedForTheirNames) {
     printer("dispatch").setFaults({});
     EXPECT_TRUE(walk.open(text("Does not answer")));
     walk.press("button_MainCancel");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return nameOf(1) == text("Dispatch"); }))
+        << "not asked again";
 }
 
 }  // namespace

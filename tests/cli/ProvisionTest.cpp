@@ -3,7 +3,13 @@
 
 #include "cli/Provision.h"
 
+#include <fcntl.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QElapsedTimer>
+#include <QTest>
 
 #include <csignal>
 
@@ -140,15 +146,33 @@ class ProvisionProcess : public testing::Test {
 }  // namespace
 
 TEST_F(ProvisionProcess, StoppedByASignalBeginsNoPrinterAnyMore) {
-    // The last answer before the send of the others is late, so that they are all under way.
-    const QByteArray late = R"("items": {"0x1007": {"delay": 1500}})";
-    begin({"", late, late});
+    // The last answer before the send of the others never comes, so that they are all under way.
+    const QByteArray silent = R"("items": {"0x1007": {"noReply": true}})";
+    begin({"", silent, silent});
     ASSERT_TRUE(process.waitForReadyRead());
+    QElapsedTimer time;
+    time.start();
     ::kill(static_cast<pid_t>(process.processId()), SIGINT);
     const Ended ended = finish(process);
+    EXPECT_LT(time.elapsed(), DWTCommunicationControl::callTimeout) << "waited for an answer";
     EXPECT_EQ(ended.code, Stopped);
     EXPECT_TRUE(ended.err.contains("Stopped")) << ended.err.constData();
     expectOldOrNew(3);
+}
+
+TEST_F(ProvisionProcess, ASignalEndsItWhileItsInputDoesNotCome) {
+    const Folder folder;
+    const QString pipe = folder.path(u"table.csv"_s);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    process.start(QStringLiteral(NST_PROGRAM), {u"provision"_s, pipe});
+    int writer = -1;
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        writer = ::open(QFile::encodeName(pipe).constData(), O_WRONLY | O_NONBLOCK);
+        return writer >= 0;
+    }));
+    ::kill(static_cast<pid_t>(process.processId()), SIGINT);
+    EXPECT_TRUE(process.waitForFinished());
+    ::close(writer);
 }
 
 TEST_F(ProvisionProcess, BeginsNoPrinterWhenTheResultsCannotBeWritten) {
@@ -193,16 +217,22 @@ class ComingSource : public CatalogueSource {
   public:
     struct State {
         qsizetype there = 0, listed = 0;  // how many, now and at the last look
+        int plugs = 0, seen = 0;          // how often the first was plugged in, likewise
     };
     ComingSource(const Catalogue &catalogue, State &state)
         : CatalogueSource(catalogue), m_state(state) {}
     Listing list() override {
         Listing listing = CatalogueSource::list();
         m_state.listed = m_state.there;
+        m_state.seen = m_state.plugs;
         listing.entries.resize(m_state.listed);
+        if (m_state.listed > 0)
+            listing.entries[0][PrinterKey::Plug] = QString::number(m_state.seen);
         return listing;
     }
-    bool hasChanged() override { return m_state.listed != m_state.there; }
+    bool hasChanged() override {
+        return m_state.listed != m_state.there || m_state.seen != m_state.plugs;
+    }
 
   private:
     State &m_state;
@@ -218,14 +248,12 @@ TEST(Provision, PrintersAreDoneAsTheyArePluggedInEachOnce) {
         sources.push_back(std::make_unique<ComingSource>(printers.catalogue, state));
         installLibrary(std::make_shared<PrinterLibrary>(std::move(sources)));
 
-        // The first comes, goes, comes again; then the second comes.
-        bool gone = false;
+        // The first comes, and is plugged in again between two looks; then the second comes.
         QTimer timer;
         timer.callOnTimeout([&] {
             const auto rows = printers.read(u"out.csv"_s).count('\n') - 1;
-            if (rows == 1 && !gone) state.there = 0;
-            gone |= rows == 1 && state.listed == 0;
-            if (rows == 0 || gone) state.there = rows < 2 ? 1 : 2;
+            state.plugs = std::min(int(rows), 1);
+            state.there = rows < 2 ? 1 : 2;
         });
         timer.start(20);
         const Table table = tableFromCsv("serial,device.timeout\nS1,90\nS2,91\n", {});

@@ -25,12 +25,11 @@ TableModel::TableModel(TableView *table)
 QVariant TableModel::data(const QModelIndex &index, int role) const {
     if (!m_source || !index.isValid()) return {};
     const QString &column = m_identifiers[index.column()];
-    const Cell cell(index.row(), index.column());
     if (role == Qt::DecorationRole) {
-        auto icon = m_icons.constFind(cell);
-        if (icon == m_icons.constEnd())
-            icon = m_icons.insert(
-                cell, readable(m_source->iconForTableColumn(m_table, column, index.row())));
+        const QString picture = m_source->pictureForTableColumn(m_table, column, index.row());
+        if (picture.isEmpty()) return {};
+        auto icon = m_icons.constFind(picture);
+        if (icon == m_icons.constEnd()) icon = m_icons.insert(picture, readable(QIcon(picture)));
         return *icon;
     }
     if (role == DetailRole || role == Qt::AccessibleDescriptionRole)
@@ -63,7 +62,6 @@ void TableModel::setTitle(const QString &identifier, const QString &title) {
 
 void TableModel::reload() {
     beginResetModel();
-    m_icons.clear();
     m_sortKeys.clear();
     m_rows = m_source ? m_source->numberOfRowsInTableView(m_table) : 0;
     endResetModel();
@@ -97,8 +95,7 @@ bool TableModel::contains(int row, const QStringList &words) const {
 }
 
 // The icon with a further look for selected rows: in the colour of their text.
-QVariant TableModel::readable(QIcon icon) const {
-    if (icon.isNull()) return {};
+QIcon TableModel::readable(QIcon icon) const {
     const int size = m_table->style()->pixelMetric(QStyle::PM_SmallIconSize);
     QPixmap selected = icon.pixmap(QSize(size, size), m_table->devicePixelRatioF());
     QPainter painter(&selected);

@@ -3,6 +3,7 @@
 #include <QAbstractTableModel>
 #include <QCollator>
 #include <QHash>
+#include <QIcon>
 #include <QSortFilterProxyModel>
 #include <QStringList>
 #include <variant>
@@ -51,7 +52,7 @@ class TableModel : public QAbstractTableModel {
     using Cell = std::pair<int, int>;  // row and column
     using SortKey = std::variant<int, QCollatorSortKey>;
 
-    QVariant readable(QIcon icon) const;
+    QIcon readable(QIcon icon) const;
     const SortKey &sortKeyOf(const Cell &cell) const;
 
     TableView *const m_table;
@@ -60,7 +61,7 @@ class TableModel : public QAbstractTableModel {
     QStringList m_titles;
     int m_rows = 0;
     QCollator m_collator;
-    mutable QHash<Cell, QVariant> m_icons;
+    mutable QHash<QString, QIcon> m_icons;  // by the file of the picture
     mutable QHash<Cell, SortKey> m_sortKeys;
 };
 

@@ -17,8 +17,8 @@ class TableDataSource {
                                                int row) = 0;
     // A second, quieter line of a cell, where the table has room; none by default.
     virtual QString detailForTableColumn(TableView *, const QString &, int) { return {}; }
-    // The picture before the cell's text; none by default.
-    virtual QIcon iconForTableColumn(TableView *, const QString &, int) { return {}; }
+    // The file of the picture before the cell's text; none by default.
+    virtual QString pictureForTableColumn(TableView *, const QString &, int) { return {}; }
     // The value a column sorts by: an int, or a text compared as a name; by default the cell's
     // text.
     virtual QVariant sortValueForTableColumn(TableView *table, const QString &column, int row) {

@@ -13,6 +13,7 @@ class ViewStack {
 
     // Adds a view under `key`, hidden.
     void add(const QString &key, QWidget *view);
+    bool contains(const QString &key) const { return m_views.contains(key); }
 
     // Shows the view of `key` alone; none for an unknown key. In a dialog its button with the
     // property "defaultButton" becomes the default one, and its text is announced.
