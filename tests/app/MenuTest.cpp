@@ -1,7 +1,3 @@
-#include <QClipboard>
-#include <QLabel>
-#include <QMenu>
-
 #include "SelectionWindow.h"
 
 namespace {

@@ -1,7 +1,3 @@
-#include <QAccessible>
-#include <QClipboard>
-#include <QRadioButton>
-
 #include "PrinterWindow.h"
 
 namespace {

@@ -1,8 +1,3 @@
-#include <QPlainTextEdit>
-#include <QProgressBar>
-#include <QRadioButton>
-#include <QWindow>
-
 #include "PrinterWindow.h"
 #include "support/Rectangles.h"
 
@@ -221,13 +216,10 @@ TEST_F(Sending, EscapeCancelsWhereTheViewCanBeCancelled) {
     };
     warned().key("view_SendLogin", Qt::Key_Escape);
     send();
-    expectUnsent();
     warned().login("open123").on("view_SendConfirm", close);
     send();
-    expectUnsent();
     dialogs.key("view_UpdateChangeCheck", Qt::Key_Escape);
     click("button_MainNewSetting");
-    expectUnsent();
     dialogs.on("view_SendChangeCheck", close);
     EXPECT_FALSE(main->terminateNetworkTool());
     expectUnsent();

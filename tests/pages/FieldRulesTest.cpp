@@ -1,9 +1,4 @@
 #include "PageInWindow.h"
-#include "pages/DWTEthernetView.h"
-#include "pages/DWTInfrastructureView.h"
-#include "pages/DWTNetworkView.h"
-#include "pages/DWTPasswordView.h"
-#include "pages/DWTSimpleAPView.h"
 
 namespace {
 

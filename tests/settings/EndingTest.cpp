@@ -103,7 +103,7 @@ std::string asText(const Ending &ending, const Plan &plan) {
 TEST(Endings, SayOfEverySettingWhatThePrinterWasSeenToHave) {
     for (const EndingCase &c : endingCases()) {
         SCOPED_TRACE(std::string(c.wanted) + " -> " + c.ending);
-        ServedManager m(R"({"password": "open123"})", OnePrinterLibrary::Transport::Virtual);
+        ServedManager m(R"({"password": "open123"})");
         const auto faults = faultsOfSend(m.printer(), c);
         Session session(m.served.entry());
         ASSERT_EQ(session.read(), Session::Reading::Complete);
@@ -129,7 +129,7 @@ TEST(Endings, SayOfEverySettingWhatThePrinterWasSeenToHave) {
 }
 
 TEST(Endings, APersonCanStopAChangeAndAPrinterAReading) {
-    ServedManager m("{}", OnePrinterLibrary::Transport::Virtual);
+    ServedManager m("{}");
     Session session(m.served.entry());
     session.read();
     m.served.received();

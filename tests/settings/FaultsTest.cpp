@@ -28,8 +28,7 @@ class Faults : public testing::Test, protected ServedManager {
   protected:
     Faults()
         : ServedManager(R"({"password": "abcd1234", "scanPolls": 0, "networks": [{"ssid": "N"}],
-                            "items": {"0x3103": 3, "0x3104": "Net"}})",
-                        OnePrinterLibrary::Transport::Virtual) {
+                            "items": {"0x3103": 3, "0x3104": "Net"}})") {
         stop = NotificationCenter::shared().observe(
             DWT_DataSend_Stop_Message,
             [this](const Notification &n) {

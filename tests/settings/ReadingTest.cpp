@@ -7,7 +7,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
-using Transport = OnePrinterLibrary::Transport;
 
 using Reading = EveryTransport;
 INSTANTIATE_TEST_SUITE_P(, Reading, allTransports, nameOf);
@@ -41,7 +40,7 @@ TEST_P(Reading, FillsBothRecordsInTheOrderOfTheWire) {
 }
 
 TEST(ReadingFaults, AMissingReplyEndsTheTrafficAndGivesSix) {
-    ServedManager m(printerOfRows(), Transport::Virtual);
+    ServedManager m(printerOfRows());
     m.setFaults(R"({"items": {"0x3000": {"noReply": true}}})");
     EXPECT_EQ(m.manager->setupDataFromPrinter(0), 6);
     EXPECT_EQ(m.served.receivedUntilEnd(), u"start ?1006 ?1004 ?1005 ?3000 update end"_s);
@@ -68,7 +67,7 @@ TEST(ReadingFaults, AForeignReplyLeavesOneDefaultAndEndsItsCategory) {
     } cases[] = {{"0x3108", DWT_View_Key_Infrastructure, ""},
                  {"0x2001", DWT_View_Key_Ethernet, "Ethernet_MACAddress='02004C00010C'"},
                  {"0x1007", DWT_View_Key_Firmware, "Firmware='1.20A' Firmware_Timeout=0"}};
-    ServedManager m(printerOfRows(), Transport::Virtual);
+    ServedManager m(printerOfRows());
     for (const auto &c : cases) {
         m.setFaults(R"({"items": {")" + c.item + R"(": {"code": "0x7777"}}})");
         EXPECT_EQ(m.manager->setupDataFromPrinter(0), 0) << c.item.constData();
@@ -77,7 +76,7 @@ TEST(ReadingFaults, AForeignReplyLeavesOneDefaultAndEndsItsCategory) {
 }
 
 TEST(ReadingResults, ConnectResultsAreHandedOnAndWithoutALinkNothingExists) {
-    const ServedManager m(R"({"faults": {"refuseConnection": true}})", Transport::Virtual);
+    const ServedManager m(R"({"faults": {"refuseConnection": true}})");
     const auto plain = make<DWTDataManager>();
     for (const auto &manager : {m.manager, plain}) {
         EXPECT_EQ(manager->setupDataFromPrinter(0), 1);
@@ -93,7 +92,7 @@ TEST(ReadingResults, ConnectResultsAreHandedOnAndWithoutALinkNothingExists) {
     EXPECT_EQ(plain->setupDataFromChangeData(DWT_View_Key_Network), std::nullopt);
 }
 
-TEST_P(Reading, AScanReadsAsManyBlocksAsNetworksWereFound) {
+TEST(Scan, ReadsAsManyBlocksAsNetworksWereFound) {
     const std::pair<int, QString> cases[] = {{0, {}},
                                              {5, u"?3121 "_s},
                                              {6, u"?3121 ?3122 "_s},
@@ -104,8 +103,7 @@ TEST_P(Reading, AScanReadsAsManyBlocksAsNetworksWereFound) {
         QByteArrayList networks;
         for (int i = 0; i < found; ++i)
             networks << R"({"ssid": "N)" + QByteArray::number(i) + R"("})";
-        ServedManager m(R"({"scanPolls": 0, "networks": [)" + networks.join(',') + "]}",
-                        GetParam());
+        ServedManager m(R"({"scanPolls": 0, "networks": [)" + networks.join(',') + "]}");
         const auto list = m.manager->SSIDList();
         ASSERT_TRUE(list) << found;
         EXPECT_EQ(list->size(), std::min(found, 20));
@@ -117,8 +115,7 @@ TEST_P(Reading, AScanReadsAsManyBlocksAsNetworksWereFound) {
 
 TEST(Scan, PollsInEveryIntervalAndGivesUpAfterTen) {
     const auto received = [](const QByteArray &polls, int milliseconds, int networks) {
-        ServedManager m(R"({"networks": [{"ssid": "N"}], "scanPolls": )" + polls + "}",
-                        Transport::Virtual);
+        ServedManager m(R"({"networks": [{"ssid": "N"}], "scanPolls": )" + polls + "}");
         m.manager->setScanInterval(20ms);
         QElapsedTimer clock;
         clock.start();

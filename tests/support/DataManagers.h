@@ -40,15 +40,17 @@ inline SettingRecord recordOf(const char *written) {
     return record;
 }
 
-// A data manager on a virtual printer, over every transport.
+// A data manager on a virtual printer.
 class ServedManager {
   public:
-    ServedManager(const QByteArray &profile, OnePrinterLibrary::Transport transport)
+    using Transport = OnePrinterLibrary::Transport;
+
+    explicit ServedManager(const QByteArray &profile, Transport transport = Transport::Virtual)
         : ServedManager(printerOf(profile), transport) {}
     // A silent printer inside the process is given up at once: it answers within the request.
-    ServedManager(std::shared_ptr<VirtualPrinter> printer, OnePrinterLibrary::Transport transport)
-        : served(std::move(printer), transport, {},
-                 transport == OnePrinterLibrary::Transport::Virtual ? 2 : 5000) {
+    explicit ServedManager(std::shared_ptr<VirtualPrinter> printer,
+                           Transport transport = Transport::Virtual)
+        : served(std::move(printer), transport, {}, transport == Transport::Virtual ? 2 : 5000) {
         installLibrary(served.library());
         manager = DWTDataManager::dataManager(served.entry());
     }
