@@ -137,7 +137,9 @@ TEST_P(Send, LogsInOnceWithTheRememberedPasswordAndARefusedLoginWritesNothing) {
     m->setFaults("{}");
     logIn();
     m->setFaults(R"({"refuseConnection": true})");
+    steps.clear();
     m->sendAndWait();
+    EXPECT_TRUE(steps.endsWith(u"Stop1 "_s));
     m->setFaults("{}");
     EXPECT_TRUE(send().startsWith(u"start =1004"_s)) << "a password was kept";
 }
