@@ -29,9 +29,8 @@ class Menu : public SelectionWindow {
 TEST_F(Menu, EntriesForEditingAreEnabledWhenTheyCanActAndDo) {
     open("Packing-Desk");
     QApplication::clipboard()->setText(text("old"));
-    const char *const name = "textField_NetworkBonjour",
-                      *const mac = "textField_EthernetMACAddress",
-                      *const secret = "secureTextField_Password";
+    const char *const name = "textField_NetworkBonjour", *const secret = "secureTextField_Password";
+    const char *const mac = "textField_EthernetMACAddress";
     for (QWidget *part : walk.main()->findChildren<QWidget *>())
         if (!part->isWindow()) part->show();  // all pages at a time
     controlOf(walk.main(), secret)->setEnabled(true);
@@ -82,8 +81,7 @@ TEST_F(Menu, OffersWhatCanBeDoneWhileKeysAloneOpenAPrinterChangeItAndSend) {
         enter("open123");
         keys("Return");
     });
-    for (const char *view : {"view_SendConfirm", "view_SendEnd"})
-        walk.dialogs().key(view, Qt::Key_Return);
+    walk.dialogs().key("view_SendConfirm", Qt::Key_Return).key("view_SendEnd", Qt::Key_Return);
     keys("Ctrl+S");
     EXPECT_TRUE(walk.dialogs().isDone());
     EXPECT_EQ(walk.held("virtual://dispatch", 0x1004), QByteArray("gate-2"));

@@ -49,7 +49,9 @@ TEST_F(PasswordPage, TheBoxOpensTheFieldsAndClosingItForgetsThem) {
     EXPECT_EQ(state, QString()) << "clearing a field that has the focus posts";
     EXPECT_FALSE(password()->isUndoAvailable()) << "a password comes back";
     box()->click();
+    typeBoth("abc", "abc");
     box()->click();
+    EXPECT_TRUE(isEmptyAndClosed());
     EXPECT_EQ(integerValue(changed(), DWT_SaveData_Password_Change), 0);
     EXPECT_EQ(state, DWT_MainDialog_SendNG_Message);
     EXPECT_TRUE(m.manager->isEqualToSaveData() && changeList().isEmpty());

@@ -97,13 +97,13 @@ TEST(Decoding, ResultsAndScans) {
     const auto block = [&](const char *count, const QByteArray &entries) {
         return networks(header + hex(count) + entries, 0x3121);
     };
-    const auto list =
-        block("0300", entry(4, "Cafeteria") + entry(0, "x") + entry(2, QByteArray("a\0", 2)));
+    const QByteArray odd("a\0", 2);
+    const auto list = block("0300", entry(4, "Cafeteria") + entry(0, "x") + entry(2, odd));
     ASSERT_TRUE(list && list->size() == 2) << "a network without a name is left out";
     EXPECT_EQ(asText(list->at(0)),
               "Authentic=3 Encryption=1 SSID=<43616665> SSID_String='Cafe' SignalStrength=-60 "
               "WirelessMode=2");
-    EXPECT_EQ(bytesValue(list->at(1), DWT_SSIDList_SSID), QByteArray("a\0", 2));
+    EXPECT_EQ(bytesValue(list->at(1), DWT_SSIDList_SSID), odd);
     EXPECT_EQ(block("0000", entry(1, "x")), QList<SSIDEntry>());
     EXPECT_EQ(block("ffff", entry(200, "x").repeated(20))->size(), 11) << "beyond the reply area";
     EXPECT_EQ(networks({}, 0x3121), std::nullopt);

@@ -73,18 +73,17 @@ TEST_F(Faults, OfOneReplyInASendNeverMakeTheSavedDataLie) {
             const Ending ending = manager->ending();
             const Effect effect = fault.effect;
             const bool lost = effect == Effect::Closed || effect == Effect::ClosedAfter;
+            const bool login = code == 0x1001;
             const bool unclear = effect == Effect::Silent || effect == Effect::Foreign;
             EXPECT_EQ(ending.course == Ending::Course::Lost, lost);
             EXPECT_EQ(ending.isComplete(), effect == Effect::None);
-            const bool login = code == 0x1001;
-            EXPECT_EQ(ending.login == Login::NoReply,
-                      login && (unclear || effect == Effect::Closed));
+            const bool noReply = login && (unclear || effect == Effect::Closed);
+            EXPECT_EQ(ending.login == Login::NoReply, noReply);
             EXPECT_EQ(ending.login == Login::Refused, login && effect == Effect::Refused);
-            EXPECT_EQ(itemsIn(ending, State::Unclear),
-                      unclear && !login ? QList{code} : QList<ItemCode>());
+            const QList<ItemCode> unclearItems = itemsIn(ending, State::Unclear);
+            EXPECT_EQ(unclearItems, unclear && !login ? QList{code} : QList<ItemCode>());
             EXPECT_EQ(itemsIn(ending, State::Refused).size(), effect == Effect::Refused && !login);
-            for (const ItemCode lie : lies())
-                EXPECT_TRUE(itemsIn(ending, State::Unclear).contains(lie)) << lie;
+            for (const ItemCode lie : lies()) EXPECT_TRUE(unclearItems.contains(lie)) << lie;
             // The next try works, and says so.
             sendWith({}, nullptr);
             EXPECT_TRUE(manager->ending().isComplete());
@@ -118,8 +117,7 @@ TEST_F(Faults, OfOneReplyInAReadingWriteNothingThatWasNotTold) {
                     isMissing |= setting->item.code == code;
                 EXPECT_EQ(isMissing, !told);
             }
-            change(DWT_View_Key_Wireless,
-                   {{DWT_SaveData_Wireless_CommunicateMode, ++round % 2 + 1}});
+            enter(++round % 2 == 0 ? "wireless.mode=1" : "wireless.mode=2");
             sendWith({}, nullptr);
             EXPECT_TRUE(manager->ending().isComplete());
             served.receivedUntilEnd();

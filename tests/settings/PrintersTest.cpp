@@ -66,10 +66,9 @@ TEST_F(ListedPrinters, ListsSupportedModelsAndAsksOnlyUsbPrintersForTheirName) {
     installLibrary(listed);
     EXPECT_EQ(list(), u"net= usb=Desk last=Last"_s);
     for (const auto &p : printers) {
-        const auto log = catalogue.virtualPrinters[QLatin1String(p.uri)]->log();
-        EXPECT_EQ(!log.isEmpty(), p.asked) << p.uri;
-        EXPECT_NE(listed->ZMGetEngageStatusSub(QLatin1String(p.uri), 100), 0)
-            << p.uri << " was left open";
+        const QLatin1String uri(p.uri);
+        EXPECT_EQ(!catalogue.virtualPrinters[uri]->log().isEmpty(), p.asked) << p.uri;
+        EXPECT_NE(listed->ZMGetEngageStatusSub(uri, 100), 0) << p.uri << " was left open";
     }
     {
         const ArgumentOverride other("-Installers");

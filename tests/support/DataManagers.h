@@ -108,3 +108,10 @@ inline std::string asText(const std::optional<CategoryDictionary> &category) {
         values << i.key().section(u'_', 2) + u'=' + std::visit(ValueText(), *i);
     return values.join(u' ').toStdString();
 }
+
+// A record as text, with a "|" behind each category.
+inline std::string asText(const SettingRecord &record) {
+    std::string text;
+    for (const CategoryDictionary &category : record) text += asText(category) + '|';
+    return text;
+}

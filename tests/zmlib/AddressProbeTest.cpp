@@ -57,8 +57,8 @@ TEST(AddressProbe, AnAnswerOnEitherWayCountsAndSilenceEnds) {
         QUdpSocket agent;
         ASSERT_TRUE(server.listen(QHostAddress::LocalHost) &&
                     refusing.bind(QHostAddress::LocalHost) && agent.bind(QHostAddress::LocalHost));
-        const ProbePorts ports{agent.localPort(),
-                               c.accepted ? server.serverPort() : refusing.localPort()};
+        const auto data = c.accepted ? server.serverPort() : refusing.localPort();
+        const ProbePorts ports{agent.localPort(), data};
         if (c.snmp == Refused) agent.connectToHost(QHostAddress::LocalHost, 1);
         int asked = 0;
         QObject::connect(&agent, &QUdpSocket::readyRead, [&] {
@@ -73,8 +73,8 @@ TEST(AddressProbe, AnAnswerOnEitherWayCountsAndSilenceEnds) {
         });
         QElapsedTimer time;
         time.start();
-        EXPECT_EQ(answersAtAddress(QHostAddress::LocalHost, QDeadlineTimer(c.deadline), ports),
-                  c.answers);
+        const QDeadlineTimer deadline(c.deadline);
+        EXPECT_EQ(answersAtAddress(QHostAddress::LocalHost, deadline, ports), c.answers);
         const std::chrono::milliseconds taken(time.elapsed());
         EXPECT_GE(taken, c.least) << c.snmp;
         EXPECT_LT(taken, longestSilence) << c.snmp;
