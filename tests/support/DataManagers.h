@@ -82,10 +82,10 @@ class ServedManager {
     std::shared_ptr<DWTDataManager> manager;
 };
 
-// The items of an ending whose settings are in a state.
-inline QList<ItemCode> itemsIn(const Ending &ending, Ending::State state) {
+// The items of settings.
+inline QList<ItemCode> itemsOf(const QList<const Setting *> &settings) {
     QList<ItemCode> codes;
-    for (const Setting *const setting : ending.in(state))
+    for (const Setting *const setting : settings)
         if (!codes.contains(setting->item.code)) codes << setting->item.code;
     return codes;
 }
