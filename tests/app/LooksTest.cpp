@@ -1,11 +1,3 @@
-#include <QAccessible>
-#include <QGroupBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QMenuBar>
-#include <QRegularExpression>
-#include <QScrollBar>
-
 #include "SelectionWindow.h"
 #include "platform/core/Texts.h"
 

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QPushButton>
-
 #include "support/Arguments.h"
 #include "support/Walk.h"
 

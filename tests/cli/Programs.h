@@ -22,24 +22,24 @@ class Printers : public Folder {
     // A printer on USB for each description. Their serial numbers are "S1", "S2", ...
     explicit Printers(const QList<QByteArray> &profiles) {
         for (const QByteArray &profile : profiles) {
-            const QString number = QString::number(m_printers.size() + 1);
             m_printers << printerOf(profile);
-            catalogue.virtualPrinters.insert(QStringLiteral("virtual://") + number,
-                                             m_printers.last());
-            add(QStringLiteral("virtual://") + number, QStringLiteral("S") + number);
+            const QString number = QString::number(m_printers.size());
+            const QString uri = QStringLiteral("virtual://") + number;
+            catalogue.virtualPrinters.insert(uri, m_printers.last());
+            add(uri, QStringLiteral("S") + number);
         }
     }
     // Adds a printer that is on USB with a serial number, or without one on the network.
     void add(const QString &uri, const QString &serial = {}) {
+        const bool isUsb = !serial.isEmpty();
+        const QString &connection = isUsb ? PrinterConnection::USB : PrinterConnection::Network;
         PrinterEntry entry{{PrinterKey::DeviceURI, uri},
-                           {PrinterKey::ConnectionType, PrinterConnection::USB},
-                           {PrinterKey::ProductName, QStringLiteral("Larkfield L200")},
-                           {PrinterKey::SerialNumber, serial}};
-        if (serial.isEmpty())
-            entry = {{PrinterKey::DeviceURI, uri},
-                     {PrinterKey::ConnectionType, PrinterConnection::Network},
-                     {PrinterKey::ProductName, QStringLiteral("Larkfield L400")},
-                     {PrinterKey::BonjourServiceName, QStringLiteral("Goods\x1b in")}};
+                           {PrinterKey::ConnectionType, connection},
+                           {PrinterKey::ProductName, QStringLiteral("Larkfield L200")}};
+        if (isUsb)
+            entry.insert(PrinterKey::SerialNumber, serial);
+        else
+            entry.insert(PrinterKey::BonjourServiceName, QStringLiteral("Goods\x1b in"));
         catalogue.add(entry);
     }
 
@@ -62,8 +62,8 @@ class Printers : public Folder {
         for (const PrinterEntry &entry : std::as_const(catalogue.entries)) {
             QJsonObject object;
             for (auto i = entry.begin(); i != entry.end(); ++i) object.insert(i.key(), i.value());
-            if (const auto printer =
-                    catalogue.virtualPrinters.value(entry[PrinterKey::DeviceURI])) {
+            const auto printer = catalogue.virtualPrinters.value(entry[PrinterKey::DeviceURI]);
+            if (printer) {
                 m_servers.push_back(std::make_unique<PrinterServerThread>(printer));
                 object[PrinterKey::DeviceURI] = m_servers.back()->uri();
             }

@@ -54,18 +54,6 @@ TEST_F(Closing, NothingIsAskedWhereNothingCanHaveChanged) {
         }
 }
 
-TEST_F(Closing, AChangedAccessPointKeyStaysADifferenceAfterItWasSent) {
-    open("{}");
-    choose("Access point");
-    type("textField_SimpleAPPSK", "12345678");
-    dialogs.confirmAndEnd();
-    send();
-    EXPECT_TRUE(served->printer().item(0x3202).endsWith("12345678"));
-    dialogs.on("view_SendChangeCheck", "button_SendChangeCheckNoReflect");
-    click("button_MainCancel");
-    EXPECT_FALSE(isOpen());
-}
-
 TEST_F(Closing, ReadingAgainAsksBeforeItDropsChangesAndSecrets) {
     open(R"({"items": {"0x3102": 3, "0x3103": 3}})");
     click("button_MainNewSetting");

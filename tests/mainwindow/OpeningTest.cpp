@@ -1,7 +1,3 @@
-#include <QAccessible>
-#include <QClipboard>
-#include <QRadioButton>
-
 #include "PrinterWindow.h"
 
 namespace {
@@ -39,8 +35,8 @@ TEST_F(Opening, EveryReadingResultEndsInItsOwnState) {
                  {gone, {}, true, false, false}};
     for (const auto &c : cases) {
         if (c.alert) dialogs.alert(cannotBeUsed);
-        EXPECT_EQ(open(R"({"items": {"0x1004": "desk"}, "faults": )" + c.faults + "}", c.more),
-                  c.opens);
+        const QByteArray profile = R"({"items": {"0x1004": "desk"}, "faults": )" + c.faults + "}";
+        EXPECT_EQ(open(profile, c.more), c.opens);
         EXPECT_EQ(isOpen(), c.opens);
         EXPECT_EQ(closings, c.opens ? QList<QVariantMap>() : QList<QVariantMap>{{}});
         if (!c.opens) continue;
@@ -99,10 +95,9 @@ TEST_F(Opening, PagesThatTheCommunicationModeDoesNotUseSaySo) {
 }
 
 TEST_F(Opening, WhatThePrinterDidNotTellIsNamedAndStaysUnsent) {
-    open(
-        R"({"items": {"0x1004": "desk", "0x1007": 90, "0x3102": 3, "0x3103": 3}, "faults": {"items": {
-             "0x1004": {"code": "0x7777"}, "0x2001": {"length": 7}, "0x1007": {"length": 0},
-             "0x3102": {"code": "0x7777"}}}})");
+    open(R"({"items": {"0x1004": "desk", "0x1007": 90, "0x3102": 3, "0x3103": 3},
+        "faults": {"items": {"0x1004": {"code": "0x7777"}, "0x2001": {"length": 7},
+                             "0x1007": {"length": 0}, "0x3102": {"code": "0x7777"}}}})");
     EXPECT_EQ(said("textField_ReadOnly").section(u": "_s, 1),
               text("Device: Print timeout; Names: Bonjour name; Wired network: IP address; "
                    "Infrastructure: Authentication"));
@@ -213,8 +208,8 @@ TEST_F(Opening, ASlowPrinterFreezesNothingAndClicksHaveNoEffectMeanwhile) {
     edited->setFocus();
     edited->setSelection(2, 3);
     pressByAssistiveTechnology("button_MainNewSetting");
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return ticks.size() > 5 && isEnabled("button_MainCancel"); }));
+    const auto isRead = [&] { return ticks.size() > 5 && isEnabled("button_MainCancel"); };
+    EXPECT_TRUE(QTest::qWaitFor(isRead));
     meanwhile.stop();
     EXPECT_TRUE(QTest::qWaitFor([&] { return edited->hasFocus(); }));
     EXPECT_TRUE(edited->selectionStart() == 2 && edited->selectionLength() == 3);

@@ -1,8 +1,3 @@
-#include <QPlainTextEdit>
-#include <QProgressBar>
-#include <QRadioButton>
-#include <QWindow>
-
 #include "PrinterWindow.h"
 #include "support/Rectangles.h"
 
@@ -185,13 +180,13 @@ TEST_F(Sending, TheEndSaysWhatBecameOfTheSettings) {
         {R"({"items": {"0x1007": {"closeAfterReply": true}}})", "was lost. Nothing was applied",
          true}};
     const auto sendAndRead = [&](const QByteArray &faults_, bool lost, const char *said) {
-        warned().login("open123").on("view_SendConfirm", faults(faults_),
-                                     "button_SendConfirmTransmission");
+        auto &script = warned().login("open123");
+        script.on("view_SendConfirm", faults(faults_), "button_SendConfirmTransmission");
         if (lost)
-            dialogs.said("view_SendConnectError", "textField_SendConnectError", said,
-                         "button_SendConnectErrorOK");
+            script.said("view_SendConnectError", "textField_SendConnectError", said,
+                        "button_SendConnectErrorOK");
         else
-            dialogs.said("view_SendEnd", "textField_SendEnd", said, "button_SendEndOK");
+            script.said("view_SendEnd", "textField_SendEnd", said, "button_SendEndOK");
         send();
     };
     for (const auto &c : cases) {
@@ -200,9 +195,7 @@ TEST_F(Sending, TheEndSaysWhatBecameOfTheSettings) {
         type("textField_InfrastructureSSID", "new network");
         sendAndRead(c.faults, c.lost, c.said);
         expectUnsent();
-        if (c.lost) {
-            EXPECT_EQ(held(), QByteArray("label-printer")) << "half of a transaction was kept";
-        }
+        EXPECT_TRUE(!c.lost || held() == "label-printer") << "half of a transaction was kept";
         setFaults("{}");
         sendAndRead("{}", false, "and has the new settings");
         EXPECT_EQ(held(), QByteArray("new-name"));
@@ -221,13 +214,10 @@ TEST_F(Sending, EscapeCancelsWhereTheViewCanBeCancelled) {
     };
     warned().key("view_SendLogin", Qt::Key_Escape);
     send();
-    expectUnsent();
     warned().login("open123").on("view_SendConfirm", close);
     send();
-    expectUnsent();
     dialogs.key("view_UpdateChangeCheck", Qt::Key_Escape);
     click("button_MainNewSetting");
-    expectUnsent();
     dialogs.on("view_SendChangeCheck", close);
     EXPECT_FALSE(main->terminateNetworkTool());
     expectUnsent();

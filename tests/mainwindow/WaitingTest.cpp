@@ -1,6 +1,3 @@
-#include <QElapsedTimer>
-#include <QProgressBar>
-
 #include "PrinterWindow.h"
 
 namespace {

@@ -1,8 +1,4 @@
-#include <QComboBox>
-#include <QPushButton>
-
 #include "PageInWindow.h"
-#include "pages/DWTInfrastructureView.h"
 
 namespace {
 
@@ -39,19 +35,19 @@ TEST_F(InfrastructurePage, EveryAuthenticationOffersItsEncryptionsAndKeyFields) 
     const struct {
         const char *before;  // the encryption chosen last
         const char *authentic;
-        int authenticCode;
+        const char *code;  // of it
         const char *offered;
         const char *encryption;
-        int encryptionCode;
+        const char *encryptionCode;
         bool key, wep;  // fields that are then usable
-    } cases[] = {{"AES", "WPA-Personal", 2, "TKIP AES", "AES", 3, true, false},
-                 {"TKIP", "WPA2-Personal", 3, "TKIP AES", "TKIP", 2, true, false},
-                 {"TKIP", "Open system", 0, "None WEP", "WEP", 1, false, true},
-                 {"None", "Shared key", 1, "None WEP", "None", 0, false, false},
-                 {"WEP", "Shared key", 1, "None WEP", "WEP", 1, false, true},
-                 {"WEP", "WPA2-Personal", 3, "TKIP AES", "AES", 3, true, false},
-                 {"AES", "Shared key", 1, "None WEP", "WEP", 1, false, true},
-                 {"None", "WPA-Personal", 2, "TKIP AES", "AES", 3, true, false}};
+    } cases[] = {{"AES", "WPA-Personal", "2", "TKIP AES", "AES", "3", true, false},
+                 {"TKIP", "WPA2-Personal", "3", "TKIP AES", "TKIP", "2", true, false},
+                 {"TKIP", "Open system", "0", "None WEP", "WEP", "1", false, true},
+                 {"None", "Shared key", "1", "None WEP", "None", "0", false, false},
+                 {"WEP", "Shared key", "1", "None WEP", "WEP", "1", false, true},
+                 {"WEP", "WPA2-Personal", "3", "TKIP AES", "AES", "3", true, false},
+                 {"AES", "Shared key", "1", "None WEP", "WEP", "1", false, true},
+                 {"None", "WPA-Personal", "2", "TKIP AES", "AES", "3", true, false}};
     for (const auto &c : cases) {
         choose(encryption(), c.before);
         choose(authentic(), c.authentic);
@@ -59,8 +55,8 @@ TEST_F(InfrastructurePage, EveryAuthenticationOffersItsEncryptionsAndKeyFields) 
         for (int i = 0; i < encryption()->count(); ++i) offered << encryption()->itemText(i);
         EXPECT_EQ(offered.join(u' '), text(c.offered)) << c.before << " " << c.authentic;
         EXPECT_EQ(encryption()->currentText(), text(c.encryption)) << c.before << c.authentic;
-        EXPECT_EQ(changedNumber(DWT_SaveData_Infrastructure_Authentic), c.authenticCode);
-        EXPECT_EQ(changedNumber(DWT_SaveData_Infrastructure_Encryption), c.encryptionCode);
+        EXPECT_EQ(stored("wireless.authentication"), text(c.code));
+        EXPECT_EQ(stored("wireless.encryption"), text(c.encryptionCode));
         EXPECT_TRUE(psk()->isEnabled() == c.key && wepKey()->isEnabled() == c.wep &&
                     keyNumber()->isEnabled() == c.wep)
             << c.before << " " << c.authentic;
@@ -75,17 +71,17 @@ TEST_F(InfrastructurePage, ANetworkOfTheListFillsThePageWithItsSecurity) {
     const struct {
         int authentic, encryption;  // as the list says
         const char *shownAuthentic, *shownEncryption;
-        int code;  // of the encryption, in the change data
-    } cases[] = {{0, 0, "Open system", "None", 0},   {0, 1, "Open system", "WEP", 1},
-                 {1, 2, "WPA-Personal", "TKIP", 2},  {2, 3, "WPA2-Personal", "AES", 3},
-                 {3, 4, "WPA2-Personal", "AES", 3},  {0, 3, "Open system", "WEP", 1},
-                 {99, 99, "Open system", "None", 0}, {1, 1, "WPA-Personal", "AES", 3},
-                 {-1, -1, "Open system", "None", 0}};
+        const char *code;  // of the encryption, in the change data
+    } cases[] = {{0, 0, "Open system", "None", "0"},   {0, 1, "Open system", "WEP", "1"},
+                 {1, 2, "WPA-Personal", "TKIP", "2"},  {2, 3, "WPA2-Personal", "AES", "3"},
+                 {3, 4, "WPA2-Personal", "AES", "3"},  {0, 3, "Open system", "WEP", "1"},
+                 {99, 99, "Open system", "None", "0"}, {1, 1, "WPA-Personal", "AES", "3"},
+                 {-1, -1, "Open system", "None", "0"}};
     for (const auto &c : cases) {
         page->showSSIDFromSelectSSID(network("Lager\xff", c.authentic, c.encryption));
         EXPECT_EQ(authentic()->currentText(), text(c.shownAuthentic)) << c.authentic;
         EXPECT_EQ(encryption()->currentText(), text(c.shownEncryption)) << c.encryption;
-        EXPECT_EQ(changedNumber(DWT_SaveData_Infrastructure_Encryption), c.code);
+        EXPECT_EQ(stored("wireless.encryption"), text(c.code));
         EXPECT_EQ(changedListSSID(), QByteArray("Lager\xff"));
     }
     EXPECT_TRUE(alertsOf(true).isEmpty()) << "a name of the list may hold any character";
@@ -101,7 +97,7 @@ TEST_F(InfrastructurePage, ChangingWhatTheListGaveMakesItTheUsersOwn) {
         return changedListSSID() == QByteArray("Lager");
     };
     EXPECT_FALSE(staysTaken([&] { type(ssid(), text("Lager")); })) << "the same name, but typed";
-    EXPECT_EQ(changedText(DWT_SaveData_Infrastructure_SSID), text("Lager"));
+    EXPECT_EQ(stored("wireless.ssid"), text("'Lager'"));
     EXPECT_FALSE(staysTaken([&] { choose(encryption(), "TKIP"); }));
     EXPECT_FALSE(staysTaken([&] { choose(authentic(), "WPA-Personal"); }));
     ssid()->setFocus();
@@ -123,7 +119,7 @@ TEST_F(InfrastructurePage, ClearedKeysCountAsUntouched) {
     state.clear();
     choose(keyNumber(), "Key 3");
     EXPECT_EQ(state, DWT_MainDialog_SendOK_Message);
-    EXPECT_EQ(changedNumber(DWT_SaveData_Infrastructure_WEPKeyIndex), 3);
+    EXPECT_EQ(stored("wireless.wepKeyNumber"), text("3"));
     type(wepKey(), text("abcde"));
     page->enableAllItems(false);
     page->clearEncryptionKey(false);
@@ -139,7 +135,7 @@ TEST_F(InfrastructurePage, NameAndKeysAreStoredWhenEditingEnds) {
     EXPECT_EQ(state, DWT_MainDialog_SendOK_Message) << "an emptied name is a change";
     EXPECT_FALSE(control<QPushButton>("button_InfrastructureConnect")->isEnabled());
     QTest::keyClick(ssid(), Qt::Key_Return);
-    EXPECT_EQ(changedText(DWT_SaveData_Infrastructure_SSID), QString());
+    EXPECT_EQ(stored("wireless.ssid"), text("''"));
     EXPECT_EQ(psk()->placeholderText(), text("unchanged"));
     type(psk(), text("k\n\te y😀"));
     EXPECT_EQ(alertsOf(false).join(u'|'),
@@ -151,14 +147,14 @@ TEST_F(InfrastructurePage, NameAndKeysAreStoredWhenEditingEnds) {
     EXPECT_EQ(window.focusWidget()->accessibleName(), text("Show the key"));
     QTest::keyClick(window.focusWidget(), Qt::Key_Space);
     EXPECT_TRUE(psk()->displayText().startsWith(text("k")));
-    EXPECT_EQ(changedText(DWT_SaveData_Infrastructure_PSK), psk()->text());
+    EXPECT_EQ(stored("wireless.key"), u'\'' + psk()->text() + u'\'');
     choose(authentic(), "Shared key");
     EXPECT_EQ(changeList(),
               text("Network name (SSID): Café > (empty)|Authentication: WPA2-Personal > Shared key|"
                    "Encryption: AES > WEP|WPA key:  > new"));
     type(wepKey(), text("abcde"));
     QTest::keyClick(wepKey(), Qt::Key_Return);
-    EXPECT_EQ(changedText(DWT_SaveData_Infrastructure_WEPKey), text("abcde"));
+    EXPECT_EQ(stored("wireless.wepKey"), text("'abcde'"));
     page->showDataManager();
     EXPECT_EQ(ssid()->text() + psk()->text(), text("Café"));
     EXPECT_EQ(authentic()->currentText() + encryption()->currentText(), text("WPA2-PersonalAES"));

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QApplication>
-#include <QClipboard>
-#include <QMessageBox>
-#include <QRadioButton>
-#include <QTimer>
-
-#include "pages/DWTBaseView.h"
+#include "pages/DWTEthernetView.h"
+#include "pages/DWTFirmwareView.h"
+#include "pages/DWTInfrastructureView.h"
+#include "pages/DWTNetworkView.h"
+#include "pages/DWTPasswordView.h"
+#include "pages/DWTSimpleAPView.h"
+#include "pages/DWTWirelessView.h"
 #include "platform/core/NotificationCenter.h"
 #include "platform/core/Texts.h"
 #include "settings/Plan.h"
@@ -23,7 +23,7 @@ std::shared_ptr<DWTBaseView> a() {
 class PageInWindow {
   public:
     PageInWindow(const std::shared_ptr<DWTBaseView> &page, const QByteArray &items)
-        : m("{\"items\": {" + items + "}}", OnePrinterLibrary::Transport::Virtual), view(page) {
+        : m("{\"items\": {" + items + "}}"), view(page) {
         page->mainCustomView()->setParent(&window);
         page->initializeUI();
         page->dataManagerObject(m.manager);
@@ -72,9 +72,11 @@ class PageInWindow {
         return alerts;
     }
     CategoryDictionary changed() { return *m.manager->setupDataFromChangeData(view->viewKey()); }
-    int changedNumber(const QString &key) { return integerValue(changed(), key); }
-    QString changedText(const QString &key) { return textValue(changed(), key); }
-    QString changedAddress(const QString &key) { return addressValue(changed(), key).join(u'.'); }
+    // The value of a setting in the change data: "3", "10.0.0.5", "'text'".
+    QString stored(const QString &name) {
+        return std::visit(ValueText(), changed().value(settingOf(name)->key));
+    }
+    QString stored(const char *name) { return stored(text(name)); }
     QString changeList() {
         QStringList list;
         const SettingRecord shown{{view->viewKey(), view->shownCategory()}};

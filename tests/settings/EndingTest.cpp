@@ -1,7 +1,5 @@
 // What changes in a printer, and how a change ends.
 
-#include <QRegularExpression>
-
 #include "settings/Session.h"
 #include "support/DataManagers.h"
 #include "support/Endings.h"
@@ -12,8 +10,7 @@ using namespace Qt::StringLiterals;
 
 TEST(Plans, HoldChangesFaultsAndWhatMayKeepThePrinterFromBeingReached) {
     const char *const secured = "wireless.authentication=wpa2|.encryption=aes|.ssid=é|.key=";
-    const char *const fixed =
-        "wired.address.mode=fixed|.ip=10.0.0.5|.mask=255.0.0.0|.gateway=0.0.0.0";
+    const char *const fixed = "wired.address.mode=1|.ip=10.0.0.5|.mask=255.0.0.0|.gateway=0.0.0.0";
     const char *const open =
         "wireless.address.mode=fixed|.ip=10.0.0.7|.mask=255.255.0.0|.gateway=0.0.0.0|"
         "wireless.authentication=open|.encryption=none|.ssid=Old|.mode=infrastructure|"
@@ -78,8 +75,7 @@ TEST(Plans, SayWhatChangesAsAPersonReadsIt) {
     const SettingRecord saved = recordOf("device.timeout=60|wired.address.mode=automatic");
     for (const auto &[wanted, words] : cases)
         EXPECT_EQ(planOf(saved, valuesOf(wanted)).changes.value(0).words().toStdString(), words);
-    EXPECT_TRUE(
-        parsedText(*settingOf(u"wireless.mode"_s), u"on"_s).fault.contains(u"off, infra"_s));
+    EXPECT_TRUE(parsedText(*settingOf(u"wireless.mode"_s), u"on"_s).fault.contains(u"off, inf"_s));
     EXPECT_TRUE(parsedText(*settingOf(u"device.timeout"_s), u"x"_s).fault.contains(u"30 to 300"_s));
 }
 
@@ -103,7 +99,7 @@ std::string asText(const Ending &ending, const Plan &plan) {
 TEST(Endings, SayOfEverySettingWhatThePrinterWasSeenToHave) {
     for (const EndingCase &c : endingCases()) {
         SCOPED_TRACE(std::string(c.wanted) + " -> " + c.ending);
-        ServedManager m(R"({"password": "open123"})", OnePrinterLibrary::Transport::Virtual);
+        ServedManager m(R"({"password": "open123"})");
         const auto faults = faultsOfSend(m.printer(), c);
         Session session(m.served.entry());
         ASSERT_EQ(session.read(), Session::Reading::Complete);
@@ -118,8 +114,8 @@ TEST(Endings, SayOfEverySettingWhatThePrinterWasSeenToHave) {
         const QString said = session.wordsOf(ending, Naming::Stable).join(u' ');
         EXPECT_TRUE(said.contains(QLatin1String(c.said))) << qPrintable(said);
         const bool isWritten = m.served.received().remove(u"=1001"_s).contains(u'=');
-        EXPECT_EQ(isWritten,
-                  QRegularExpression(u"^(Sent|Lost)"_s).match(QLatin1String(c.ending)).hasMatch());
+        const QByteArray course = QByteArray(c.ending).left(4);
+        EXPECT_EQ(isWritten, course == "Sent" || course == "Lost");
         const Setting &setting = *plan.changes.first().setting;
         if (setting.isSecret()) continue;
         EXPECT_EQ(textValue(session.manager()->savedData()[setting.viewKey], setting.key),
@@ -129,7 +125,7 @@ TEST(Endings, SayOfEverySettingWhatThePrinterWasSeenToHave) {
 }
 
 TEST(Endings, APersonCanStopAChangeAndAPrinterAReading) {
-    ServedManager m("{}", OnePrinterLibrary::Transport::Virtual);
+    ServedManager m("{}");
     Session session(m.served.entry());
     session.read();
     m.served.received();

@@ -1,5 +1,4 @@
 #include "ItemRows.h"
-#include "platform/core/NotificationCenter.h"
 
 // Everything that can go wrong with one reply, in every step of a reading and of a send.
 
@@ -28,29 +27,20 @@ class Faults : public testing::Test, protected ServedManager {
   protected:
     Faults()
         : ServedManager(R"({"password": "abcd1234", "scanPolls": 0, "networks": [{"ssid": "N"}],
-                            "items": {"0x3103": 3, "0x3104": "Net"}})",
-                        OnePrinterLibrary::Transport::Virtual) {
-        stop = NotificationCenter::shared().observe(
-            DWT_DataSend_Stop_Message,
-            [this](const Notification &n) {
-                stopped = n.userInfo.value(MSW_Searching_Value_Current).toInt();
-            },
-            manager.get());
-    }
+                            "items": {"0x3103": 3, "0x3104": "Net"}})") {}
 
-    void setFault(const QByteArray &item, const Fault *fault) {
-        const QByteArray items = fault ? "\"" + item + "\": {" + fault->description + "}" : "";
-        setFaults("{\"items\": {" + items + "}}");
+    // A fault in the reply to an item ("0x1004").
+    void setFault(const QByteArray &item, const Fault &fault) {
+        setFaults(R"({"items": {")" + item + R"(": {)" + fault.description + "}}}");
     }
     // Logs in and sends, with a fault in the send.
-    void sendWith(const QByteArray &item, const Fault *fault) {
+    void sendWith(const QByteArray &item = "0x1004", const Fault &fault = {}) {
         ASSERT_EQ(manager->connectPrinter(), 0);
         ASSERT_EQ(manager->checkLoginPassword(u"abcd1234"_s).kind, WriteResult::Accepted);
         manager->disconnectPrinter();
         setFault(item, fault);
-        stopped = -1;
         sendAndWait();
-        setFault({}, nullptr);
+        setFaults("{}");
     }
     // The items in which the saved data differs from what the printer holds.
     QList<ItemCode> lies() {
@@ -59,18 +49,14 @@ class Faults : public testing::Test, protected ServedManager {
         QList<ItemCode> codes;
         for (const Item &item : sentItems()) {
             if (item.readTurn == 0 || item.code == 0x3202) continue;
-            const auto saved =
-                manager->setupDataToMainView(item.viewKey).value_or(CategoryDictionary());
-            const auto held = *other->setupDataToMainView(item.viewKey);
-            for (const QString &key : item.keys)
-                if (saved.value(key) != held.value(key) && !codes.contains(item.code))
-                    codes << item.code;
+            const CategoryDictionary saved = manager->savedData()[item.viewKey],
+                                     held = other->savedData()[item.viewKey];
+            const auto lies = [&](const QString &key) { return saved[key] != held[key]; };
+            if (std::any_of(item.keys.begin(), item.keys.end(), lies)) codes << item.code;
         }
         return codes;
     }
 
-    NotificationCenter::Observer stop;
-    int stopped = -1;
     int round = 0;
 };
 
@@ -83,26 +69,24 @@ TEST_F(Faults, OfOneReplyInASendNeverMakeTheSavedDataLie) {
         for (const Fault &fault : faults) {
             SCOPED_TRACE((step + ' ' + fault.description).constData());
             changeAll(*this, ++round, code == 0x3106 ? 1 : 3);
-            sendWith(step, &fault);
+            sendWith(step, fault);
             const Ending ending = manager->ending();
             const Effect effect = fault.effect;
             const bool lost = effect == Effect::Closed || effect == Effect::ClosedAfter;
+            const bool login = code == 0x1001;
             const bool unclear = effect == Effect::Silent || effect == Effect::Foreign;
-            EXPECT_EQ(stopped, lost);
             EXPECT_EQ(ending.course == Ending::Course::Lost, lost);
             EXPECT_EQ(ending.isComplete(), effect == Effect::None);
-            const bool login = code == 0x1001;
-            EXPECT_EQ(ending.login == Login::NoReply,
-                      login && (unclear || effect == Effect::Closed));
+            const bool noReply = login && (unclear || effect == Effect::Closed);
+            EXPECT_EQ(ending.login == Login::NoReply, noReply);
             EXPECT_EQ(ending.login == Login::Refused, login && effect == Effect::Refused);
-            EXPECT_EQ(itemsIn(ending, State::Unclear),
-                      unclear && !login ? QList{code} : QList<ItemCode>());
-            EXPECT_EQ(itemsIn(ending, State::Refused).size(), effect == Effect::Refused && !login);
-            for (const ItemCode lie : lies())
-                EXPECT_TRUE(itemsIn(ending, State::Unclear).contains(lie)) << lie;
+            const QList<ItemCode> unclearItems = itemsOf(ending.in(State::Unclear));
+            EXPECT_EQ(unclearItems, unclear && !login ? QList{code} : QList<ItemCode>());
+            EXPECT_EQ(itemsOf(ending.in(State::Refused)).size(),
+                      effect == Effect::Refused && !login);
+            for (const ItemCode lie : lies()) EXPECT_TRUE(unclearItems.contains(lie)) << lie;
             // The next try works, and says so.
-            sendWith({}, nullptr);
-            EXPECT_EQ(stopped, 0);
+            sendWith();
             EXPECT_TRUE(manager->ending().isComplete());
             EXPECT_EQ(lies(), QList<ItemCode>());
         }
@@ -119,25 +103,20 @@ TEST_F(Faults, OfOneReplyInAReadingWriteNothingThatWasNotTold) {
             SCOPED_TRACE((step + ' ' + fault.description).constData());
             QMap<ItemCode, QByteArray> held;
             for (const Item &item : sentItems()) held.insert(item.code, printer().item(item.code));
-            setFault(step, &fault);
+            setFault(step, fault);
             const int result = manager->setupDataFromPrinter(0);
-            setFault({}, nullptr);
+            setFaults("{}");
             const Effect effect = fault.effect;
             const bool told = effect == Effect::None || effect == Effect::Refused ||
                               effect == Effect::ClosedAfter;
             const bool answered =
                 effect == Effect::ClosedAfter ? code == 0x1007 : told || effect == Effect::Foreign;
             EXPECT_EQ(result, answered ? 0 : 6);
-            if (itemOf(code)->sendTurn > 0) {
-                bool isMissing = false;
-                for (const Setting *const setting : manager->notReported())
-                    isMissing |= setting->item.code == code;
-                EXPECT_EQ(isMissing, !told);
-            }
-            change(DWT_View_Key_Wireless,
-                   {{DWT_SaveData_Wireless_CommunicateMode, ++round % 2 + 1}});
-            sendWith({}, nullptr);
-            EXPECT_EQ(stopped, 0);
+            const bool isMissed = !told && itemOf(code)->sendTurn > 0;
+            EXPECT_EQ(itemsOf(manager->notReported()).contains(code), isMissed);
+            enter(++round % 2 == 0 ? "wireless.mode=1" : "wireless.mode=2");
+            sendWith();
+            EXPECT_TRUE(manager->ending().isComplete());
             served.receivedUntilEnd();
             held.insert(0x3000, QByteArray(1, char(round % 2 + 1)) + '\0');
             for (auto i = held.begin(); i != held.end(); ++i)
@@ -156,7 +135,7 @@ TEST_F(Faults, OfTheConnectionInASearchEndItAtOnce) {
         const QDeadlineTimer interval(5000);
         EXPECT_EQ(manager->SSIDList(), std::nullopt);
         EXPECT_FALSE(interval.hasExpired()) << "polled a closed connection";
-        setFault({}, nullptr);
+        setFaults("{}");
         EXPECT_TRUE(manager->SSIDList()) << "the next search";
     }
 }

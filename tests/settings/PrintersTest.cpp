@@ -80,10 +80,9 @@ TEST_F(ListedPrinters, ListsSupportedModelsAndAsksOnlyUsbPrintersForTheirName) {
     EXPECT_EQ(Printers::problems(),
               QList<PrinterProblem>({{PrinterProblem::UnknownModel, u"Larkfield P900"_s}}));
     for (const auto &p : printers) {
-        const auto log = catalogue.virtualPrinters[QLatin1String(p.uri)]->log();
-        EXPECT_EQ(!log.isEmpty(), p.asked) << p.uri;
-        EXPECT_NE(listed->ZMGetEngageStatusSub(QLatin1String(p.uri), 100), 0)
-            << p.uri << " was left open";
+        const QLatin1String uri(p.uri);
+        EXPECT_EQ(!catalogue.virtualPrinters[uri]->log().isEmpty(), p.asked) << p.uri;
+        EXPECT_NE(listed->ZMGetEngageStatusSub(uri, 100), 0) << p.uri << " was left open";
     }
     {
         const ArgumentOverride other("-Installers");
@@ -153,7 +152,25 @@ TEST_F(ListedPrinters, AnAddressOfFourPartsIsChecked) {
     EXPECT_EQ(printer->isCheckConnectToPrinter({u"1"_s, u"2"_s, u"3"_s}), -1);
     EXPECT_EQ(printer->isCheckConnectToPrinter({{}, {}, {}, {}, {}}), -1);
     EXPECT_EQ(library->calls.join(u'|'), u"ZMIOOpenForUDP net:1 192.168.0.10 32 15000"_s);
+    const auto onUsb = DWTDataManager::dataManager(entry("usb:1", PrinterConnection::USB, ""));
+    onUsb->isCheckConnectToPrinter(u"1.2.3.4"_s.split(u'.'));
+    EXPECT_EQ(library->calls.last(), u"ZMIOOpenForUDP ZMtcpip:// 1.2.3.4 20 15000"_s);
     EXPECT_EQ(manager->isCheckConnectToPrinter({{}, {}, {}, {}}), -1) << "without a link";
+}
+
+TEST_F(ListedPrinters, EachEngageStatusLeadsToItsOwnCall) {
+    const struct {
+        int status, result;
+        const char *call;
+    } cases[] = {{0, -7, "ZMStartCommand"},
+                 {1, -7, "ZMEngageConnectAndStartCommand"},
+                 {2, 1, "ZMGetEngageStatusSub"}};
+    const auto printer = recorded(-7, {});
+    for (const auto &c : cases) {
+        library->status = c.status;
+        EXPECT_EQ(printer->connectPrinter(), c.result) << c.status;
+        EXPECT_TRUE(library->calls.last().startsWith(QLatin1String(c.call))) << c.status;
+    }
 }
 
 TEST_F(ListedPrinters, NothingButANumberOfItsOwnIsAPasswordState) {

@@ -10,7 +10,6 @@ using namespace Qt::StringLiterals;
 // A manager whose printer has been read, and the notifications of its sends.
 class Send : public EveryTransport {
   protected:
-    void read(const QByteArray &profile) { read(printerOf(profile)); }
     void read(const std::shared_ptr<VirtualPrinter> &printer) {
         observers.clear();
         m.reset();
@@ -66,7 +65,7 @@ const QString everyStep =
 
 TEST_P(Send, WritesEveryItemInOrderAndKeepsAllButSecrets) {
     for (const auto &[encryption, unused] : {std::pair(2, 0x3106), std::pair(1, 0x3105)}) {
-        read("{}");
+        read(printerOf("{}"));
         changeAll(*m, 1, encryption);
         EXPECT_EQ(send(),
                   u"start =1003 =1004 =1005 =1006 =2001 =3000 =3102 =3103 =3104 =3105 =3106 =3108 "
@@ -96,7 +95,7 @@ TEST_P(Send, WhatWasNotChangedGoesBackAsTheBytesThatCame) {
 }
 
 TEST_P(Send, TheKeyFollowsTheEncryptionAndTheSsidItsOrigin) {
-    read("{}");
+    read(printerOf("{}"));
     const std::pair<int, QString> cases[] = {
         {0, {}}, {1, u" =3106"_s}, {2, u" =3105"_s}, {3, u" =3105"_s}, {7, {}}};
     for (const auto &[encryption, key] : cases) {
@@ -112,7 +111,7 @@ TEST_P(Send, TheKeyFollowsTheEncryptionAndTheSsidItsOrigin) {
 }
 
 TEST_P(Send, WhatTheEncoderRefusesKeepsItsSavedValueAndIsReported) {
-    read("{}");
+    read(printerOf("{}"));
     const std::string before = saved(DWT_View_Key_Network);
     m->enter("names.bonjour=|accessPoint.ssid=a network of more than 32 bytes..");
     EXPECT_EQ(send(), u"start =1005 =1006 =2001 =3000 =3102 =3103 =3108 =3202 =1007 update end"_s);
@@ -123,7 +122,7 @@ TEST_P(Send, WhatTheEncoderRefusesKeepsItsSavedValueAndIsReported) {
 }
 
 TEST_P(Send, LogsInOnceWithTheRememberedPasswordAndARefusedLoginWritesNothing) {
-    read(R"({"password": "abc"})");
+    read(printerOf(R"({"password": "abc"})"));
     EXPECT_EQ(m->manager->isPassword(), 2);
     m->served.receivedUntilEnd();
     logIn();
@@ -138,13 +137,15 @@ TEST_P(Send, LogsInOnceWithTheRememberedPasswordAndARefusedLoginWritesNothing) {
     m->setFaults("{}");
     logIn();
     m->setFaults(R"({"refuseConnection": true})");
+    steps.clear();
     m->sendAndWait();
+    EXPECT_TRUE(steps.endsWith(u"Stop1 "_s));
     m->setFaults("{}");
     EXPECT_TRUE(send().startsWith(u"start =1004"_s)) << "a password was kept";
 }
 
 TEST_P(Send, OutlivesItsOwnerAndFinishesWhenTheApplicationEnds) {
-    read("{}");
+    read(printerOf("{}"));
     m->enter("device.timeout=45");
     const std::weak_ptr<DWTDataManager> manager = m->manager;
     m->manager->sendDataToPrinter();
@@ -156,7 +157,7 @@ TEST_P(Send, OutlivesItsOwnerAndFinishesWhenTheApplicationEnds) {
 }
 
 TEST_P(Send, WithoutAThreadStopsAtOnceAndLetsTheApplicationEnd) {
-    read("{}");
+    read(printerOf("{}"));
     pthread_attr_t usual, huge;
     ASSERT_EQ(pthread_getattr_default_np(&usual), 0);
     huge = usual;

@@ -40,15 +40,17 @@ inline SettingRecord recordOf(const char *written) {
     return record;
 }
 
-// A data manager on a virtual printer, over every transport.
+// A data manager on a virtual printer.
 class ServedManager {
   public:
-    ServedManager(const QByteArray &profile, OnePrinterLibrary::Transport transport)
+    using Transport = OnePrinterLibrary::Transport;
+
+    explicit ServedManager(const QByteArray &profile, Transport transport = Transport::Virtual)
         : ServedManager(printerOf(profile), transport) {}
     // A silent printer inside the process is given up at once: it answers within the request.
-    ServedManager(std::shared_ptr<VirtualPrinter> printer, OnePrinterLibrary::Transport transport)
-        : served(std::move(printer), transport, {},
-                 transport == OnePrinterLibrary::Transport::Virtual ? 2 : 5000) {
+    explicit ServedManager(std::shared_ptr<VirtualPrinter> printer,
+                           Transport transport = Transport::Virtual)
+        : served(std::move(printer), transport, {}, transport == Transport::Virtual ? 2 : 5000) {
         installLibrary(served.library());
         manager = DWTDataManager::dataManager(served.entry());
     }
@@ -80,10 +82,10 @@ class ServedManager {
     std::shared_ptr<DWTDataManager> manager;
 };
 
-// The items of an ending whose settings are in a state.
-inline QList<ItemCode> itemsIn(const Ending &ending, Ending::State state) {
+// The items of settings.
+inline QList<ItemCode> itemsOf(const QList<const Setting *> &settings) {
     QList<ItemCode> codes;
-    for (const Setting *const setting : ending.in(state))
+    for (const Setting *const setting : settings)
         if (!codes.contains(setting->item.code)) codes << setting->item.code;
     return codes;
 }
@@ -105,4 +107,11 @@ inline std::string asText(const std::optional<CategoryDictionary> &category) {
     for (auto i = category->begin(); i != category->end(); ++i)
         values << i.key().section(u'_', 2) + u'=' + std::visit(ValueText(), *i);
     return values.join(u' ').toStdString();
+}
+
+// A record as text, with a "|" behind each category.
+inline std::string asText(const SettingRecord &record) {
+    std::string text;
+    for (const CategoryDictionary &category : record) text += asText(category) + '|';
+    return text;
 }

@@ -20,10 +20,11 @@ struct EndingCase {
 
 inline QList<EndingCase> endingCases() {
     using enum ExitCode;
-    const char *const name = "names.bonjour=desk", *const key = "accessPoint.key=office-key";
-    const char *const set = "password.administrator=new-1", *const remove =
-                                                                "password.administrator=";
-    const char *const done = "and has the new settings", *const away = "cannot be reached";
+    const char *const name = "names.bonjour=desk", *const key = "accessPoint.key=office-key",
+                      *const set = "password.administrator=new-1",
+                      *const remove = "password.administrator=",
+                      *const done = "and has the new settings", *const away = "cannot be reached",
+                      *const refused = "not accept the password";
     const auto item = [](const char *code, const char *fault) {
         return QByteArray(R"({"items": {"%1": {%2}}})").replace("%1", code).replace("%2", fault);
     };
@@ -45,14 +46,8 @@ inline QList<EndingCase> endingCases() {
         {name, "NotReached:", NotReached, away, gone},
         {name, "Login NotReached:", NotReached, away, {}, {}, silent("0x1000")},
         {name, "Login NoReply:", NotReached, away, {}, {}, silent("0x1001")},
-        {name, "Login Refused:", LoginRefused, "not accept the password", {}, {}, {}, "other"},
-        {name,
-         "Login Refused:",
-         LoginRefused,
-         "not accept the password",
-         {},
-         {},
-         item("0x1001", R"("result": 4)")},
+        {name, "Login Refused:", LoginRefused, refused, {}, {}, {}, "other"},
+        {name, "Login Refused:", LoginRefused, refused, {}, {}, item("0x1001", R"("result": 4)")},
         {name, "Login Missing:", LoginRefused, "none was given", {}, {}, {}, ""},
         {set, "Sent: password.administrator=Verified", Done, done},
         {set, "Sent: password.administrator=Differs", NotAccepted, "not read", kept("0x1003")},

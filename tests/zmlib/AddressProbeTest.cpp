@@ -38,20 +38,18 @@ TEST(Snmp, TakesOnlyTheAnswerToItsRequest) {
 }
 
 TEST(AddressProbe, AnAnswerOnEitherWayCountsAndSilenceEnds) {
-    enum class Data { Refused, Accepted };
-    enum class Snmp { Refused, Silent, Garbage, Answers, AnswersTheSecond };
+    enum Snmp { Refused, Silent, Garbage, Answers, AnswersTheSecond };
     const struct {
         Snmp snmp;
-        Data data;
-        bool answers;
+        bool accepted, answers;  // the data port; then the printer
         std::chrono::milliseconds deadline, least;
-    } cases[] = {{Snmp::Refused, Data::Refused, false, forEver, {}},
-                 {Snmp::Refused, Data::Accepted, true, forEver, {}},
-                 {Snmp::Silent, Data::Accepted, true, forEver, {}},
-                 {Snmp::Silent, Data::Refused, false, shortly, shortly},
-                 {Snmp::Garbage, Data::Refused, false, shortly, shortly},
-                 {Snmp::Answers, Data::Refused, true, forEver, {}},
-                 {Snmp::AnswersTheSecond, Data::Refused, true, forEver, askAgain}};
+    } cases[] = {{Refused, false, false, forEver, {}},
+                 {Refused, true, true, forEver, {}},
+                 {Silent, true, true, forEver, {}},
+                 {Silent, false, false, shortly, shortly},
+                 {Garbage, false, false, shortly, shortly},
+                 {Answers, false, true, forEver, {}},
+                 {AnswersTheSecond, false, true, forEver, askAgain}};
     for (const auto &c : cases) {
         // Bound ports are nobody else's; they refuse what nobody listens for.
         QTcpServer server;
@@ -59,9 +57,9 @@ TEST(AddressProbe, AnAnswerOnEitherWayCountsAndSilenceEnds) {
         QUdpSocket agent;
         ASSERT_TRUE(server.listen(QHostAddress::LocalHost) &&
                     refusing.bind(QHostAddress::LocalHost) && agent.bind(QHostAddress::LocalHost));
-        const ProbePorts ports{agent.localPort(), c.data == Data::Accepted ? server.serverPort()
-                                                                           : refusing.localPort()};
-        if (c.snmp == Snmp::Refused) agent.connectToHost(QHostAddress::LocalHost, 1);
+        const auto data = c.accepted ? server.serverPort() : refusing.localPort();
+        const ProbePorts ports{agent.localPort(), data};
+        if (c.snmp == Refused) agent.connectToHost(QHostAddress::LocalHost, 1);
         int asked = 0;
         QObject::connect(&agent, &QUdpSocket::readyRead, [&] {
             QByteArray request(100, '\0');
@@ -69,17 +67,17 @@ TEST(AddressProbe, AnAnswerOnEitherWayCountsAndSilenceEnds) {
             quint16 port = 0;
             request.resize(agent.readDatagram(request.data(), request.size(), &from, &port));
             ++asked;
-            if (c.snmp == Snmp::Garbage) agent.writeDatagram(request, from, port);
-            if (c.snmp == Snmp::Answers || (c.snmp == Snmp::AnswersTheSecond && asked == 2))
+            if (c.snmp == Garbage) agent.writeDatagram(request, from, port);
+            if (c.snmp == Answers || (c.snmp == AnswersTheSecond && asked == 2))
                 agent.writeDatagram(answerTo(request), from, port);
         });
         QElapsedTimer time;
         time.start();
-        EXPECT_EQ(answersAtAddress(QHostAddress::LocalHost, QDeadlineTimer(c.deadline), ports),
-                  c.answers);
+        const QDeadlineTimer deadline(c.deadline);
+        EXPECT_EQ(answersAtAddress(QHostAddress::LocalHost, deadline, ports), c.answers);
         const std::chrono::milliseconds taken(time.elapsed());
-        EXPECT_GE(taken, c.least) << static_cast<int>(c.snmp);
-        EXPECT_LT(taken, longestSilence) << static_cast<int>(c.snmp);
+        EXPECT_GE(taken, c.least) << c.snmp;
+        EXPECT_LT(taken, longestSilence) << c.snmp;
         EXPECT_FALSE(answersAtAddress(QHostAddress::AnyIPv4, QDeadlineTimer(shortly), ports));
     }
 }

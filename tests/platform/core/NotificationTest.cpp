@@ -6,43 +6,29 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-NotificationCenter &center() {
-    return NotificationCenter::shared();
-}
-
-TEST(NotificationCenter, ReachesTheRightObserversInOrderOfRegistration) {
+TEST(NotificationCenter, ReachesItsObserversInOrderEvenIfTheyEndAndBeginWhileTheyAreCalled) {
     QObject sender, stranger;
-    QStringList calls;
-    const auto observe = [&](const char *who, const QString &name, const QObject *from) {
-        return center().observe(
-            name,
-            [&calls, who](const Notification &n) {
-                calls << QLatin1String(who) + n.userInfo[u"n"_s].toString();
-            },
-            from);
-    };
-    const auto any = observe("any", u"Changed"_s, nullptr);
-    const auto mine = observe("mine", u"Changed"_s, &sender);
-    const auto foreign = observe("foreign", u"Changed"_s, &stranger);
-    const auto other = observe("other", u"Other"_s, nullptr);
-    center().post(u"Changed"_s, &sender, {{u"n"_s, 7}});
-    EXPECT_EQ(calls.join(u' '), u"any7 mine7"_s);
-}
-
-TEST(NotificationCenter, AnObserverMayEndItselfOthersAndStartNewOnesWhileItIsCalled) {
     QString calls;
-    NotificationCenter::Observer a, b, c;
-    a = center().observe(u"Changed"_s, [&](const Notification &) {
-        calls += u'a';
-        a = {};
-        b = {};
-        c = center().observe(u"Changed"_s, [&](const Notification &) { calls += u'c'; });
-    });
-    b = center().observe(u"Changed"_s, [&](const Notification &) { calls += u'b'; });
-    center().post(u"Changed"_s, nullptr);
-    EXPECT_EQ(calls, u"a"_s) << "an ended observation was called, or one made during the post";
-    center().post(u"Changed"_s, nullptr);
-    EXPECT_EQ(calls, u"ac"_s);
+    const auto observe = [&](QChar letter, const QString &name, const QObject *from) {
+        return NotificationCenter::shared().observe(
+            name, [&calls, letter](const Notification &) { calls += letter; }, from);
+    };
+    NotificationCenter::Observer ended, late;
+    const auto first = observe(u'1', u"Changed"_s, nullptr);
+    const auto foreign = observe(u'f', u"Changed"_s, &stranger);
+    const auto other = observe(u'o', u"Other"_s, nullptr);
+    NotificationCenter::Observer ending =
+        NotificationCenter::shared().observe(u"Changed"_s, [&](const Notification &n) {
+            calls += n.userInfo[u"n"_s].toString();
+            ended = ending = {};
+            late = observe(u'4', u"Changed"_s, nullptr);
+        });
+    ended = observe(u'e', u"Changed"_s, &sender);
+    const auto third = observe(u'3', u"Changed"_s, &sender);
+    NotificationCenter::shared().post(u"Changed"_s, &sender, {{u"n"_s, 2}});
+    EXPECT_EQ(calls, u"123"_s);
+    NotificationCenter::shared().post(u"Changed"_s, &sender);
+    EXPECT_EQ(calls, u"123134"_s);
 }
 
 }  // namespace

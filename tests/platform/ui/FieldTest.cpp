@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QClipboard>
-#include <QHBoxLayout>
 #include <QTest>
+#include <QtWidgets>
 
 #include "platform/core/NotificationCenter.h"
 #include "platform/ui/TextField.h"
@@ -34,7 +32,6 @@ class Fields : public testing::Test, public TextFieldDelegate {
         calls << QLatin1String(call) + f->text();
         return true;
     }
-    void type(const QString &keys) { QTest::keyClicks(field, keys); }
     QString take() { return std::exchange(calls, {}).join(u' '); }
 
     QWidget window;
@@ -46,7 +43,7 @@ TEST_F(Fields, BeginSeesTheOldTextHoweverTheFirstChangeIsMade) {
     QInputMethodEvent composed;
     composed.setCommitString(u"語"_s);
     const std::pair<std::function<void()>, QString> ways[] = {
-        {[&] { type(u"x"_s); }, u"begin:old change:oldx"_s},
+        {[&] { QTest::keyClicks(field, u"x"_s); }, u"begin:old change:oldx"_s},
         {[&] { QTest::keyClick(field, Qt::Key_Backspace); }, u"begin:old change:ol"_s},
         {[&] { field->paste(); }, u"begin:old change:oldpasted"_s},
         {[&] { field->selectAll(), field->cut(); }, u"begin:old change:"_s},
@@ -63,20 +60,20 @@ TEST_F(Fields, BeginSeesTheOldTextHoweverTheFirstChangeIsMade) {
 }
 
 TEST_F(Fields, EditingBeginsOnceAndEndsWithTheFocusOrReturn) {
-    type(u"ab"_s);
+    QTest::keyClicks(field, u"ab"_s);
     EXPECT_EQ(take(), u"begin:old change:olda change:oldab"_s);
     QTest::keyClick(field, Qt::Key_Tab);
     field->setFocus();
     QTest::keyClick(field, Qt::Key_Return);
     EXPECT_EQ(take(), u"end:oldab end:oldab"_s) << "ends although nothing was typed";
-    type(u"c"_s);
+    QTest::keyClicks(field, u"c"_s);
     other->setFocus(Qt::PopupFocusReason);
     EXPECT_EQ(take(), u"begin:oldab change:oldabc"_s) << "a menu ended editing";
     window.hide();
     window.show();
     field->setFocus();
     take();
-    type(u"d"_s);
+    QTest::keyClicks(field, u"d"_s);
     EXPECT_EQ(take(), u"begin:oldabc change:oldabcd"_s) << "hiding did not end editing";
 }
 
@@ -88,7 +85,7 @@ TEST_F(Fields, TextFromCodeReportsNothingAndChangesArePosted) {
     field->setText(u"code"_s);
     field->replaceText(u"more"_s, 1);
     EXPECT_EQ(posted, 0);
-    type(u"x"_s);
+    QTest::keyClicks(field, u"x"_s);
     EXPECT_EQ(take(), u"begin:more change:mxore"_s);
     EXPECT_EQ(posted, 1);
 }

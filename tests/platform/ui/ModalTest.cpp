@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 #include "platform/ui/Alert.h"
 #include "platform/ui/Modal.h"

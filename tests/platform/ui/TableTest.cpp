@@ -1,10 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <QHeaderView>
-#include <QHelpEvent>
 #include <QTest>
-#include <QTextDocumentFragment>
-#include <QToolTip>
+#include <QtWidgets>
 
 #include "platform/core/Texts.h"
 #include "platform/ui/TableView.h"
