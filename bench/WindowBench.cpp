@@ -59,7 +59,7 @@ void listWithSilentPrinters(benchmark::State &state) {
             {PrinterKey::DeviceURI, uri},
             {PrinterKey::ConnectionType, PrinterConnection::USB},
             {PrinterKey::ProductName, QStringLiteral("Larkfield L200")}};
-        Profile profile;
+        Profile profile = *profileFromJson({}).profile;
         profile.faults.items[0x1006].noReply = i < 6;
         catalogue.virtualPrinters.insert(uri, std::make_shared<VirtualPrinter>(profile));
     }

@@ -65,7 +65,7 @@ int Channel::exchange(const QByteArray &frame, int replySize, QByteArray &reply,
 
 int Channel::finish(const QByteArray &update, const QByteArray &end,
                     const QDeadlineTimer &deadline) {
-    const auto notice = m_wroteSettings ? closingNotice : std::chrono::milliseconds(0);
+    const auto notice = m_wroteSettings ? m_transport->noticeOfEnd() : std::chrono::milliseconds(0);
     const auto drained =
         m_transport->drain(notice, std::min(deadline, QDeadlineTimer(drainWithin)));
     if (drained == Transport::Completion::Closed) return ZMLib::Closed;

@@ -16,9 +16,6 @@
 // after ZMLib::Closed the channel is of no use.
 class Channel {
   public:
-    // How long finish() looks whether the printer has closed instead of taking settings: the end of
-    // a connection arrives right behind the last reply.
-    static constexpr std::chrono::milliseconds closingNotice{2};
 
     // Longest time for the end frame of a transaction that is given up.
     static constexpr std::chrono::milliseconds abandonWithin{200};

@@ -44,6 +44,10 @@ class Transport {
     // closed.
     Completion drain(std::chrono::milliseconds silence, const QDeadlineTimer &deadline);
 
+    // How long after the last reply its connection may still turn out to be closed.
+    static constexpr std::chrono::milliseconds closingNotice{2};
+    virtual std::chrono::milliseconds noticeOfEnd() const { return closingNotice; }
+
     // Whether the destructor may take as long as a call.
     virtual bool endsSlowly() const { return false; }
 

@@ -13,6 +13,8 @@ class VirtualTransport : public Transport {
                      std::unique_ptr<VirtualPrinter::Channel> channel)
         : m_printer(std::move(printer)), m_channel(std::move(channel)) {}
 
+    std::chrono::milliseconds noticeOfEnd() const override { return {}; }
+
   private:
     Completion transmit(const QDeadlineTimer &) override {
         if (!m_channel->isOpen()) return Completion::Closed;
