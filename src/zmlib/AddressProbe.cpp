@@ -16,6 +16,11 @@ namespace {
 
 constexpr std::size_t longestPacket = 1500;  // bytes
 
+// IPv4 addresses of machines begin behind 0.x.x.x ("this network") and end before 224.0.0.0, where
+// multicast addresses begin; behind those come reserved ones, and broadcast is the last of them.
+constexpr quint32 firstOfMachines = 0x01000000;
+constexpr quint32 firstMulticast = 0xE0000000;
+
 // One way to ask. It is over when it can bring no answer any more.
 struct Way {
     Socket socket;
@@ -78,10 +83,16 @@ class Probe {
 
 }  // namespace
 
+bool isOfOneMachine(const QHostAddress &address) {
+    bool isIPv4 = false;  // also as an IPv6 address
+    const quint32 number = address.toIPv4Address(&isIPv4);
+    if (isIPv4) return number >= firstOfMachines && number < firstMulticast;
+    return !address.isNull() && address != QHostAddress::AnyIPv6 && !address.isMulticast();
+}
+
 bool answersAtAddress(const QHostAddress &address, const QDeadlineTimer &deadline,
                       ProbePorts ports) {
-    // To the system, "any address" would be this machine.
-    if (address.isNull() || address == QHostAddress::AnyIPv4 || address.isMulticast()) return false;
+    if (!isOfOneMachine(address)) return false;  // to the system, "any address" is this machine
     Probe probe(address, ports);
     waitUntil([&] { return probe.isDecided(); }, std::min(deadline, QDeadlineTimer(longestSilence)),
               [&](std::chrono::milliseconds slice) { probe.look(slice); });

@@ -1,7 +1,7 @@
 #include "zmlib/NetworkSource.h"
 
 Listing NetworkSource::list() {
-    m_browser.settle(m_firstLook);
+    m_browser.refresh();
     Listing listing = announced();
     const std::lock_guard lock(m_mutex);
     m_listed = listing;
@@ -17,7 +17,11 @@ bool NetworkSource::hasChanged() {
 
 Opened NetworkSource::open(const QString &uri, const QDeadlineTimer &deadline) {
     const QDeadlineTimer asking(deadline.remainingTimeAsDuration() / resolvingShare);
-    return {openTcpTransport(m_browser.resolve(uri, asking), deadline)};
+    Opened opened;
+    QHostAddress reached;
+    opened.transport = openTcpTransport(m_browser.resolve(uri, asking), deadline, &reached);
+    opened.address = reached.toString();
+    return opened;
 }
 
 std::optional<QList<QHostAddress>> NetworkSource::addressesOf(const QString &uri,
@@ -30,9 +34,14 @@ std::optional<QList<QHostAddress>> NetworkSource::addressesOf(const QString &uri
 }
 
 Listing NetworkSource::announced() const {
-    if (m_browser.isMissing()) return {{}, {{PrinterProblem::NoNetworkService, {}}}};
+    const ServiceBrowser::Known known = m_browser.known();
+    if (known.isMissing && !known.isSilent) return {{}, {{PrinterProblem::NoNetworkService, {}}}};
     Listing listing;
-    for (const AnnouncedPrinter &printer : m_browser.printers())
+    if (known.isSilent) listing.problems = {{PrinterProblem::SilentNetworkService, {}}};
+    if (known.notLocated > 0)
+        listing.problems.append(
+            PrinterProblem{PrinterProblem::NotLocated, QString::number(known.notLocated)});
+    for (const AnnouncedPrinter &printer : known.printers)
         listing.entries.append(
             {{PrinterKey::DeviceURI, printer.uri},
              {PrinterKey::ConnectionType, PrinterConnection::Network},

@@ -11,10 +11,10 @@ class NetworkSource : public PrinterSource {
     // The part of an opening's time after which an address is needed: the rest is for connecting.
     static constexpr int resolvingShare = 2;
 
-    explicit NetworkSource(const BrowsingLimits &limits = {})
-        : m_browser(limits), m_firstLook(limits.firstLook) {}
+    explicit NetworkSource(const BrowsingLimits &limits = {}) : m_browser(limits) {}
 
     Listing list() override;
+    bool isSettled() override { return m_browser.isSettled(); }
     bool hasChanged() override;
     bool lists(const QString &uri) override { return m_browser.isAnnounced(uri); }
     Opened open(const QString &uri, const QDeadlineTimer &deadline) override;
@@ -26,7 +26,6 @@ class NetworkSource : public PrinterSource {
     Listing announced() const;
 
     ServiceBrowser m_browser;
-    const QDeadlineTimer m_firstLook;
     std::mutex m_mutex;  // guards what follows
     Listing m_listed;
 };

@@ -3,35 +3,38 @@
 #include <QDeadlineTimer>
 #include <QList>
 #include <QString>
-#include <condition_variable>
-#include <functional>
 #include <memory>
-#include <mutex>
 
 #include "zmlib/ServiceTable.h"
 
+struct BrowsingState;
+
 // The printers that announce themselves on the network with DNS-SD (RFC 6763) as
-// "_pdl-datastream._tcp": the conversation with the system's own service (avahi), which keeps the
-// table of them current on a thread of its own. Callable from several threads; only settle()
-// and resolve() wait.
+// "_pdl-datastream._tcp". A thread of its own talks with the system's own service (avahi) and keeps
+// the table of them current. Callable from several threads; only resolve() waits.
 class ServiceBrowser {
   public:
     // The browser starts at once.
     explicit ServiceBrowser(const BrowsingLimits &limits = {});
+    // Leaves a thread that the system's service holds to the end of the process.
     ~ServiceBrowser();
     ServiceBrowser(const ServiceBrowser &) = delete;
     ServiceBrowser &operator=(const ServiceBrowser &) = delete;
 
-    // Waits until what is announced for now is known, or that the system has no such service.
-    void settle(const QDeadlineTimer &deadline) const;
-    // Whether the system's service is known not to run.
-    bool isMissing() const;
-
-    // The printers that are announced and located now, by name, each once.
-    QList<AnnouncedPrinter> printers() const;
+    // What is known at one moment.
+    struct Known {
+        bool isMissing;                    // the system's service does not run
+        bool isSilent;                     // it has left something unanswered for long
+        QList<AnnouncedPrinter> printers;  // announced and located, by name, each once
+        qsizetype notLocated;              // how many more are announced
+    };
+    Known known() const;
     bool isAnnounced(const QString &uri) const;
+    // Whether known() has all that is announced, or as much of it as can be had.
+    bool isSettled() const;
 
-    // Resolves printers whose address is unknown or stale, in the background. Call it now and then.
+    // Resolves printers whose address is unknown or stale, and finds out whether the system's
+    // service answers, in the background. Call it now and then.
     void refresh();
 
     // Asks for the addresses of a printer now: IPv4, global IPv6, link-local IPv6. Empty when it
@@ -39,15 +42,6 @@ class ServiceBrowser {
     QList<Endpoint> resolve(const QString &uri, const QDeadlineTimer &deadline);
 
   private:
-    class Worker;
-    // Waits until `isDone` says so, which is called under m_mutex.
-    void waitFor(const std::function<bool()> &isDone, const QDeadlineTimer &deadline) const;
-
-    const BrowsingLimits m_limits;
-    mutable std::mutex m_mutex;  // guards what follows; never held while avahi is called
-    mutable std::condition_variable m_news;
-    bool m_isMissing = false;
-    bool m_isAllForNow = false;
-    ServiceTable m_table;
-    const std::unique_ptr<Worker> m_worker;  // uses all of the above
+    const std::shared_ptr<BrowsingState> m_state;  // the thread's as well
+    const QDeadlineTimer m_firstLook;
 };

@@ -1,17 +1,29 @@
 #include "zmlib/ServiceTable.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString hostKey = u"&host="_s;
+
+QString encoded(const QByteArray &text) {
+    return QString::fromLatin1(text.toPercentEncoding());
+}
+
 QString uriOf(const QByteArray &name, const QByteArray &domain) {
-    const auto encoded = [](const QByteArray &text) {
-        return QString::fromLatin1(text.toPercentEncoding());
-    };
     return u"dnssd:///%1?type=%2&domain=%3"_s.arg(encoded(name), QLatin1String(announcedType),
                                                   encoded(domain));
+}
+
+// The URI of a service and the host in the URI of a printer; "&" is encoded in all other places.
+std::pair<QString, std::optional<QByteArray>> serviceAndHostOf(const QString &uri) {
+    const qsizetype end = uri.indexOf(hostKey);
+    if (end < 0) return {uri, {}};
+    return {uri.left(end),
+            QByteArray::fromPercentEncoding(uri.mid(end + hostKey.size()).toLatin1())};
 }
 
 // Adds an endpoint once, behind those that are as good or better.
@@ -37,33 +49,43 @@ void ServiceTable::add(const QByteArray &name, const QByteArray &domain, const P
     service.domain = domain;
     for (const Place &place : places) {
         service.sightings.try_emplace(place);
-        if (place.isSure()) queue(uri, service, place, false);
+        if (place.isLikely() && !isNeedless(service, place)) queue(uri, service, place, true);
     }
 }
 
 void ServiceTable::remove(const QByteArray &name, const QByteArray &domain, const Places &places) {
     const auto found = m_services.find(uriOf(name, domain));
     if (found == m_services.end()) return;
-    for (const Place &place : places) found->second.sightings.erase(place);
-    if (found->second.sightings.empty()) m_services.erase(found);
+    auto &sightings = found->second.sightings;
+    for (const Place &place : places)
+        if (const auto gone = sightings.find(place); gone != sightings.end()) {
+            unqueue(gone->second);
+            sightings.erase(gone);
+        }
+    if (sightings.empty()) m_services.erase(found);
 }
 
 void ServiceTable::clear() {
     m_services.clear();
     m_queue.clear();
-    m_underWay = 0;
+    m_underWay.clear();
 }
 
 QList<AnnouncedPrinter> ServiceTable::printers() const {
     QList<AnnouncedPrinter> printers;
     for (const auto &[uri, service] : m_services) {
-        AnnouncedPrinter printer{uri, QString::fromUtf8(service.name), {}, {}};
+        std::map<QByteArray, AnnouncedPrinter> ofHosts;
         for (const auto &[place, sighting] : service.sightings) {
             if (!sighting.answer) continue;
+            AnnouncedPrinter &printer = ofHosts[sighting.answer->host];
             addOnce(sighting.answer->endpoint, printer.endpoints);
             if (printer.productName.isEmpty()) printer.productName = sighting.answer->productName;
         }
-        if (!printer.endpoints.isEmpty()) printers.append(printer);
+        for (auto &[host, printer] : ofHosts) {
+            printer.uri = ofHosts.size() > 1 ? uri + hostKey + encoded(host) : uri;
+            printer.name = QString::fromUtf8(service.name);
+            printers.append(printer);
+        }
     }
     std::stable_sort(printers.begin(), printers.end(), [](const auto &one, const auto &other) {
         return one.name.compare(other.name, Qt::CaseInsensitive) < 0;
@@ -71,69 +93,183 @@ QList<AnnouncedPrinter> ServiceTable::printers() const {
     return printers;
 }
 
+qsizetype ServiceTable::notLocated() const {
+    return std::count_if(m_services.begin(), m_services.end(),
+                         [](const auto &entry) { return !isLocated(entry.second); });
+}
+
+bool ServiceTable::contains(const QString &uri) const {
+    const auto [service, host] = serviceAndHostOf(uri);
+    const auto found = m_services.find(service);
+    if (found == m_services.end() || !host) return found != m_services.end();
+    const auto isThere = [&](const auto &entry) {
+        return entry.second.answer && entry.second.answer->host == *host;
+    };
+    const auto &sightings = found->second.sightings;
+    return std::any_of(sightings.begin(), sightings.end(), isThere);
+}
+
+bool ServiceTable::isSettled() const {
+    const Clock::time_point longAgo = Clock::now() - m_limits.firstLook;
+    const auto isAnswered = [&](const auto &entry) {
+        const Sighting &sighting = entry.second;
+        return sighting.answer || sighting.asked != Clock::time_point() ||
+               (sighting.underWay && m_underWay.at(*sighting.underWay).since < longAgo);
+    };
+    return std::all_of(m_services.begin(), m_services.end(), [&](const auto &entry) {
+        const auto &sightings = entry.second.sightings;
+        return std::any_of(sightings.begin(), sightings.end(), isAnswered);
+    });
+}
+
 void ServiceTable::askWhatIsUnsure() {
     const Clock::time_point now = Clock::now();
     for (auto &[uri, service] : m_services)
         for (const auto &[place, sighting] : service.sightings)
-            if (place.isSure() && !sighting.isAsked &&
+            if (place.isLikely() &&
                 now - sighting.asked >
-                    (sighting.answer ? m_limits.sureFor : m_limits.askAgainAfter))
-                queue(uri, service, place, false);
+                    (sighting.answer ? m_limits.sureFor : m_limits.askAgainAfter) &&
+                !isNeedless(service, place))
+                queue(uri, service, place, true);
 }
 
 void ServiceTable::askFirst(const QString &uri) {
-    if (const auto found = m_services.find(uri); found != m_services.end())
-        for (const auto &[place, sighting] : found->second.sightings)
-            queue(uri, found->second, place, true);
+    const auto found = m_services.find(serviceAndHostOf(uri).first);
+    if (found == m_services.end()) return;
+    for (const auto &[place, sighting] : found->second.sightings)
+        queue(found->first, found->second, place, false);
 }
 
 QList<Endpoint> ServiceTable::answersSince(const QString &uri, Clock::time_point then,
                                            bool &areAll) const {
-    QList<Endpoint> endpoints;
     areAll = true;
-    if (const auto found = m_services.find(uri); found != m_services.end())
-        for (const auto &[place, sighting] : found->second.sightings) {
-            if (sighting.isAsked)
-                areAll = false;
-            else if (sighting.answer && sighting.asked >= then)
-                addOnce(sighting.answer->endpoint, endpoints);
-        }
+    auto [name, host] = serviceAndHostOf(uri);
+    const auto found = m_services.find(name);
+    if (found == m_services.end()) return {};
+    const auto &sightings = found->second.sightings;
+    if (!host)
+        for (const auto &[place, sighting] : sightings)
+            if (sighting.answer && (!host || sighting.answer->host < *host))
+                host = sighting.answer->host;
+    QList<Endpoint> endpoints;
+    for (const auto &[place, sighting] : sightings) {
+        if (sighting.turn || sighting.underWay)
+            areAll = false;
+        else if (sighting.answer && sighting.answer->host == host && sighting.asked >= then)
+            addOnce(sighting.answer->endpoint, endpoints);
+    }
     return endpoints;
 }
 
 std::optional<ServiceTable::Question> ServiceTable::takeQuestion() {
-    while (!m_queue.empty() &&
-           (m_queue.front().isUrgent || m_underWay < m_limits.questionsAtOnce)) {
-        const Question question = m_queue.front();
-        m_queue.pop_front();
-        // The service may have gone since, and come again.
-        if (const Sighting *const sighting = find(question); !sighting || !sighting->isAsked)
-            continue;
-        ++m_underWay;
-        return question;
-    }
-    return {};
+    if (m_queue.empty()) return {};
+    const auto first = m_queue.begin();
+    const bool canWait = first->first.canWait;
+    if (canWait && m_underWay.size() >= m_limits.questionsAtOnce) return {};
+    Question question = first->second;
+    Sighting &sighting = m_services.at(question.uri).sightings.at(question.place);
+    unqueue(sighting);
+    sighting.underWay = question.number;
+    m_underWay[question.number] = {question.uri, question.place, canWait, Clock::now()};
+    return question;
 }
 
 void ServiceTable::answer(const Question &question, std::optional<Answer> answer) {
-    --m_underWay;
-    if (Sighting *const sighting = find(question))
-        *sighting = {false, Clock::now(), std::move(answer)};
+    Sighting *const answered = end(question.number, question.uri, question.place);
+    if (!answered) return;
+    answered->asked = Clock::now();
+    answered->wasInVain = !answer;
+    answered->answer = std::move(answer);
+    if (!answered->answer) return;
+    Service &service = m_services.at(question.uri);
+    for (auto &[place, other] : service.sightings) {
+        // On one interface a name belongs to one host: what another one answered there is over.
+        if (place.interface == question.place.interface && other.answer &&
+            other.answer->host != answered->answer->host)
+            other.answer.reset();
+        if (!other.turn || !other.turn->canWait) continue;
+        unqueue(other);
+        if (!isNeedless(service, place)) queue(question.uri, service, place, true);
+    }
 }
 
-void ServiceTable::queue(const QString &uri, Service &service, const Place &place, bool isUrgent) {
-    Sighting &sighting = service.sightings[place];
-    const auto isSame = [&](const Question &one) { return one.uri == uri && one.place == place; };
-    const bool isUnderWay = sighting.isAsked && std::erase_if(m_queue, isSame) == 0;
-    if (isUnderWay) return;
-    sighting.isAsked = true;
-    m_queue.insert(isUrgent ? m_queue.begin() : m_queue.end(),
-                   {uri, service.name, service.domain, place, isUrgent});
+std::vector<quint64> ServiceTable::giveUp() {
+    std::vector<quint64> givenUp;
+    if (!isOneWaiting()) return givenUp;
+    const Clock::time_point longAgo = Clock::now() - m_limits.giveUpAfter;
+    auto waiting = m_queue.begin();
+    auto next = m_underWay.begin();
+    while (next != m_underWay.end() && next->second.since <= longAgo && waiting != m_queue.end() &&
+           !waiting->first.wasInVain) {
+        const auto [number, underWay] = *next++;
+        if (!underWay.canWait) continue;
+        givenUp.push_back(number);
+        ++waiting;
+        Sighting *const sighting = end(number, underWay.uri, underWay.place);
+        if (!sighting) continue;
+        sighting->wasInVain = true;
+        Service &service = m_services.at(underWay.uri);
+        if (!isNeedless(service, underWay.place))
+            queue(underWay.uri, service, underWay.place, true);
+    }
+    return givenUp;
 }
 
-ServiceTable::Sighting *ServiceTable::find(const Question &question) {
-    const auto service = m_services.find(question.uri);
+std::optional<std::chrono::milliseconds> ServiceTable::giveUpIn() const {
+    if (!isOneWaiting()) return {};
+    const auto canWait = [](const auto &entry) { return entry.second.canWait; };
+    const auto oldest = std::find_if(m_underWay.begin(), m_underWay.end(), canWait);
+    if (oldest == m_underWay.end()) return {};
+    const auto left = oldest->second.since + m_limits.giveUpAfter - Clock::now();
+    return std::max(std::chrono::ceil<std::chrono::milliseconds>(left),
+                    std::chrono::milliseconds(0));
+}
+
+bool ServiceTable::isLocated(const Service &service) {
+    return std::any_of(service.sightings.begin(), service.sightings.end(),
+                       [](const auto &entry) { return entry.second.answer.has_value(); });
+}
+
+bool ServiceTable::isNeedless(const Service &service, const Place &place) const {
+    const Clock::time_point then = Clock::now() - m_limits.sureFor;
+    return std::any_of(service.sightings.begin(), service.sightings.end(), [&](const auto &entry) {
+        const auto &[other, sighting] = entry;
+        return other.interface == place.interface && other.wanted <= place.wanted &&
+               sighting.answer && sighting.asked >= then;
+    });
+}
+
+void ServiceTable::queue(const QString &uri, Service &service, const Place &place, bool canWait) {
+    Sighting &sighting = service.sightings.at(place);
+    if (sighting.underWay) {
+        if (!canWait) m_underWay.at(*sighting.underWay).canWait = false;
+        return;
+    }
+    if (sighting.turn && canWait) return;
+    unqueue(sighting);
+    sighting.turn = {canWait, sighting.wasInVain, isLocated(service), place.protocol,
+                     ++m_lastNumber};
+    m_queue[*sighting.turn] = {m_lastNumber, uri, service.name, service.domain, place};
+}
+
+void ServiceTable::unqueue(Sighting &sighting) {
+    if (sighting.turn) m_queue.erase(*sighting.turn);
+    sighting.turn.reset();
+}
+
+ServiceTable::Sighting *ServiceTable::end(quint64 number, const QString &uri, const Place &place) {
+    if (m_underWay.erase(number) == 0) return nullptr;
+    const auto service = m_services.find(uri);
     if (service == m_services.end()) return nullptr;
-    const auto sighting = service->second.sightings.find(question.place);
-    return sighting == service->second.sightings.end() ? nullptr : &sighting->second;
+    const auto sighting = service->second.sightings.find(place);
+    // The service may have gone since, and come again.
+    if (sighting == service->second.sightings.end() || sighting->second.underWay != number)
+        return nullptr;
+    sighting->second.underWay.reset();
+    return &sighting->second;
+}
+
+bool ServiceTable::isOneWaiting() const {
+    return m_underWay.size() >= m_limits.questionsAtOnce && !m_queue.empty() &&
+           !m_queue.begin()->first.wasInVain;
 }

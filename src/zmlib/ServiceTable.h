@@ -5,10 +5,10 @@
 #include <QString>
 #include <array>
 #include <chrono>
-#include <deque>
 #include <map>
 #include <optional>
 #include <tuple>
+#include <vector>
 
 #include "zmlib/Transport.h"
 
@@ -17,13 +17,19 @@ inline constexpr const char *announcedType = "_pdl-datastream._tcp";
 
 // Limits of a look for announced printers.
 struct BrowsingLimits {
-    // How long after the start of a source its list still waits for what is announced already: the
-    // system's service says after a second that this was all.
+    // How long a list is not settled because the system's service has not said that this was all,
+    // which takes it a second, and how long because one printer does not say where it is.
     std::chrono::milliseconds firstLook{1200};
     // How long after a failure the system's service is looked for again.
     std::chrono::milliseconds reconnectAfter{500};
+    // How long the system's service may leave a call unanswered before it counts as silent.
+    std::chrono::milliseconds silentAfter{1200};
+    // How long after its last answer it is asked whether it still answers.
+    std::chrono::milliseconds pingAfter{1000};
     // How many questions are under way at once: the service allows one program 1024 objects.
     std::size_t questionsAtOnce = 500;
+    // How long a question is waited for while others wait that have not been asked in vain.
+    std::chrono::milliseconds giveUpAfter{500};
     // How long an answer is taken as sure: half of the 120 s for which records of an address live.
     std::chrono::seconds sureFor{60};
     // How long after a question without an answer it is asked again.
@@ -34,7 +40,9 @@ struct BrowsingLimits {
 
 // A printer that announces itself.
 struct AnnouncedPrinter {
-    QString uri;                // "dnssd:///NAME?type=_pdl-datastream._tcp&domain=DOMAIN"
+    // "dnssd:///NAME?type=_pdl-datastream._tcp&domain=DOMAIN"; while printers of several hosts
+    // have that name, each has "&host=HOST" behind it.
+    QString uri;
     QString name;               // of the service, any text of at most 63 bytes of UTF-8
     QString productName;        // empty when it does not say
     QList<Endpoint> endpoints;  // where it was last found; the best first
@@ -51,8 +59,8 @@ class ServiceTable {
         int interface;
         int protocol;
         int wanted;
-        // A service seen over one version of IP has an address of it; it may lack one of the other.
-        bool isSure() const { return wanted == protocol; }
+        // A service has most likely an address of the version of IP over which it was seen.
+        bool isLikely() const { return wanted == protocol; }
         bool operator==(const Place &) const = default;
         bool operator<(const Place &other) const {
             return std::tie(interface, protocol, wanted) <
@@ -63,64 +71,101 @@ class ServiceTable {
     using Places = std::array<Place, 2>;
 
     struct Question {
+        quint64 number;  // never that of another one
         QString uri;
         QByteArray name;
         QByteArray domain;
         Place place;
-        bool isUrgent;
     };
     struct Answer {
         Endpoint endpoint;
+        QByteArray host;
         QString productName;
     };
 
     explicit ServiceTable(const BrowsingLimits &limits) : m_limits(limits) {}
 
-    // A service is seen at a place; its sure address there is to be asked for.
+    // A service is seen at a place; its likely address there is to be asked for.
     void add(const QByteArray &name, const QByteArray &domain, const Places &places);
     // It is seen there no more.
     void remove(const QByteArray &name, const QByteArray &domain, const Places &places);
     // Forgets everything, the questions under way included.
     void clear();
 
-    // The services that have answered, sorted by name.
+    // The services that have answered, sorted by name, one for each host of an answer.
     QList<AnnouncedPrinter> printers() const;
-    bool contains(const QString &uri) const { return m_services.contains(uri); }
+    // How many services have not answered.
+    qsizetype notLocated() const;
+    // Whether a service is announced; of a host, whether it has answered from there.
+    bool contains(const QString &uri) const;
+    // Whether every service has an answer, or one of its questions has ended or is under way for
+    // longer than a first look.
+    bool isSettled() const;
 
-    // Queues a question for every sure address whose answer is missing or has grown old.
+    // Queues a question for every likely address whose answer is missing or has grown old.
     void askWhatIsUnsure();
     // Queues the questions for all addresses of one printer, before all others.
     void askFirst(const QString &uri);
 
-    // The answers of a printer since `then`: IPv4 addresses first, then global, then link-local
-    // IPv6 ones. `areAll` becomes false while others may follow.
+    // The answers of a printer since `then`, all of one host (without one in the URI, the first by
+    // name): IPv4 addresses first, then global, then link-local IPv6 ones. `areAll` becomes false
+    // while others may follow.
     QList<Endpoint> answersSince(const QString &uri, Clock::time_point then, bool &areAll) const;
 
-    // Whether no question is queued or under way.
-    bool isSettled() const { return m_queue.empty() && m_underWay == 0; }
-
-    // The next question, if one may be asked now. It is under way until answer() is called.
+    // The next question, if one may be asked now. It is under way until it ends. First come those
+    // for an opening, then those of services without an answer; what was asked in vain comes last.
     std::optional<Question> takeQuestion();
     // Ends a question that was taken; `answer` is nothing when none came.
     void answer(const Question &question, std::optional<Answer> answer);
+    // Ends questions without an answer in favour of others that wait, and queues them again. The
+    // numbers of those that were ended.
+    std::vector<quint64> giveUp();
+    // In how long giveUp() would end a question; nothing while none waits for another to end.
+    std::optional<std::chrono::milliseconds> giveUpIn() const;
 
   private:
+    // Where a question stands in the queue: the least comes first.
+    struct Turn {
+        bool canWait;    // false: for an opening
+        bool wasInVain;  // the last question there had no answer
+        bool isLocated;  // its service has an answer
+        int protocol;    // IPv4 is the lesser
+        quint64 number;  // of the question
+        auto operator<=>(const Turn &) const = default;
+    };
     struct Sighting {
-        bool isAsked = false;               // a question is queued or under way
-        Clock::time_point asked = {};       // when the last question ended
-        std::optional<Answer> answer = {};  // to it
+        std::optional<Turn> turn = {};         // of the question that is queued
+        std::optional<quint64> underWay = {};  // the number of the question
+        bool wasInVain = false;                // the last question
+        Clock::time_point asked = {};          // when the last question ended
+        std::optional<Answer> answer = {};     // to it
     };
     struct Service {
         QByteArray name;
         QByteArray domain;
         std::map<Place, Sighting> sightings;
     };
+    struct UnderWay {
+        QString uri;
+        Place place;
+        bool canWait;
+        Clock::time_point since;
+    };
 
-    void queue(const QString &uri, Service &service, const Place &place, bool isUrgent);
-    Sighting *find(const Question &question);
+    static bool isLocated(const Service &service);
+    // Whether what is asked for there would not come before what the interface answered lately.
+    bool isNeedless(const Service &service, const Place &place) const;
+    void queue(const QString &uri, Service &service, const Place &place, bool canWait);
+    void unqueue(Sighting &sighting);
+    // The sighting that a question under way is about, which then is so no more; null when it has
+    // gone meanwhile.
+    Sighting *end(quint64 number, const QString &uri, const Place &place);
+    // Whether a question waits for a slot that was not asked in vain before.
+    bool isOneWaiting() const;
 
     const BrowsingLimits m_limits;
     std::map<QString, Service> m_services;  // by URI
-    std::deque<Question> m_queue;
-    std::size_t m_underWay = 0;
+    std::map<Turn, Question> m_queue;
+    std::map<quint64, UnderWay> m_underWay;  // by number, so the oldest first
+    quint64 m_lastNumber = 0;
 };

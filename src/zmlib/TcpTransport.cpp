@@ -89,12 +89,13 @@ bool connectSocket(const Socket &socket, const Endpoint &endpoint, const QDeadli
 }  // namespace
 
 std::unique_ptr<Transport> openTcpTransport(const QList<Endpoint> &endpoints,
-                                            const QDeadlineTimer &deadline) {
+                                            const QDeadlineTimer &deadline, QHostAddress *reached) {
     for (qsizetype i = 0; i < endpoints.size(); ++i) {
         Socket socket(endpoints[i].address.protocol(), SOCK_STREAM);
         const QDeadlineTimer share(deadline.remainingTimeAsDuration() / (endpoints.size() - i));
-        if (connectSocket(socket, endpoints[i], share))
-            return std::make_unique<TcpTransport>(std::move(socket));
+        if (!connectSocket(socket, endpoints[i], share)) continue;
+        if (reached) *reached = endpoints[i].address;
+        return std::make_unique<TcpTransport>(std::move(socket));
     }
     return nullptr;
 }

@@ -76,9 +76,10 @@ struct Endpoint {
 };
 
 // Opens a stream to the first endpoint that accepts, each with an equal share of the time; null
-// when none does.
+// when none does. `reached`, where given, becomes the address of that endpoint.
 std::unique_ptr<Transport> openTcpTransport(const QList<Endpoint> &endpoints,
-                                            const QDeadlineTimer &deadline);
+                                            const QDeadlineTimer &deadline,
+                                            QHostAddress *reached = nullptr);
 
 // The same for a name or an address ("fe80::1%eth0") and a port.
 std::unique_ptr<Transport> openTcpTransport(const QString &host, quint16 port,

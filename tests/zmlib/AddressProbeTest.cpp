@@ -80,6 +80,11 @@ TEST(AddressProbe, AnAnswerOnEitherWayCountsAndSilenceEnds) {
         EXPECT_LT(taken, longestSilence) << c.snmp;
         EXPECT_FALSE(answersAtAddress(QHostAddress::AnyIPv4, QDeadlineTimer(shortly), ports));
     }
+    for (const char *one : {"1.0.0.0", "127.0.0.1", "223.255.255.255", "::1", "fe80::1%lo"})
+        EXPECT_TRUE(isOfOneMachine(QHostAddress(QLatin1String(one)))) << one;
+    for (const char *none : {"", "0.0.0.0", "0.1.2.3", "224.0.0.1", "240.0.0.1", "255.255.255.255",
+                             "::", "ff02::fb", "::ffff:0.0.0.0", "::ffff:224.0.0.1"})
+        EXPECT_FALSE(isOfOneMachine(QHostAddress(QLatin1String(none)))) << none;
 }
 
 }  // namespace

@@ -40,7 +40,6 @@ class Network : public testing::Test, protected LibraryCalls {
 
 TEST_F(Network, PrintersAreFoundReadWhereTheyAreNowAndFollowed) {
     startAll();
-    limits.firstLook = std::chrono::milliseconds(limit);
     const auto printer = printerOf(R"({"items": {"0x1006": "AB"}})");
     const bool isThereIPv6 = QTcpServer().listen(QHostAddress::LocalHostIPv6);
     const PrinterServerThread here(printer),
@@ -52,9 +51,16 @@ TEST_F(Network, PrintersAreFoundReadWhereTheyAreNowAndFollowed) {
     const QString line = u"127.0.0.1|Goods in / 50% & 倉 #1|Network|%1|Larkfield L400"_s.arg(uri);
     const QList<QByteArray> texts{"usb_MFG=Larkfield", "usb_MDL=L400", "ty=Another"};
     ASSERT_TRUE(bed.announce("it", {{.name = name, .port = here.port(), .texts = texts}}));
+    NetworkSource source({.firstLook = std::chrono::milliseconds(limit)});
+    source.list();
+    EXPECT_FALSE(source.isSettled()) << "the first list waited";
     const QDeadlineTimer deadline(limit);
-    EXPECT_EQ(listed(), line) << "the first list did not wait";
-    EXPECT_FALSE(deadline.hasExpired()) << "waited although all was known";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return source.isSettled(); }, limit));
+    EXPECT_FALSE(deadline.hasExpired()) << "not settled although all was known";
+    EXPECT_EQ(source.list().entries.size(), 1);
+    EXPECT_EQ(source.open(uri + u"&host=bed.local"_s, deadline).address, u"127.0.0.1"_s);
+    EXPECT_FALSE(source.lists(uri + u"&host=other.local"_s));
+    EXPECT_TRUE(comesToList(line));
 
     const auto reads = [&] {
         return status() == 1 && engage() == 0 && get() == 0 && finish() == 0 && reply == nameAB;
@@ -77,7 +83,8 @@ TEST_F(Network, TheServiceThatTellsMayComeAndGo) {
     const auto isMissedAtOnce = [&] {
         const QDeadlineTimer deadline(limit);
         NetworkSource patient({.firstLook = std::chrono::milliseconds(limit)});
-        return patient.list() == Listing{{}, {missing}} && !deadline.hasExpired();
+        return QTest::qWaitFor([&] { return patient.isSettled(); }, limit) &&
+               patient.list() == Listing{{}, {missing}} && !deadline.hasExpired();
     };
     EXPECT_TRUE(isMissedAtOnce()) << "waited for a bus";
     EXPECT_TRUE(comesToList(line)) << "without a bus";
@@ -93,20 +100,76 @@ TEST_F(Network, TheServiceThatTellsMayComeAndGo) {
     }
 }
 
+TEST_F(Network, AServiceThatHangsIsNamedAndHoldsNobody) {
+    startAll();
+    limits.firstLook = std::chrono::milliseconds(limit);
+    limits.silentAfter = limits.pingAfter = std::chrono::milliseconds(100);
+    const QString line = lineOf(u"A"_s, {});
+    ASSERT_TRUE(bed.announce("it", {{.name = "A"}}));
+    EXPECT_TRUE(comesToList(line));
+    bed.hangDaemon();
+    const PrinterProblem silent{PrinterProblem::SilentNetworkService, {}};
+    EXPECT_TRUE(comesToList(line + u'\n' + QString::number(silent.kind)));
+    const QDeadlineTimer deadline(limit);
+    {
+        NetworkSource later(limits);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return later.isSettled(); }, limit));
+        EXPECT_EQ(later.list(), (Listing{{}, {silent}}));
+    }
+    EXPECT_FALSE(deadline.hasExpired()) << "its end waited for the service";
+    bed.resumeDaemon();
+    EXPECT_TRUE(comesToList(line));
+}
+
+TEST_F(Network, AListIsNotSettledBeforeItHasMorePrintersThanCanBeAskedAtOnce) {
+    startAll();
+    constexpr int printers = 600, printersInAGroup = 100;  // more keep the daemon busy for long
+    for (int i = 0; i < printers;) {
+        QList<NetworkBed::Announcement> group;
+        do group.append({.name = "C" + QByteArray::number(i)});
+        while (++i % printersInAGroup != 0);
+        ASSERT_TRUE(bed.announce(QByteArray::number(i), group));
+    }
+    const std::chrono::milliseconds patient(limit);
+    NetworkSource source({.firstLook = patient, .silentAfter = patient});
+    const auto isComplete = [&] {
+        const bool isSettled = source.isSettled();
+        const Listing listing = source.list();
+        const bool areAll = listing.entries.size() == printers && listing.problems.isEmpty();
+        EXPECT_TRUE(areAll || !isSettled) << listing.entries.size();
+        return areAll;
+    };
+    EXPECT_TRUE(QTest::qWaitFor(isComplete, limit));
+}
+
 TEST_F(Network, OddAndManyAnnouncementsAreListedAsFarAsTheyCanBeReached) {
     startAll(25);
+    // The questions that nobody answers are more than may be under way.
+    constexpr int unanswered = 30;
     limits.questionsAtOnce = 20;
+    limits.firstLook = std::chrono::milliseconds(limit);
     const QByteArray longest = QByteArray("\xe5\x80\x89").repeated(21);  // bytes: 63
     ASSERT_TRUE(bed.announce(
         "odd", {{.name = "B", .texts = {QByteArray("\0\xff=\0", 4), "=", "TY=(x)", "ty=y"}},
                 {.name = longest, .texts = {"product=(Larkfield L200)", QByteArray(255, 'x')}},
-                {.name = "nobody", .texts = {"ty=z"}, .host = "nobody.local"}}));
+                {.name = "zero", .host = "zero.local", .address = QByteArray(4, '\0')}}));
     QList<NetworkBed::Announcement> many;
+    for (int i = 1; i < unanswered; ++i)
+        many.append({.name = "A" + QByteArray::number(i), .host = "nobody.local"});
     for (int i = 0; i < 40; ++i) many.append({.name = "C" + QByteArray::number(1000 + i)});
     ASSERT_TRUE(bed.announce("many", many));
-    const auto areThere = [&] { return library().ZMCreatePrinterURI()->size() == 42; };
+    NetworkSource source(limits);
+    QStringList lines;
+    const auto areThere = [&] {
+        lines.clear();
+        for (const PrinterEntry &entry : source.list().entries)
+            lines << QStringList(entry.values()).join(u'|');
+        return lines.size() == 42;
+    };
     ASSERT_TRUE(QTest::qWaitFor(areThere, limit));
-    const QStringList lines = listed().split(u'\n');
+    EXPECT_FALSE(source.isSettled()) << "waited for the others";
+    const PrinterProblem others{PrinterProblem::NotLocated, QString::number(unanswered)};
+    EXPECT_EQ(source.list().problems, QList{others});
     EXPECT_EQ(lines[0], lineOf(u"B"_s, u"(x)"_s));
     EXPECT_EQ(lines[1], lineOf(u"C1000"_s, {}));
     EXPECT_TRUE(lines[41].endsWith(u"|Larkfield L200"_s)) << qPrintable(lines[41]);

@@ -28,7 +28,7 @@ const char *const busConfiguration = R"(<!DOCTYPE busconfig PUBLIC
 const QByteArray daemonConfiguration =
     "[server]\nallow-interfaces=lo\nuse-ipv4=yes\nuse-ipv6=yes\nenable-dbus=yes\n"
     "ratelimit-interval-usec=1000000\nratelimit-burst=10000\n"
-    "cache-entries-max=65536\nentries-per-entry-group-max=65536\n"
+    "entries-per-entry-group-max=65536\n"
     "[wide-area]\nenable-wide-area=no\n[rlimits]\n"
     // It would look for a second whether another machine has its name.
     "[publish]\npublish-workstation=no\npublish-addresses=no\npublish-hinfo=no\n"
@@ -91,7 +91,8 @@ bool add(AvahiEntryGroup *group, const NetworkBed::Announcement &printer) {
                domainName({printer.name, "_pdl-datastream", "_tcp", "local"}), 0) &&
            add(group, name.data(), AVAHI_DNS_TYPE_SRV, place + domainName(host.split('.'))) &&
            add(group, name.data(), AVAHI_DNS_TYPE_TXT,
-               printer.texts.isEmpty() ? QByteArray(1, '\0') : counted(printer.texts));
+               printer.texts.isEmpty() ? QByteArray(1, '\0') : counted(printer.texts)) &&
+           (printer.address.isEmpty() || add(group, host, AVAHI_DNS_TYPE_A, printer.address));
 }
 
 }  // namespace
@@ -177,6 +178,20 @@ void NetworkBed::stopDaemon() {
     m_daemon.kill();
     m_daemon.waitForFinished();
     m_announced.clear();
+}
+
+void NetworkBed::hangDaemon() const {
+    signalDaemon(SIGSTOP);
+}
+
+void NetworkBed::resumeDaemon() const {
+    signalDaemon(SIGCONT);
+}
+
+// All that was started has become the daemon, so its process id is the daemon's.
+void NetworkBed::signalDaemon(int signal) const {
+    const auto daemon = static_cast<pid_t>(m_daemon.processId());
+    if (daemon > 0) ::kill(daemon, signal);
 }
 
 bool NetworkBed::announceThisMachine() {

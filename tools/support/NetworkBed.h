@@ -16,16 +16,21 @@ class NetworkBed {
     NetworkBed(const NetworkBed &) = delete;
     NetworkBed &operator=(const NetworkBed &) = delete;
 
-    // True when they run and answer. The daemon lets a program have so many objects.
+    // True when they run and answer. The daemon lets a program have so many objects; its limits are
+    // the ones that it comes with.
     bool startBus();
     bool startDaemon(int objects = 1024);
     void stopDaemon();
+    // Lets the daemon hang, and go on. Nothing can be announced or withdrawn meanwhile.
+    void hangDaemon() const;
+    void resumeDaemon() const;
 
     struct Announcement {
         QByteArray name;
         quint16 port = 9100;
         QList<QByteArray> texts = {};
-        QByteArray host = {};  // empty: this machine
+        QByteArray host = {};     // empty: this machine
+        QByteArray address = {};  // IPv4, of that host, which then is announced by this one alone
     };
     // Announces printers until they are withdrawn, as one, or the daemon stops. False when the
     // daemon takes one of them not.
@@ -36,6 +41,7 @@ class NetworkBed {
     static const QTemporaryDir &folder();
     bool start(QProcess &process, const QString &program, const QStringList &arguments);
     bool announceThisMachine();
+    void signalDaemon(int signal) const;
 
     QProcess m_bus, m_daemon;
     struct Announced;
