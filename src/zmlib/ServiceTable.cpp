@@ -99,8 +99,9 @@ qsizetype ServiceTable::notLocated() const {
 }
 
 bool ServiceTable::contains(const QString &uri) const {
-    const auto [service, host] = serviceAndHostOf(uri);
-    const auto found = m_services.find(service);
+    const auto serviceAndHost = serviceAndHostOf(uri);
+    const auto found = m_services.find(serviceAndHost.first);
+    const auto &host = serviceAndHost.second;
     if (found == m_services.end() || !host) return found != m_services.end();
     const auto isThere = [&](const auto &entry) {
         return entry.second.answer && entry.second.answer->host == *host;

@@ -131,7 +131,13 @@ class ServiceTable {
         bool isLocated;  // its service has an answer
         int protocol;    // IPv4 is the lesser
         quint64 number;  // of the question
-        auto operator<=>(const Turn &) const = default;
+        bool operator<(const Turn &other) const {
+            const auto ranks = [](const Turn &one) {
+                return std::tie(one.canWait, one.wasInVain, one.isLocated, one.protocol,
+                                one.number);
+            };
+            return ranks(*this) < ranks(other);
+        }
     };
     struct Sighting {
         std::optional<Turn> turn = {};         // of the question that is queued
