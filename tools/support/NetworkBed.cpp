@@ -150,9 +150,10 @@ bool NetworkBed::startBus() {
     return QFile::exists(bus);
 }
 
-bool NetworkBed::startDaemon(int objects) {
+bool NetworkBed::startDaemon(int objects, int cached) {
     write(folder().filePath(QStringLiteral("avahi.conf")),
-          daemonConfiguration + QByteArray::number(objects) + '\n');
+          daemonConfiguration + QByteArray::number(objects) +
+              "\ncache-entries-max=" + QByteArray::number(cached) + '\n');
     QStringList arguments{QStringLiteral("--mount"), QStringLiteral("--net")};
     if (::geteuid() != 0)
         arguments << QStringLiteral("--user") << QStringLiteral("--map-root-user");

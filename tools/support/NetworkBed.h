@@ -16,10 +16,10 @@ class NetworkBed {
     NetworkBed(const NetworkBed &) = delete;
     NetworkBed &operator=(const NetworkBed &) = delete;
 
-    // True when they run and answer. The daemon lets a program have so many objects; its limits are
-    // the ones that it comes with.
+    // True when they run and answer. The daemon lets a program have so many objects and
+    // keeps so many records of others; by default as many as it comes with.
     bool startBus();
-    bool startDaemon(int objects = 1024);
+    bool startDaemon(int objects = 1024, int cached = 4096);
     void stopDaemon();
     // Lets the daemon hang, and go on. Nothing can be announced or withdrawn meanwhile.
     void hangDaemon() const;
