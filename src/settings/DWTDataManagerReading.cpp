@@ -46,7 +46,7 @@ int DWTDataManager::setupDataFromPrinter(int, const Progress &progress) {
 
 std::optional<QList<SSIDEntry>> DWTDataManager::SSIDList(const Progress &progress) {
     if (!ncc_Object || ncc_Object->connectPrinter(0) != 0) return {};
-    const auto networks = NDM_DataToSSIDArray(progress);
+    auto networks = NDM_DataToSSIDArray(progress);
     ncc_Object->disconnectPrinter(0);
     return networks;
 }

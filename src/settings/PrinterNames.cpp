@@ -10,6 +10,8 @@
 #include "settings/Printers.h"
 
 struct PrinterNames::Question {
+    explicit Question(PrinterEntry asked) : entry(std::move(asked)) {}
+
     const PrinterEntry entry;
     std::atomic<bool> isLeft = false;  // nobody waits for the answer any more
     std::atomic<bool> hasEnded = false;
