@@ -1,5 +1,3 @@
-#include <QLabel>
-
 #include "SelectionWindow.h"
 #include "app/PrinterList.h"
 #include "support/PluggedSource.h"
@@ -10,11 +8,13 @@ class List : public SelectionWindow {
   protected:
     bool canOpen() { return control("button_PrinterlistOK")->isEnabled(); }
     int rows() { return walk.list()->model()->rowCount(); }
+    QString cell(int row, int column = 0, int role = Qt::DisplayRole) {
+        return walk.list()->model()->index(row, column).data(role).toString();
+    }
     // Every cell of the list.
     QString listed() {
         QStringList cells;
-        for (int i = 0; i < 2 * rows(); ++i)
-            cells << walk.list()->model()->index(i / 2, i % 2).data().toString();
+        for (int i = 0; i < 2 * rows(); ++i) cells << cell(i / 2, i % 2);
         return cells.join(u'|');
     }
     // Waits until nothing is looked for any more.
@@ -36,9 +36,7 @@ TEST_F(List, ShowsPrintersAndWhatTellsThemApart) {
     EXPECT_TRUE(all.startsWith(text("Packing-Desk|USB|"))) << qPrintable(all);
     EXPECT_TRUE(all.endsWith(text("|Goods in (first floor)|Network"))) << qPrintable(all);
     QStringList details;
-    for (int row = 0; row < rows(); ++row)
-        details
-            << walk.list()->model()->index(row, 0).data(Qt::AccessibleDescriptionRole).toString();
+    for (int row = 0; row < rows(); ++row) details << cell(row, 0, Qt::AccessibleDescriptionRole);
     EXPECT_EQ(details.join(u'|'),
               text("Larkfield L200 · serial number A2E0117|Larkfield L400 · serial number B4E0052|"
                    "Larkfield L200 · USB port 1-2|Larkfield L200 · serial number A2E0243|"
@@ -170,22 +168,21 @@ TEST_F(List, RowsCanBeUsedWhilePrintersAreAskedForTheirNames) {
         keys("Ctrl+Q");
     }));
     walk.selector->applicationDidFinishLaunching();
-    const auto nameOf = [&](int row) {
-        return walk.list()->model()->index(row, 0).data().toString();
+    const auto comes = [this](int row, const char *name) {
+        return QTest::qWaitFor([&] { return cell(row) == text(name); });
     };
     EXPECT_EQ(rows(), 5);
     EXPECT_FALSE(QApplication::activeModalWidget());
-    EXPECT_EQ(nameOf(4), text("Goods in (first floor)"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return nameOf(0) == text("Packing-Desk"); }));
-    EXPECT_EQ(nameOf(1), text("Asking for the name…"));
+    EXPECT_EQ(cell(4), text("Goods in (first floor)"));
+    EXPECT_TRUE(comes(0, "Packing-Desk"));
+    EXPECT_EQ(cell(1), text("Asking for the name…"));
     EXPECT_TRUE(walk.open(text("Packing-Desk")));
     walk.press("button_MainCancel");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return nameOf(1) == text("Does not answer"); }));
+    EXPECT_TRUE(comes(1, "Does not answer"));
     printer("dispatch").setFaults({});
     EXPECT_TRUE(walk.open(text("Does not answer")));
     walk.press("button_MainCancel");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return nameOf(1) == text("Dispatch"); }))
-        << "not asked again";
+    EXPECT_TRUE(comes(1, "Dispatch")) << "not asked again";
 }
 
 }  // namespace

@@ -35,16 +35,6 @@ class SelectionWindow : public testing::Test {
         expectKeyboard();
         QTest::keyClicks(hasTheFocus, text(typed));
     }
-    // Cancels what the action waits for as soon as the condition holds.
-    static void cancel(const std::function<void()> &action,
-                       const std::function<bool(QWidget *wait)> &condition) {
-        const DuringWait cancelling([&](QWidget *wait) {
-            const bool now = condition(wait);
-            if (now) press(wait, "button_WaitCancel");
-            return now;
-        });
-        action();
-    }
     // Runs the action inside the event loop; true when it makes the application quit.
     static bool quits(const std::function<void()> &action) {
         constexpr int goesOn = 77;

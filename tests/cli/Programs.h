@@ -2,12 +2,9 @@
 
 #include <QDir>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 #include <cstdio>
-#include <memory>
-#include <vector>
 
 #include "cli/Commands.h"
 #include "link/Binding.h"

@@ -34,11 +34,7 @@ class InfrastructurePage : public PageTest<DWTInfrastructureView> {
 TEST_F(InfrastructurePage, EveryAuthenticationOffersItsEncryptionsAndKeyFields) {
     const struct {
         const char *before;  // the encryption chosen last
-        const char *authentic;
-        const char *code;  // of it
-        const char *offered;
-        const char *encryption;
-        const char *encryptionCode;
+        const char *authentic, *code, *offered, *encryption, *encryptionCode;
         bool key, wep;  // fields that are then usable
     } cases[] = {{"AES", "WPA-Personal", "2", "TKIP AES", "AES", "3", true, false},
                  {"TKIP", "WPA2-Personal", "3", "TKIP AES", "TKIP", "2", true, false},
@@ -49,17 +45,17 @@ TEST_F(InfrastructurePage, EveryAuthenticationOffersItsEncryptionsAndKeyFields) 
                  {"AES", "Shared key", "1", "None WEP", "WEP", "1", false, true},
                  {"None", "WPA-Personal", "2", "TKIP AES", "AES", "3", true, false}};
     for (const auto &c : cases) {
+        SCOPED_TRACE(std::string(c.before) + ' ' + c.authentic);
         choose(encryption(), c.before);
         choose(authentic(), c.authentic);
         QStringList offered;
         for (int i = 0; i < encryption()->count(); ++i) offered << encryption()->itemText(i);
-        EXPECT_EQ(offered.join(u' '), text(c.offered)) << c.before << " " << c.authentic;
-        EXPECT_EQ(encryption()->currentText(), text(c.encryption)) << c.before << c.authentic;
+        EXPECT_EQ(offered.join(u' '), text(c.offered));
+        EXPECT_EQ(encryption()->currentText(), text(c.encryption));
         EXPECT_EQ(stored("wireless.authentication"), text(c.code));
         EXPECT_EQ(stored("wireless.encryption"), text(c.encryptionCode));
         EXPECT_TRUE(psk()->isEnabled() == c.key && wepKey()->isEnabled() == c.wep &&
-                    keyNumber()->isEnabled() == c.wep)
-            << c.before << " " << c.authentic;
+                    keyNumber()->isEnabled() == c.wep);
         page->enableAllItems(true);
         EXPECT_EQ(psk()->isEnabled(), c.key) << "enabling all enables what is not used";
     }
@@ -69,9 +65,8 @@ TEST_F(InfrastructurePage, EveryAuthenticationOffersItsEncryptionsAndKeyFields) 
 
 TEST_F(InfrastructurePage, ANetworkOfTheListFillsThePageWithItsSecurity) {
     const struct {
-        int authentic, encryption;  // as the list says
-        const char *shownAuthentic, *shownEncryption;
-        const char *code;  // of the encryption, in the change data
+        int authentic, encryption;                            // as the list says
+        const char *shownAuthentic, *shownEncryption, *code;  // the code of the encryption
     } cases[] = {{0, 0, "Open system", "None", "0"},   {0, 1, "Open system", "WEP", "1"},
                  {1, 2, "WPA-Personal", "TKIP", "2"},  {2, 3, "WPA2-Personal", "AES", "3"},
                  {3, 4, "WPA2-Personal", "AES", "3"},  {0, 3, "Open system", "WEP", "1"},

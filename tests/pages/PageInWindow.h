@@ -9,7 +9,6 @@
 #include "pages/DWTWirelessView.h"
 #include "platform/core/NotificationCenter.h"
 #include "platform/core/Texts.h"
-#include "settings/Plan.h"
 #include "support/DataManagers.h"
 #include "support/DialogScript.h"
 

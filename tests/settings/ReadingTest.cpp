@@ -68,55 +68,42 @@ TEST(ReadingResults, ConnectResultsAreHandedOnAndWithoutALinkNothingExists) {
     EXPECT_EQ(plain->setupDataFromChangeData(DWT_View_Key_Network), std::nullopt);
 }
 
-TEST(Scan, ReadsAsManyBlocksAsNetworksWereFound) {
-    const std::pair<int, QString> cases[] = {{0, {}},
-                                             {5, u"?3121 "_s},
-                                             {6, u"?3121 ?3122 "_s},
-                                             {11, u"?3121 ?3122 ?3123 "_s},
-                                             {16, u"?3121 ?3122 ?3123 ?3124 "_s},
-                                             {25, u"?3121 ?3122 ?3123 ?3124 "_s}};
-    for (const auto &[found, blocks] : cases) {
-        QByteArrayList networks;
-        for (int i = 0; i < found; ++i)
-            networks << R"({"ssid": "N)" + QByteArray::number(i) + R"("})";
-        ServedManager m(R"({"scanPolls": 0, "networks": [)" + networks.join(',') + "]}");
-        const auto list = m.manager->SSIDList();
-        ASSERT_TRUE(list) << found;
-        EXPECT_EQ(list->size(), std::min(found, 20));
-        for (qsizetype i = 0; i < list->size(); ++i)
-            EXPECT_EQ(bytesValue(list->at(i), DWT_SSIDList_SSID), "N" + QByteArray::number(i));
-        EXPECT_EQ(m.served.receivedUntilEnd(), u"start =3120 ?3120 "_s + blocks + u"update end"_s);
-    }
-}
-
-TEST(Scan, EndsWithWhatThePrinterFoundOrWithNothing) {
+TEST(Scan, ReadsAsManyBlocksAsNetworksWereFoundAndEndsWithThemOrWithNothing) {
+    constexpr int all = DWTDataManager::scanPolls;
+    const char *const atOnce = R"("scanPolls": 0)";
+    const char *const silentBlock =
+        R"("scanPolls": 0, "faults": {"items": {"0x3122": {"noReply": true}}})";
     const struct {
-        const char *profile;  // of a printer with six networks
-        std::optional<int> networks;
+        const char *profile;
+        int found;
+        std::optional<int> listed;
         int polls;
         const char *blocks;
     } cases[] = {
-        {R"("scanPolls": 1)", 6, 2, " ?3121 ?3122"},
-        {R"("scanPolls": 1000)", {}, DWTDataManager::scanPolls, ""},
-        {R"("scanPolls": 0, "faults": {"items": {"0x3120": {"noReply": true}}})", {}, 1, ""},
-        {R"("faults": {"items": {"0x3120": {"code": "0x7777"}}})",
-         {},
-         DWTDataManager::scanPolls,
-         ""},
-        {R"("scanPolls": 0, "faults": {"items": {"0x3122": {"noReply": true}}})",
-         {},
-         1,
-         " ?3121 ?3122"}};
+        {atOnce, 0, 0, 1, ""},
+        {atOnce, 5, 5, 1, " ?3121"},
+        {atOnce, 6, 6, 1, " ?3121 ?3122"},
+        {atOnce, 11, 11, 1, " ?3121 ?3122 ?3123"},
+        {atOnce, 16, 16, 1, " ?3121 ?3122 ?3123 ?3124"},
+        {atOnce, 25, 20, 1, " ?3121 ?3122 ?3123 ?3124"},
+        {R"("scanPolls": 1)", 6, 6, 2, " ?3121 ?3122"},
+        {R"("scanPolls": 1000)", 6, {}, all, ""},
+        {R"("scanPolls": 0, "faults": {"items": {"0x3120": {"noReply": true}}})", 6, {}, 1, ""},
+        {R"("faults": {"items": {"0x3120": {"code": "0x7777"}}})", 6, {}, all, ""},
+        {silentBlock, 6, {}, 1, " ?3121 ?3122"}};
     for (const auto &c : cases) {
-        const QByteArray six = QByteArray(R"(,{"ssid": "N"})").repeated(6).mid(1);
-        ServedManager m(R"({"networks": [)" + six + "], " + c.profile + '}');
+        QByteArrayList networks;
+        for (int i = 0; i < c.found; ++i)
+            networks << R"({"ssid": "N)" + QByteArray::number(i) + R"("})";
+        ServedManager m(R"({"networks": [)" + networks.join(',') + "], " + c.profile + '}');
         m.manager->setScanInterval(20ms);
         QElapsedTimer clock;
         clock.start();
-        const auto found = m.manager->SSIDList();
+        const auto list = m.manager->SSIDList();
         EXPECT_GE(clock.elapsed(), 20 * (c.polls - 1)) << c.profile;
-        EXPECT_EQ(found ? std::optional(int(found->size())) : std::nullopt, c.networks)
-            << c.profile;
+        ASSERT_EQ(list ? std::optional(int(list->size())) : std::nullopt, c.listed) << c.profile;
+        for (qsizetype i = 0; list && i < list->size(); ++i)
+            EXPECT_EQ(bytesValue(list->at(i), DWT_SSIDList_SSID), "N" + QByteArray::number(i));
         EXPECT_EQ(m.served.received(), u"start =3120"_s + u" ?3120"_s.repeated(c.polls) +
                                            QLatin1String(c.blocks) + u" update end"_s);
     }

@@ -73,11 +73,11 @@ TEST_P(Send, WritesEveryItemInOrderAndKeepsAllButSecrets) {
         EXPECT_EQ(steps, everyStep);
         for (const ItemRow &row : itemRows()) {
             if (row.frame.isNull() || row.code == unused || row.code == 0x3103) continue;
-            EXPECT_EQ(sent.value(row.code), row.frame) << row.values;
+            SCOPED_TRACE(row.values);
+            EXPECT_EQ(sent.value(row.code), row.frame);
             for (const auto &[setting, value, place, fault] : valuesOf(row.values))
                 EXPECT_EQ(m->manager->savedData()[setting->viewKey].value(setting->key) == value,
-                          !itemOf(row.code)->isSecret)
-                    << row.values;
+                          !itemOf(row.code)->isSecret);
         }
         EXPECT_EQ(m->printer().password(), QByteArray("abcd1234"));
     }
@@ -89,8 +89,8 @@ TEST_P(Send, WhatWasNotChangedGoesBackAsTheBytesThatCame) {
     EXPECT_EQ(sent.take(0x1005), QByteArray("Caf\xe9\0", 5));
     for (const ItemRow &row : itemRows()) {
         if (row.code == 0x1005) continue;
-        EXPECT_EQ(sent.value(row.code), row.reply.isNull() ? QByteArray() : row.frame)
-            << row.values;
+        const QByteArray frame = row.reply.isNull() ? QByteArray() : row.frame;
+        EXPECT_EQ(sent.value(row.code), frame) << row.values;
     }
 }
 
