@@ -20,7 +20,8 @@ constexpr int printersInAGroup = 200;  // more of them at once take the daemon l
 void listing(benchmark::State &state) {
     const auto printers = static_cast<int>(state.range(0));
     NetworkBed bed;
-    if (!bed.startBus() || !bed.startDaemon(1024, 65536)) return state.SkipWithError("no avahi-daemon");
+    if (!bed.startBus() || !bed.startDaemon(1024, 65536))
+        return state.SkipWithError("no avahi-daemon");
     NetworkSource source;
     for (int i = 0; i < printers; i += printersInAGroup) {
         QList<NetworkBed::Announcement> group;

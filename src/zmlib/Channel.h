@@ -16,7 +16,6 @@
 // after ZMLib::Closed the channel is of no use.
 class Channel {
   public:
-
     // Longest time for the end frame of a transaction that is given up.
     static constexpr std::chrono::milliseconds abandonWithin{200};
 
