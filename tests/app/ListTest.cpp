@@ -1,5 +1,4 @@
 #include "SelectionWindow.h"
-#include "app/PrinterList.h"
 #include "support/PluggedSource.h"
 
 namespace {

@@ -151,6 +151,7 @@ TEST(Commands, EndWithTheCodeOfWhatHappened) {
          R"("line":1,"message":"A whole number from 30 to 300 is expected.","name":"device.timeout"})"
          "\n"
          R"({"code":2,"file":"f.json","line":2,"message":)"},
+        {R"({"faults": {"refuseConnection": true}})", "show S1", "", NotReached, "be reached"},
         {R"({"faults": {"closeAfterFrames": 9}})", yes, name, NotReached, "answering"},
         {"{}", "apply S1 f.json", name, UsedWrongly, "--yes"},
         // More than one printer has the name: all are named.

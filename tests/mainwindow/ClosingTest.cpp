@@ -18,8 +18,7 @@ class Closing : public PrinterWindow {
 TEST_F(Closing, UnsentChangesAreAskedAboutHoweverTheWindowIsLeft) {
     const struct {
         const char *typed, *button;
-        bool open[3];  // afterwards, by entry
-        bool quits;
+        bool open[3], quits;  // afterwards, open by entry
         const char *held;
     } cases[] = {
         {"new-name", "button_SendChangeCheckCancel", {true, true, true}, false, "label-printer"},

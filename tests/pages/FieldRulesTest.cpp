@@ -15,34 +15,34 @@ const char *const manual =
     R"("0x2001": )" SETUP R"(, "0x3108": )" SETUP R"(, "0x3104": "Café", "0x3102": 3, "0x3103": 3)";
 const char *const wep = R"("0x3104": "Lager", "0x3102": 1, "0x3103": 1)";
 
-// Which texts a field accepts, and what the alert says of the others: the field's name, and the
-// explanation's key without its common parts.
+// Which texts a field accepts and stores, and what the alert says of the others: the setting's
+// label, and the explanation's key without its common parts.
 const struct {
     std::shared_ptr<DWTBaseView> (*page)();
-    const char *items, *field, *name, *explanation, *good, *bad;
+    const char *items, *field, *setting, *explanation, *good, *bad;
 } fields[] = {
-    {a<DWTNetworkView>, "", "textField_NetworkPrinterName", "Printer name", "PrinterName",
+    {a<DWTNetworkView>, "", "textField_NetworkPrinterName", "names.printer", "PrinterName",
      "31*a|my-printer|Z9", "32*a|my_printer|my printer|"},
-    {a<DWTNetworkView>, "", "textField_NetworkBonjour", "Bonjour name", "BonjourName", "25*B|-",
+    {a<DWTNetworkView>, "", "textField_NetworkBonjour", "names.bonjour", "BonjourName", "25*B|-",
      "26*B|a.b|"},
-    {a<DWTNetworkView>, "", "textField_NetworkBonjourService", "Bonjour service name",
+    {a<DWTNetworkView>, "", "textField_NetworkBonjourService", "names.service",
      "BonjourServiceName", "31*~|a ~!\"\\`{}", "32*~|é|"},
-    {a<DWTEthernetView>, manual, "textField_EthernetIpAddress", "IP address", "IpAddress",
+    {a<DWTEthernetView>, manual, "textField_EthernetIpAddress", "wired.address.ip", "IpAddress",
      "10.0.0.9", "127.0.0.1|1.2.3|"},
-    {a<DWTEthernetView>, manual, "textField_EthernetSubnetMask", "Subnet mask", "Subnetmask",
+    {a<DWTEthernetView>, manual, "textField_EthernetSubnetMask", "wired.address.mask", "Subnetmask",
      "127.0.0.1", "1.2.3"},
-    {a<DWTEthernetView>, manual, "textField_EthernetDefaultGateway", "Default gateway", "Router",
-     "127.0.0.1", "0.0.0.0|65536*1"},
-    {a<DWTInfrastructureView>, manual, "textField_InfrastructureSSID", "Network name (SSID)",
+    {a<DWTEthernetView>, manual, "textField_EthernetDefaultGateway", "wired.address.gateway",
+     "Router", "127.0.0.1", "0.0.0.0|65536*1"},
+    {a<DWTInfrastructureView>, manual, "textField_InfrastructureSSID", "wireless.ssid",
      "Infrastructure_SSID", "32*s| |Café", "33*s|名前|"},  // the printer's own is not checked
-    {a<DWTInfrastructureView>, manual, "textField_InfrastructurePSK", "WPA key", "PSK",
+    {a<DWTInfrastructureView>, manual, "textField_InfrastructurePSK", "wireless.key", "PSK",
      "63*~|8 chars.", "7*k|64*k|schlüssel|"},
-    {a<DWTInfrastructureView>, wep, "textField_InfrastructureWEPKey", "WEP key", "WEPKey",
+    {a<DWTInfrastructureView>, wep, "textField_InfrastructureWEPKey", "wireless.wepKey", "WEPKey",
      "abc e|26*F", "abcdef|65536*F|"},
-    {a<DWTSimpleAPView>, "", "textField_SimpleAPSSID", "Network name (SSID) of the access point",
-     "SimpleAP_SSID", "25*s", "26*s|Büro|"},
-    {a<DWTSimpleAPView>, "", "textField_SimpleAPPSK", "WPA key of the access point", "PSK",
-     "63* |8*k", "64*k|7*k|"}};
+    {a<DWTSimpleAPView>, "", "textField_SimpleAPSSID", "accessPoint.ssid", "SimpleAP_SSID", "25*s",
+     "26*s|Büro|"},
+    {a<DWTSimpleAPView>, "", "textField_SimpleAPPSK", "accessPoint.key", "PSK", "63* |8*k",
+     "64*k|7*k|"}};
 
 QString explanationOf(const char *name) {
     return localized(text("DWT_Localize_Alert_InfoText_%1_InputErr").arg(text(name)));
@@ -52,14 +52,17 @@ TEST(FieldRules, EveryFieldAcceptsWhatThePrinterDoesAndSaysWhatItDoesNot) {
     for (const auto &f : fields) {
         const auto page = f.page();
         PageInWindow shown(page, f.items);
+        const QString label = settingOf(text(f.setting))->label();
         for (const QString &good : texts(f.good)) {
             shown.type(f.field, good);
             EXPECT_EQ(shown.alertsOf(true), QStringList()) << f.field << " " << qPrintable(good);
+            QTest::keyClick(shown.control(f.field), Qt::Key_Return);
+            EXPECT_TRUE(readableText(shown.stored(f.setting)).contains(good)) << f.setting;
         }
         for (const QString &bad : texts(f.bad)) {
             shown.type(f.field, bad);
-            EXPECT_EQ(shown.alertsOf(false), QStringList{text(f.name) + text(" cannot be used")})
-                << f.field << " " << qPrintable(bad.left(80));
+            EXPECT_EQ(shown.alertsOf(false), QStringList{label + text(" cannot be used")})
+                << qPrintable(bad.left(80));
             EXPECT_TRUE(shown.explanation.endsWith(explanationOf(f.explanation))) << f.field;
             const bool critical = page->viewKey() == DWT_View_Key_Ethernet;
             EXPECT_EQ(shown.style, critical ? QMessageBox::Critical : QMessageBox::Warning);

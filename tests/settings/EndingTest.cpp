@@ -114,19 +114,4 @@ TEST(Endings, SayOfEverySettingWhatThePrinterWasSeenToHave) {
     }
 }
 
-TEST(Endings, APersonCanStopAChangeAndAPrinterAReading) {
-    ServedManager m("{}");
-    Session session(m.served.entry());
-    session.read();
-    m.served.received();
-    const Plan plan = planOf(session.record(), valuesOf("names.bonjour=desk"));
-    const auto none = [] { return std::nullopt; };
-    EXPECT_EQ(asText(session.change(plan, none, [] { return false; }), plan), "Stopped:");
-    EXPECT_FALSE(m.served.received().contains(u'='));
-    m.setFaults(R"({"items": {"0x3000": {"noReply": true}}})");
-    EXPECT_EQ(session.read(), Session::Reading::StoppedAnswering);
-    m.setFaults(R"({"refuseConnection": true})");
-    EXPECT_EQ(session.read(), Session::Reading::NotReached);
-}
-
 }  // namespace

@@ -1,5 +1,3 @@
-#include <QTest>
-
 #include "link/Binding.h"
 #include "platform/core/PropertyList.h"
 #include "settings/DWTDataManager.h"
@@ -56,8 +54,7 @@ TEST_F(ListedPrinters, ListsSupportedModelsAndAsksOnlyUsbPrintersForTheirName) {
     const struct {
         const char *uri;
         QString connection;
-        const char *model;
-        const char *profile;
+        const char *model, *profile;
         bool asked;
     } printers[] = {
         {"net", network, "L400", "{}", false},

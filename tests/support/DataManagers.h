@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QTest>
-
 #include "link/Binding.h"
 #include "platform/core/MainThread.h"
 #include "settings/DWTDataManager.h"

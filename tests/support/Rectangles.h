@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
-#include <QWidget>
 
 // Expects that no visible child of a window covers another, reaches out of its parent, or is lower
 // than the text that it wraps.

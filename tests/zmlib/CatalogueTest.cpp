@@ -52,8 +52,7 @@ TEST(Catalogue, IsFoundThroughTheEnvironment) {
     const QByteArray pipe = folder.path(QStringLiteral("pipe")).toUtf8();
     ASSERT_EQ(::mkfifo(pipe.constData(), 0600), 0);
     for (const QByteArray &path : {pipe, QByteArray("/dev/zero"), folder.path({}).toUtf8()})
-        EXPECT_TRUE(problemsWith(path).endsWith(QLatin1String("not a regular file")))
-            << path.data();
+        EXPECT_TRUE(problemsWith(path).endsWith(QLatin1String("regular file"))) << path.data();
     EXPECT_EQ(problemsWith("demo"), QString());
     EXPECT_FALSE(catalogueFromEnvironment().entries.isEmpty());
     EXPECT_EQ(problemsWith(""), QString());

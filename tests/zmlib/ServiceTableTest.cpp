@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QStringList>
-
 namespace {
 
 using namespace Qt::StringLiterals;

@@ -14,20 +14,6 @@ int run(ModalWindow &window, const std::function<void()> &action) {
     return Modal::run(&window);
 }
 
-TEST(Modal, DeliversTheOutcomeWhenTheStoppingActionHasFinished) {
-    ModalWindow window;
-    QStringList order;
-    const int outer = run(window, [&] {
-        Modal::stop(&window, 5);
-        EXPECT_FALSE(window.isVisible());
-        order << QStringLiteral("stopped");
-        // The same window again, from inside the action.
-        order << QString::number(run(window, [&] { Modal::stop(&window, 7); }));
-    });
-    order << QString::number(outer);
-    EXPECT_EQ(order.join(u' '), QStringLiteral("stopped 7 5"));
-}
-
 TEST(Modal, StopsTheRunOfTheWindowAndNoOther) {
     ModalWindow outer, inner;
     Modal::stop(&outer, 3);
