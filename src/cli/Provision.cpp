@@ -89,7 +89,11 @@ void Provision::look() {
             continue;
         }
         m_present.insert(identity, entry);
-        if (!before.contains(identity)) m_waiting << entry;
+        if (before.contains(identity)) continue;
+        m_waiting.removeIf([&](const PrinterEntry &one) {  // as it was plugged in before
+            return one.value(PrinterKey::DeviceURI) == entry.value(PrinterKey::DeviceURI);
+        });
+        m_waiting << entry;
     }
     if (m_rows.needNames()) m_names.ask(m_present.values());
     noteProblems();
