@@ -60,7 +60,7 @@ PrinterList::PrinterList(QWidget *parent) : QWidget(parent) {
     view_Problems->hide();
     setFocusProxy(&table);
     m_showing.setSingleShot(true);
-    m_showing.callOnTimeout([this] { show(); });
+    m_showing.callOnTimeout([this] { showWhatIsKnown(); });
     m_looking.callOnTimeout([this] { followPrinters(); });
     connect(&table, &TableView::doubleAction, this, &PrinterList::DWT_DoubleAction);
     connect(button_PrinterlistOK, &QPushButton::clicked, this, &PrinterList::chosen);
@@ -88,11 +88,11 @@ void PrinterList::DWT_UpdatePrinterList() {
     array_PrinterList = ndm_Object->printerList().value_or(QList<PrinterEntry>());
     m_isComplete = Printers::isListComplete();
     m_names.ask(array_PrinterList);
-    show();
+    showWhatIsKnown();
     m_looking.start(lookInterval);
 }
 
-void PrinterList::show() {
+void PrinterList::showWhatIsKnown() {
     tableView_Printerlist->setEmptyText(localized(
         m_isComplete ? keyOfEmptyList(Printers::problems(), ndm_Object->checkLunchedMode())
                      : u"DWT_Localize_PrinterList_Searching"_s));

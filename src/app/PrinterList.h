@@ -53,8 +53,7 @@ class PrinterList : public QWidget,
 
   private:
     void DWT_UpdatePrinterList();
-    // Shows what is known by now.
-    void show();
+    void showWhatIsKnown();
     void DWT_DoubleAction(int clickedRow) {
         if (clickedRow >= 0) Q_EMIT chosen();
     }

@@ -202,11 +202,9 @@ class Run {
             });
             return byUri.isEmpty() ? bySerial : byUri;
         };
+        const auto isFound = [&] { return atOnce().size() == 1; };
+        if (!isFound()) look.wait(QDeadlineTimer(Look::longest), isFound);
         QList<PrinterEntry> meant = atOnce();
-        if (meant.size() != 1) {
-            look.wait(QDeadlineTimer(Look::longest), [&] { return atOnce().size() == 1; });
-            meant = atOnce();
-        }
         if (meant.size() != 1)
             meant = with([&](const PrinterEntry &entry) {
                 return entry.value(PrinterKey::SerialNumber) == named || listedName(entry) == named;
