@@ -25,7 +25,7 @@ void expectIn(const QByteArray &text, const QByteArrayList &parts) {
 using Turn = std::pair<QByteArray, QByteArray>;
 Ended talk(Printers &printers, const char *arguments, const QList<Turn> &turns) {
     QProcess terminal;
-    const QString command = QLatin1String(NST_PROGRAM " ") + QLatin1String(arguments);
+    const QString command = QLatin1String("exec " NST_PROGRAM " ") + QLatin1String(arguments);
     start(terminal, printers, u"script"_s, {u"-qec"_s, command, u"/dev/null"_s});
     QByteArray said;
     for (const auto &[printed, typed] : turns) {
