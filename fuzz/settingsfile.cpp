@@ -1,7 +1,7 @@
 // Settings in JSON, on arbitrary bytes: what is given can be changed, keeps its rule or says which
 // it breaks, and is never given at a line that is not there.
 
-#include "cli/SettingsFile.h"
+#include "settings/SettingsFile.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     const QByteArray json(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));

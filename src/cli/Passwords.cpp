@@ -2,9 +2,9 @@
 
 #include <cstdlib>
 
-#include "cli/SettingsFile.h"
 #include "cli/Terminal.h"
 #include "platform/core/Texts.h"
+#include "settings/SettingsFile.h"
 #include "settings/Wipe.h"
 
 Passwords::~Passwords() {

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-#include "cli/SettingsFile.h"
+#include "settings/SettingsFile.h"
 
 // The printers of a table, a row each, and what is to be set in each.
 struct TableRow {

@@ -11,36 +11,6 @@ namespace {
 const QStringList listAuthentications{u"open"_s, u"wpa"_s, u"wpa2"_s, u"wpa/wpa2"_s};
 const QStringList listEncryptions{u"none"_s, u"wep"_s, u"tkip"_s, u"aes"_s, u"tkip/aes"_s};
 
-// Puts a value under the names of its groups.
-void insert(QJsonObject &object, const QStringList &path, const QJsonValue &value) {
-    if (path.size() == 1) {
-        object.insert(path.first(), value);
-        return;
-    }
-    QJsonObject group = object.value(path.first()).toObject();
-    insert(group, path.mid(1), value);
-    object.insert(path.first(), group);
-}
-
-QJsonValue asJson(const Setting &setting, const CategoryDictionary &category) {
-    const QString text = textOf(setting, category);
-    if (!category.contains(setting.key)) return QJsonValue::Null;
-    switch (setting.kind) {
-        case Setting::Kind::Number:
-        case Setting::Kind::Choice: {
-            const int code = integerValue(category, setting.key);
-            if (code >= 0 && code < setting.codes.size()) return setting.codes[code];
-            return code;
-        }
-        case Setting::Kind::Address:
-        case Setting::Kind::Mac:
-            return text.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(text);
-        case Setting::Kind::Text:
-            break;
-    }
-    return text;
-}
-
 }  // namespace
 
 QStringList cellsOf(const PrinterEntry &entry) {
@@ -61,15 +31,6 @@ QList<QStringList> rowsOf(const SettingRecord &record) {
         for (const auto &[label, value] : page.lines) rows << QStringList{u"  "_s + label, value};
     }
     return rows;
-}
-
-QJsonObject asJson(const SettingRecord &record) {
-    QJsonObject object;
-    for (const Setting &setting : settings())
-        if (setting.access() != Setting::Access::Enter && record.contains(setting.viewKey))
-            insert(object, setting.name.split(u'.'),
-                   asJson(setting, record.value(setting.viewKey)));
-    return object;
 }
 
 QList<QStringList> rowsOf(const QList<SSIDEntry> &networks) {

@@ -5,6 +5,7 @@
 
 #include "cli/ExitCode.h"
 #include "settings/Session.h"
+#include "settings/SettingsFile.h"
 
 // What the commands print: as rows of cells for people, as JSON for programs. Secrets are left out.
 
@@ -14,8 +15,6 @@ QJsonObject asJson(const PrinterEntry &entry);
 
 // The pages of a record, each under its title. Without the title of the printer.
 QList<QStringList> rowsOf(const SettingRecord &record);
-// The settings of a record in groups, by their names; `null` for what the printer did not report.
-QJsonObject asJson(const SettingRecord &record);
 
 // The networks that a printer finds.
 QList<QStringList> rowsOf(const QList<SSIDEntry> &networks);

@@ -1,7 +1,7 @@
 // What files and tables give, and what is said of those that cannot be used.
 
-#include "cli/SettingsFile.h"
 #include "cli/Table.h"
+#include "settings/SettingsFile.h"
 #include "support/DataManagers.h"
 #include "support/Folder.h"
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
@@ -31,3 +32,6 @@ GivenSettings settingsFromJson(const QByteArray &json, const QString &file);
 
 // The same from a file.
 GivenSettings settingsFromFile(const QString &path);
+
+// The settings of a record in groups, by their names; `null` for what the printer did not report.
+QJsonObject asJson(const SettingRecord &record);

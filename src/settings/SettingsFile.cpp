@@ -1,4 +1,4 @@
-#include "cli/SettingsFile.h"
+#include "settings/SettingsFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -185,6 +185,36 @@ class Handler : public nlohmann::json_sax<json> {
     QSet<QString> m_seen;
 };
 
+// Puts a value under the names of its groups.
+void insert(QJsonObject &object, const QStringList &path, const QJsonValue &value) {
+    if (path.size() == 1) {
+        object.insert(path.first(), value);
+        return;
+    }
+    QJsonObject group = object.value(path.first()).toObject();
+    insert(group, path.mid(1), value);
+    object.insert(path.first(), group);
+}
+
+QJsonValue asJson(const Setting &setting, const CategoryDictionary &category) {
+    const QString text = textOf(setting, category);
+    if (!category.contains(setting.key)) return QJsonValue::Null;
+    switch (setting.kind) {
+        case Setting::Kind::Number:
+        case Setting::Kind::Choice: {
+            const int code = integerValue(category, setting.key);
+            if (code >= 0 && code < setting.codes.size()) return setting.codes[code];
+            return code;
+        }
+        case Setting::Kind::Address:
+        case Setting::Kind::Mac:
+            return text.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(text);
+        case Setting::Kind::Text:
+            break;
+    }
+    return text;
+}
+
 }  // namespace
 
 std::optional<QByteArray> readInput(const QString &path, Fault &fault) {
@@ -248,4 +278,13 @@ GivenSettings settingsFromFile(const QString &path) {
     const auto bytes = readInput(path, fault);
     if (bytes) return settingsFromJson(*bytes, path);
     return {{}, {fault}, {}};
+}
+
+QJsonObject asJson(const SettingRecord &record) {
+    QJsonObject object;
+    for (const Setting &setting : settings())
+        if (setting.access() != Setting::Access::Enter && record.contains(setting.viewKey))
+            insert(object, setting.name.split(u'.'),
+                   asJson(setting, record.value(setting.viewKey)));
+    return object;
 }
