@@ -161,6 +161,44 @@ void shootSendDialog() {
     setFaults("virtual://dispatch", {});
 }
 
+// Of a printer without a password, so that the confirmation comes first; with warnings, and with an
+// end that is not what was sent.
+void shootManyChanges() {
+    Walk walk(demo());
+    open(walk, "Packing-Desk");
+    QWidget *const window = walk.main();
+    walk.type("textField_NetworkPrinterName", text("Packing-Desk-2"));
+    walk.type("textField_NetworkBonjourService", text("Labels of the packing desk"));
+    press(window, "buttonCell_Manual");
+    walk.type("textField_EthernetIpAddress", text("192.168.1.60"));
+    walk.type("textField_EthernetSubnetMask", text("255.0.255.0"));
+    walk.type("textField_EthernetDefaultGateway", text("10.0.0.1"));
+    walk.type("textField_InfrastructureSSID", text("Warehouse 2"));
+    SimulatedFaults refusing;
+    refusing.items[0x1005].resultCode = 5;
+    refusing.items[0x1007].resultCode = 9;
+    setFaults("virtual://packing-desk", refusing);
+    walk.dialogs()
+        .on("", [](QWidget *alert) { QTest::keyClick(alert, Qt::Key_Return); })
+        .on("view_SendConfirm", shooting("send-confirm-warnings"), "button_SendConfirmTransmission")
+        .on(
+            "view_SendEnd",
+            [](QWidget *dialog) {
+                const auto *table = controlOf<QTreeWidget>(dialog, "table_SendEnd");
+                const auto isCompared = [&] {
+                    const auto *row = table->topLevelItem(0);
+                    return row && row->childCount() > 0 && !row->child(0)->text(2).isEmpty();
+                };
+                if (!QTest::qWaitFor(isCompared, 20000)) qFatal("not compared");
+                shoot(dialog, "send-end-refused");
+            },
+            "button_SendEndOK")
+        .on("view_SendChangeCheck", "button_SendChangeCheckNoReflect");
+    press(window, "button_MainSend");
+    window->close();
+    setFaults("virtual://packing-desk", {});
+}
+
 void shootOthers() {
     Walk walk(demo());
     open(walk, "Packing-Desk");
@@ -227,6 +265,7 @@ int main(int argc, char **argv) {
     shootSelector();
     shootPages();
     shootSendDialog();
+    shootManyChanges();
     shootOthers();
     return 0;
 }

@@ -6,6 +6,9 @@
     <message id="DWT_Localize_Alert_Button_OK">
         <translation>&amp;OK</translation>
     </message>
+    <message id="DWT_Localize_Alert_Button_Cancel">
+        <translation>&amp;Abbrechen</translation>
+    </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
         <translation>nicht verwendbar</translation>
     </message>
@@ -444,6 +447,9 @@
     <message id="DWT_Localize_App_Name">
         <translation>Netzwerkeinstellungen für Drucker</translation>
     </message>
+    <message id="DWT_Localize_App_Title">
+        <translation>%1 – Netzwerkeinstellungen für Drucker</translation>
+    </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>Das Programm läuft bereits, antwortet aber nicht. Beenden Sie es und starten Sie es dann erneut.</translation>
     </message>
@@ -520,7 +526,7 @@
         <translation>Der Drucker kann nur in der Betriebsart Infrastruktur nach Netzwerken suchen. Wählen Sie zuerst auf der Seite „WLAN“ die Betriebsart „Infrastruktur“.</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_TextField_Cancel">
-        <translation>Einige Änderungen wurden noch nicht an den Drucker gesendet. Vor dem Schließen senden?</translation>
+        <translation>Einige Änderungen wurden noch nicht an den Drucker gesendet.</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
         <translation>&amp;Senden</translation>
@@ -531,6 +537,9 @@
     <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
         <translation>&amp;Abbrechen</translation>
     </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Heading">
+        <translation>Änderungen vor dem Schließen senden?</translation>
+    </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
         <translation>Einige Änderungen wurden noch nicht an den Drucker gesendet. Beim erneuten Einlesen gehen sie verloren.</translation>
     </message>
@@ -540,8 +549,11 @@
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
         <translation>&amp;Abbrechen</translation>
     </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Heading">
+        <translation>Änderungen verwerfen?</translation>
+    </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
-        <translation>Einstellungen jetzt an den Drucker senden? Schalten Sie den Drucker währenddessen nicht aus und ziehen Sie das Kabel nicht ab.</translation>
+        <translation>Schalten Sie den Drucker während des Sendens nicht aus und ziehen Sie das Kabel nicht ab.</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
         <translation>&amp;Senden</translation>
@@ -549,17 +561,65 @@
     <message id="DWT_Localize_Send_Confirm_Button_Cancel">
         <translation>&amp;Abbrechen</translation>
     </message>
+    <message id="DWT_Localize_Send_Confirm_Heading">
+        <translation>Diese Änderungen an %1 senden?</translation>
+    </message>
     <message id="DWT_Localize_Send_Progress_TextField">
-        <translation>Die Einstellungen werden an den Drucker gesendet …</translation>
+        <translation>Schalten Sie den Drucker nicht aus und ziehen Sie das Kabel nicht ab.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_Heading">
+        <translation>Senden an %1</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_Late">
+        <translation>%1 – seit %2 s keine Antwort</translation>
     </message>
     <message id="DWT_Localize_Send_End_TextField">
-        <translation>Die Einstellungen wurden gesendet. Um die aktuellen Einstellungen des Druckers zu sehen, wählen Sie „Neu einlesen“.</translation>
+        <translation>Der Drucker hat die Einstellungen angenommen.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Sent_Heading">
+        <translation>An %1 gesendet</translation>
+    </message>
+    <message id="DWT_Localize_Send_Verified_Heading">
+        <translation>Gesendet und geprüft</translation>
+    </message>
+    <message id="DWT_Localize_Send_Unverified_Heading">
+        <translation>An %1 gesendet, aber nicht geprüft</translation>
+    </message>
+    <message id="DWT_Localize_Send_NotTaken_Heading">
+        <translation>%1 hat nicht alle Einstellungen übernommen</translation>
+    </message>
+    <message id="DWT_Localize_Send_NotSent_Heading">
+        <translation>Es wurde nichts an %1 gesendet</translation>
+    </message>
+    <message id="DWT_Localize_Send_Lost_Heading">
+        <translation>Die Verbindung zu %1 ist abgebrochen</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Differences">
+        <translation>Einstellungen, die der Drucker nicht übernommen hat</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Untouched">
+        <translation>Von Ihnen nicht geändert</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Refused">
+        <translation>abgelehnt (Code %1)</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_TooLong">
+        <translation>nicht sendbar</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_NoAnswer">
+        <translation>keine Antwort</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Different">
+        <translation>weicht ab</translation>
     </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_Send_Login_TextField">
-        <translation>Dieser Drucker ist geschützt. Geben Sie sein Administratorpasswort ein.</translation>
+        <translation>Geben Sie das Administratorpasswort des Druckers ein.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Heading">
+        <translation>%1 ist geschützt</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Password_Label">
         <translation>Passwort:</translation>
@@ -571,13 +631,19 @@
         <translation>&amp;Abbrechen</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_TextField">
-        <translation>Der Drucker hat dieses Passwort nicht angenommen. Achten Sie auf Groß- und Kleinschreibung.</translation>
+        <translation>Der Drucker hat dieses Passwort nicht angenommen. Achten Sie auf Groß- und Kleinschreibung und auf die Feststelltaste.</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_Heading">
+        <translation>Falsches Passwort</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_Button_OK">
         <translation>&amp;Erneut versuchen</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
-        <translation>Der Drucker ist nicht erreichbar, und es wurde nichts gesendet. Prüfen Sie, ob er eingeschaltet und sein Kabel eingesteckt ist, und senden Sie dann erneut. Ihre Änderungen bleiben erhalten.</translation>
+        <translation>Es wurde nichts gesendet, und Ihre Änderungen bleiben erhalten. Prüfen Sie, ob der Drucker eingeschaltet und sein Kabel eingesteckt ist, und senden Sie dann erneut.</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Heading">
+        <translation>%1 ist nicht erreichbar</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>&amp;OK</translation>
@@ -795,6 +861,24 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Send_Confirm_Changes">
         <translation>Was sich ändert</translation>
+    </message>
+    <message id="DWT_Localize_Table_Setting">
+        <translation>Einstellung</translation>
+    </message>
+    <message id="DWT_Localize_Table_Now">
+        <translation>Bisher</translation>
+    </message>
+    <message id="DWT_Localize_Table_New">
+        <translation>Neu</translation>
+    </message>
+    <message id="DWT_Localize_Table_Sent">
+        <translation>Gesendet</translation>
+    </message>
+    <message id="DWT_Localize_Table_Held">
+        <translation>Im Drucker</translation>
+    </message>
+    <message id="DWT_Localize_Table_Result">
+        <translation>Ergebnis</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_NewSecret">
         <translation>neu</translation>
@@ -1116,6 +1200,9 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
     </message>
     <message id="DWT_Localize_Ending_Unclear">
         <translation>Es ist nicht sicher, ob %1 diese Einstellungen übernommen hat: %2</translation>
+    </message>
+    <message id="DWT_Localize_Ending_NotAsSent">
+        <translation>%1 enthält für diese Einstellungen etwas anderes, als gesendet wurde:</translation>
     </message>
     <message id="DWT_Localize_Ending_NotReadBack">
         <translation>Die Einstellungen wurden an %1 gesendet, aber der Drucker konnte nicht noch einmal gelesen werden. Ob er sie hat, ist nicht geprüft.</translation>

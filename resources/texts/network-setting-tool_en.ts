@@ -6,6 +6,9 @@
     <message id="DWT_Localize_Alert_Button_OK">
         <translation>&amp;OK</translation>
     </message>
+    <message id="DWT_Localize_Alert_Button_Cancel">
+        <translation>&amp;Cancel</translation>
+    </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
         <translation>cannot be used</translation>
     </message>
@@ -444,6 +447,9 @@
     <message id="DWT_Localize_App_Name">
         <translation>Network Setting Tool</translation>
     </message>
+    <message id="DWT_Localize_App_Title">
+        <translation>%1 – Network Setting Tool</translation>
+    </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>The tool is running already, but does not answer. End it, then start it again.</translation>
     </message>
@@ -520,7 +526,7 @@
         <translation>The printer can look for networks only in infrastructure mode. Choose “Infrastructure” on the “Wireless network” page first.</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_TextField_Cancel">
-        <translation>There are changes that have not been sent to the printer. Send them before closing?</translation>
+        <translation>Some changes have not been sent to the printer.</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
         <translation>&amp;Send</translation>
@@ -531,8 +537,11 @@
     <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
         <translation>&amp;Cancel</translation>
     </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Heading">
+        <translation>Send the changes before closing?</translation>
+    </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
-        <translation>There are changes that have not been sent to the printer. Reading the settings again discards them.</translation>
+        <translation>Some changes have not been sent to the printer. Reading the settings again discards them.</translation>
     </message>
     <message id="DWT_Localize_Send_UpdateCheck_Button_OK">
         <translation>&amp;Discard and read again</translation>
@@ -540,8 +549,11 @@
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
         <translation>&amp;Cancel</translation>
     </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Heading">
+        <translation>Discard the changes?</translation>
+    </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
-        <translation>Send the settings to the printer now? Do not switch the printer off or unplug it meanwhile.</translation>
+        <translation>Do not switch the printer off or unplug it while the changes are sent.</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
         <translation>&amp;Send</translation>
@@ -549,17 +561,65 @@
     <message id="DWT_Localize_Send_Confirm_Button_Cancel">
         <translation>&amp;Cancel</translation>
     </message>
+    <message id="DWT_Localize_Send_Confirm_Heading">
+        <translation>Send these changes to %1?</translation>
+    </message>
     <message id="DWT_Localize_Send_Progress_TextField">
-        <translation>Sending the settings to the printer…</translation>
+        <translation>Do not switch the printer off or unplug it.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_Heading">
+        <translation>Sending to %1</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_Late">
+        <translation>%1 – not answered for %2 s</translation>
     </message>
     <message id="DWT_Localize_Send_End_TextField">
-        <translation>The settings have been sent. To see the printer’s current settings, choose “Read again”.</translation>
+        <translation>The printer has accepted the settings.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Sent_Heading">
+        <translation>Sent to %1</translation>
+    </message>
+    <message id="DWT_Localize_Send_Verified_Heading">
+        <translation>Sent and verified</translation>
+    </message>
+    <message id="DWT_Localize_Send_Unverified_Heading">
+        <translation>Sent to %1, but not verified</translation>
+    </message>
+    <message id="DWT_Localize_Send_NotTaken_Heading">
+        <translation>%1 did not take every setting</translation>
+    </message>
+    <message id="DWT_Localize_Send_NotSent_Heading">
+        <translation>Nothing was sent to %1</translation>
+    </message>
+    <message id="DWT_Localize_Send_Lost_Heading">
+        <translation>The connection to %1 was lost</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Differences">
+        <translation>Settings that the printer did not take</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Untouched">
+        <translation>Not changed by you</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Refused">
+        <translation>refused (code %1)</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_TooLong">
+        <translation>cannot be sent</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_NoAnswer">
+        <translation>no answer</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Different">
+        <translation>different</translation>
     </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_Send_Login_TextField">
-        <translation>This printer is protected. Enter its administrator password.</translation>
+        <translation>Enter the administrator password of the printer.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Heading">
+        <translation>%1 is protected</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Password_Label">
         <translation>Password:</translation>
@@ -571,13 +631,19 @@
         <translation>&amp;Cancel</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_TextField">
-        <translation>The printer did not accept this password. Passwords are case-sensitive.</translation>
+        <translation>The printer did not accept this password. Passwords are case-sensitive: check Caps Lock.</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_Heading">
+        <translation>Wrong password</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_Button_OK">
         <translation>&amp;Try again</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
-        <translation>The printer cannot be reached, and nothing was sent. Check that it is switched on and that its cable is plugged in, then send again. Your changes are kept.</translation>
+        <translation>Nothing was sent, and your changes are kept. Check that the printer is switched on and that its cable is plugged in, then send again.</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Heading">
+        <translation>%1 cannot be reached</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>&amp;OK</translation>
@@ -795,6 +861,24 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Send_Confirm_Changes">
         <translation>What will change</translation>
+    </message>
+    <message id="DWT_Localize_Table_Setting">
+        <translation>Setting</translation>
+    </message>
+    <message id="DWT_Localize_Table_Now">
+        <translation>Now</translation>
+    </message>
+    <message id="DWT_Localize_Table_New">
+        <translation>New</translation>
+    </message>
+    <message id="DWT_Localize_Table_Sent">
+        <translation>Sent</translation>
+    </message>
+    <message id="DWT_Localize_Table_Held">
+        <translation>In the printer</translation>
+    </message>
+    <message id="DWT_Localize_Table_Result">
+        <translation>Result</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_NewSecret">
         <translation>new</translation>
@@ -1116,6 +1200,9 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
     </message>
     <message id="DWT_Localize_Ending_Unclear">
         <translation>It is not clear whether %1 took these settings: %2</translation>
+    </message>
+    <message id="DWT_Localize_Ending_NotAsSent">
+        <translation>%1 holds something else than was sent for these settings:</translation>
     </message>
     <message id="DWT_Localize_Ending_NotReadBack">
         <translation>The settings were sent to %1, but it could not be read again. It is not verified that it has them.</translation>

@@ -6,6 +6,9 @@
     <message id="DWT_Localize_Alert_Button_OK">
         <translation>&amp;Aceptar</translation>
     </message>
+    <message id="DWT_Localize_Alert_Button_Cancel">
+        <translation>&amp;Cancelar</translation>
+    </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
         <translation>– no se puede usar</translation>
     </message>
@@ -444,6 +447,9 @@
     <message id="DWT_Localize_App_Name">
         <translation>Ajustes de red de impresoras</translation>
     </message>
+    <message id="DWT_Localize_App_Title">
+        <translation>%1 – Ajustes de red de impresoras</translation>
+    </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>El programa ya se está ejecutando, pero no responde. Ciérrelo y vuelva a iniciarlo.</translation>
     </message>
@@ -520,7 +526,7 @@
         <translation>La impresora solo puede buscar redes en modo infraestructura. Elija primero «Infraestructura» en la página «Red Wi-Fi».</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_TextField_Cancel">
-        <translation>Hay cambios que no se han enviado a la impresora. ¿Enviarlos antes de cerrar?</translation>
+        <translation>Hay cambios que no se han enviado a la impresora.</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
         <translation>&amp;Enviar</translation>
@@ -531,6 +537,9 @@
     <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
         <translation>&amp;Cancelar</translation>
     </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Heading">
+        <translation>¿Enviar los cambios antes de cerrar?</translation>
+    </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
         <translation>Hay cambios que no se han enviado a la impresora. Si vuelve a leer los ajustes, se perderán.</translation>
     </message>
@@ -540,8 +549,11 @@
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
         <translation>&amp;Cancelar</translation>
     </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Heading">
+        <translation>¿Descartar los cambios?</translation>
+    </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
-        <translation>¿Enviar ahora los ajustes a la impresora? No la apague ni la desconecte durante el envío.</translation>
+        <translation>No apague ni desconecte la impresora durante el envío.</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
         <translation>&amp;Enviar</translation>
@@ -549,17 +561,65 @@
     <message id="DWT_Localize_Send_Confirm_Button_Cancel">
         <translation>&amp;Cancelar</translation>
     </message>
+    <message id="DWT_Localize_Send_Confirm_Heading">
+        <translation>¿Enviar estos cambios a %1?</translation>
+    </message>
     <message id="DWT_Localize_Send_Progress_TextField">
-        <translation>Enviando los ajustes a la impresora…</translation>
+        <translation>No apague ni desconecte la impresora.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_Heading">
+        <translation>Enviando a %1</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_Late">
+        <translation>%1: sin respuesta desde hace %2 s</translation>
     </message>
     <message id="DWT_Localize_Send_End_TextField">
-        <translation>Los ajustes se han enviado. Para ver los ajustes actuales de la impresora, elija «Volver a leer».</translation>
+        <translation>La impresora ha aceptado los ajustes.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Sent_Heading">
+        <translation>Enviado a %1</translation>
+    </message>
+    <message id="DWT_Localize_Send_Verified_Heading">
+        <translation>Enviado y comprobado</translation>
+    </message>
+    <message id="DWT_Localize_Send_Unverified_Heading">
+        <translation>Enviado a %1, pero sin comprobar</translation>
+    </message>
+    <message id="DWT_Localize_Send_NotTaken_Heading">
+        <translation>%1 no ha aplicado todos los ajustes</translation>
+    </message>
+    <message id="DWT_Localize_Send_NotSent_Heading">
+        <translation>No se ha enviado nada a %1</translation>
+    </message>
+    <message id="DWT_Localize_Send_Lost_Heading">
+        <translation>Se ha perdido la conexión con %1</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Differences">
+        <translation>Ajustes que la impresora no ha aplicado</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Untouched">
+        <translation>Sin cambios por su parte</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Refused">
+        <translation>rechazado (código %1)</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_TooLong">
+        <translation>no se puede enviar</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_NoAnswer">
+        <translation>sin respuesta</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Different">
+        <translation>distinto</translation>
     </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>&amp;Aceptar</translation>
     </message>
     <message id="DWT_Localize_Send_Login_TextField">
-        <translation>Esta impresora está protegida. Escriba su contraseña de administrador.</translation>
+        <translation>Escriba la contraseña de administrador de la impresora.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Heading">
+        <translation>%1 está protegida</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Password_Label">
         <translation>Contraseña:</translation>
@@ -571,13 +631,19 @@
         <translation>&amp;Cancelar</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_TextField">
-        <translation>La impresora no ha aceptado esta contraseña. Se distinguen mayúsculas y minúsculas.</translation>
+        <translation>La impresora no ha aceptado esta contraseña. Se distinguen mayúsculas y minúsculas: compruebe Bloq Mayús.</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_Heading">
+        <translation>Contraseña incorrecta</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_Button_OK">
         <translation>&amp;Reintentar</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
-        <translation>No se puede acceder a la impresora y no se ha enviado nada. Compruebe que está encendida y que su cable está conectado, y vuelva a enviar. Sus cambios se conservan.</translation>
+        <translation>No se ha enviado nada y sus cambios se conservan. Compruebe que la impresora está encendida y que su cable está conectado, y vuelva a enviar.</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Heading">
+        <translation>No se puede acceder a %1</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>&amp;Aceptar</translation>
@@ -795,6 +861,24 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Send_Confirm_Changes">
         <translation>Qué cambiará</translation>
+    </message>
+    <message id="DWT_Localize_Table_Setting">
+        <translation>Ajuste</translation>
+    </message>
+    <message id="DWT_Localize_Table_Now">
+        <translation>Ahora</translation>
+    </message>
+    <message id="DWT_Localize_Table_New">
+        <translation>Nuevo</translation>
+    </message>
+    <message id="DWT_Localize_Table_Sent">
+        <translation>Enviado</translation>
+    </message>
+    <message id="DWT_Localize_Table_Held">
+        <translation>En la impresora</translation>
+    </message>
+    <message id="DWT_Localize_Table_Result">
+        <translation>Resultado</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_NewSecret">
         <translation>nueva</translation>
@@ -1116,6 +1200,9 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
     </message>
     <message id="DWT_Localize_Ending_Unclear">
         <translation>No está claro si %1 tomó estos ajustes: %2</translation>
+    </message>
+    <message id="DWT_Localize_Ending_NotAsSent">
+        <translation>En %1, estos ajustes no son los enviados:</translation>
     </message>
     <message id="DWT_Localize_Ending_NotReadBack">
         <translation>Los ajustes se enviaron a %1, pero la impresora no se pudo volver a leer. No se ha comprobado que los tenga.</translation>

@@ -6,6 +6,9 @@
     <message id="DWT_Localize_Alert_Button_OK">
         <translation>&amp;OK</translation>
     </message>
+    <message id="DWT_Localize_Alert_Button_Cancel">
+        <translation>&amp;Annuler</translation>
+    </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
         <translation>– utilisation impossible</translation>
     </message>
@@ -444,6 +447,9 @@
     <message id="DWT_Localize_App_Name">
         <translation>Paramètres réseau des imprimantes</translation>
     </message>
+    <message id="DWT_Localize_App_Title">
+        <translation>%1 – Paramètres réseau des imprimantes</translation>
+    </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>Le programme est déjà lancé, mais ne répond pas. Arrêtez-le, puis relancez-le.</translation>
     </message>
@@ -520,7 +526,7 @@
         <translation>L’imprimante ne peut rechercher des réseaux qu’en mode infrastructure. Choisissez d’abord « Infrastructure » sur la page « Réseau Wi-Fi ».</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_TextField_Cancel">
-        <translation>Certaines modifications n’ont pas été envoyées à l’imprimante. Les envoyer avant de fermer ?</translation>
+        <translation>Certaines modifications n’ont pas été envoyées à l’imprimante.</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
         <translation>&amp;Envoyer</translation>
@@ -531,6 +537,9 @@
     <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
         <translation>&amp;Annuler</translation>
     </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Heading">
+        <translation>Envoyer les modifications avant de fermer ?</translation>
+    </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
         <translation>Certaines modifications n’ont pas été envoyées à l’imprimante. Elles seront perdues si vous relisez les paramètres.</translation>
     </message>
@@ -540,8 +549,11 @@
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
         <translation>&amp;Annuler</translation>
     </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Heading">
+        <translation>Abandonner les modifications ?</translation>
+    </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
-        <translation>Envoyer maintenant les paramètres à l’imprimante ? Ne l’éteignez pas et ne la débranchez pas pendant l’envoi.</translation>
+        <translation>N’éteignez pas et ne débranchez pas l’imprimante pendant l’envoi.</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
         <translation>&amp;Envoyer</translation>
@@ -549,17 +561,65 @@
     <message id="DWT_Localize_Send_Confirm_Button_Cancel">
         <translation>&amp;Annuler</translation>
     </message>
+    <message id="DWT_Localize_Send_Confirm_Heading">
+        <translation>Envoyer ces modifications à %1 ?</translation>
+    </message>
     <message id="DWT_Localize_Send_Progress_TextField">
-        <translation>Envoi des paramètres à l’imprimante…</translation>
+        <translation>N’éteignez pas et ne débranchez pas l’imprimante.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_Heading">
+        <translation>Envoi à %1</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_Late">
+        <translation>%1 – sans réponse depuis %2 s</translation>
     </message>
     <message id="DWT_Localize_Send_End_TextField">
-        <translation>Les paramètres ont été envoyés. Pour voir les paramètres actuels de l’imprimante, choisissez « Relire les paramètres ».</translation>
+        <translation>L’imprimante a accepté les paramètres.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Sent_Heading">
+        <translation>Envoyé à %1</translation>
+    </message>
+    <message id="DWT_Localize_Send_Verified_Heading">
+        <translation>Envoyé et vérifié</translation>
+    </message>
+    <message id="DWT_Localize_Send_Unverified_Heading">
+        <translation>Envoyé à %1, mais non vérifié</translation>
+    </message>
+    <message id="DWT_Localize_Send_NotTaken_Heading">
+        <translation>%1 n’a pas pris tous les paramètres</translation>
+    </message>
+    <message id="DWT_Localize_Send_NotSent_Heading">
+        <translation>Rien n’a été envoyé à %1</translation>
+    </message>
+    <message id="DWT_Localize_Send_Lost_Heading">
+        <translation>La connexion à %1 a été perdue</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Differences">
+        <translation>Paramètres que l’imprimante n’a pas pris</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Untouched">
+        <translation>Non modifiés par vous</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Refused">
+        <translation>refusé (code %1)</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_TooLong">
+        <translation>ne peut pas être envoyé</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_NoAnswer">
+        <translation>sans réponse</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Different">
+        <translation>différent</translation>
     </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_Send_Login_TextField">
-        <translation>Cette imprimante est protégée. Saisissez son mot de passe administrateur.</translation>
+        <translation>Saisissez le mot de passe administrateur de l’imprimante.</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Heading">
+        <translation>%1 est protégée</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Password_Label">
         <translation>Mot de passe :</translation>
@@ -571,13 +631,19 @@
         <translation>&amp;Annuler</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_TextField">
-        <translation>L’imprimante n’a pas accepté ce mot de passe. Respectez les majuscules et les minuscules.</translation>
+        <translation>L’imprimante n’a pas accepté ce mot de passe. Respectez les majuscules et les minuscules, et vérifiez Verr. Maj.</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_Heading">
+        <translation>Mot de passe incorrect</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_Button_OK">
         <translation>&amp;Réessayer</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
-        <translation>L’imprimante est injoignable, et rien n’a été envoyé. Vérifiez qu’elle est allumée et que son câble est branché, puis recommencez l’envoi. Vos modifications sont conservées.</translation>
+        <translation>Rien n’a été envoyé, et vos modifications sont conservées. Vérifiez que l’imprimante est allumée et que son câble est branché, puis recommencez l’envoi.</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Heading">
+        <translation>%1 est injoignable</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>&amp;OK</translation>
@@ -795,6 +861,24 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Send_Confirm_Changes">
         <translation>Ce qui change</translation>
+    </message>
+    <message id="DWT_Localize_Table_Setting">
+        <translation>Paramètre</translation>
+    </message>
+    <message id="DWT_Localize_Table_Now">
+        <translation>Actuel</translation>
+    </message>
+    <message id="DWT_Localize_Table_New">
+        <translation>Nouveau</translation>
+    </message>
+    <message id="DWT_Localize_Table_Sent">
+        <translation>Envoyé</translation>
+    </message>
+    <message id="DWT_Localize_Table_Held">
+        <translation>Dans l’imprimante</translation>
+    </message>
+    <message id="DWT_Localize_Table_Result">
+        <translation>Résultat</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_NewSecret">
         <translation>nouveau</translation>
@@ -1116,6 +1200,9 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
     </message>
     <message id="DWT_Localize_Ending_Unclear">
         <translation>Il n’est pas certain que %1 ait repris ces réglages : %2</translation>
+    </message>
+    <message id="DWT_Localize_Ending_NotAsSent">
+        <translation>Dans %1, ces paramètres ne sont pas ceux qui ont été envoyés :</translation>
     </message>
     <message id="DWT_Localize_Ending_NotReadBack">
         <translation>Les réglages ont été envoyés à %1, mais l’imprimante n’a pas pu être relue. Il n’est pas vérifié qu’elle les a.</translation>

@@ -6,6 +6,9 @@
     <message id="DWT_Localize_Alert_Button_OK">
         <translation>&amp;OK</translation>
     </message>
+    <message id="DWT_Localize_Alert_Button_Cancel">
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
         <translation>– 使用できません</translation>
     </message>
@@ -444,6 +447,9 @@
     <message id="DWT_Localize_App_Name">
         <translation>ネットワーク設定ツール</translation>
     </message>
+    <message id="DWT_Localize_App_Title">
+        <translation>%1 – ネットワーク設定ツール</translation>
+    </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>このツールはすでに起動していますが、応答がありません。終了してからもう一度起動してください。</translation>
     </message>
@@ -520,7 +526,7 @@
         <translation>プリンターがネットワークを検索できるのは、インフラストラクチャモードのときだけです。先に「無線 LAN」ページで「インフラストラクチャ」を選択してください。</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_TextField_Cancel">
-        <translation>プリンターに送信していない変更があります。閉じる前に送信しますか?</translation>
+        <translation>プリンターに送信していない変更があります。</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
         <translation>送信(&amp;S)</translation>
@@ -531,6 +537,9 @@
     <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
         <translation>キャンセル(&amp;C)</translation>
     </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Heading">
+        <translation>閉じる前に変更を送信しますか?</translation>
+    </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
         <translation>プリンターに送信していない変更があります。再読み込みすると、変更は破棄されます。</translation>
     </message>
@@ -540,8 +549,11 @@
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
         <translation>キャンセル(&amp;C)</translation>
     </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Heading">
+        <translation>変更を破棄しますか?</translation>
+    </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
-        <translation>設定をプリンターに送信しますか? 送信中はプリンターの電源を切ったり、ケーブルを抜いたりしないでください。</translation>
+        <translation>送信中は、プリンターの電源を切ったり、ケーブルを抜いたりしないでください。</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
         <translation>送信(&amp;S)</translation>
@@ -549,17 +561,65 @@
     <message id="DWT_Localize_Send_Confirm_Button_Cancel">
         <translation>キャンセル(&amp;C)</translation>
     </message>
+    <message id="DWT_Localize_Send_Confirm_Heading">
+        <translation>これらの変更を %1 に送信しますか?</translation>
+    </message>
     <message id="DWT_Localize_Send_Progress_TextField">
-        <translation>設定をプリンターに送信しています…</translation>
+        <translation>プリンターの電源を切ったり、ケーブルを抜いたりしないでください。</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_Heading">
+        <translation>%1 に送信中</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_Late">
+        <translation>%1 – %2 秒間応答がありません</translation>
     </message>
     <message id="DWT_Localize_Send_End_TextField">
-        <translation>設定を送信しました。プリンターの現在の設定を確認するには、［再読み込み］をクリックしてください。</translation>
+        <translation>プリンターは設定を受け付けました。</translation>
+    </message>
+    <message id="DWT_Localize_Send_Sent_Heading">
+        <translation>%1 に送信しました</translation>
+    </message>
+    <message id="DWT_Localize_Send_Verified_Heading">
+        <translation>送信と確認が完了しました</translation>
+    </message>
+    <message id="DWT_Localize_Send_Unverified_Heading">
+        <translation>%1 に送信しましたが、確認できませんでした</translation>
+    </message>
+    <message id="DWT_Localize_Send_NotTaken_Heading">
+        <translation>%1 に反映されなかった設定があります</translation>
+    </message>
+    <message id="DWT_Localize_Send_NotSent_Heading">
+        <translation>%1 には何も送信されていません</translation>
+    </message>
+    <message id="DWT_Localize_Send_Lost_Heading">
+        <translation>%1 との接続が切れました</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Differences">
+        <translation>反映されなかった設定</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Untouched">
+        <translation>変更していない設定</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Refused">
+        <translation>拒否（コード %1）</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_TooLong">
+        <translation>送信できません</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_NoAnswer">
+        <translation>応答なし</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Different">
+        <translation>相違</translation>
     </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_Send_Login_TextField">
-        <translation>このプリンターは保護されています。管理者パスワードを入力してください。</translation>
+        <translation>プリンターの管理者パスワードを入力してください。</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Heading">
+        <translation>%1 は保護されています</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Password_Label">
         <translation>パスワード:</translation>
@@ -571,13 +631,19 @@
         <translation>キャンセル(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_TextField">
-        <translation>パスワードが正しくありません。大文字と小文字は区別されます。</translation>
+        <translation>プリンターはこのパスワードを受け付けませんでした。大文字と小文字は区別されます。Caps Lock を確認してください。</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_Heading">
+        <translation>パスワードが違います</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_Button_OK">
         <translation>再試行(&amp;R)</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
-        <translation>プリンターに接続できないため、何も送信されていません。電源が入っていること、ケーブルが接続されていることを確認して、もう一度送信してください。変更内容は保持されています。</translation>
+        <translation>何も送信されていません。変更内容は保持されています。プリンターの電源が入っていること、ケーブルが接続されていることを確認して、もう一度送信してください。</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Heading">
+        <translation>%1 に接続できません</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>&amp;OK</translation>
@@ -795,6 +861,24 @@
     </message>
     <message id="DWT_Localize_Send_Confirm_Changes">
         <translation>変更内容</translation>
+    </message>
+    <message id="DWT_Localize_Table_Setting">
+        <translation>設定</translation>
+    </message>
+    <message id="DWT_Localize_Table_Now">
+        <translation>現在</translation>
+    </message>
+    <message id="DWT_Localize_Table_New">
+        <translation>変更後</translation>
+    </message>
+    <message id="DWT_Localize_Table_Sent">
+        <translation>送信した値</translation>
+    </message>
+    <message id="DWT_Localize_Table_Held">
+        <translation>プリンターの値</translation>
+    </message>
+    <message id="DWT_Localize_Table_Result">
+        <translation>結果</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_NewSecret">
         <translation>新規</translation>
@@ -1116,6 +1200,9 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
     </message>
     <message id="DWT_Localize_Ending_Unclear">
         <translation>%1 が次の設定を反映したかどうかわかりません: %2</translation>
+    </message>
+    <message id="DWT_Localize_Ending_NotAsSent">
+        <translation>%1 では、次の設定が送信した値と異なります：</translation>
     </message>
     <message id="DWT_Localize_Ending_NotReadBack">
         <translation>設定を %1 に送信しましたが、もう一度読み取ることができませんでした。反映されたかどうかは確認できていません。</translation>

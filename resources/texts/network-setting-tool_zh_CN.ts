@@ -6,6 +6,9 @@
     <message id="DWT_Localize_Alert_Button_OK">
         <translation>确定(&amp;O)</translation>
     </message>
+    <message id="DWT_Localize_Alert_Button_Cancel">
+        <translation>取消(&amp;C)</translation>
+    </message>
     <message id="DWT_Localize_Alert_MessageText_Error">
         <translation>– 无法使用</translation>
     </message>
@@ -444,6 +447,9 @@
     <message id="DWT_Localize_App_Name">
         <translation>网络设置工具</translation>
     </message>
+    <message id="DWT_Localize_App_Title">
+        <translation>%1 – 网络设置工具</translation>
+    </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>此工具已在运行，但没有响应。请先结束它，然后重新启动。</translation>
     </message>
@@ -520,7 +526,7 @@
         <translation>打印机只有在基础结构模式下才能搜索网络。请先在“无线网络”页面上选择“基础结构”。</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_TextField_Cancel">
-        <translation>有更改尚未发送到打印机。关闭前是否发送？</translation>
+        <translation>有更改尚未发送到打印机。</translation>
     </message>
     <message id="DWT_Localize_Send_ChangeCheck_Button_Reflect">
         <translation>发送(&amp;S)</translation>
@@ -531,6 +537,9 @@
     <message id="DWT_Localize_Send_ChangeCheck_Button_Cancel">
         <translation>取消(&amp;C)</translation>
     </message>
+    <message id="DWT_Localize_Send_ChangeCheck_Heading">
+        <translation>关闭前是否发送更改？</translation>
+    </message>
     <message id="DWT_Localize_Send_UpdateCheck_TextField_UpDate">
         <translation>有更改尚未发送到打印机。重新读取设置会放弃这些更改。</translation>
     </message>
@@ -540,8 +549,11 @@
     <message id="DWT_Localize_Send_UpdateCheck_Button_Cancel">
         <translation>取消(&amp;C)</translation>
     </message>
+    <message id="DWT_Localize_Send_UpdateCheck_Heading">
+        <translation>是否放弃更改？</translation>
+    </message>
     <message id="DWT_Localize_Send_Confirm_TextField">
-        <translation>要现在将设置发送到打印机吗？发送期间请勿关闭打印机或拔下电缆。</translation>
+        <translation>发送期间请勿关闭打印机或拔下电缆。</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_Button_Send">
         <translation>发送(&amp;S)</translation>
@@ -549,17 +561,65 @@
     <message id="DWT_Localize_Send_Confirm_Button_Cancel">
         <translation>取消(&amp;C)</translation>
     </message>
+    <message id="DWT_Localize_Send_Confirm_Heading">
+        <translation>要将这些更改发送到 %1 吗？</translation>
+    </message>
     <message id="DWT_Localize_Send_Progress_TextField">
-        <translation>正在将设置发送到打印机…</translation>
+        <translation>请勿关闭打印机或拔下电缆。</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_Heading">
+        <translation>正在发送到 %1</translation>
+    </message>
+    <message id="DWT_Localize_Send_Progress_Late">
+        <translation>%1 – 已 %2 秒没有应答</translation>
     </message>
     <message id="DWT_Localize_Send_End_TextField">
-        <translation>设置已发送。要查看打印机当前的设置，请选择“重新读取”。</translation>
+        <translation>打印机已接受这些设置。</translation>
+    </message>
+    <message id="DWT_Localize_Send_Sent_Heading">
+        <translation>已发送到 %1</translation>
+    </message>
+    <message id="DWT_Localize_Send_Verified_Heading">
+        <translation>已发送并核实</translation>
+    </message>
+    <message id="DWT_Localize_Send_Unverified_Heading">
+        <translation>已发送到 %1，但未能核实</translation>
+    </message>
+    <message id="DWT_Localize_Send_NotTaken_Heading">
+        <translation>%1 未采用全部设置</translation>
+    </message>
+    <message id="DWT_Localize_Send_NotSent_Heading">
+        <translation>未向 %1 发送任何内容</translation>
+    </message>
+    <message id="DWT_Localize_Send_Lost_Heading">
+        <translation>与 %1 的连接已断开</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Differences">
+        <translation>打印机未采用的设置</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Untouched">
+        <translation>您未更改的设置</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Refused">
+        <translation>被拒绝（代码 %1）</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_TooLong">
+        <translation>无法发送</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_NoAnswer">
+        <translation>没有应答</translation>
+    </message>
+    <message id="DWT_Localize_Send_End_Different">
+        <translation>不同</translation>
     </message>
     <message id="DWT_Localize_Send_End_Button_OK">
         <translation>确定(&amp;O)</translation>
     </message>
     <message id="DWT_Localize_Send_Login_TextField">
-        <translation>此打印机受保护。请输入其管理员密码。</translation>
+        <translation>请输入打印机的管理员密码。</translation>
+    </message>
+    <message id="DWT_Localize_Send_Login_Heading">
+        <translation>%1 受保护</translation>
     </message>
     <message id="DWT_Localize_Send_Login_Password_Label">
         <translation>密码：</translation>
@@ -571,13 +631,19 @@
         <translation>取消(&amp;C)</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_TextField">
-        <translation>打印机不接受此密码。密码区分大小写。</translation>
+        <translation>打印机不接受此密码。密码区分大小写，请检查 Caps Lock。</translation>
+    </message>
+    <message id="DWT_Localize_Send_LoginErr_Heading">
+        <translation>密码错误</translation>
     </message>
     <message id="DWT_Localize_Send_LoginErr_Button_OK">
         <translation>重试(&amp;R)</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_TextField">
-        <translation>无法连接打印机，未发送任何内容。请检查打印机是否已开机、电缆是否已插好，然后重新发送。您的更改已保留。</translation>
+        <translation>未发送任何内容，您的更改已保留。请检查打印机是否已开机、电缆是否已插好，然后重新发送。</translation>
+    </message>
+    <message id="DWT_Localize_Send_ConnectErr_Heading">
+        <translation>无法连接 %1</translation>
     </message>
     <message id="DWT_Localize_Send_ConnectErr_Button_OK">
         <translation>确定(&amp;O)</translation>
@@ -795,6 +861,24 @@
     </message>
     <message id="DWT_Localize_Send_Confirm_Changes">
         <translation>将要更改的内容</translation>
+    </message>
+    <message id="DWT_Localize_Table_Setting">
+        <translation>设置</translation>
+    </message>
+    <message id="DWT_Localize_Table_Now">
+        <translation>当前</translation>
+    </message>
+    <message id="DWT_Localize_Table_New">
+        <translation>新值</translation>
+    </message>
+    <message id="DWT_Localize_Table_Sent">
+        <translation>已发送</translation>
+    </message>
+    <message id="DWT_Localize_Table_Held">
+        <translation>打印机中的值</translation>
+    </message>
+    <message id="DWT_Localize_Table_Result">
+        <translation>结果</translation>
     </message>
     <message id="DWT_Localize_Send_Confirm_NewSecret">
         <translation>新</translation>
@@ -1116,6 +1200,9 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
     </message>
     <message id="DWT_Localize_Ending_Unclear">
         <translation>不清楚 %1 是否采用了以下设置：%2</translation>
+    </message>
+    <message id="DWT_Localize_Ending_NotAsSent">
+        <translation>在 %1 中，以下设置与发送的值不同：</translation>
     </message>
     <message id="DWT_Localize_Ending_NotReadBack">
         <translation>设置已发送到 %1，但无法再次读取打印机。尚未确认设置是否生效。</translation>

@@ -4,7 +4,6 @@
 #include "mainwindow/WPSGuideWindow.h"
 #include "mainwindow/WaitWindow.h"
 #include "platform/core/Texts.h"
-#include "platform/ui/Alert.h"
 
 using namespace Qt::StringLiterals;
 
@@ -186,6 +185,8 @@ void DWTMainSettingWindow::showOwnName() {
     const QString own =
         readableText(textValue(saved.value(DWT_View_Key_Network), DWT_SaveData_Network_Printer));
     textField_PrinterOwnName->setText(own.isEmpty() ? QString() : u"· %1"_s.arg(own));
+    if (m_session)
+        window_Main->setWindowTitle(localized("DWT_Localize_App_Title").arg(m_session->name()));
 }
 
 void DWTMainSettingWindow::enableAllViews(bool enabled) {
@@ -214,9 +215,10 @@ QString DWTMainSettingWindow::report() const {
     return lines.join(u'\n') + u'\n';
 }
 
-void DWTMainSettingWindow::showStandardAlert(const char *titleKey, const char *kindKey,
-                                             const char *informationKey) {
+bool DWTMainSettingWindow::showStandardAlert(const char *titleKey, const char *kindKey,
+                                             const char *informationKey, Alert::Answers answers) {
     const bool isShown = window_Main && window_Main->isVisible();
-    Alert::runModal(Alert::Style::Warning, u"%1 %2"_s.arg(localized(titleKey), localized(kindKey)),
-                    localized(informationKey), isShown ? window_Main.data() : nullptr);
+    return Alert::runModal(
+        Alert::Style::Warning, u"%1 %2"_s.arg(localized(titleKey), localized(kindKey)),
+        localized(informationKey), isShown ? window_Main.data() : nullptr, answers);
 }

@@ -17,6 +17,7 @@
 #include "platform/core/Key.h"
 #include "platform/core/NotificationCenter.h"
 #include "platform/core/Waiting.h"
+#include "platform/ui/Alert.h"
 #include "platform/ui/InertWindow.h"
 #include "platform/ui/OutlineView.h"
 #include "platform/ui/ViewStack.h"
@@ -112,13 +113,15 @@ class DWTMainSettingWindow : public QObject,
     void enableAllViews(bool enabled);
     void MSW_UISelector(const QString &viewKey) { m_pages->select(viewKey); }
     std::optional<QString> MSW_SelectedUIString() const;
-    void showStandardAlert(const char *titleKey, const char *kindKey, const char *informationKey);
+    // False when the user chose Cancel.
+    bool showStandardAlert(const char *titleKey, const char *kindKey, const char *informationKey,
+                           Alert::Answers answers = Alert::Answers::Ok);
 
     // Sending (DWTMainSettingWindowSending.cpp).
     void push_MainSend();
     bool checkAndStorePages();
     void goToFirstFault();
-    void warnOfChangedConnection();
+    bool warnOfChangedConnection();
     void askToSend();
     std::optional<QString> sendViewAskingPassword();
     void push_SendConfirmTransmission();

@@ -26,7 +26,8 @@ bool DWTMainSettingWindow::MSW_AppClose() {
     };
     if (editable &&
         std::any_of(dictionary_ViewManagement.cbegin(), dictionary_ViewManagement.cend(), differs))
-        return window_SendData->runOn(DWT_View_Key_Send_ChangeCheck) != SendDialog::stay;
+        return window_SendData->runOn(DWT_View_Key_Send_ChangeCheck, m_session->name()) !=
+               SendDialog::stay;
     closeMainWindow(selectorStaysHidden);
     return true;
 }
@@ -52,7 +53,7 @@ void DWTMainSettingWindow::push_MainNewSetting() {
         if (const auto shown = MSW_SelectedUIString())
             dictionary_ViewManagement[*shown]->itemSetToDataManager();
         if (!dataManager_Object->isEqualToSaveData()) {
-            window_SendData->runOn(DWT_View_Key_Send_UpdateCheck);
+            window_SendData->runOn(DWT_View_Key_Send_UpdateCheck, m_session->name());
             return;
         }
     }

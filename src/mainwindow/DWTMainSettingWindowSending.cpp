@@ -1,6 +1,7 @@
 // Sending: from the Send button through login and confirmation to the end.
 
 #include <QTimer>
+#include <algorithm>
 
 #include "mainwindow/DWTMainSettingWindow.h"
 #include "mainwindow/SendDialog.h"
@@ -10,39 +11,15 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// The name of each page that changes, and below it a line for each of its changes.
-QStringList linesOf(const QList<Plan::Change> &changes) {
-    QStringList lines;
-    QString viewKey;
-    for (const Plan::Change &change : changes) {
-        if (change.setting->viewKey != viewKey) lines << titleOfPage(change.setting->viewKey);
-        viewKey = change.setting->viewKey;
-        lines << u"    %1: %2"_s.arg(change.setting->label(), change.words());
-    }
-    return lines;
-}
-
-QStringList linesOf(const QList<SendWarning> &warnings) {
-    QStringList lines;
-    for (const SendWarning &warning : warnings)
-        lines << u"%1: %2"_s.arg(titleOfPage(warning.viewKey), wordsOf(warning));
-    return lines;
-}
-
-}  // namespace
-
 void DWTMainSettingWindow::push_MainSend() {
     if (!checkAndStorePages()) return;
-    warnOfChangedConnection();
-    askToSend();
+    if (warnOfChangedConnection()) askToSend();
 }
 
 void DWTMainSettingWindow::askToSend() {
-    const Plan plan = shownPlan();
-    window_SendData->setChanges(linesOf(plan.changes), linesOf(plan.warnings));
-    if (const auto view = sendViewAskingPassword()) window_SendData->runOn(*view);
+    window_SendData->setPlan(shownPlan());
+    if (const auto view = sendViewAskingPassword())
+        window_SendData->runOn(*view, m_session->name());
 }
 
 // Asks every page, so that each shows what is wrong on it. False when something is.
@@ -67,14 +44,16 @@ void DWTMainSettingWindow::goToFirstFault() {
     }
 }
 
-void DWTMainSettingWindow::warnOfChangedConnection() {
-    for (const auto &page : dictionary_ViewManagement) {
-        if (page->itemConnectChangeCheck()) continue;
-        showStandardAlert("DWT_Localize_Alert_MessageText_Dowline",
-                          "DWT_Localize_Alert_MessageText_Warning",
-                          "DWT_Localize_Alert_InfoText_ChangeSetting_Warning");
-        return;
-    }
+// False when the user stays away from the send.
+bool DWTMainSettingWindow::warnOfChangedConnection() {
+    const auto isReachedAlike = [](const std::shared_ptr<DWTBaseView> &page) {
+        return page->itemConnectChangeCheck();
+    };
+    return std::all_of(dictionary_ViewManagement.cbegin(), dictionary_ViewManagement.cend(),
+                       isReachedAlike) ||
+           showStandardAlert(
+               "DWT_Localize_Alert_MessageText_Dowline", "DWT_Localize_Alert_MessageText_Warning",
+               "DWT_Localize_Alert_InfoText_ChangeSetting_Warning", Alert::Answers::OkOrCancel);
 }
 
 // The view with which the dialog opens; nothing when the wait was cancelled.
@@ -89,17 +68,19 @@ std::optional<QString> DWTMainSettingWindow::sendViewAskingPassword() {
 }
 
 void DWTMainSettingWindow::push_SendLoginOK() {
-    const QString unreachable = localized("DWT_Localize_Send_ConnectErr_TextField");
+    const auto sayUnreachable = [this](const QString &viewKey) {
+        window_SendData->sayInstead(viewKey, localized("DWT_Localize_Send_ConnectErr_TextField"),
+                                    "DWT_Localize_Send_ConnectErr_Heading");
+    };
     const auto answer = [&] {
         const WaitSheet waiting = window_Wait->over(window_SendData);
         const Ending::Login login = m_session->logIn(window_SendData->password());
         if (isWaitCancelled()) return DWT_View_Key_Send_Login;
         if (login == Ending::Login::NotReached) {
-            window_SendData->sayInstead(DWT_View_Key_Send_Login, unreachable);
+            sayUnreachable(DWT_View_Key_Send_Login);
             return DWT_View_Key_Send_Login;
         }
-        if (login == Ending::Login::NoReply)
-            window_SendData->sayInstead(DWT_View_Key_Send_LoginError, unreachable);
+        if (login == Ending::Login::NoReply) sayUnreachable(DWT_View_Key_Send_LoginError);
         if (login != Ending::Login::Passed) return DWT_View_Key_Send_LoginError;
         window_SendData->clearPassword();
         return DWT_View_Key_Send_Confirm;
@@ -125,14 +106,12 @@ void DWTMainSettingWindow::sendHasStopped() {
 void DWTMainSettingWindow::showEnding(bool comparing) {
     if (m_ending.course == Ending::Course::NotReached) return;  // the view says it
     QStringList paragraphs = m_session->wordsOf(m_ending, Naming::Labels);
-    if (m_ending.isComplete())
+    const bool isVerified = m_ending.comparison == Ending::Comparison::Done;
+    if (m_ending.isComplete() && !isVerified)
         paragraphs.prepend(localized("DWT_Localize_Send_End_TextField"));
-    else
-        paragraphs << localized("DWT_Localize_Send_Kept");
+    if (!m_ending.isComplete()) paragraphs << localized("DWT_Localize_Send_Kept");
     if (comparing) paragraphs << localized("DWT_Localize_Send_End_Comparing");
-    const bool isLost = m_ending.course == Ending::Course::Lost;
-    window_SendData->sayInstead(isLost ? DWT_View_Key_Send_ConnectError : DWT_View_Key_Send_End,
-                                paragraphs.join(u"\n\n"_s));
+    window_SendData->showEnding(m_ending, paragraphs, comparing);
 }
 
 void DWTMainSettingWindow::compareWithPrinter() {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QMap>
+#include <QTimer>
 #include <memory>
 #include <vector>
 
@@ -9,6 +11,8 @@
 #include "platform/ui/Modal.h"
 #include "platform/ui/ModalWindow.h"
 #include "platform/ui/ViewStack.h"
+#include "settings/Ending.h"
+#include "settings/Plan.h"
 #include "ui_SendDialog.h"
 
 // Views of the send dialog.
@@ -32,12 +36,13 @@ class SendDialog : public ModalWindow, private Ui::SendDialog {
     // Hidden; belongs to `parent`.
     explicit SendDialog(QWidget *parent);
 
-    // Shows the dialog on the view of the key and runs until it is closed. Result: the outcome.
-    int runOn(const QString &viewKey);
+    // Shows the dialog on the view of the key, for the printer that is called `printer`, and runs
+    // until it is closed. Result: the outcome.
+    int runOn(const QString &viewKey, const QString &printer);
     // Ends the run with the outcome and hides the dialog.
     void closeDialog(int outcome = Modal::stoppedOutcome) { Modal::stop(this, outcome); }
-    // What the confirmation lists, in lines, and what it warns of; until others are given.
-    void setChanges(const QStringList &changes, const QStringList &warnings);
+    // What the confirmation lists and warns of, until another plan is given.
+    void setPlan(const Plan &plan);
     // Shows the view of the key and hides the others.
     void MSW_SendUISelector(const QString &viewKey);
     // Shows the progress of a send that is about to start.
@@ -47,8 +52,12 @@ class SendDialog : public ModalWindow, private Ui::SendDialog {
     QString password() const { return textField_Password->text(); }
     void clearPassword() { textField_Password->forget(); }
 
-    // Another text for the login, login-error, end or connection-error view, until the next run.
-    void sayInstead(const QString &viewKey, const QString &text);
+    // Another text, and heading, for the login, login-error, end or connection-error view, until
+    // the next run.
+    void sayInstead(const QString &viewKey, const QString &text, const char *headingKey = nullptr);
+    // Says in the End view, or in that of a lost connection, how a send ended; `comparing`: the
+    // printer is still to be read again.
+    void showEnding(const Ending &ending, const QStringList &paragraphs, bool comparing);
 
   Q_SIGNALS:
     // The unsent changes are to be sent, or dropped, before the window is left.
@@ -69,22 +78,37 @@ class SendDialog : public ModalWindow, private Ui::SendDialog {
     void showEvent(QShowEvent *event) override;
 
   private:
-    // Grows to what the shown view needs.
+    // What stands above the views, beside the sign; `%1` is the printer.
+    struct Heading {
+        const char *key = nullptr;
+        Sign::Kind sign = Sign::Question;
+    };
+    static Heading headingOf(const Ending &ending, bool comparing);
+    void showHeading(const QString &viewKey);
+    // Takes the size that the shown view needs.
     void makeRoom();
     void connectButtons();
-    void showChanges(bool shown);
     void push_SendChangeCheckCancel() { closeDialog(stay); }
     void push_UpdateChangeCheckCancel() { closeDialog(); }
     void push_SendConfirmCancel() { closeDialog(); }
     void push_SendLoginCancel() { closeDialog(); }
+    void push_SendLoginErrorCancel() { closeDialog(); }
     void push_SendLoginErrorOK();
     void push_SendConnectErrorOK() { closeDialog(); }
     void MSW_DataSendStart(const Notification &posted) { MSW_SetProgressInfo(posted.userInfo); }
     void MSW_DataSendProgress(const Notification &posted) { MSW_SetProgressInfo(posted.userInfo); }
     void MSW_DataSendStop(const Notification &notification);
+    void followItem(const Notification &posted);
+    // Names the item that is waited for and, after a while, for how long.
+    void showItem();
     void MSW_SetProgressInfo(const QVariantMap &progress);
 
     std::unique_ptr<ViewStack> dictionary_SendViewManagement;
+    QString m_printer;
+    QMap<QString, Heading> m_headings;  // by view key
+    QString m_item;                     // that is waited for
+    QElapsedTimer m_waited;             // for it
+    QTimer m_showingItem;
     QMap<QString, QLabel *> m_saying;      // by view key
     QMap<QLabel *, QString> m_usualTexts;  // of the labels above
     std::vector<NotificationCenter::Observer> m_observers;

@@ -203,7 +203,7 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
 
     // The send, on its own thread.
     void NDM_SendDataToPrinterThread();
-    void NDM_ProgressSetting(const QString &notification, double step);
+    void NDM_ProgressSetting(const QString &notification, double step, const QString &setting = {});
     bool sendLogin();
     // The saved data once the send is applied: with the accepted values, and their bytes.
     struct Accepted {
@@ -217,7 +217,7 @@ class DWTDataManager : public DWTBaseClass, public std::enable_shared_from_this<
     bool isWorthSending(const Item &item) const;
     WriteResult write(const Item &item, const CategoryDictionary &change, bool changed);
     // Puts the settings of an item that was written into the ending.
-    void note(const Item &item, const WriteResult &result);
+    void note(const Item &item, const CategoryDictionary &change, const WriteResult &result);
     bool isLost() const { return m_ending.course == Ending::Course::Lost; }
 
     static bool NDM_InitMemberToPrinterList(const std::shared_ptr<DWTCommunicationControl> &link,

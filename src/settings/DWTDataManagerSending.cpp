@@ -5,6 +5,7 @@
 #include "platform/core/MainThread.h"
 #include "platform/core/NotificationCenter.h"
 #include "settings/DWTDataManager.h"
+#include "settings/Values.h"
 #include "settings/Wipe.h"
 
 namespace {
@@ -16,6 +17,26 @@ constexpr ItemCode passwordItem = 0x1003;
 
 // How far a send is, in percent, whenever a category was written.
 constexpr int progressSteps[] = {16, 33, 50, 66, 85, 100};
+
+// How far a send is, in percent, before an item is written: between the steps of its category and,
+// before the last one, not at the end.
+double progressBefore(const Item &item) {
+    const auto &items = sentItems();
+    const auto isOfCategory = [&](const Item &other) { return other.viewKey == item.viewKey; };
+    const auto first = std::find_if(items.begin(), items.end(), isOfCategory);
+    const auto count = std::count_if(items.begin(), items.end(), isOfCategory);
+    const auto before = std::find_if(first, items.end(),
+                                     [&](const Item &other) { return other.code == item.code; }) -
+                        first;
+    QStringList categories;
+    for (auto i = items.begin(); i != first; ++i)
+        if (!categories.contains(i->viewKey)) categories << i->viewKey;
+    const auto steps = std::size(progressSteps);
+    const auto index = size_t(categories.size());
+    if (index == steps) return progressSteps[steps - 1] - 1.0;
+    const double from = index > 0 ? progressSteps[index - 1] : 0;
+    return from + (progressSteps[index] - from) * double(before) / double(count);
+}
 
 // Whether two categories differ in what an item carries.
 bool differ(const Item &item, const CategoryDictionary &a, const CategoryDictionary &b) {
@@ -75,10 +96,12 @@ void DWTDataManager::NDM_SendDataToPrinterThread() {
     NDM_ProgressSetting(DWT_DataSend_Stop_Message, isLost() ? 1 : 0);
 }
 
-void DWTDataManager::NDM_ProgressSetting(const QString &notification, double step) {
-    const QVariantMap information{{MSW_Searching_Value_Minimum, 0.0},
-                                  {MSW_Searching_Value_Maximum, 100.0},
-                                  {MSW_Searching_Value_Current, step}};
+void DWTDataManager::NDM_ProgressSetting(const QString &notification, double step,
+                                         const QString &setting) {
+    QVariantMap information{{MSW_Searching_Value_Minimum, 0.0},
+                            {MSW_Searching_Value_Maximum, 100.0},
+                            {MSW_Searching_Value_Current, step}};
+    if (!setting.isEmpty()) information.insert(DWT_DataSend_Setting, setting);
     NotificationCenter::shared().postOnMainThreadAndWait(notification, this, information);
 }
 
@@ -122,8 +145,10 @@ void DWTDataManager::send(const Item &item, Accepted &accepted) {
     const QByteArray chosen = networkOfList(item, change);
     const bool changed = !chosen.isEmpty() || differ(item, change, savedData().value(item.viewKey));
     if (isLost() || (!changed && !isWorthSending(item))) return;
+    const QStringList names = namesOf({settingOf(item.viewKey, item.keys.first())}, Naming::Labels);
+    NDM_ProgressSetting(DWT_DataSend_Item_Message, progressBefore(item), names.first());
     const WriteResult result = write(item, change, changed);
-    note(item, result);
+    note(item, change, result);
     // Keys and passwords never become saved values.
     if (result.kind != WriteResult::Accepted || item.isSecret) return;
     CategoryDictionary &saved = accepted.record[item.viewKey];
@@ -171,7 +196,8 @@ WriteResult DWTDataManager::write(const Item &item, const CategoryDictionary &ch
     }
 }
 
-void DWTDataManager::note(const Item &item, const WriteResult &result) {
+void DWTDataManager::note(const Item &item, const CategoryDictionary &change,
+                          const WriteResult &result) {
     if (result.kind == WriteResult::NoReply && ncc_Object->isClosedByPrinter()) {
         m_ending.course = Ending::Course::Lost;
         return;
@@ -179,6 +205,11 @@ void DWTDataManager::note(const Item &item, const WriteResult &result) {
     const auto state = result.kind == WriteResult::Accepted  ? Ending::State::Accepted
                        : result.kind == WriteResult::NoReply ? Ending::State::Unclear
                                                              : Ending::State::Refused;
-    for (const QString &key : item.keys)
-        m_ending.parts << Ending::Part{settingOf(item.viewKey, key), state};
+    const CategoryDictionary saved = savedData().value(item.viewKey);
+    for (const QString &key : item.keys) {
+        Ending::Part part{settingOf(item.viewKey, key), state, result.code};
+        part.isChanged = item.isSecret || !isSame(change.value(key), saved.value(key));
+        if (!item.isSecret) part.sentText = textOrEmpty(*part.setting, change);
+        m_ending.parts << part;
+    }
 }

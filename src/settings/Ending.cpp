@@ -27,8 +27,8 @@ QString listOf(const QList<const Setting *> &settings, Naming naming) {
     return naming == Naming::Stable ? names.join(u", "_s) : u'\n' + names.join(u'\n');
 }
 
-QString wordsOf(const Ending::Part &part, Naming naming) {
-    const QString name = nameOf(*part.setting, naming);
+QString wordsOf(const Ending::Part &part) {
+    const QString name = nameOf(*part.setting, Naming::Stable);
     if (part.setting->isSecret()) return localized("DWT_Localize_Ending_SecretDiffers").arg(name);
     return localized("DWT_Localize_Ending_Differs").arg(name, part.sentText, part.heldText);
 }
@@ -80,10 +80,14 @@ QStringList wordsOf(const Ending &ending, const QString &printer, Naming naming)
     const auto say = [&](const char *key, const QList<const Setting *> &settings) {
         if (!settings.isEmpty()) sentences << localized(key).arg(printer, listOf(settings, naming));
     };
-    say("DWT_Localize_Ending_Refused", ending.in(Ending::State::Refused));
-    say("DWT_Localize_Ending_Unclear", ending.in(Ending::State::Unclear));
-    for (const Ending::Part &part : ending.parts)
-        if (part.state == Ending::State::Differs) sentences << wordsOf(part, naming);
+    if (naming == Naming::Stable) {
+        say("DWT_Localize_Ending_Refused", ending.in(Ending::State::Refused));
+        say("DWT_Localize_Ending_Unclear", ending.in(Ending::State::Unclear));
+        for (const Ending::Part &part : ending.parts)
+            if (part.state == Ending::State::Differs) sentences << wordsOf(part);
+    } else if (!ending.isComplete()) {
+        sentences << localized("DWT_Localize_Ending_NotAsSent").arg(printer);
+    }
     if (ending.comparison == Ending::Comparison::Failed)
         sentences << localized("DWT_Localize_Ending_NotReadBack").arg(printer);
     if (ending.comparison != Ending::Comparison::Done) return sentences;

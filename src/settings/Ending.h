@@ -34,7 +34,10 @@ struct Ending {
     struct Part {
         const Setting *setting;
         State state;
-        QString sentText = {}, heldText = {};  // of one that differs; of a secret empty
+        int code = 0;           // with which the printer refused it
+        bool isChanged = true;  // otherwise it went back as it was read
+        // What was sent and, of one that was compared, what the printer holds; of a secret empty.
+        QString sentText = {}, heldText = {};
     };
 
     Course course = Course::Sent;
@@ -60,5 +63,6 @@ enum class Naming {
 // The names of settings, each once.
 QStringList namesOf(const QList<const Setting *> &settings, Naming naming);
 
-// An ending in sentences, for the printer that is called `printer`.
+// An ending in sentences, for the printer that is called `printer`. With labels the settings that
+// the printer did not take stand in a table beside, and are not named.
 QStringList wordsOf(const Ending &ending, const QString &printer, Naming naming);

@@ -115,8 +115,7 @@ Ending Session::verify() {
     ending.comparison = Ending::Comparison::Failed;
     if (again.readWhenReady() != Reading::Complete) return ending;
     ending.comparison = Ending::Comparison::Done;
-    for (Ending::Part &part : ending.parts)
-        if (part.state == State::Accepted || part.state == State::Unclear) compare(part, again);
+    for (Ending::Part &part : ending.parts) compare(part, again);
     m_record = again.record();
     return ending;
 }
@@ -126,6 +125,9 @@ void Session::compare(Ending::Part &part, Session &again) const {
     const CategoryDictionary sent = m_manager->changeData().value(setting.viewKey),
                              held = again.record().value(setting.viewKey);
     const State before = part.state;
+    if (!setting.isSecret() && again.m_manager->isReported(setting.key))
+        part.heldText = textOrEmpty(setting, held);
+    if (before == State::Refused) return;
     if (setting.viewKey == DWT_View_Key_Password) {
         const QString password = textValue(sent, setting.key);
         if (password.isEmpty()) {
@@ -142,10 +144,6 @@ void Session::compare(Ending::Part &part, Session &again) const {
     if (!setting.isReported() || !again.m_manager->isReported(setting.key)) return;
     const bool isSameValue = isSame(sent.value(setting.key), held.value(setting.key));
     part.state = isSameValue ? State::Verified : State::Differs;
-    if (!isSameValue && !setting.isSecret()) {
-        part.sentText = textOrEmpty(setting, sent);
-        part.heldText = textOrEmpty(setting, held);
-    }
     if (!isSameValue || before == State::Unclear)
         m_manager->adopt(*itemOf(setting.item.code), *again.m_manager);
 }

@@ -64,6 +64,9 @@ DWT_KEY(DWT_SSIDList_SignalStrength);
 // Notifications of a send, and the floating-point numbers of their user information.
 DWT_KEY(DWT_DataSend_Start_Message);
 DWT_KEY(DWT_DataSend_Progress_Message);
+// Before an item is written; DWT_DataSend_Setting names it beside the progress.
+DWT_KEY(DWT_DataSend_Item_Message);
+DWT_KEY(DWT_DataSend_Setting);
 DWT_KEY(DWT_DataSend_Stop_Message);
 DWT_KEY(MSW_Searching_Value_Minimum);
 DWT_KEY(MSW_Searching_Value_Maximum);

@@ -1,5 +1,7 @@
 #include "SelectionWindow.h"
 #include "platform/core/Texts.h"
+#include "support/Profiles.h"
+#include "support/Rectangles.h"
 
 namespace {
 
@@ -68,6 +70,7 @@ class Looks : public InLanguage, public SelectionWindow {
                 << " " << widget->width() << " of " << widget->minimumSizeHint().width();
         }
         expectDifferent(mnemonics);
+        expectNothingIsCovered(window);
         expectNames(QAccessible::queryAccessibleInterface(window));
     }
     // Looks at a window, once for each view in the part of it.
@@ -81,6 +84,45 @@ class Looks : public InLanguage, public SelectionWindow {
             look(window);
         }
     }
+    // Looks at a view of a dialog when a person comes to it.
+    DialogScript &lookAt(const char *view, const char *button) {
+        return walk.dialogs().on(
+            view, [this](QWidget *dialog) { look(dialog); }, button);
+    }
+    void lookAtAlert() {
+        walk.dialogs().on("", [this](QWidget *alert) {
+            look(alert);
+            keys("Return");
+        });
+    }
+    void open(const char *name) {
+        walk.launch();
+        ASSERT_TRUE(walk.open(text(name)));
+    }
+    void pick(const char *popUp, int index) {
+        auto *const choice = controlOf<QComboBox>(walk.main(), popUp);
+        choice->setFocus();
+        QTest::keyClick(choice, Qt::Key_Home);
+        for (int i = 0; i < index; ++i) QTest::keyClick(choice, Qt::Key_Down);
+    }
+    // Many changes on all pages, of which three are warned of.
+    void changeMuch() {
+        walk.type("textField_NetworkPrinterName", text("Packing-Desk-2-first-floor"));
+        walk.type("textField_NetworkBonjour", text("packing-desk-2"));
+        walk.type("textField_NetworkBonjourService", QString(30, u'W'));
+        ::press(walk.main(), "buttonCell_Manual");
+        walk.type("textField_EthernetIpAddress", text("192.168.100.200"));
+        walk.type("textField_EthernetSubnetMask", text("255.0.255.0"));
+        walk.type("textField_EthernetDefaultGateway", text("10.0.0.1"));
+        walk.type("textField_InfrastructureSSID", QString(32, u'W'));
+        pick("popupbutton_InfrastructureAuthentic", 2);
+        walk.type("textField_SimpleAPSSID", QString(20, u'W'));
+        walk.type("textField_PrintTimeOut", text("120"));
+    }
+    void setFaults(const char *name, const QByteArray &faults) {
+        printer(name).setFaults(faultsOf(faults));
+    }
+
     // An accessible object and everything inside it.
     void expectNames(QAccessibleInterface *object) {
         static const QSet<QAccessible::Role> interactive{
@@ -117,8 +159,7 @@ TEST_P(Looks, NoTextIsCutAndEveryControlHasANameForAScreenReader) {
     outline->setFocus();
     keys("Up");
     for (int i = 0; i < 7; ++i, keys("Down")) look(walk.main());
-    for (const char *part :
-         {"view_SendData", "view_WPSGuide", "tableView_SelectSSIDWindow", "progress_Wait"}) {
+    for (const char *part : {"view_WPSGuide", "tableView_SelectSSIDWindow", "progress_Wait"}) {
         QWidget *const dialog = controlOf(walk.main(), part)->window();
         dialog->show();
         lookAtEach(dialog, part);
@@ -129,13 +170,41 @@ TEST_P(Looks, NoTextIsCutAndEveryControlHasANameForAScreenReader) {
         EXPECT_FALSE(title.contains(QRegularExpression(text("&|\\(.\\)|^$")))) << qPrintable(title);
     }
     walk.type("textField_NetworkBonjour", text("no spaces"));
-    walk.dialogs().on("", [this](QWidget *alert) {
-        look(alert);
-        keys("Return");
-    });
+    lookAtAlert();
     walk.press("button_MainSend");
-    EXPECT_GT(read, 250);
-    EXPECT_GT(named, 100);
+    EXPECT_GT(read, 200);
+    EXPECT_GT(named, 80);
+}
+
+TEST_P(Looks, EveryViewOfASendFitsOnItsFirstShowing) {
+    open("Packing-Desk");  // without a password, so that the confirmation comes first
+    changeMuch();
+    lookAt("view_SendChangeCheck", "button_SendChangeCheckCancel");
+    walk.press("button_MainCancel");
+    lookAt("view_UpdateChangeCheck", "button_UpdateChangeCheckCancel");
+    walk.press("button_MainNewSetting");
+    setFaults("packing-desk", R"({"items": {"0x1004": {"result": 5}, "0x2001": {"result": 0},
+                                            "0x1007": {"result": 9}, "0x3000": {"result": 3}}})");
+    lookAtAlert();
+    lookAt("view_SendConfirm", "button_SendConfirmTransmission");
+    lookAt("view_SendEnd", "button_SendEndOK");
+    walk.press("button_MainSend");
+    walk.dialogs().on("view_SendChangeCheck", "button_SendChangeCheckNoReflect");
+    walk.main()->close();
+    open("Dispatch");
+    walk.type("textField_NetworkPrinterName", text("Dispatch-2"));
+    setFaults("dispatch", R"({"refuseConnection": true})");
+    lookAtAlert();
+    lookAt("view_SendConnectError", "button_SendConnectErrorOK");
+    walk.press("button_MainSend");
+    setFaults("dispatch", "{}");
+    lookAtAlert();
+    lookAt("view_SendLogin", "button_SendLoginOK");
+    lookAt("view_SendLoginError", "button_SendLoginErrorOK");
+    walk.dialogs().login("open123");
+    lookAt("view_SendConfirm", "button_SendConfirmTransmission");
+    lookAt("view_SendEnd", "button_SendEndOK");
+    walk.press("button_MainSend");
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryLanguage, Looks, testing::ValuesIn(text(NST_LANGUAGES).split(u',')),

@@ -17,6 +17,20 @@ class Sending : public PrinterWindow {
         EXPECT_EQ(name(), text("new-name"));
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     }
+    // What a table shows, a line a row; rows below a heading begin with a space.
+    static QString textOf(const QTreeWidget *table) {
+        QString shown;
+        for (QTreeWidgetItemIterator i(const_cast<QTreeWidget *>(table)); *i; ++i) {
+            QStringList cells;
+            for (int column = 0; column < (*i)->columnCount(); ++column)
+                cells << (*i)->text(column);
+            shown += ((*i)->parent() ? text(" ") : QString()) + cells.join(u'|') + u'\n';
+        }
+        return shown;
+    }
+    static QString saidIn(QWidget *dialog, const char *label) {
+        return controlOf<QLabel>(dialog, label)->text();
+    }
     static DialogScript::Answer says(const char *label, const char *part) {
         return [=](QWidget *dialog) {
             const auto *shown = controlOf<QLabel>(dialog, label);
@@ -42,7 +56,7 @@ TEST_F(Sending, WithoutAPasswordOneConfirmationSendsEverything) {
                      [&](int value) { values << value; });
     warned().confirmAndEnd();
     send();
-    EXPECT_EQ(values, (QList<int>{0, 16, 33, 50, 66, 85, 100, 0}));
+    EXPECT_EQ(values, (QList<int>{0, 16, 22, 27, 33, 50, 66, 69, 76, 82, 85, 93, 100, 99, 0}));
     EXPECT_EQ(held(), QByteArray("new-name"));
     EXPECT_TRUE(served->printer().item(0x3105).endsWith("secret key"));
     EXPECT_EQ(field("textField_InfrastructurePSK")->text(), QString());
@@ -89,7 +103,7 @@ TEST_F(Sending, WrongInputOnTwoPagesIsToldAndLeadsToTheFirstFieldToMend) {
         .on("",
             [](QWidget *alert) {
                 const auto *box = static_cast<QMessageBox *>(alert);
-                EXPECT_EQ(box->windowTitle(), text("Network Setting Tool"));
+                EXPECT_EQ(box->windowTitle(), text("Label-Printer – Network Setting Tool"));
                 EXPECT_TRUE(box->informativeText().startsWith(text("Wired network\nEnter the IP")));
                 QTest::keyClick(alert, Qt::Key_Return);
             })
@@ -118,13 +132,13 @@ TEST_F(Sending, WhatWillChangeIsListedAndWarnedOfBeforeItIsSent) {
     type("textField_InfrastructureSSID", "New");
     pickItem("popupbutton_InfrastructureAuthentic", "WPA2");
     const auto reads = [](QWidget *dialog) {
-        auto *list = controlOf<QPlainTextEdit>(dialog, "textView_SendConfirm");
-        EXPECT_EQ(list->toPlainText(),
-                  text("Names\n    Bonjour name: desk → desk-2\nWired network\n"
-                       "    Subnet mask: 255.0.0.0 → 255.0.255.0\nInfrastructure\n"
-                       "    Network name (SSID): Old → New\n"
-                       "    Authentication: Open system → WPA2-Personal\n"
-                       "    Encryption: None → AES"));
+        auto *list = controlOf<QTreeWidget>(dialog, "table_SendConfirm");
+        EXPECT_EQ(textOf(list),
+                  text("Names\n Bonjour name|desk|desk-2\nWired network\n"
+                       " Subnet mask|255.0.0.0|255.0.255.0\nInfrastructure\n"
+                       " Network name (SSID)|Old|New\n"
+                       " Authentication|Open system|WPA2-Personal\n Encryption|None|AES\n"));
+        EXPECT_EQ(saidIn(dialog, "heading_Send"), text("Send these changes to Label-Printer?"));
         EXPECT_TRUE(list->isVisible() && dialog->focusWidget() == list);
         EXPECT_EQ(list->accessibleName(), text("What will change"));
         const auto *warnings = controlOf<QLabel>(dialog, "textField_SendWarnings");
@@ -154,10 +168,10 @@ TEST_F(Sending, APrinterUnpluggedBeforeTheSendLosesNothing) {
     warned()
         .on("view_SendLogin", faults(gone))
         .login("open123")
-        .on("view_SendLogin", says("textField_SendLogin", "cannot be reached"))
+        .on("view_SendLogin", says("heading_Send", "cannot be reached"))
         .on("view_SendLogin", faults(R"({"items": {"0x1001": {"noReply": true}}})"),
             "button_SendLoginOK")
-        .on("view_SendLoginError", says("textField_SendLoginError", "cannot be reached"),
+        .on("view_SendLoginError", says("heading_Send", "cannot be reached"),
             "button_SendLoginErrorOK")
         .on("view_SendLogin", faults("{}"), "button_SendLoginOK")
         .on("view_SendConfirm", faults(gone), "button_SendConfirmTransmission")
@@ -168,36 +182,45 @@ TEST_F(Sending, APrinterUnpluggedBeforeTheSendLosesNothing) {
 
 TEST_F(Sending, TheEndSaysWhatBecameOfTheSettings) {
     const struct {
-        const char *faults, *said;
+        const char *faults, *heading, *said, *table;
         bool lost = false;
     } cases[] = {
         {R"({"items": {"0x1004": {"result": 5}, "0x2001": {"result": 7}}})",
-         "did not accept these settings: \nNames: Bonjour name\nWired network: IP address\n\n"
-         "Your changes are kept."},
-        {R"({"items": {"0x1004": {"result": 0}}})",
-         "Names: Bonjour name was sent as new-name, and read back as label-printer."},
-        {R"({"items": {"0x1004": {"noReply": true}}})", "it could not be read again"},
-        {R"({"items": {"0x1007": {"closeAfterReply": true}}})", "was lost. Nothing was applied",
-         true}};
-    const auto sendAndRead = [&](const QByteArray &faults_, bool lost, const char *said) {
+         "Label-Printer did not take every setting", "Your changes are kept.",
+         "Names\n Bonjour name|new-name|label-printer|refused (code 5)\nNot changed by you\n"
+         " Wired network: Address assignment|Fixed address|Fixed address|refused (code 7)\n"},
+        {R"({"items": {"0x1004": {"result": 0}}})", "Label-Printer did not take every setting",
+         "Your changes are kept.", "Names\n Bonjour name|new-name|label-printer|different\n"},
+        {R"({"items": {"0x1004": {"noReply": true}}})", "Label-Printer did not take every setting",
+         "it could not be read again", "Names\n Bonjour name|new-name||no answer\n"},
+        {R"({"items": {"0x1007": {"closeAfterReply": true}}})",
+         "The connection to Label-Printer was lost", "was lost. Nothing was applied", "", true}};
+    const auto sendAndRead = [&](const QByteArray &faults_, bool lost, const char *said,
+                                 const char *heading, const char *table) {
         auto &script = warned().login("open123");
         script.on("view_SendConfirm", faults(faults_), "button_SendConfirmTransmission");
-        if (lost)
-            script.said("view_SendConnectError", "textField_SendConnectError", said,
-                        "button_SendConnectErrorOK");
-        else
-            script.said("view_SendEnd", "textField_SendEnd", said, "button_SendEndOK");
+        const char *const view = lost ? "view_SendConnectError" : "view_SendEnd";
+        script.said(view, lost ? "textField_SendConnectError" : "textField_SendEnd", said,
+                    [=](QWidget *dialog) {
+                        EXPECT_EQ(saidIn(dialog, "heading_Send"), text(heading));
+                        const auto *rows = controlOf<QTreeWidget>(dialog, "table_SendEnd");
+                        const auto isSaid = [&] { return textOf(rows) == text(table); };
+                        EXPECT_TRUE(QTest::qWaitFor(isSaid)) << textOf(rows).toStdString();
+                        EXPECT_EQ(rows->isVisible(), *table != 0);
+                        expectNothingIsCovered(dialog);
+                        QTest::keyClick(dialog, Qt::Key_Return);
+                    });
         send();
     };
     for (const auto &c : cases) {
         openAndType(passwordProfile);
         choose("Infrastructure");
         type("textField_InfrastructureSSID", "new network");
-        sendAndRead(c.faults, c.lost, c.said);
+        sendAndRead(c.faults, c.lost, c.said, c.heading, c.table);
         expectUnsent();
         EXPECT_TRUE(!c.lost || held() == "label-printer") << "half of a transaction was kept";
         setFaults("{}");
-        sendAndRead("{}", false, "and has the new settings");
+        sendAndRead("{}", false, "and has the new settings", "Sent and verified", "");
         EXPECT_EQ(held(), QByteArray("new-name"));
         EXPECT_FALSE(isEnabled("button_MainSend"));
     }
@@ -215,6 +238,8 @@ TEST_F(Sending, EscapeCancelsWhereTheViewCanBeCancelled) {
     warned().key("view_SendLogin", Qt::Key_Escape);
     send();
     warned().login("open123").on("view_SendConfirm", close);
+    send();
+    dialogs.key("", Qt::Key_Escape);
     send();
     dialogs.key("view_UpdateChangeCheck", Qt::Key_Escape);
     click("button_MainNewSetting");

@@ -78,9 +78,9 @@ class DialogScript : public QObject {
         return *this;
     }
     DialogScript &on(const char *view, const char *button) { return on(view, nullptr, button); }
-    // When a label of the view has come to say a part of a text: clicks the button.
-    DialogScript &said(const char *view, const char *label, const char *part, const char *button) {
-        on(view, button);
+    // When a label of the view has come to say a part of a text: does what is told.
+    DialogScript &said(const char *view, const char *label, const char *part, const Answer &act) {
+        on(view, act);
         m_steps.back().label = text(label);
         m_steps.back().part = text(part);
         return *this;

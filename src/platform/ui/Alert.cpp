@@ -9,8 +9,8 @@
 #include "platform/core/Texts.h"
 #include "platform/ui/WaitSheet.h"
 
-void Alert::runModal(Style style, const QString &message, const QString &information,
-                     QWidget *parent) {
+bool Alert::runModal(Style style, const QString &message, const QString &information,
+                     QWidget *parent, Answers answers) {
     QWidget *const waited = WaitSheet::endCurrent();
     QWidget *const active = waited ? waited : QApplication::activeWindow();
     // It goes with its parent, which may happen while it is up.
@@ -26,8 +26,14 @@ void Alert::runModal(Style style, const QString &message, const QString &informa
     QPushButton *const button =
         box.addButton(localized("DWT_Localize_Alert_Button_OK"), QMessageBox::AcceptRole);
     box.setDefaultButton(button);
-    box.setEscapeButton(button);
+    const QPushButton *const cancel =
+        answers == Answers::OkOrCancel
+            ? box.addButton(localized("DWT_Localize_Alert_Button_Cancel"), QMessageBox::RejectRole)
+            : nullptr;
+    if (!cancel) box.setEscapeButton(button);
     box.setEnabled(true);  // its parent may be inert
     box.exec();
+    const bool isCancelled = shown && cancel && box.clickedButton() == cancel;
     delete shown;
+    return !isCancelled;
 }

@@ -9,14 +9,14 @@
 #include <algorithm>
 #include <utility>
 
-ViewStack::ViewStack(QWidget *container) : m_container(container) {
+ViewStack::ViewStack(QWidget *container, Room room) : m_container(container), m_room(room) {
     auto *layout = new QGridLayout(container);
     layout->setContentsMargins(0, 0, 0, 0);
 }
 
 void ViewStack::add(const QString &key, QWidget *view) {
     QSizePolicy policy = view->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
+    policy.setRetainSizeWhenHidden(m_room == Room::OfLargest);
     view->setSizePolicy(policy);
     view->setParent(m_container);
     static_cast<QGridLayout *>(m_container->layout())->addWidget(view, 0, 0);

@@ -5,11 +5,14 @@
 
 class QWidget;
 
-// Views in one container as large as the largest, of which at most one is visible.
+// Views in one container, of which at most one is visible.
 class ViewStack {
   public:
-    // The container has no layout, owns the views, and outlives the stack.
-    explicit ViewStack(QWidget *container);
+    enum class Room { OfLargest, OfShown };
+
+    // The container has no layout, owns the views, and outlives the stack. It takes the room of the
+    // largest view, or of the shown one.
+    explicit ViewStack(QWidget *container, Room room = Room::OfLargest);
 
     // Adds a view under `key`, hidden.
     void add(const QString &key, QWidget *view);
@@ -30,5 +33,6 @@ class ViewStack {
     QWidget *shown() const;
 
     QWidget *const m_container;
+    const Room m_room;
     QMap<QString, QWidget *> m_views;
 };
