@@ -265,7 +265,7 @@ int main(int argc, char **argv) {
     shootSelector();
     shootPages();
     shootSendDialog();
-    shootManyChanges();
     shootOthers();
+    shootManyChanges();
     return 0;
 }
