@@ -480,6 +480,18 @@
     <message id="DWT_Localize_MainDialog_Text_NotReported">
         <translation>Diese Einstellungen hat der Drucker nicht mitgeteilt; sie werden erst gesendet, wenn Sie etwas dafür eingeben: %1</translation>
     </message>
+    <message id="DWT_Localize_State_ReadAt">
+        <translation>gelesen um %1</translation>
+    </message>
+    <message id="DWT_Localize_State_Address">
+        <translation>%1: %2</translation>
+    </message>
+    <message id="DWT_Localize_State_NoAddress">
+        <translation>keine Adresse</translation>
+    </message>
+    <message id="DWT_Localize_State_AsRead">
+        <translation>Die gezeigten Werte wurden um %1 gelesen.</translation>
+    </message>
     <message id="DWT_Localize_Outline_Name">
         <translation>Kategorien</translation>
     </message>
@@ -1202,7 +1214,7 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
         <translation>Es ist nicht sicher, ob %1 diese Einstellungen übernommen hat: %2</translation>
     </message>
     <message id="DWT_Localize_Ending_NotAsSent">
-        <translation>%1 enthält für diese Einstellungen etwas anderes, als gesendet wurde:</translation>
+        <translation>%1 enthält andere Werte, als gesendet wurden.</translation>
     </message>
     <message id="DWT_Localize_Ending_NotReadBack">
         <translation>Die Einstellungen wurden an %1 gesendet, aber der Drucker konnte nicht noch einmal gelesen werden. Ob er sie hat, ist nicht geprüft.</translation>

@@ -480,6 +480,18 @@
     <message id="DWT_Localize_MainDialog_Text_NotReported">
         <translation>The printer did not report these settings; they are not sent until you enter something for them: %1</translation>
     </message>
+    <message id="DWT_Localize_State_ReadAt">
+        <translation>read at %1</translation>
+    </message>
+    <message id="DWT_Localize_State_Address">
+        <translation>%1: %2</translation>
+    </message>
+    <message id="DWT_Localize_State_NoAddress">
+        <translation>no address</translation>
+    </message>
+    <message id="DWT_Localize_State_AsRead">
+        <translation>The values shown are those read at %1.</translation>
+    </message>
     <message id="DWT_Localize_Outline_Name">
         <translation>Categories</translation>
     </message>
@@ -1202,7 +1214,7 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
         <translation>It is not clear whether %1 took these settings: %2</translation>
     </message>
     <message id="DWT_Localize_Ending_NotAsSent">
-        <translation>%1 holds something else than was sent for these settings:</translation>
+        <translation>%1 holds other values than were sent.</translation>
     </message>
     <message id="DWT_Localize_Ending_NotReadBack">
         <translation>The settings were sent to %1, but it could not be read again. It is not verified that it has them.</translation>

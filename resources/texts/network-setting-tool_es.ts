@@ -480,6 +480,18 @@
     <message id="DWT_Localize_MainDialog_Text_NotReported">
         <translation>La impresora no ha comunicado estos ajustes; no se envían hasta que introduzca algo en ellos: %1</translation>
     </message>
+    <message id="DWT_Localize_State_ReadAt">
+        <translation>leído a las %1</translation>
+    </message>
+    <message id="DWT_Localize_State_Address">
+        <translation>%1: %2</translation>
+    </message>
+    <message id="DWT_Localize_State_NoAddress">
+        <translation>sin dirección</translation>
+    </message>
+    <message id="DWT_Localize_State_AsRead">
+        <translation>Los valores mostrados se leyeron a las %1.</translation>
+    </message>
     <message id="DWT_Localize_Outline_Name">
         <translation>Categorías</translation>
     </message>
@@ -1202,7 +1214,7 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
         <translation>No está claro si %1 tomó estos ajustes: %2</translation>
     </message>
     <message id="DWT_Localize_Ending_NotAsSent">
-        <translation>En %1, estos ajustes no son los enviados:</translation>
+        <translation>%1 tiene valores distintos de los enviados.</translation>
     </message>
     <message id="DWT_Localize_Ending_NotReadBack">
         <translation>Los ajustes se enviaron a %1, pero la impresora no se pudo volver a leer. No se ha comprobado que los tenga.</translation>

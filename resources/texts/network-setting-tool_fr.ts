@@ -480,6 +480,18 @@
     <message id="DWT_Localize_MainDialog_Text_NotReported">
         <translation>L’imprimante n’a pas communiqué ces paramètres ; ils ne sont envoyés que si vous y saisissez quelque chose : %1</translation>
     </message>
+    <message id="DWT_Localize_State_ReadAt">
+        <translation>lus à %1</translation>
+    </message>
+    <message id="DWT_Localize_State_Address">
+        <translation>%1 : %2</translation>
+    </message>
+    <message id="DWT_Localize_State_NoAddress">
+        <translation>aucune adresse</translation>
+    </message>
+    <message id="DWT_Localize_State_AsRead">
+        <translation>Les valeurs affichées ont été lues à %1.</translation>
+    </message>
     <message id="DWT_Localize_Outline_Name">
         <translation>Catégories</translation>
     </message>
@@ -1202,7 +1214,7 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
         <translation>Il n’est pas certain que %1 ait repris ces réglages : %2</translation>
     </message>
     <message id="DWT_Localize_Ending_NotAsSent">
-        <translation>Dans %1, ces paramètres ne sont pas ceux qui ont été envoyés :</translation>
+        <translation>%1 contient d’autres valeurs que celles qui ont été envoyées.</translation>
     </message>
     <message id="DWT_Localize_Ending_NotReadBack">
         <translation>Les réglages ont été envoyés à %1, mais l’imprimante n’a pas pu être relue. Il n’est pas vérifié qu’elle les a.</translation>

@@ -480,6 +480,18 @@
     <message id="DWT_Localize_MainDialog_Text_NotReported">
         <translation>次の設定はプリンターから取得できませんでした。入力するまで送信されません: %1</translation>
     </message>
+    <message id="DWT_Localize_State_ReadAt">
+        <translation>%1 に読み込み</translation>
+    </message>
+    <message id="DWT_Localize_State_Address">
+        <translation>%1：%2</translation>
+    </message>
+    <message id="DWT_Localize_State_NoAddress">
+        <translation>アドレスなし</translation>
+    </message>
+    <message id="DWT_Localize_State_AsRead">
+        <translation>表示されている値は %1 に読み込んだものです。</translation>
+    </message>
     <message id="DWT_Localize_Outline_Name">
         <translation>カテゴリー</translation>
     </message>
@@ -1202,7 +1214,7 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
         <translation>%1 が次の設定を反映したかどうかわかりません: %2</translation>
     </message>
     <message id="DWT_Localize_Ending_NotAsSent">
-        <translation>%1 では、次の設定が送信した値と異なります：</translation>
+        <translation>%1 の値が、送信した値と異なります。</translation>
     </message>
     <message id="DWT_Localize_Ending_NotReadBack">
         <translation>設定を %1 に送信しましたが、もう一度読み取ることができませんでした。反映されたかどうかは確認できていません。</translation>

@@ -480,6 +480,18 @@
     <message id="DWT_Localize_MainDialog_Text_NotReported">
         <translation>打印机未提供以下设置；在您输入内容之前不会发送它们：%1</translation>
     </message>
+    <message id="DWT_Localize_State_ReadAt">
+        <translation>读取于 %1</translation>
+    </message>
+    <message id="DWT_Localize_State_Address">
+        <translation>%1：%2</translation>
+    </message>
+    <message id="DWT_Localize_State_NoAddress">
+        <translation>无地址</translation>
+    </message>
+    <message id="DWT_Localize_State_AsRead">
+        <translation>显示的是 %1 读取的值。</translation>
+    </message>
     <message id="DWT_Localize_Outline_Name">
         <translation>类别</translation>
     </message>
@@ -1202,7 +1214,7 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
         <translation>不清楚 %1 是否采用了以下设置：%2</translation>
     </message>
     <message id="DWT_Localize_Ending_NotAsSent">
-        <translation>在 %1 中，以下设置与发送的值不同：</translation>
+        <translation>%1 中的值与发送的值不同。</translation>
     </message>
     <message id="DWT_Localize_Ending_NotReadBack">
         <translation>设置已发送到 %1，但无法再次读取打印机。尚未确认设置是否生效。</translation>

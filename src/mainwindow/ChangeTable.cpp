@@ -9,7 +9,7 @@
 namespace {
 
 // Between the narrowest that is easy to read and what still fits on a small screen, in characters.
-constexpr int fewestCharacters = 52, mostCharacters = 84;
+constexpr int fewestCharacters = 52, mostCharacters = 100;
 
 }  // namespace
 

@@ -133,14 +133,19 @@ bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &ent
         closeMainWindow({});
         return false;
     }
-    if (reached)
+    // A reading that was cancelled or failed leaves what was shown.
+    m_showsOldValues = m_readAt.isValid() && (!reached || m_cancelled);
+    if (reached && !m_cancelled) {
+        m_readAt = QTime::currentTime();
         for (const auto &page : dictionary_ViewManagement) page->showDataManager();
+        showState(read == ReadResult::Complete);
+    }
     bool_GetDataSuccess = read == ReadResult::Complete && bool_usbPrinter;
     // First, since enabling the pages may find a difference that can be sent.
     if (reached && entry) MSW_SendButtonDisable();
     enableAllViews(bool_GetDataSuccess);
     showReadState();
-    showOwnName();
+    if (!m_showsOldValues) showOwnName();
     followEdits();
     if (reached && entry) {
         goToPage(DWT_View_Key_Network);
@@ -160,33 +165,6 @@ int DWTMainSettingWindow::readAll(WaitWindow *waiting) {
                          .arg(name, QString::number(done), QString::number(total)),
                      done, total);
     });
-}
-
-// Says why nothing can be changed, and what the printer did not report.
-void DWTMainSettingWindow::showReadState() {
-    QStringList lines;
-    if (m_cancelled)
-        lines << localized("DWT_Localize_MainDialog_Text_ReadOnly_Cancelled");
-    else if (!bool_GetDataSuccess)
-        lines << localized(bool_usbPrinter ? "DWT_Localize_MainDialog_Text_ReadOnly_NotRead"
-                                           : "DWT_Localize_MainDialog_Text_ReadOnly_Network");
-    const auto missing =
-        dataManager_Object ? dataManager_Object->notReported() : QList<const Setting *>();
-    if (!missing.isEmpty())
-        lines << localized("DWT_Localize_MainDialog_Text_NotReported")
-                     .arg(namesOf(missing, Naming::Labels).join(u"; "_s));
-    textField_ReadOnly->setText(lines.join(u'\n'));
-    textField_ReadOnly->setVisible(!lines.isEmpty());
-}
-
-void DWTMainSettingWindow::showOwnName() {
-    const SettingRecord saved =
-        dataManager_Object ? dataManager_Object->savedData() : SettingRecord();
-    const QString own =
-        readableText(textValue(saved.value(DWT_View_Key_Network), DWT_SaveData_Network_Printer));
-    textField_PrinterOwnName->setText(own.isEmpty() ? QString() : u"· %1"_s.arg(own));
-    if (m_session)
-        window_Main->setWindowTitle(localized("DWT_Localize_App_Title").arg(m_session->name()));
 }
 
 void DWTMainSettingWindow::enableAllViews(bool enabled) {

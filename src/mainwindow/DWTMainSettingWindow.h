@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPointer>
+#include <QTime>
 #include <QVariantMap>
 #include <memory>
 #include <optional>
@@ -101,8 +102,12 @@ class DWTMainSettingWindow : public QObject,
     void push_MainSetupIsChanged() {}
     // Reads the settings; the data manager's result.
     int readAll(WaitWindow *waiting);
+    // What stands above the pages (DWTMainSettingWindowState.cpp): connection and addresses as they
+    // were read, why nothing can be changed, what the printer did not report, and its name.
+    void showState(bool isComplete);
     void showReadState();
     void showOwnName();
+    QString readAt() const;  // the time of the last reading
     // Follows an edit on a page: the marks of the outline, and which pages the printer uses.
     void followEdits();
     // Brings the page forward as a pick in the outline does.
@@ -194,6 +199,8 @@ class DWTMainSettingWindow : public QObject,
     bool bool_GetDataSuccess = false;
     std::optional<InertWindow> m_inert;  // while a send runs
     bool m_cancelled = false;            // the last reading
+    QTime m_readAt;                      // of what the pages show; invalid before a reading
+    bool m_showsOldValues = false;       // since the last reading brought none
     bool m_open = false;                 // between the first successful reading and the closing
     std::vector<NotificationCenter::Observer> m_observers;
 };

@@ -45,6 +45,8 @@ TEST_F(Opening, EveryReadingResultEndsInItsOwnState) {
         EXPECT_EQ(selectedCategory(), text("Names"));
         EXPECT_TRUE(isShown("textField_NetworkBonjour"));
         EXPECT_EQ(said("textField_SelectPrinterName"), text("Larkfield L200"));
+        EXPECT_EQ(said("textField_StateAddresses").contains(text("Wired network: 192.168.1.50")),
+                  !c.alert);
     }
     open("{}");
     typeName("other");

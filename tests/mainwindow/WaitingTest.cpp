@@ -36,8 +36,12 @@ TEST_F(Waiting, ACancelledConnectionTestTellsNothingAndACancelledReadingIsForRea
     choose("Wired network");
     cancel([&] { click("button_EthernetConnect"); }, justWait, noPart, 0);
     EXPECT_EQ(said("textField_EthernetConnection"), before);
+    const QString network = field("textField_SimpleAPSSID")->text();
+    EXPECT_FALSE(network.isEmpty());
     cancel([&] { click("button_MainNewSetting"); }, "Reading Desk, 7 of 24", 7, 24);
+    EXPECT_EQ(field("textField_SimpleAPSSID")->text(), network) << "it was not read again yet";
     EXPECT_TRUE(said("textField_ReadOnly").startsWith(text("Reading was cancelled, so nothing")));
+    EXPECT_TRUE(said("textField_ReadOnly").contains(text("those read at")));
     EXPECT_TRUE(field("textField_NetworkBonjour")->isReadOnly());
     EXPECT_TRUE(served->received().endsWith(text("end")));
 }
