@@ -31,7 +31,8 @@ function(nst_test room)
   target_link_libraries(${room}-tests PRIVATE ${room} ${TEST_USES} beds
                         GTest::gtest GTest::gtest_main Qt6::Test)
   nst_flags(${room}-tests)
-  set(environment QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8)
+  # Nothing shows on the desktop of whoever runs them.
+  set(environment QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 DBUS_SESSION_BUS_ADDRESS=disabled:)
   if(TEST_USB AND NOT NST_SANITIZE MATCHES thread)
     list(APPEND environment LD_PRELOAD=libumockdev-preload.so.0 ASAN_OPTIONS=verify_asan_link_order=0)
   endif()

@@ -5,7 +5,7 @@ BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev qt6-tools-dev qt6-
   qt6-l10n-tools libplist-dev libusb-1.0-0-dev libavahi-client-dev libbsd-dev libcsv-dev
   nlohmann-json3-dev libqt6svg6
   qt6-translations-l10n fonts-dejavu-core"
-TEST_PACKAGES="libgtest-dev libumockdev-dev umockdev avahi-daemon iproute2 fonts-wqy-microhei"
+TEST_PACKAGES="libgtest-dev libumockdev-dev umockdev avahi-daemon dbus-daemon iproute2 fonts-wqy-microhei"
 
 # The root of the project is the current folder from here on.
 cd "$(dirname "${BASH_SOURCE[0]}")/.."

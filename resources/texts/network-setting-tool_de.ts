@@ -762,6 +762,9 @@
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
         <translation>&amp;Weiter</translation>
     </message>
+    <message id="DWT_Localize_Guide_Button_Cancel">
+        <translation>&amp;Abbrechen</translation>
+    </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>Wählen Sie den Drucker, dessen Einstellungen Sie sehen möchten. Ändern lassen sich nur die Einstellungen eines über USB angeschlossenen Druckers.</translation>
     </message>
@@ -773,6 +776,9 @@
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
         <translation>S&amp;chließen</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Connect">
+        <translation>Drucker ansch&amp;ließen …</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>Drucker</translation>
@@ -786,8 +792,14 @@
     <message id="DWT_Localize_PrinterList_BonjourService_USB">
         <translation>USB</translation>
     </message>
-    <message id="DWT_Localize_Menu_Application">
-        <translation>&amp;Anwendung</translation>
+    <message id="DWT_Localize_Menu_File">
+        <translation>&amp;Datei</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Open">
+        <translation>&amp;Öffnen</translation>
+    </message>
+    <message id="DWT_Localize_Menu_LookAgain">
+        <translation>&amp;Erneut suchen</translation>
     </message>
     <message id="DWT_Localize_Menu_Quit">
         <translation>&amp;Beenden</translation>
@@ -807,14 +819,14 @@
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>&amp;Alles auswählen</translation>
     </message>
-    <message id="DWT_Localize_Menu_Window">
-        <translation>&amp;Fenster</translation>
+    <message id="DWT_Localize_Menu_View">
+        <translation>&amp;Ansicht</translation>
     </message>
     <message id="DWT_Localize_Menu_Minimize">
         <translation>&amp;Minimieren</translation>
     </message>
     <message id="DWT_Localize_Menu_Close">
-        <translation>&amp;Schließen</translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message id="DWT_Localize_Menu_Help">
         <translation>&amp;Hilfe</translation>
@@ -953,7 +965,7 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
         <translation>Leeren</translation>
     </message>
     <message id="DWT_Localize_Menu_Printer">
-        <translation>&amp;Drucker</translation>
+        <translation>D&amp;rucker</translation>
     </message>
     <message id="DWT_Localize_Menu_Send">
         <translation>An Drucker &amp;senden …</translation>
@@ -972,6 +984,12 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Tray_Show">
         <translation>&amp;Fenster anzeigen</translation>
+    </message>
+    <message id="DWT_Localize_Notice_Text">
+        <translation>Das Programm läuft ohne Fenster weiter.</translation>
+    </message>
+    <message id="DWT_Localize_Notice_Open">
+        <translation>Drucker anzeigen</translation>
     </message>
     <message id="DWT_Localize_Wait_Button_Cancel">
         <translation>&amp;Abbrechen</translation>

@@ -154,7 +154,7 @@
         <translation>A&amp;utomatic (DHCP)</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Manual">
-        <translation>&amp;Fixed address</translation>
+        <translation>Fi&amp;xed address</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
         <translation>IP address:</translation>
@@ -232,7 +232,7 @@
         <translation>A&amp;utomatic (DHCP)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_ButtonCell_Manual">
-        <translation>&amp;Fixed address</translation>
+        <translation>Fi&amp;xed address</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_IPAddress_Label">
         <translation>IP address:</translation>
@@ -762,6 +762,9 @@
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
         <translation>&amp;Next</translation>
     </message>
+    <message id="DWT_Localize_Guide_Button_Cancel">
+        <translation>&amp;Cancel</translation>
+    </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>Choose the printer whose settings you want to see. Settings can be changed only on a printer that is connected over USB.</translation>
     </message>
@@ -773,6 +776,9 @@
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
         <translation>&amp;Close</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Connect">
+        <translation>Co&amp;nnect a printer…</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>Printer</translation>
@@ -786,8 +792,14 @@
     <message id="DWT_Localize_PrinterList_BonjourService_USB">
         <translation>USB</translation>
     </message>
-    <message id="DWT_Localize_Menu_Application">
-        <translation>&amp;Application</translation>
+    <message id="DWT_Localize_Menu_File">
+        <translation>&amp;File</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Open">
+        <translation>&amp;Open</translation>
+    </message>
+    <message id="DWT_Localize_Menu_LookAgain">
+        <translation>&amp;Look again</translation>
     </message>
     <message id="DWT_Localize_Menu_Quit">
         <translation>&amp;Quit</translation>
@@ -807,8 +819,8 @@
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>Select &amp;all</translation>
     </message>
-    <message id="DWT_Localize_Menu_Window">
-        <translation>&amp;Window</translation>
+    <message id="DWT_Localize_Menu_View">
+        <translation>&amp;View</translation>
     </message>
     <message id="DWT_Localize_Menu_Minimize">
         <translation>&amp;Minimize</translation>
@@ -972,6 +984,12 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Tray_Show">
         <translation>&amp;Show window</translation>
+    </message>
+    <message id="DWT_Localize_Notice_Text">
+        <translation>The tool keeps running without a window.</translation>
+    </message>
+    <message id="DWT_Localize_Notice_Open">
+        <translation>Show the printers</translation>
     </message>
     <message id="DWT_Localize_Wait_Button_Cancel">
         <translation>&amp;Cancel</translation>

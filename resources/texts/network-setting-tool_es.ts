@@ -762,6 +762,9 @@
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
         <translation>Si&amp;guiente</translation>
     </message>
+    <message id="DWT_Localize_Guide_Button_Cancel">
+        <translation>&amp;Cancelar</translation>
+    </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>Elija la impresora cuyos ajustes quiere ver. Solo se pueden cambiar los ajustes de una impresora conectada por USB.</translation>
     </message>
@@ -773,6 +776,9 @@
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
         <translation>&amp;Cerrar</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Connect">
+        <translation>Co&amp;nectar una impresora…</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>Impresora</translation>
@@ -786,8 +792,14 @@
     <message id="DWT_Localize_PrinterList_BonjourService_USB">
         <translation>USB</translation>
     </message>
-    <message id="DWT_Localize_Menu_Application">
-        <translation>&amp;Aplicación</translation>
+    <message id="DWT_Localize_Menu_File">
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Open">
+        <translation>&amp;Abrir</translation>
+    </message>
+    <message id="DWT_Localize_Menu_LookAgain">
+        <translation>&amp;Buscar de nuevo</translation>
     </message>
     <message id="DWT_Localize_Menu_Quit">
         <translation>&amp;Salir</translation>
@@ -807,8 +819,8 @@
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>Seleccionar t&amp;odo</translation>
     </message>
-    <message id="DWT_Localize_Menu_Window">
-        <translation>&amp;Ventana</translation>
+    <message id="DWT_Localize_Menu_View">
+        <translation>&amp;Ver</translation>
     </message>
     <message id="DWT_Localize_Menu_Minimize">
         <translation>&amp;Minimizar</translation>
@@ -972,6 +984,12 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Tray_Show">
         <translation>&amp;Mostrar la ventana</translation>
+    </message>
+    <message id="DWT_Localize_Notice_Text">
+        <translation>La herramienta sigue en ejecución sin ventana.</translation>
+    </message>
+    <message id="DWT_Localize_Notice_Open">
+        <translation>Mostrar las impresoras</translation>
     </message>
     <message id="DWT_Localize_Wait_Button_Cancel">
         <translation>&amp;Cancelar</translation>

@@ -762,6 +762,9 @@
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
         <translation>&amp;Suivant</translation>
     </message>
+    <message id="DWT_Localize_Guide_Button_Cancel">
+        <translation>&amp;Annuler</translation>
+    </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>Choisissez l’imprimante dont vous voulez voir les paramètres. Seuls les paramètres d’une imprimante connectée par USB peuvent être modifiés.</translation>
     </message>
@@ -773,6 +776,9 @@
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
         <translation>Fer&amp;mer</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Connect">
+        <translation>Co&amp;nnecter une imprimante…</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>Imprimante</translation>
@@ -786,8 +792,14 @@
     <message id="DWT_Localize_PrinterList_BonjourService_USB">
         <translation>USB</translation>
     </message>
-    <message id="DWT_Localize_Menu_Application">
-        <translation>&amp;Application</translation>
+    <message id="DWT_Localize_Menu_File">
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Open">
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message id="DWT_Localize_Menu_LookAgain">
+        <translation>&amp;Rechercher à nouveau</translation>
     </message>
     <message id="DWT_Localize_Menu_Quit">
         <translation>&amp;Quitter</translation>
@@ -807,8 +819,8 @@
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>&amp;Tout sélectionner</translation>
     </message>
-    <message id="DWT_Localize_Menu_Window">
-        <translation>&amp;Fenêtre</translation>
+    <message id="DWT_Localize_Menu_View">
+        <translation>&amp;Affichage</translation>
     </message>
     <message id="DWT_Localize_Menu_Minimize">
         <translation>&amp;Réduire</translation>
@@ -972,6 +984,12 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Tray_Show">
         <translation>&amp;Afficher la fenêtre</translation>
+    </message>
+    <message id="DWT_Localize_Notice_Text">
+        <translation>L’outil reste actif sans fenêtre.</translation>
+    </message>
+    <message id="DWT_Localize_Notice_Open">
+        <translation>Afficher les imprimantes</translation>
     </message>
     <message id="DWT_Localize_Wait_Button_Cancel">
         <translation>&amp;Annuler</translation>

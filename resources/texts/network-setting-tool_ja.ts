@@ -154,7 +154,7 @@
         <translation>自動 (DHCP)(&amp;U)</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Manual">
-        <translation>固定アドレス(&amp;F)</translation>
+        <translation>固定アドレス(&amp;X)</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
         <translation>IP アドレス:</translation>
@@ -232,7 +232,7 @@
         <translation>自動 (DHCP)(&amp;U)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_ButtonCell_Manual">
-        <translation>固定アドレス(&amp;F)</translation>
+        <translation>固定アドレス(&amp;X)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_IPAddress_Label">
         <translation>IP アドレス:</translation>
@@ -762,6 +762,9 @@
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
         <translation>次へ(&amp;N)</translation>
     </message>
+    <message id="DWT_Localize_Guide_Button_Cancel">
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>設定を表示するプリンターを選択してください。設定を変更できるのは、USB で接続されたプリンターだけです。</translation>
     </message>
@@ -773,6 +776,9 @@
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
         <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Connect">
+        <translation>プリンターを接続(&amp;N)…</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>プリンター</translation>
@@ -786,8 +792,14 @@
     <message id="DWT_Localize_PrinterList_BonjourService_USB">
         <translation>USB</translation>
     </message>
-    <message id="DWT_Localize_Menu_Application">
-        <translation>アプリケーション(&amp;A)</translation>
+    <message id="DWT_Localize_Menu_File">
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Open">
+        <translation>開く(&amp;O)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_LookAgain">
+        <translation>再検索(&amp;L)</translation>
     </message>
     <message id="DWT_Localize_Menu_Quit">
         <translation>終了(&amp;Q)</translation>
@@ -807,8 +819,8 @@
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>すべて選択(&amp;A)</translation>
     </message>
-    <message id="DWT_Localize_Menu_Window">
-        <translation>ウィンドウ(&amp;W)</translation>
+    <message id="DWT_Localize_Menu_View">
+        <translation>表示(&amp;V)</translation>
     </message>
     <message id="DWT_Localize_Menu_Minimize">
         <translation>最小化(&amp;M)</translation>
@@ -972,6 +984,12 @@
     </message>
     <message id="DWT_Localize_Tray_Show">
         <translation>ウィンドウを表示(&amp;S)</translation>
+    </message>
+    <message id="DWT_Localize_Notice_Text">
+        <translation>ウィンドウを閉じても、ツールは動作を続けています。</translation>
+    </message>
+    <message id="DWT_Localize_Notice_Open">
+        <translation>プリンターを表示</translation>
     </message>
     <message id="DWT_Localize_Wait_Button_Cancel">
         <translation>キャンセル(&amp;C)</translation>

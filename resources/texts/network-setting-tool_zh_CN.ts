@@ -154,7 +154,7 @@
         <translation>自动 (DHCP)(&amp;U)</translation>
     </message>
     <message id="DWT_Localize_Ethernet_ButtonCell_Manual">
-        <translation>固定地址(&amp;F)</translation>
+        <translation>固定地址(&amp;X)</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Text_IPAddress_Label">
         <translation>IP 地址：</translation>
@@ -232,7 +232,7 @@
         <translation>自动 (DHCP)(&amp;U)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_ButtonCell_Manual">
-        <translation>固定地址(&amp;F)</translation>
+        <translation>固定地址(&amp;X)</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_IPAddress_Label">
         <translation>IP 地址：</translation>
@@ -762,6 +762,9 @@
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
         <translation>下一步(&amp;N)</translation>
     </message>
+    <message id="DWT_Localize_Guide_Button_Cancel">
+        <translation>取消(&amp;C)</translation>
+    </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>请选择要查看其设置的打印机。只有通过 USB 连接的打印机才能更改设置。</translation>
     </message>
@@ -773,6 +776,9 @@
     </message>
     <message id="DWT_Localize_PrinterList_Button_Exit_Key">
         <translation>关闭(&amp;C)</translation>
+    </message>
+    <message id="DWT_Localize_PrinterList_Button_Connect">
+        <translation>连接打印机(&amp;N)…</translation>
     </message>
     <message id="DWT_Localize_PrinterList_TableView_Name_Column">
         <translation>打印机</translation>
@@ -786,8 +792,14 @@
     <message id="DWT_Localize_PrinterList_BonjourService_USB">
         <translation>USB</translation>
     </message>
-    <message id="DWT_Localize_Menu_Application">
-        <translation>应用程序(&amp;A)</translation>
+    <message id="DWT_Localize_Menu_File">
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Open">
+        <translation>打开(&amp;O)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_LookAgain">
+        <translation>重新搜索(&amp;L)</translation>
     </message>
     <message id="DWT_Localize_Menu_Quit">
         <translation>退出(&amp;Q)</translation>
@@ -807,8 +819,8 @@
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>全选(&amp;A)</translation>
     </message>
-    <message id="DWT_Localize_Menu_Window">
-        <translation>窗口(&amp;W)</translation>
+    <message id="DWT_Localize_Menu_View">
+        <translation>查看(&amp;V)</translation>
     </message>
     <message id="DWT_Localize_Menu_Minimize">
         <translation>最小化(&amp;M)</translation>
@@ -972,6 +984,12 @@
     </message>
     <message id="DWT_Localize_Tray_Show">
         <translation>显示窗口(&amp;S)</translation>
+    </message>
+    <message id="DWT_Localize_Notice_Text">
+        <translation>工具在没有窗口的情况下继续运行。</translation>
+    </message>
+    <message id="DWT_Localize_Notice_Open">
+        <translation>显示打印机</translation>
     </message>
     <message id="DWT_Localize_Wait_Button_Cancel">
         <translation>取消(&amp;C)</translation>

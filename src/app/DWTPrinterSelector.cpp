@@ -5,6 +5,7 @@
 #include "app/TrayIcon.h"
 #include "mainwindow/WPSGuide.h"
 #include "mainwindow/WaitWindow.h"
+#include "platform/core/Texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -40,6 +41,8 @@ void DWTPrinterSelector::DWT_UIInitialize() {
     window_Wait = new WaitWindow(window_PrinterSelector);
     view_Printerlist = new PrinterList(view_PrinterSelector);
     connect(view_Printerlist, &PrinterList::chosen, this, &DWTPrinterSelector::push_PrinterListOK);
+    connect(view_Printerlist, &PrinterList::guideWanted, this,
+            [this] { leaveFor(DWT_View_Key_ToolPerform); });
     connect(view_Printerlist, &PrinterList::left, this, &DWTPrinterSelector::push_PrinterListExit);
     dictionary_ViewManagement = std::make_unique<ViewStack>(view_PrinterSelector);
     dictionary_ViewManagement->add(DWT_View_Key_Printerlist, view_Printerlist);
@@ -47,6 +50,7 @@ void DWTPrinterSelector::DWT_UIInitialize() {
     m_menu = new MainMenu(window_PrinterSelector);
     window_PrinterSelector->layout()->setMenuBar(m_menu);
     m_menu->localize();
+    m_menu->actOnList(view_Printerlist->openButton(), view_Printerlist->lookAgainButton());
     connect(m_menu, &MainMenu::printerListChosen, this,
             [this] { leaveFor(DWT_View_Key_Printerlist); });
     connect(m_menu, &MainMenu::guideChosen, this, [this] { leaveFor(DWT_View_Key_ToolPerform); });
@@ -81,7 +85,10 @@ void DWTPrinterSelector::makeGuide() {
     pushes(button_ToolPerformEXIT, &Self::push_ToolPerformExit);
     pushes(button_ChooseConnectNext, &Self::push_ChooseConnectNext);
     pushes(button_ChooseConnectEXIT, &Self::push_ChooseConnectExit);
+    pushes(button_ChooseConnectBack, &Self::push_ChooseConnectBack);
     pushes(button_USBConnectNext, &Self::push_USBConnectNext);
+    pushes(button_USBConnectBack, &Self::push_USBConnectBack);
+    pushes(button_USBConnectEXIT, &Self::push_USBConnectExit);
     connect(guide, &WPSGuide::next1, this, &Self::push_WPSSetting1Next);
     connect(guide, &WPSGuide::back1, this, &Self::push_WPSSetting1Back);
     connect(guide, &WPSGuide::exit1, this, &Self::push_WPSSetting1Exit);
@@ -89,6 +96,14 @@ void DWTPrinterSelector::makeGuide() {
     connect(guide, &WPSGuide::back2, this, &Self::push_WPSSetting2Back);
     connect(guide, &WPSGuide::exit2, this, &Self::push_WPSSetting2Exit);
     window_PrinterSelector->growToContents();
+}
+
+// A guide that the list led to is left, and does not end the tool.
+void DWTPrinterSelector::nameExits() {
+    if (!m_guideLeadsToList) return;
+    for (QPushButton *button : view_PrinterSelector->findChildren<QPushButton *>())
+        if (button->objectName().endsWith(u"EXIT"_s) && !view_Printerlist->isAncestorOf(button))
+            button->setText(localized("DWT_Localize_Guide_Button_Cancel"));
 }
 
 // The window comes first.
@@ -115,6 +130,7 @@ void DWTPrinterSelector::DWT_UISelector(const QString &viewKey) {
     if (!dictionary_ViewManagement->contains(viewKey)) makeGuide();
     dictionary_ViewManagement->select(viewKey);
     dictionary_ViewManagement->focusFirstControl();
+    nameExits();
     if (viewKey != DWT_View_Key_Printerlist) return;
     view_Printerlist->setFocus();
     view_Printerlist->push_PrinterListReload();

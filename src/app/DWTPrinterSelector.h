@@ -53,13 +53,14 @@ class DWTPrinterSelector : public DWTBaseClass,
     void DWT_UIInitialize();
     // Makes the views of the guide to connecting a printer.
     void makeGuide();
+    void nameExits();
     // Shows the view and hides the others; the printer list is fetched anew when it is shown.
     void DWT_UISelector(const QString &viewKey);
     void DWT_CloseMainDialog(const Notification &notification);
     void DWT_ShowMainSettingWindow();
     // Shows a view as the menu asks for it; an open printer is left first, as by its Close button.
     void leaveFor(const QString &viewKey);
-    // The end of the guide: it goes to the list when the menu led to it, and otherwise quits.
+    // The end of the guide: it goes to the list when the list led to it, and otherwise quits.
     void leaveGuide();
     // The user closes the selection window: it hides.
     void windowWillClose() { window_PrinterSelector->hide(); }
@@ -68,6 +69,9 @@ class DWTPrinterSelector : public DWTBaseClass,
     void push_ToolPerformExit() { leaveGuide(); }
     void push_ChooseConnectNext();
     void push_ChooseConnectExit() { leaveGuide(); }
+    void push_ChooseConnectBack() { DWT_UISelector(DWT_View_Key_ToolPerform); }
+    void push_USBConnectBack() { DWT_UISelector(DWT_View_Key_ChooseConnect); }
+    void push_USBConnectExit() { leaveGuide(); }
     void push_USBConnectNext() { DWT_UISelector(DWT_View_Key_Printerlist); }
     void push_WPSSetting1Next() { DWT_UISelector(DWT_View_Key_WPS2); }
     void push_WPSSetting1Back() { DWT_UISelector(DWT_View_Key_ChooseConnect); }

@@ -93,7 +93,7 @@ void showAbout() {
                                      .arg(contact.arg(QStringLiteral(NST_CONTACT)))};
     auto *const box = new QMessageBox(QApplication::activeWindow());
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowTitle(name);
+    box->setWindowTitle(withoutMnemonic(localized("DWT_Localize_Menu_About")));
     box->setIconPixmap(QApplication::windowIcon().pixmap(64));
     box->setTextFormat(Qt::RichText);
     box->setText(u"<h3>%1 %2</h3><p>%3</p>"_s.arg(name.toHtmlEscaped(), QStringLiteral(NST_VERSION),
@@ -105,24 +105,25 @@ void showAbout() {
 }  // namespace
 
 MainMenu::MainMenu(QWidget *parent) : QMenuBar(parent) {
-    QMenu *const application = addMenu(u"DWT_Localize_Menu_Application"_s);
-    add(application, "DWT_Localize_Menu_Quit", Qt::CTRL | Qt::Key_Q,
-        [] { Application::terminate(); });
+    QMenu *const file = addMenu(u"DWT_Localize_Menu_File"_s);
+    m_open = add(file, "DWT_Localize_Menu_Open", Qt::CTRL | Qt::Key_O);
+    m_lookAgain = add(file, "DWT_Localize_Menu_LookAgain", Qt::Key_F5);
+    file->addSeparator();
+    add(file, "DWT_Localize_Menu_Close", Qt::CTRL | Qt::Key_W,
+        onWindow([](QWidget *w) { w->close(); }));
+    add(file, "DWT_Localize_Menu_Quit", Qt::CTRL | Qt::Key_Q, [] { Application::terminate(); });
     addEditMenu();
     QMenu *const printer = addMenu(u"DWT_Localize_Menu_Printer"_s);
     m_send = add(printer, "DWT_Localize_Menu_Send", Qt::CTRL | Qt::Key_S);
     m_readAgain = add(printer, "DWT_Localize_Menu_ReadAgain", Qt::Key_F5);
     for (QAction *entry : {m_send, m_readAgain, m_copyAllSettings}) entry->setEnabled(false);
-    QMenu *const window = addMenu(u"DWT_Localize_Menu_Window"_s);
-    add(window, "DWT_Localize_Menu_PrinterList", Qt::CTRL | Qt::Key_L,
+    QMenu *const view = addMenu(u"DWT_Localize_Menu_View"_s);
+    add(view, "DWT_Localize_Menu_PrinterList", Qt::CTRL | Qt::Key_L,
         [this] { Q_EMIT printerListChosen(); });
-    window->addSeparator();
-    add(window, "DWT_Localize_Menu_Minimize", Qt::CTRL | Qt::Key_M,
+    add(view, "DWT_Localize_Menu_Minimize", Qt::CTRL | Qt::Key_M,
         onWindow([](QWidget *w) { w->showMinimized(); }));
-    add(window, "DWT_Localize_Menu_Close", Qt::CTRL | Qt::Key_W,
-        onWindow([](QWidget *w) { w->close(); }));
     QMenu *const help = addMenu(u"DWT_Localize_Menu_Help"_s);
-    add(help, "DWT_Localize_Menu_Guide", {}, [this] { Q_EMIT guideChosen(); });
+    add(help, "DWT_Localize_Menu_Guide", Qt::Key_F1, [this] { Q_EMIT guideChosen(); });
     help->addSeparator();
     add(help, "DWT_Localize_Menu_About", {}, showAbout);
 }
@@ -182,6 +183,12 @@ QMenuBar *MainMenu::shareWith(QWidget *parent) const {
     auto *const shared = new QMenuBar(parent);
     shared->addActions(actions());
     return shared;
+}
+
+void MainMenu::actOnList(QAbstractButton *open, QAbstractButton *lookAgain) {
+    // What is typed into the filter goes on.
+    new WidgetEntry(m_open, open, [open] { open->click(); });
+    new WidgetEntry(m_lookAgain, lookAgain, [lookAgain] { lookAgain->click(); });
 }
 
 void MainMenu::actOnPrinter(const DWTMainSettingWindow &printer) {

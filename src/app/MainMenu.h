@@ -4,6 +4,7 @@
 #include <QPointer>
 
 class DWTMainSettingWindow;
+class QAbstractButton;
 
 // The application's menu bar, in localisation keys until localize(). Main thread only.
 class MainMenu : public QMenuBar {
@@ -16,6 +17,9 @@ class MainMenu : public QMenuBar {
 
     // A further bar with the same menus, for another window, which owns it.
     QMenuBar *shareWith(QWidget *parent) const;
+
+    // Connects the entries for the list with its buttons, each enabled while the button is.
+    void actOnList(QAbstractButton *open, QAbstractButton *lookAgain);
 
     // Connects the entries for a printer with the loaded window `printer`, each enabled while the
     // window's button is. The window before must be gone or hidden.
@@ -38,6 +42,8 @@ class MainMenu : public QMenuBar {
     QAction *m_paste = nullptr;
     QAction *m_selectAll = nullptr;
     QAction *m_copyAllSettings = nullptr;
+    QAction *m_open = nullptr;
+    QAction *m_lookAgain = nullptr;
     QAction *m_send = nullptr;
     QAction *m_readAgain = nullptr;
     QPointer<QWidget> m_focus;  // the widget that has it, or had it before a menu bar took it

@@ -1,6 +1,5 @@
 #include "app/PrinterList.h"
 
-#include <QShortcut>
 #include <algorithm>
 
 #include "platform/core/Texts.h"
@@ -55,6 +54,11 @@ PrinterList::PrinterList(QWidget *parent) : QWidget(parent) {
     table.setNoMatchText(localized("DWT_Localize_PrinterList_NoMatch"));
     table.setTableDataSource(this);
     table.setTableDelegate(this);
+    m_connect =
+        new QPushButton(localized("DWT_Localize_PrinterList_Button_Connect"), table.viewport());
+    m_connect->setObjectName(u"button_PrinterlistConnect"_s);
+    m_connect->hide();
+    connect(m_connect, &QPushButton::clicked, this, &PrinterList::guideWanted);
     textField_PrinterlistFilter->setTable(&table);
     textField_PrinterlistFilter->hide();
     view_Problems->hide();
@@ -67,8 +71,6 @@ PrinterList::PrinterList(QWidget *parent) : QWidget(parent) {
     connect(button_PrinterlistReload, &QPushButton::clicked, this,
             &PrinterList::push_PrinterListReload);
     connect(button_PrinterlistEXIT, &QPushButton::clicked, this, &PrinterList::left);
-    connect(new QShortcut(Qt::Key_F5, this), &QShortcut::activated, button_PrinterlistReload,
-            &QPushButton::click);
 }
 
 PrinterList::~PrinterList() {
@@ -93,13 +95,26 @@ void PrinterList::DWT_UpdatePrinterList() {
 }
 
 void PrinterList::showWhatIsKnown() {
-    tableView_Printerlist->setEmptyText(localized(
-        m_isComplete ? keyOfEmptyList(Printers::problems(), ndm_Object->checkLunchedMode())
-                     : u"DWT_Localize_PrinterList_Searching"_s));
+    if (m_isComplete)
+        tableView_Printerlist->setEmptyText(
+            localized(keyOfEmptyList(Printers::problems(), ndm_Object->checkLunchedMode())),
+            m_connect);
+    else
+        tableView_Printerlist->setEmptyText(localized("DWT_Localize_PrinterList_Searching"));
     reloadData();
+    growWithRows();
     showPart(textField_PrinterlistFilter, array_PrinterList.size() > printersAtAGlance ||
                                               !textField_PrinterlistFilter->text().isEmpty());
     showProblems();
+}
+
+// Once for what was not wished for before, so that the user may make the window smaller.
+void PrinterList::growWithRows() {
+    const QSize wish = tableView_Printerlist->sizeHint().expandedTo(m_widest);
+    if (wish == m_widest || !isVisible()) return;
+    m_widest = wish;
+    tableView_Printerlist->updateGeometry();
+    static_cast<Window *>(window())->growToContents();
 }
 
 bool PrinterList::isLooking() const {

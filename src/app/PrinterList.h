@@ -33,6 +33,9 @@ class PrinterList : public QWidget,
     void reloadData() { tableView_Printerlist->reloadData(); }
     // The selected printer; an empty entry when none is selected.
     PrinterEntry selectedPrinter() const;
+    // The buttons that entries of a menu press, as long as the list lives.
+    QAbstractButton *openButton() const { return button_PrinterlistOK; }
+    QAbstractButton *lookAgainButton() const { return button_PrinterlistReload; }
     // Asks a printer nothing more, since it is to be opened.
     void leave(const PrinterEntry &printer) { m_names.leave(printer); }
     // Asks the printer that was left again: its name may be another one now.
@@ -50,10 +53,13 @@ class PrinterList : public QWidget,
     void chosen();
     // The user leaves the list.
     void left();
+    // The user wants to know how a printer is connected.
+    void guideWanted();
 
   private:
     void DWT_UpdatePrinterList();
     void showWhatIsKnown();
+    void growWithRows();
     void DWT_DoubleAction(int clickedRow) {
         if (clickedRow >= 0) Q_EMIT chosen();
     }
@@ -65,7 +71,9 @@ class PrinterList : public QWidget,
 
     std::shared_ptr<DWTDataManager> ndm_Object;
     QList<PrinterEntry> array_PrinterList;
-    bool m_isComplete = false;  // nothing that is there is missing in it
+    QPushButton *m_connect = nullptr;  // in the empty table
+    QSize m_widest;                    // that the table wished for
+    bool m_isComplete = false;         // nothing that is there is missing in it
     PrinterNames m_names{[this] { m_showing.start(); }};
     QTimer m_showing;  // what has come, once for all that comes at a time
     QTimer m_looking;  // for printers that come or go

@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "app/Notice.h"
 #include "platform/core/Texts.h"
 
 void TrayIcon::watch(QWidget *window) {
@@ -27,6 +28,15 @@ void TrayIcon::follow() {
     const bool wanted = !visible && m_hasTray();
     if (wanted && !m_icon) make();
     if (m_icon) m_icon->setVisible(wanted);
+    if (visible && m_notice) m_notice->close();
+    if (m_wasVisible && !visible) {
+        if (!m_notice) {
+            m_notice = new Notice(this);
+            connect(m_notice, &Notice::windowsWanted, this, &TrayIcon::windowsWanted);
+        }
+        m_notice->show();
+    }
+    m_wasVisible = visible;
 }
 
 void TrayIcon::make() {

@@ -6,8 +6,10 @@
 #include <functional>
 #include <memory>
 
-// A tray icon while no watched window is visible, whose menu brings them back and quits. Made when
-// it is first needed. Main thread only.
+class Notice;
+
+// A tray icon while no watched window is visible, whose menu brings them back and quits, and a
+// notification that the tool goes on. Made when they are first needed. Main thread only.
 class TrayIcon : public QObject {
     Q_OBJECT
   public:
@@ -37,4 +39,6 @@ class TrayIcon : public QObject {
     QList<QPointer<QWidget>> m_windows;
     std::unique_ptr<QMenu> m_menu;
     QSystemTrayIcon *m_icon = nullptr;  // belongs to this object
+    Notice *m_notice = nullptr;         // belongs to this object
+    bool m_wasVisible = false;
 };

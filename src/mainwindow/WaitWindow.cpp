@@ -5,7 +5,9 @@
 
 #include "platform/core/Texts.h"
 
-WaitWindow::WaitWindow(QWidget *parent) : QWidget(parent, Qt::Dialog) {
+WaitWindow::WaitWindow(QWidget *parent)
+    : QWidget(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowCloseButtonHint) {
     setupUi(this);
 }
 

@@ -103,6 +103,8 @@ TEST_F(List, ALongOneIsFilteredByWhatItShowsAndOpenedByKeys) {
     installLibrary(catalogueLibrary(catalogueFromJson(json, text("twelve"))));
     walk.launch();
     EXPECT_TRUE(filter->isVisible());
+    EXPECT_EQ(window()->height(), window()->screen()->availableSize().height() * 2 / 3)
+        << "the window grows with the rows";
     EXPECT_EQ(window()->focusWidget(), walk.list());
     keys("Ctrl+1 Down");
     EXPECT_EQ(walk.list()->selectedRow(), 11) << "not sorted by numbers";
@@ -155,6 +157,13 @@ TEST_F(List, AnEmptyOneSaysWhy) {
         EXPECT_TRUE(said().contains(text(c.said))) << qPrintable(said());
         EXPECT_TRUE(*c.told ? told().contains(text(c.told)) : told().isEmpty()) << c.said;
     }
+    installLibrary(with({}));
+    walk.launch();
+    click("button_PrinterlistConnect");
+    EXPECT_TRUE(control("view_ToolPerform")->isVisible());
+    installLibrary(catalogueLibrary(catalogue));
+    click("button_ToolPerformEXIT");
+    EXPECT_TRUE(isListed() && control("button_PrinterlistConnect")->isHidden());
 }
 
 TEST_F(List, RowsCanBeUsedWhilePrintersAreAskedForTheirNames) {

@@ -71,6 +71,10 @@ class Looks : public InLanguage, public SelectionWindow {
         }
         expectDifferent(mnemonics);
         expectNothingIsCovered(window);
+        static const QSet<QAccessible::Role> ofWindows{QAccessible::Window, QAccessible::Dialog,
+                                                       QAccessible::AlertMessage};
+        const auto role = QAccessible::queryAccessibleInterface(window)->role();
+        EXPECT_TRUE(ofWindows.contains(role)) << role;
         expectNames(QAccessible::queryAccessibleInterface(window));
     }
     // Looks at a window, once for each view in the part of it.

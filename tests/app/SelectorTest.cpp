@@ -1,3 +1,6 @@
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -28,10 +31,15 @@ TEST_F(Selector, EveryStepOfTheGuideLeadsToItsViewAndItsEndWhereItCameFrom) {
                  {"Return Return Return", nullptr, "view_Printerlist"},
                  {"Return Down Return", nullptr, "view_WPS1"},  // which stays chosen
                  {"Return Return", "button_WPS1Back", "view_ChooseConnect"},
+                 {"Return", "button_ChooseConnectBack", "view_ToolPerform"},
+                 {"Return Up Return", "button_USBConnectBack", "view_ChooseConnect"},
+                 {"Return Down Return", nullptr, "view_WPS1"},
                  {"Return Return Return", nullptr, "view_WPS2"},
                  {"Return Return Return", "button_WPS2Back", "view_WPS1"},
                  {"", "button_ToolPerformEXIT", nullptr},
                  {"Return", "button_ChooseConnectEXIT", nullptr},
+                 {"Return Up Return", "button_USBConnectEXIT", nullptr},
+                 {"Return Down Return", nullptr, "view_WPS1"},
                  {"Return Return", "button_WPS1EXIT", nullptr},
                  {"Return Return Return", "button_WPS2EXIT", nullptr},
                  {"Return Return Return Return", nullptr, nullptr},
@@ -69,6 +77,64 @@ TEST_F(Selector, DrawingsOfTheGuideFollowTheColoursAndSayWhatTheyShow) {
         for (const auto role : {QPalette::WindowText, QPalette::Base, QPalette::Highlight})
             EXPECT_TRUE(found.contains(colours.color(role).rgba())) << role;
     }
+}
+
+// The desktop's notifications, on a bus of the test.
+class Notifications : public QDBusVirtualObject {
+  public:
+    Notifications() {
+        m_bus.start(text("dbus-daemon"),
+                    {text("--session"), text("--nofork"), text("--print-address")});
+        EXPECT_TRUE(m_bus.waitForReadyRead());
+        const QString address = QString::fromUtf8(m_bus.readLine().trimmed());
+        qputenv("DBUS_SESSION_BUS_ADDRESS", address.toUtf8());
+        m_here = QDBusConnection::connectToBus(address, text("desktop"));
+        EXPECT_TRUE(m_here.registerVirtualObject(text(path), this));
+        EXPECT_TRUE(m_here.registerService(text(service)));
+    }
+    ~Notifications() override {
+        m_bus.kill();
+        m_bus.waitForFinished();
+    }
+    QString introspect(const QString &) const override { return {}; }
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &bus) override {
+        calls << message.member();
+        const bool shows = message.member() == text("Notify");
+        if (shows) said = message.arguments()[4].toString();
+        bus.send(shows ? message.createReply(id) : message.createReply());
+        return true;
+    }
+    void act() {
+        QDBusMessage signal =
+            QDBusMessage::createSignal(text(path), text(service), text("ActionInvoked"));
+        signal.setArguments({id, text("default")});
+        m_here.send(signal);
+    }
+    static constexpr uint id = 7;
+    QStringList calls;
+    QString said;
+
+  private:
+    static constexpr const char *service = "org.freedesktop.Notifications",
+                                *path = "/org/freedesktop/Notifications";
+    QProcess m_bus;
+    QDBusConnection m_here{QString()};
+};
+
+TEST_F(Selector, TheDesktopSaysThatTheToolGoesOnAndItsActionBringsTheListBack) {
+    Notifications desktop;
+    const auto hears = [&](const char *calls) {
+        return QTest::qWaitFor([&] { return desktop.calls.join(u' ') == text(calls); });
+    };
+    walk.launch();
+    ASSERT_TRUE(walk.open(text("Packing-Desk")));
+    keys("Ctrl+W");
+    EXPECT_TRUE(hears("Notify")) << qPrintable(desktop.calls.join(u' '));
+    EXPECT_EQ(desktop.said, text("The tool keeps running without a window."));
+    EXPECT_FALSE(isListed());
+    desktop.act();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isListed(); }));
+    EXPECT_TRUE(hears("Notify CloseNotification"));
 }
 
 TEST_F(Selector, AHiddenWindowComesBackByReopeningAndByTheIconInTheTray) {

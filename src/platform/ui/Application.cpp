@@ -1,5 +1,8 @@
 #include "platform/ui/Application.h"
 
+#include <QAccessible>
+#include <QAccessibleObject>
+#include <QAccessibleWidget>
 #include <QSessionManager>
 #include <QStyle>
 #include <QTimer>
@@ -15,6 +18,24 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// What screen readers are told of the application: its name instead of its file's.
+class AccessibleApplication : public QAccessibleApplication {
+  public:
+    QString text(QAccessible::Text kind) const override {
+        if (kind == QAccessible::Name) return localized("DWT_Localize_App_Name");
+        return kind == QAccessible::Description ? QString() : QAccessibleApplication::text(kind);
+    }
+};
+
+// Names application and windows as what they are; leaves everything else to Qt.
+QAccessibleInterface *accessible(const QString &className, QObject *object) {
+    if (object == qApp && className == u"QApplication"_s) return new AccessibleApplication;
+    auto *const widget = qobject_cast<QWidget *>(object);
+    if (!widget || className != u"QWidget"_s || !widget->isWindow()) return nullptr;
+    const bool isDialog = widget->windowType() == Qt::Dialog;
+    return new QAccessibleWidget(widget, isDialog ? QAccessible::Dialog : QAccessible::Window);
+}
+
 // Brings the modal window to the front that waits for an answer; false when there is none.
 bool showModalWindow() {
     QWidget *const modal = QApplication::activeModalWidget();
@@ -29,6 +50,7 @@ bool showModalWindow() {
 Application::Application(int &argc, char **argv) : QApplication(argc, argv) {
     setApplicationName(u"network-setting-tool"_s);
     setDesktopFileName(applicationName());
+    QAccessible::installFactory(accessible);
     setQuitOnLastWindowClosed(false);
     if (style()->name() == u"fusion"_s) setStyle(new OutlinedStyle);
     const auto askAtSessionEnd = [this](QSessionManager &session) {

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QSet>
 #include <QStyledItemDelegate>
 #include <QTextDocument>
@@ -23,6 +24,9 @@ constexpr int quiet = 70;
 
 // So many rows have a say in the width of a column, besides those in sight.
 constexpr int rowsMeasured = 50;
+
+// Around what stands in the place of the rows, in pixels.
+constexpr int emptyMargin = 12;
 
 // Draws a cell with a second line.
 class DetailDelegate : public QStyledItemDelegate {
@@ -135,8 +139,10 @@ void TableView::setFilter(const QString &text) {
     if (selectedRow() < 0) m_selectedKey.clear();
 }
 
-void TableView::setEmptyText(const QString &text) {
+void TableView::setEmptyText(const QString &text, QWidget *below) {
     m_emptyText = text;
+    if (m_below && m_below != below) m_below->hide();
+    m_below = below;
     sayWhyEmpty();
 }
 
@@ -147,7 +153,24 @@ void TableView::setNoMatchText(const QString &text) {
 
 void TableView::sayWhyEmpty() {
     setAccessibleDescription(emptyText());
+    if (m_below) {
+        m_below->setVisible(m_model->rowCount() == 0);
+        placeBelow();
+    }
     viewport()->update();
+}
+
+void TableView::placeBelow() {
+    if (!m_below) return;
+    const QSize wish = m_below->sizeHint();
+    m_below->setGeometry((viewport()->width() - wish.width()) / 2,
+                         viewport()->height() - wish.height() - emptyMargin, wish.width(),
+                         wish.height());
+}
+
+void TableView::resizeEvent(QResizeEvent *event) {
+    QTableView::resizeEvent(event);
+    placeBelow();
 }
 
 QString TableView::emptyText() const {
@@ -157,7 +180,14 @@ QString TableView::emptyText() const {
 
 QSize TableView::sizeHint() const {
     const QFontMetrics metrics(font());
-    return {60 * metrics.averageCharWidth(), 14 * metrics.height()};
+    int wide = verticalScrollBar()->sizeHint().width();
+    for (int column = 0; column < m_shown->columnCount(); ++column)
+        wide += std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
+    const int high = horizontalHeader()->sizeHint().height() +
+                     m_shown->rowCount() * verticalHeader()->defaultSectionSize();
+    const int frame = 2 * frameWidth();
+    return {std::max(60 * metrics.averageCharWidth(), wide + frame),
+            std::max(14 * metrics.height(), high + frame)};
 }
 
 QModelIndex TableView::indexOfRow(int row) const {
@@ -248,8 +278,10 @@ void TableView::paintEvent(QPaintEvent *event) {
     if (text.isEmpty()) return;
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::Text));
-    constexpr int margin = 12;
-    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+    const bool isBelow = m_below && !m_below->isHidden();
+    const int bottom = isBelow ? m_below->y() : viewport()->height();
+    painter.drawText(QRect(emptyMargin, emptyMargin, viewport()->width() - 2 * emptyMargin,
+                           bottom - 2 * emptyMargin),
                      Qt::AlignCenter | Qt::TextWordWrap, text);
 }
 

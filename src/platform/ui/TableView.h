@@ -61,10 +61,11 @@ class TableView : public QTableView {
     void setFilter(const QString &text);
 
     // What stands in the place of the rows while there are none, and while the filter leaves none.
-    void setEmptyText(const QString &text);
+    // `below`, a part of the viewport, is shown under the former text alone.
+    void setEmptyText(const QString &text, QWidget *below = nullptr);
     void setNoMatchText(const QString &text);
 
-    // Room for about 60 characters and half a dozen rows.
+    // Room for all rows, whole; at least for about 60 characters and half a dozen rows.
     QSize sizeHint() const override;
 
     // -1 when no row is selected.
@@ -92,6 +93,7 @@ class TableView : public QTableView {
     void keyPressEvent(QKeyEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
                                                          const QEvent *event) const override;
 
@@ -104,11 +106,13 @@ class TableView : public QTableView {
     // What stands in the place of the rows now; empty while there are rows.
     QString emptyText() const;
     void sayWhyEmpty();
+    void placeBelow();
 
     TableModel *const m_model;
     ShownRows *const m_shown;
     TableDelegate *m_delegate = nullptr;
     QString m_selectedKey;  // of the row that was selected last; empty for none
     QString m_emptyText;
+    QWidget *m_below = nullptr;  // the empty text
     QString m_noMatchText;
 };

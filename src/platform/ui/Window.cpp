@@ -12,7 +12,7 @@ void Window::fitToScreen() {
 }
 
 void Window::growToContents() {
-    resize(size().expandedTo(sizeHint().boundedTo(screen()->availableGeometry().size())));
+    resize(size().expandedTo(sizeHint().boundedTo(screen()->availableGeometry().size() * 2 / 3)));
 }
 
 void Window::bringToFront() {

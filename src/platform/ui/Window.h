@@ -20,7 +20,8 @@ class Window : public QWidget {
     // Makes the window as large as its contents wish, within the screen, and centres it.
     void fitToScreen();
 
-    // Makes the window larger where its contents need it and the screen has room; never smaller.
+    // Makes the window larger where its contents need it, up to two thirds of the screen; never
+    // smaller.
     void growToContents();
     // Shows the window in front of all others, with the keyboard.
     void bringToFront();
