@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QPointer>
 #include <QWidget>
 #include <memory>
@@ -110,6 +111,8 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     virtual bool passes(const Field &field) const;
     // Why what a field holds cannot be used, in words; empty when it can, or does not count.
     virtual QString faultOf(const Field &field) const { return brokenRuleOf(field); }
+    // What is worth knowing of a value that can be used, in words; may be empty.
+    virtual QString noticeOf(const Field &field) const;
     // The user begins to edit, or `ended` to edit, a field.
     virtual void markInput(const Field &field, bool) {
         if (field.input) *field.input = true;
@@ -151,11 +154,18 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // Whether the printer did not report the value of a row, and nobody entered one.
     bool isUnknown(const Field &field) const;
     bool checkAddresses() const;
+    Field &append(QWidget *control, const QString &key);
     // Marks what is wrong among the fields that are marked already, or among all.
     void updateMarks(bool all = false);
+    // Says what is worth knowing of the values; `typing`: says nothing new.
+    void updateNotices(bool typing = false);
     TextField *firstFault() const;
-    void forceIntoRange(const Field &number) const;
-    void postSendState(bool unchanged);
+    // Forces a number into its range, and keeps in mind what to say of it.
+    void forceIntoRange(const Field &number);
+    // `typing`: the user has not left the field yet.
+    void postSendState(bool unchanged, bool typing = false);
 
     std::vector<Field> m_fields;
+    // What became of a field's value when its editing ended, until the value changes.
+    QHash<const QWidget *, QString> m_said;
 };
