@@ -735,6 +735,9 @@
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>&amp;Alles auswählen</translation>
     </message>
+    <message id="DWT_Localize_Menu_RevertPage">
+        <translation>Seite &amp;zurücksetzen</translation>
+    </message>
     <message id="DWT_Localize_Menu_Window">
         <translation>&amp;Fenster</translation>
     </message>
@@ -792,6 +795,12 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Outline_Changed">
         <translation>Geändert, noch nicht gesendet</translation>
+    </message>
+    <message id="DWT_Localize_Field_Changed">
+        <translation>Geändert. Der Drucker hat: %1</translation>
+    </message>
+    <message id="DWT_Localize_Field_Reset">
+        <translation>Änderung zurücknehmen: %1 (Esc)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotUsed">
         <translation>In der Betriebsart, die auf der Seite „WLAN“ gewählt ist, verwendet der Drucker diese Einstellungen nicht.</translation>

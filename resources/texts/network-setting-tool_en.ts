@@ -735,6 +735,9 @@
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>Select &amp;all</translation>
     </message>
+    <message id="DWT_Localize_Menu_RevertPage">
+        <translation>&amp;Revert page</translation>
+    </message>
     <message id="DWT_Localize_Menu_Window">
         <translation>&amp;Window</translation>
     </message>
@@ -792,6 +795,12 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Outline_Changed">
         <translation>Changed, not sent yet</translation>
+    </message>
+    <message id="DWT_Localize_Field_Changed">
+        <translation>Changed. The printer has: %1</translation>
+    </message>
+    <message id="DWT_Localize_Field_Reset">
+        <translation>Undo the change of %1 (Esc)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotUsed">
         <translation>The printer does not use these settings in the communication mode that is chosen on the “Wireless network” page.</translation>

@@ -735,6 +735,9 @@
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>Seleccionar t&amp;odo</translation>
     </message>
+    <message id="DWT_Localize_Menu_RevertPage">
+        <translation>&amp;Restablecer la página</translation>
+    </message>
     <message id="DWT_Localize_Menu_Window">
         <translation>&amp;Ventana</translation>
     </message>
@@ -792,6 +795,12 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Outline_Changed">
         <translation>Modificado, aún sin enviar</translation>
+    </message>
+    <message id="DWT_Localize_Field_Changed">
+        <translation>Modificado. La impresora tiene: %1</translation>
+    </message>
+    <message id="DWT_Localize_Field_Reset">
+        <translation>Deshacer el cambio de %1 (Esc)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotUsed">
         <translation>La impresora no usa estos ajustes en el modo de comunicación elegido en la página «Red Wi-Fi».</translation>

@@ -735,6 +735,9 @@
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>&amp;Tout sélectionner</translation>
     </message>
+    <message id="DWT_Localize_Menu_RevertPage">
+        <translation>&amp;Rétablir la page</translation>
+    </message>
     <message id="DWT_Localize_Menu_Window">
         <translation>&amp;Fenêtre</translation>
     </message>
@@ -792,6 +795,12 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Outline_Changed">
         <translation>Modifié, pas encore envoyé</translation>
+    </message>
+    <message id="DWT_Localize_Field_Changed">
+        <translation>Modifié. L’imprimante a : %1</translation>
+    </message>
+    <message id="DWT_Localize_Field_Reset">
+        <translation>Annuler la modification : %1 (Esc)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotUsed">
         <translation>L’imprimante n’utilise pas ces paramètres dans le mode de communication choisi sur la page « Réseau Wi-Fi ».</translation>

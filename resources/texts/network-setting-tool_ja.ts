@@ -735,6 +735,9 @@
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>すべて選択(&amp;A)</translation>
     </message>
+    <message id="DWT_Localize_Menu_RevertPage">
+        <translation>ページの変更を元に戻す(&amp;R)</translation>
+    </message>
     <message id="DWT_Localize_Menu_Window">
         <translation>ウィンドウ(&amp;W)</translation>
     </message>
@@ -792,6 +795,12 @@
     </message>
     <message id="DWT_Localize_Outline_Changed">
         <translation>変更あり (未送信)</translation>
+    </message>
+    <message id="DWT_Localize_Field_Changed">
+        <translation>変更あり。プリンターの値: %1</translation>
+    </message>
+    <message id="DWT_Localize_Field_Reset">
+        <translation>%1の変更を元に戻す (Esc)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotUsed">
         <translation>「無線 LAN」ページで選択された通信モードでは、プリンターはこれらの設定を使用しません。</translation>

@@ -735,6 +735,9 @@
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>全选(&amp;A)</translation>
     </message>
+    <message id="DWT_Localize_Menu_RevertPage">
+        <translation>还原此页(&amp;R)</translation>
+    </message>
     <message id="DWT_Localize_Menu_Window">
         <translation>窗口(&amp;W)</translation>
     </message>
@@ -792,6 +795,12 @@
     </message>
     <message id="DWT_Localize_Outline_Changed">
         <translation>已更改，尚未发送</translation>
+    </message>
+    <message id="DWT_Localize_Field_Changed">
+        <translation>已更改。打印机中的值：%1</translation>
+    </message>
+    <message id="DWT_Localize_Field_Reset">
+        <translation>撤消对“%1”的更改 (Esc)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotUsed">
         <translation>在“无线网络”页面上选择的通信模式下，打印机不使用这些设置。</translation>

@@ -44,11 +44,13 @@ QString selectedText(const QWidget *widget) {
     return field && field->echoMode() == QLineEdit::Normal ? field->selectedText() : QString();
 }
 
-// Makes an entry act for a widget, and be enabled exactly while a person can use the widget.
+// Makes an entry act for a widget, and be enabled exactly while a person can use the widget and,
+// with `mayAct`, that allows it.
 class WidgetEntry : public QObject {
   public:
-    WidgetEntry(QAction *entry, QWidget *widget, const std::function<void()> &action)
-        : QObject(widget), m_entry(entry), m_widget(widget) {
+    WidgetEntry(QAction *entry, QWidget *widget, const std::function<void()> &action,
+                const std::function<bool()> &mayAct = nullptr)
+        : QObject(widget), m_entry(entry), m_widget(widget), m_mayAct(mayAct) {
         widget->installEventFilter(this);
         connect(entry, &QAction::triggered, this, action);
         follow();
@@ -59,14 +61,17 @@ class WidgetEntry : public QObject {
             follow();
         return false;
     }
-
-  private:
+    // Asks anew whether the entry can act.
     void follow() {
-        if (m_entry) m_entry->setEnabled(m_widget->isVisible() && m_widget->isEnabled());
+        if (m_entry)
+            m_entry->setEnabled(m_widget->isVisible() && m_widget->isEnabled() &&
+                                (!m_mayAct || m_mayAct()));
     }
 
+  private:
     const QPointer<QAction> m_entry;
     QWidget *const m_widget;
+    const std::function<bool()> m_mayAct;
 };
 
 void pressBy(QAction *entry, QAbstractButton *button) {
@@ -112,7 +117,8 @@ MainMenu::MainMenu(QWidget *parent) : QMenuBar(parent) {
     QMenu *const printer = addMenu(u"DWT_Localize_Menu_Printer"_s);
     m_send = add(printer, "DWT_Localize_Menu_Send", Qt::CTRL | Qt::Key_S);
     m_readAgain = add(printer, "DWT_Localize_Menu_ReadAgain", Qt::Key_F5);
-    for (QAction *entry : {m_send, m_readAgain, m_copyAllSettings}) entry->setEnabled(false);
+    for (QAction *entry : {m_send, m_readAgain, m_revertPage, m_copyAllSettings})
+        entry->setEnabled(false);
     QMenu *const window = addMenu(u"DWT_Localize_Menu_Window"_s);
     add(window, "DWT_Localize_Menu_PrinterList", Qt::CTRL | Qt::Key_L,
         [this] { Q_EMIT printerListChosen(); });
@@ -141,6 +147,7 @@ void MainMenu::addEditMenu() {
         if (auto *const field = qobject_cast<QLineEdit *>(m_focus)) field->selectAll();
     });
     edit->addSeparator();
+    m_revertPage = add(edit, "DWT_Localize_Menu_RevertPage", {});
     m_copyAllSettings =
         add(edit, "DWT_Localize_Menu_CopyAllSettings", Qt::CTRL | Qt::SHIFT | Qt::Key_C);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
@@ -184,9 +191,13 @@ QMenuBar *MainMenu::shareWith(QWidget *parent) const {
     return shared;
 }
 
-void MainMenu::actOnPrinter(const DWTMainSettingWindow &printer) {
+void MainMenu::actOnPrinter(DWTMainSettingWindow &printer) {
     pressBy(m_send, printer.sendButton());
     pressBy(m_readAgain, printer.readAgainButton());
+    auto *const revert = new WidgetEntry(
+        m_revertPage, printer.window(), [&printer] { printer.revertPage(); },
+        [&printer] { return printer.canRevertPage(); });
+    connect(&printer, &DWTMainSettingWindow::editsFollowed, revert, &WidgetEntry::follow);
     new WidgetEntry(m_copyAllSettings, printer.window(),
                     [&printer] { QApplication::clipboard()->setText(printer.report()); });
 }

@@ -19,7 +19,7 @@ class MainMenu : public QMenuBar {
 
     // Connects the entries for a printer with the loaded window `printer`, each enabled while the
     // window's button is. The window before must be gone or hidden.
-    void actOnPrinter(const DWTMainSettingWindow &printer);
+    void actOnPrinter(DWTMainSettingWindow &printer);
 
   Q_SIGNALS:
     // The list of printers is to be shown.
@@ -37,6 +37,7 @@ class MainMenu : public QMenuBar {
     QAction *m_copy = nullptr;
     QAction *m_paste = nullptr;
     QAction *m_selectAll = nullptr;
+    QAction *m_revertPage = nullptr;
     QAction *m_copyAllSettings = nullptr;
     QAction *m_send = nullptr;
     QAction *m_readAgain = nullptr;

@@ -58,6 +58,10 @@ class DWTMainSettingWindow : public QObject,
     QAbstractButton *sendButton() const { return button_MainSend; }
     QAbstractButton *readAgainButton() const { return button_MainNewSetting; }
     QAbstractButton *closeButton() const { return button_MainCancel; }
+    // Whether the shown page differs from what was read; editsFollowed() says when to ask anew.
+    bool canRevertPage() const;
+    // Puts back what was read on the shown page.
+    void revertPage();
     // The settings that the pages show now, as plain text, a line each. Secrets are left out.
     QString report() const;
     // With an entry: the first opening, of that printer. Without: reads again. False when the first
@@ -78,6 +82,10 @@ class DWTMainSettingWindow : public QObject,
 
     // Asks about unsent changes, as closing does. True when the application may end.
     bool terminateNetworkTool() { return MSW_AppTerminate(); }
+
+  Q_SIGNALS:
+    // A page was edited, filled or chosen.
+    void editsFollowed();
 
   private:
     bool MSW_Init() { return true; }
@@ -111,6 +119,8 @@ class DWTMainSettingWindow : public QObject,
     Plan shownPlan() const;
     void enableAllViews(bool enabled);
     void MSW_UISelector(const QString &viewKey) { m_pages->select(viewKey); }
+    // The page that is shown; null when none is.
+    DWTBaseView *shownPage() const;
     std::optional<QString> MSW_SelectedUIString() const;
     void showStandardAlert(const char *titleKey, const char *kindKey, const char *informationKey);
 

@@ -159,6 +159,7 @@ void DWTMainSettingWindow::push_SendEndOK() {
         password_ViewObject->clearPassword(bool_usbPrinter);
         password_ViewObject->passwordChangeSetting(false);
     }
+    for (const auto &page : dictionary_ViewManagement) page->followSavedData();
     showOwnName();
     if (m_ending.isComplete())
         MSW_SendButtonDisable();

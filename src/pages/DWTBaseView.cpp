@@ -8,7 +8,6 @@
 #include "platform/core/Texts.h"
 #include "platform/ui/FieldLooks.h"
 #include "platform/ui/FieldRow.h"
-#include "settings/SendWarnings.h"
 
 using namespace Qt::StringLiterals;
 
@@ -39,7 +38,11 @@ Field &DWTBaseView::addField(QWidget *control, const QString &key, bool *input,
     Field &field = append(control, key);
     field.input = input;
     field.store = std::move(store);
-    if (!qobject_cast<QCheckBox *>(control)) field.row = new FieldRow(control);
+    if (!qobject_cast<QCheckBox *>(control)) {
+        field.row = new FieldRow(control);
+        QObject::connect(field.row, &FieldRow::resetRequested, this,
+                         [this, control] { putBack(*fieldOf(control)); });
+    }
     if (auto *line = qobject_cast<TextField *>(control)) {
         QObject::connect(line, &QLineEdit::textChanged, this, [this] { updateMarks(); });
         if (field.isSecret())
@@ -77,7 +80,7 @@ void DWTBaseView::showDataManager() {
     mutableDictionary_ViewSettings = savedCategory();
     for (const Field &field : m_fields) fill(field);
     m_said.clear();
-    updateNotices();
+    followSavedData();
 }
 
 void DWTBaseView::enableAllItems(bool enabled) {
@@ -108,53 +111,6 @@ bool DWTBaseView::itemInputCheck() {
         passed = false;
     }
     return passed;
-}
-
-QString DWTBaseView::brokenRuleOf(const Field &field) const {
-    const bool counts = field.rule && !field.isNumber() && field.control->isEnabled();
-    if (!counts || isUnchangedText(field) || (field.isAddress() && isUnknown(field)) ||
-        passes(field))
-        return {};
-    return localized(field.rule->ruleKey);
-}
-
-void DWTBaseView::updateMarks(bool all) {
-    for (const Field &field : m_fields) {
-        auto *const control = qobject_cast<TextField *>(field.control);
-        if (control && field.row && (all || !control->fault().isEmpty()))
-            field.row->setFault(faultOf(field));
-    }
-}
-
-void DWTBaseView::updateNotices(bool typing) {
-    for (const Field &field : m_fields)
-        if (field.row && (!typing || field.row->hasNotice())) field.row->setNotice(noticeOf(field));
-}
-
-QString DWTBaseView::noticeOf(const Field &field) const {
-    if (m_said.contains(field.control) || !ndm_Object) return m_said.value(field.control);
-    const SettingRecord saved = ndm_Object->savedData();
-    SettingRecord shown = saved;
-    shown[string_ViewKey] = shownCategory();
-    for (const SendWarning &warning : warningsOf(saved, shown))
-        if (warning.viewKey == string_ViewKey && warning.key == field.key())
-            return wordsOf(warning);
-    return {};
-}
-
-void DWTBaseView::focusFirstFault() {
-    TextField *const fault = firstFault();
-    if (!fault) return;
-    fault->setFocus(Qt::OtherFocusReason);
-    fault->selectAll();
-}
-
-TextField *DWTBaseView::firstFault() const {
-    for (const Field &field : m_fields) {
-        auto *const control = qobject_cast<TextField *>(field.control);
-        if (control && !control->fault().isEmpty()) return control;
-    }
-    return nullptr;
 }
 
 bool DWTBaseView::checkAddresses() const {
@@ -273,6 +229,7 @@ void DWTBaseView::handOver(const CategoryDictionary &category) {
 void DWTBaseView::postSendState(bool unchanged, bool typing) {
     updateMarks();
     updateNotices(typing);
+    updateChanges();
     NotificationCenter::shared().post(
         unchanged ? DWT_MainDialog_SendNG_Message : DWT_MainDialog_SendOK_Message, this);
 }

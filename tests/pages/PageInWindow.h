@@ -46,6 +46,10 @@ class PageInWindow {
     static FieldNote &noteOf(const QWidget *field) {
         return *field->parentWidget()->findChild<FieldNote *>();
     }
+    // The button beside a field that puts back what was read.
+    static QToolButton &resetOf(const QWidget *field) {
+        return *field->parentWidget()->findChild<QToolButton *>({}, Qt::FindDirectChildrenOnly);
+    }
     QString shown(const char *name) { return control<QLineEdit>(name)->text(); }
     void pick(const char *cell) { control<QRadioButton>(cell)->click(); }
     // Replaces a field's text by a pasted one.

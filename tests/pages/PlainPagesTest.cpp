@@ -30,6 +30,16 @@ TEST_F(NetworkPage, ShowsTheNamesAndFollowsEveryEdit) {
     EXPECT_EQ(stored("names.service"), text("'New'"));
     EXPECT_EQ(changeList(),
               text("Printer name: Desk > Desk2|Bonjour service name: Desk labels > New"));
+    EXPECT_TRUE(printer->toolTip().endsWith(text("\nChanged. The printer has: Desk")));
+    EXPECT_FALSE(resetOf(bonjour).isVisible());
+    QTest::keyClick(printer, Qt::Key_Escape);
+    EXPECT_FALSE(resetOf(printer).isVisible());
+    EXPECT_EQ(changeList(), text("Bonjour service name: Desk labels > New"));
+    EXPECT_EQ(stored("names.printer"), text("'Desk'"));
+    type(bonjour, text("not one"));
+    page->revert();
+    EXPECT_TRUE(changeList().isEmpty() && !page->hasFault() && m.manager->isEqualToSaveData());
+    EXPECT_EQ(state, DWT_MainDialog_SendNG_Message);
 }
 
 struct WirelessPage : PageTest<DWTWirelessView> {

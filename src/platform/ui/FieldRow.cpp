@@ -2,9 +2,13 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QStyle>
+#include <QToolButton>
 
 #include "platform/ui/TextField.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -23,7 +27,9 @@ QLayout *holderOf(const QWidget *widget, QLayout *layout) {
 FieldRow::FieldRow(QWidget *control)
     : QWidget(control->parentWidget()),
       m_control(control),
+      m_purpose(control->toolTip()),
       m_line(new QHBoxLayout),
+      m_reset(new QToolButton(this)),
       m_note(new FieldNote(this)) {
     QLayout *const holder = holderOf(control, parentWidget()->layout());
     if (auto *const beside = qobject_cast<QHBoxLayout *>(holder)) {
@@ -35,12 +41,39 @@ FieldRow::FieldRow(QWidget *control)
         m_line->addStretch();
     }
     m_line->setSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing));
+    addReset();
     auto *const rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(1);
     rows->addLayout(m_line);
     rows->addWidget(m_note);
     control->installEventFilter(this);
+}
+
+void FieldRow::addReset() {
+    m_reset->setIcon(QIcon(u":/controls/reset.svg"_s));
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize) - 2;  // as high as a field
+    m_reset->setIconSize({size, size});
+    m_reset->setAutoRaise(true);
+    m_reset->setFocusPolicy(Qt::NoFocus);  // Tab leads to the next field
+    QSizePolicy policy = m_reset->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_reset->setSizePolicy(policy);
+    m_reset->hide();
+    m_line->insertWidget(m_line->indexOf(m_control) + 1, m_reset);
+    connect(m_reset, &QToolButton::clicked, this, &FieldRow::resetRequested);
+}
+
+void FieldRow::setChange(const QString &change, const QString &undo) {
+    m_change = change;
+    const QStringList tips =
+        m_purpose.isEmpty() ? QStringList{change} : QStringList{m_purpose, change};
+    m_control->setToolTip(change.isEmpty() ? m_purpose : tips.join(u'\n'));
+    m_reset->setToolTip(change + u'\n' + undo);
+    m_reset->setAccessibleName(undo);
+    m_reset->setAccessibleDescription(change);
+    m_reset->setHidden(change.isEmpty());
+    follow();
 }
 
 void FieldRow::setRule(const QString &rule) {
@@ -62,7 +95,10 @@ void FieldRow::setFault(const QString &fault) {
 
 bool FieldRow::eventFilter(QObject *, QEvent *event) {
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) follow();
-    return false;
+    const bool undoes = event->type() == QEvent::KeyPress && !m_change.isEmpty() &&
+                        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape;
+    if (undoes) Q_EMIT resetRequested();
+    return undoes;
 }
 
 void FieldRow::follow() {
@@ -73,7 +109,8 @@ void FieldRow::follow() {
     else
         m_note->say(m_control->hasFocus() ? m_rule : QString(), FieldNote::Kind::Rule);
     QStringList description{m_fault};
-    if (m_fault.isEmpty()) description = {m_notice, m_control->toolTip(), m_rule};
+    if (m_fault.isEmpty()) description = {m_notice, m_purpose, m_rule};
+    description << m_change;
     description.removeAll(QString());
     const QString described = description.join(u' ');
     if (described != m_control->accessibleDescription())
