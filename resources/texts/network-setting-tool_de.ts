@@ -16,19 +16,19 @@
         <translation>Druckername</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PrinterName_InputErr">
-        <translation>Geben Sie 1 bis 31 Zeichen ein. Ein Druckername besteht aus den Buchstaben A bis Z und a bis z, Ziffern und Bindestrichen, ohne Leerzeichen.</translation>
+        <translation>1 bis 31 Zeichen: Buchstaben A bis Z und a bis z, Ziffern und Bindestriche, keine Leerzeichen.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourName">
         <translation>Bonjour-Name</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourName_InputErr">
-        <translation>Geben Sie 1 bis 25 Zeichen ein. Ein Bonjour-Name besteht aus den Buchstaben A bis Z und a bis z, Ziffern und Bindestrichen, ohne Leerzeichen.</translation>
+        <translation>1 bis 25 Zeichen: Buchstaben A bis Z und a bis z, Ziffern und Bindestriche, keine Leerzeichen.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourServiceName">
         <translation>Bonjour-Dienstname</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
-        <translation>Geben Sie 1 bis 31 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Sonderzeichen einer US-Tastatur. Umlaute, ß und Buchstaben mit Akzent sind nicht möglich.</translation>
+        <translation>1 bis 31 Zeichen: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen, Sonderzeichen einer US-Tastatur.</translation>
     </message>
     <message id="DWT_Localize_Network_Box_PrinterName">
         <translation>Druckername</translation>
@@ -46,13 +46,13 @@
         <translation>.local</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
-        <translation>Der Name, unter dem Computer im Netzwerk den Drucker erreichen. 1 bis 25 Zeichen: Buchstaben, Ziffern, Bindestriche.</translation>
+        <translation>Der Name, unter dem Computer im Netzwerk den Drucker erreichen.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
-        <translation>Der Name, den Druckerlisten anzeigen. 1 bis 31 Zeichen: Buchstaben, Ziffern, Leerzeichen, Sonderzeichen.</translation>
+        <translation>Der Name, den Druckerlisten anzeigen.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkHostName">
-        <translation>Der eigene Name des Druckers. 1 bis 31 Zeichen: Buchstaben, Ziffern, Bindestriche.</translation>
+        <translation>Der eigene Name des Druckers.</translation>
     </message>
     <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
         <translation>WLAN</translation>
@@ -87,6 +87,12 @@
     <message id="DWT_Localize_Firmware_Text_Second_Label">
         <translation>Sekunden (30 bis 300)</translation>
     </message>
+    <message id="DWT_Localize_Field_Least">
+        <translation>Auf %1 gesetzt, den kleinsten Wert.</translation>
+    </message>
+    <message id="DWT_Localize_Field_Most">
+        <translation>Auf %1 gesetzt, den größten Wert.</translation>
+    </message>
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
         <translation>Neues Administrator&amp;passwort festlegen</translation>
     </message>
@@ -106,7 +112,7 @@
         <translation>Lassen Sie beide Felder leer, um das Passwort zu entfernen. Notieren Sie ein neues Passwort: Es kann nicht aus dem Drucker gelesen werden.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
-        <translation>Bis zu 8 Zeichen ohne Leerzeichen: Buchstaben, Ziffern, Sonderzeichen.</translation>
+        <translation>Das Passwort, nach dem gefragt wird, bevor Einstellungen geändert werden.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Reinput">
         <translation>Noch einmal dasselbe Passwort.</translation>
@@ -118,7 +124,7 @@
         <translation>Passwortbestätigung</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
-        <translation>Geben Sie höchstens 8 Zeichen ohne Leerzeichen ein: Buchstaben A bis Z und a bis z, Ziffern und ! &quot; # $ % &amp; ' ( ) * + , - . / { | } ~</translation>
+        <translation>Höchstens 8 Zeichen, keine Leerzeichen: Buchstaben A bis Z und a bis z, Ziffern und ! " # $ % &amp; ' ( ) * + , - . / { | } ~</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>Die Passwörter stimmen nicht überein. Geben Sie in beiden Feldern dasselbe Passwort ein.</translation>
@@ -166,13 +172,13 @@
         <translation>Standardgateway:</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_IPAddress">
-        <translation>Vier Zahlen von 0 bis 255 mit Punkten dazwischen, etwa 192.168.0.10.</translation>
+        <translation>Die eigene Adresse des Druckers: vier Zahlen mit Punkten dazwischen, etwa 192.168.0.10.</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_SubnetMask">
-        <translation>Vier Zahlen von 0 bis 255 mit Punkten dazwischen, etwa 255.255.255.0.</translation>
+        <translation>Legt fest, welche Adressen zum Netzwerk des Druckers gehören.</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_Gateway">
-        <translation>Die Adresse des Routers: vier Zahlen von 0 bis 255 mit Punkten dazwischen.</translation>
+        <translation>Die Adresse des Routers.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
         <translation>IP-Adresse</translation>
@@ -184,13 +190,13 @@
         <translation>Standardgateway</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_IpAddress_InputErr">
-        <translation>Geben Sie die IP-Adresse als vier Zahlen von 0 bis 255 mit Punkten dazwischen ein. 0.0.0.0, 127.0.0.1 und 255.255.255.255 sind nicht möglich.</translation>
+        <translation>Eine Adresse von 0.0.0.1 bis 255.255.255.254, nicht 127.0.0.1.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Subnetmask_InputErr">
-        <translation>Geben Sie die Subnetzmaske als vier Zahlen von 0 bis 255 mit Punkten dazwischen ein. 0.0.0.0 und 255.255.255.255 sind nicht möglich.</translation>
+        <translation>Eine Maske von 0.0.0.1 bis 255.255.255.254, etwa 255.255.255.0.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Router_InputErr">
-        <translation>Geben Sie das Standardgateway als vier Zahlen von 0 bis 255 mit Punkten dazwischen ein. 0.0.0.0 und 255.255.255.255 sind nicht möglich.</translation>
+        <translation>Eine Adresse von 0.0.0.1 bis 255.255.255.254.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_WirelessConnection">
         <translation>WLAN-Verbindung</translation>
@@ -244,13 +250,13 @@
         <translation>Standardgateway:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_IPAddress">
-        <translation>Vier Zahlen von 0 bis 255 mit Punkten dazwischen, etwa 192.168.0.10.</translation>
+        <translation>Die eigene Adresse des Druckers: vier Zahlen mit Punkten dazwischen, etwa 192.168.0.10.</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SubnetMask">
-        <translation>Vier Zahlen von 0 bis 255 mit Punkten dazwischen, etwa 255.255.255.0.</translation>
+        <translation>Legt fest, welche Adressen zum Netzwerk des Druckers gehören.</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
-        <translation>Die Adresse des Routers: vier Zahlen von 0 bis 255 mit Punkten dazwischen.</translation>
+        <translation>Die Adresse des Routers.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_Security">
         <translation>Netzwerk und Sicherheit</translation>
@@ -304,7 +310,7 @@
         <translation>Netzwerkname (SSID):</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SSID">
-        <translation>Der Name des WLANs. 1 bis 32 Zeichen: Buchstaben, Ziffern, Leerzeichen, Sonderzeichen.</translation>
+        <translation>Der Name des WLANs.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
         <translation>Aus&amp;wählen …</translation>
@@ -313,13 +319,13 @@
         <translation>WPA-Schlüssel:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_PSK">
-        <translation>Der Netzwerkschlüssel (Passwort). 8 bis 63 Zeichen: Buchstaben, Ziffern, Leerzeichen, Sonderzeichen.</translation>
+        <translation>Der Netzwerkschlüssel (Passwort).</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
         <translation>WEP-Schlüssel:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_WEPKey">
-        <translation>5 oder 13 Zeichen, oder 10 oder 26 Hexadezimalziffern (0 bis 9, A bis F).</translation>
+        <translation>Der WEP-Schlüssel des Netzwerks.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SelectWEPKey_Label">
         <translation>WEP-Schlüsselnummer:</translation>
@@ -337,19 +343,19 @@
         <translation>Netzwerkname (SSID)</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
-        <translation>Geben Sie 1 bis 32 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Sonderzeichen einer US-Tastatur. Ein Netzwerk mit anderen Zeichen im Namen lässt sich aus der Liste der Netzwerke übernehmen.</translation>
+        <translation>1 bis 32 Zeichen: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen, Sonderzeichen einer US-Tastatur. Ein Netzwerk mit anderem Namen lässt sich aus der Liste wählen.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
         <translation>WPA-Schlüssel</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
-        <translation>Geben Sie 8 bis 63 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Sonderzeichen einer US-Tastatur.</translation>
+        <translation>8 bis 63 Zeichen: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen, Sonderzeichen einer US-Tastatur.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
         <translation>WEP-Schlüssel</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_WEPKey_InputErr">
-        <translation>Geben Sie 5 oder 13 Zeichen (Buchstaben, Ziffern, Leerzeichen und die Sonderzeichen einer US-Tastatur) oder 10 oder 26 Hexadezimalziffern (0 bis 9 und A bis F) ein.</translation>
+        <translation>5 oder 13 Zeichen (Buchstaben, Ziffern, Leerzeichen, Sonderzeichen einer US-Tastatur) oder 10 oder 26 Hexadezimalziffern (0 bis 9, A bis F).</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_WirelessLANMode">
         <translation>Zugangspunkt</translation>
@@ -430,16 +436,16 @@
         <translation>WPA-Schlüssel:</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_SSID">
-        <translation>Der Teil des Netzwerknamens nach „DIRECT-“. 1 bis 25 Zeichen: Buchstaben, Ziffern, Leerzeichen, Sonderzeichen.</translation>
+        <translation>Der Teil des Netzwerknamens nach „DIRECT-“.</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_PSK">
-        <translation>Der Schlüssel (Passwort), mit dem Computer beitreten. 8 bis 63 Zeichen: Buchstaben, Ziffern, Leerzeichen, Sonderzeichen.</translation>
+        <translation>Der Schlüssel (Passwort), mit dem Computer beitreten.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
         <translation>Netzwerkname (SSID) des Zugangspunkts</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
-        <translation>Geben Sie 1 bis 25 Zeichen ein: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen und die Sonderzeichen einer US-Tastatur.</translation>
+        <translation>1 bis 25 Zeichen: Buchstaben A bis Z und a bis z, Ziffern, Leerzeichen, Sonderzeichen einer US-Tastatur.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
         <translation>WPA-Schlüssel des Zugangspunkts</translation>
@@ -801,6 +807,33 @@
     <message id="DWT_Localize_Menu_LookAgain">
         <translation>&amp;Erneut suchen</translation>
     </message>
+    <message id="DWT_Localize_Menu_SaveSettings">
+        <translation>Einstellungen &amp;speichern …</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ApplyFile">
+        <translation>&amp;Datei anwenden …</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Print">
+        <translation>D&amp;rucken …</translation>
+    </message>
+    <message id="DWT_Localize_Files_Settings">
+        <translation>Einstellungen (*.json)</translation>
+    </message>
+    <message id="DWT_Localize_Files_NotSaved">
+        <translation>Die Einstellungen konnten nicht gespeichert werden</translation>
+    </message>
+    <message id="DWT_Localize_Files_NotApplied">
+        <translation>Die Datei kann nicht angewendet werden</translation>
+    </message>
+    <message id="DWT_Localize_Files_Unsent">
+        <translation>Senden Sie zuerst die Änderungen auf den Seiten, oder setzen Sie sie zurück.</translation>
+    </message>
+    <message id="DWT_Localize_Files_NoChange">
+        <translation>Der Drucker hat bereits alle Einstellungen der Datei</translation>
+    </message>
+    <message id="DWT_Localize_Files_More">
+        <translation>… und %1 weitere</translation>
+    </message>
     <message id="DWT_Localize_Menu_Quit">
         <translation>&amp;Beenden</translation>
     </message>
@@ -818,6 +851,9 @@
     </message>
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message id="DWT_Localize_Menu_RevertPage">
+        <translation>Seite &amp;zurücksetzen</translation>
     </message>
     <message id="DWT_Localize_Menu_View">
         <translation>&amp;Ansicht</translation>
@@ -876,6 +912,12 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Outline_Changed">
         <translation>Geändert, noch nicht gesendet</translation>
+    </message>
+    <message id="DWT_Localize_Field_Changed">
+        <translation>Geändert. Der Drucker hat: %1</translation>
+    </message>
+    <message id="DWT_Localize_Field_Reset">
+        <translation>Änderung zurücknehmen: %1 (Esc)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotUsed">
         <translation>In der Betriebsart, die auf der Seite „WLAN“ gewählt ist, verwendet der Drucker diese Einstellungen nicht.</translation>

@@ -16,19 +16,19 @@
         <translation>Printer name</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PrinterName_InputErr">
-        <translation>Enter 1 to 31 characters. A printer name consists of the letters A to Z and a to z, digits and hyphens, without spaces.</translation>
+        <translation>1 to 31 characters: letters A to Z and a to z, digits and hyphens, no spaces.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourName">
         <translation>Bonjour name</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourName_InputErr">
-        <translation>Enter 1 to 25 characters. A Bonjour name consists of the letters A to Z and a to z, digits and hyphens, without spaces.</translation>
+        <translation>1 to 25 characters: letters A to Z and a to z, digits and hyphens, no spaces.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourServiceName">
         <translation>Bonjour service name</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
-        <translation>Enter 1 to 31 characters: letters A to Z and a to z, digits, spaces and the punctuation of a US keyboard. Accented letters are not possible.</translation>
+        <translation>1 to 31 characters: letters A to Z and a to z, digits, spaces, punctuation of a US keyboard.</translation>
     </message>
     <message id="DWT_Localize_Network_Box_PrinterName">
         <translation>Printer name</translation>
@@ -46,13 +46,13 @@
         <translation>.local</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
-        <translation>The name under which computers on the network reach the printer. 1 to 25 characters: letters, digits, hyphens.</translation>
+        <translation>The name under which computers on the network reach the printer.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
-        <translation>The name that lists of printers show. 1 to 31 characters: letters, digits, spaces, punctuation.</translation>
+        <translation>The name that lists of printers show.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkHostName">
-        <translation>The printer’s own name. 1 to 31 characters: letters, digits, hyphens.</translation>
+        <translation>The printer’s own name.</translation>
     </message>
     <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
         <translation>Wireless network</translation>
@@ -87,6 +87,12 @@
     <message id="DWT_Localize_Firmware_Text_Second_Label">
         <translation>seconds (30 to 300)</translation>
     </message>
+    <message id="DWT_Localize_Field_Least">
+        <translation>Set to %1, the least.</translation>
+    </message>
+    <message id="DWT_Localize_Field_Most">
+        <translation>Set to %1, the most.</translation>
+    </message>
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
         <translation>Set a &amp;new administrator password</translation>
     </message>
@@ -106,7 +112,7 @@
         <translation>Leave both fields empty to remove the password. Keep a note of a new one: it cannot be read from the printer.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
-        <translation>Up to 8 characters, without spaces: letters, digits, punctuation.</translation>
+        <translation>The password that will be asked for before settings are changed.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Reinput">
         <translation>The same password again.</translation>
@@ -118,7 +124,7 @@
         <translation>Password confirmation</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
-        <translation>Enter at most 8 characters, without spaces: letters A to Z and a to z, digits and ! &quot; # $ % &amp; ' ( ) * + , - . / { | } ~</translation>
+        <translation>At most 8 characters, no spaces: letters A to Z and a to z, digits and ! " # $ % &amp; ' ( ) * + , - . / { | } ~</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>The passwords do not match. Type the same password in both fields.</translation>
@@ -166,13 +172,13 @@
         <translation>Default gateway:</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_IPAddress">
-        <translation>Four numbers from 0 to 255 with dots between them, such as 192.168.0.10.</translation>
+        <translation>The printer’s own address, four numbers with dots between them, such as 192.168.0.10.</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_SubnetMask">
-        <translation>Four numbers from 0 to 255 with dots between them, such as 255.255.255.0.</translation>
+        <translation>Says which addresses belong to the printer’s network.</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_Gateway">
-        <translation>The router’s address: four numbers from 0 to 255 with dots between them.</translation>
+        <translation>The router’s address.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
         <translation>IP address</translation>
@@ -184,13 +190,13 @@
         <translation>Default gateway</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_IpAddress_InputErr">
-        <translation>Enter the IP address as four numbers from 0 to 255 with dots between them. 0.0.0.0, 127.0.0.1 and 255.255.255.255 are not possible.</translation>
+        <translation>An address from 0.0.0.1 to 255.255.255.254, but not 127.0.0.1.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Subnetmask_InputErr">
-        <translation>Enter the subnet mask as four numbers from 0 to 255 with dots between them. 0.0.0.0 and 255.255.255.255 are not possible.</translation>
+        <translation>A mask from 0.0.0.1 to 255.255.255.254, such as 255.255.255.0.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Router_InputErr">
-        <translation>Enter the default gateway as four numbers from 0 to 255 with dots between them. 0.0.0.0 and 255.255.255.255 are not possible.</translation>
+        <translation>An address from 0.0.0.1 to 255.255.255.254.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_WirelessConnection">
         <translation>Wireless connection</translation>
@@ -244,13 +250,13 @@
         <translation>Default gateway:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_IPAddress">
-        <translation>Four numbers from 0 to 255 with dots between them, such as 192.168.0.10.</translation>
+        <translation>The printer’s own address, four numbers with dots between them, such as 192.168.0.10.</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SubnetMask">
-        <translation>Four numbers from 0 to 255 with dots between them, such as 255.255.255.0.</translation>
+        <translation>Says which addresses belong to the printer’s network.</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
-        <translation>The router’s address: four numbers from 0 to 255 with dots between them.</translation>
+        <translation>The router’s address.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_Security">
         <translation>Network and security</translation>
@@ -304,7 +310,7 @@
         <translation>Network name (SSID):</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SSID">
-        <translation>The name of the wireless network. 1 to 32 characters: letters, digits, spaces, punctuation.</translation>
+        <translation>The name of the wireless network.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
         <translation>Ch&amp;oose…</translation>
@@ -313,13 +319,13 @@
         <translation>WPA key:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_PSK">
-        <translation>The network’s pre-shared key (password). 8 to 63 characters: letters, digits, spaces, punctuation.</translation>
+        <translation>The network’s pre-shared key (password).</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
         <translation>WEP key:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_WEPKey">
-        <translation>5 or 13 characters, or 10 or 26 hexadecimal digits (0 to 9, A to F).</translation>
+        <translation>The network’s WEP key.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SelectWEPKey_Label">
         <translation>WEP key number:</translation>
@@ -337,19 +343,19 @@
         <translation>Network name (SSID)</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
-        <translation>Enter 1 to 32 characters: letters A to Z and a to z, digits, spaces and the punctuation of a US keyboard. A network with other characters in its name can be taken from the list of networks.</translation>
+        <translation>1 to 32 characters: letters A to Z and a to z, digits, spaces, punctuation of a US keyboard. A network with another name can be chosen from the list.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
         <translation>WPA key</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
-        <translation>Enter 8 to 63 characters: letters A to Z and a to z, digits, spaces and the punctuation of a US keyboard.</translation>
+        <translation>8 to 63 characters: letters A to Z and a to z, digits, spaces, punctuation of a US keyboard.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
         <translation>WEP key</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_WEPKey_InputErr">
-        <translation>Enter 5 or 13 characters (letters, digits, spaces and the punctuation of a US keyboard), or 10 or 26 hexadecimal digits (0 to 9 and A to F).</translation>
+        <translation>5 or 13 characters (letters, digits, spaces, punctuation of a US keyboard), or 10 or 26 hexadecimal digits (0 to 9, A to F).</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_WirelessLANMode">
         <translation>Access point</translation>
@@ -430,16 +436,16 @@
         <translation>WPA key:</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_SSID">
-        <translation>What follows DIRECT- in the network’s name. 1 to 25 characters: letters, digits, spaces, punctuation.</translation>
+        <translation>What follows DIRECT- in the network’s name.</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_PSK">
-        <translation>The key (password) with which computers join. 8 to 63 characters: letters, digits, spaces, punctuation.</translation>
+        <translation>The key (password) with which computers join.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
         <translation>Network name (SSID) of the access point</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
-        <translation>Enter 1 to 25 characters: letters A to Z and a to z, digits, spaces and the punctuation of a US keyboard.</translation>
+        <translation>1 to 25 characters: letters A to Z and a to z, digits, spaces, punctuation of a US keyboard.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
         <translation>WPA key of the access point</translation>
@@ -801,6 +807,33 @@
     <message id="DWT_Localize_Menu_LookAgain">
         <translation>&amp;Look again</translation>
     </message>
+    <message id="DWT_Localize_Menu_SaveSettings">
+        <translation>&amp;Save settings…</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ApplyFile">
+        <translation>&amp;Apply a file…</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Print">
+        <translation>&amp;Print…</translation>
+    </message>
+    <message id="DWT_Localize_Files_Settings">
+        <translation>Settings (*.json)</translation>
+    </message>
+    <message id="DWT_Localize_Files_NotSaved">
+        <translation>The settings could not be saved</translation>
+    </message>
+    <message id="DWT_Localize_Files_NotApplied">
+        <translation>The file cannot be applied</translation>
+    </message>
+    <message id="DWT_Localize_Files_Unsent">
+        <translation>Send or revert the changes on the pages first.</translation>
+    </message>
+    <message id="DWT_Localize_Files_NoChange">
+        <translation>The printer already has all settings of the file</translation>
+    </message>
+    <message id="DWT_Localize_Files_More">
+        <translation>… and %1 more</translation>
+    </message>
     <message id="DWT_Localize_Menu_Quit">
         <translation>&amp;Quit</translation>
     </message>
@@ -818,6 +851,9 @@
     </message>
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>Select &amp;all</translation>
+    </message>
+    <message id="DWT_Localize_Menu_RevertPage">
+        <translation>&amp;Revert page</translation>
     </message>
     <message id="DWT_Localize_Menu_View">
         <translation>&amp;View</translation>
@@ -876,6 +912,12 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Outline_Changed">
         <translation>Changed, not sent yet</translation>
+    </message>
+    <message id="DWT_Localize_Field_Changed">
+        <translation>Changed. The printer has: %1</translation>
+    </message>
+    <message id="DWT_Localize_Field_Reset">
+        <translation>Undo the change of %1 (Esc)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotUsed">
         <translation>The printer does not use these settings in the communication mode that is chosen on the “Wireless network” page.</translation>

@@ -16,19 +16,19 @@
         <translation>Nombre de la impresora</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PrinterName_InputErr">
-        <translation>Escriba de 1 a 31 caracteres. Un nombre de impresora consta de letras mayúsculas y minúsculas sin tilde ni ñ (A-Z, a-z), números y guiones, sin espacios.</translation>
+        <translation>De 1 a 31 caracteres: letras sin tilde ni ñ (A-Z, a-z), números y guiones, sin espacios.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourName">
         <translation>Nombre Bonjour</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourName_InputErr">
-        <translation>Escriba de 1 a 25 caracteres. Un nombre Bonjour consta de letras mayúsculas y minúsculas sin tilde ni ñ (A-Z, a-z), números y guiones, sin espacios.</translation>
+        <translation>De 1 a 25 caracteres: letras sin tilde ni ñ (A-Z, a-z), números y guiones, sin espacios.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourServiceName">
         <translation>Nombre del servicio Bonjour</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
-        <translation>Escriba de 1 a 31 caracteres: letras mayúsculas y minúsculas sin tilde ni ñ (A-Z, a-z), números, espacios y los signos de un teclado estadounidense. No se admiten letras acentuadas.</translation>
+        <translation>De 1 a 31 caracteres: letras sin tilde ni ñ (A-Z, a-z), números, espacios, signos de un teclado estadounidense.</translation>
     </message>
     <message id="DWT_Localize_Network_Box_PrinterName">
         <translation>Nombre de la impresora</translation>
@@ -46,13 +46,13 @@
         <translation>.local</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
-        <translation>Nombre con el que los equipos de la red encuentran la impresora. De 1 a 25 caracteres: letras, números, guiones.</translation>
+        <translation>Nombre con el que los equipos de la red encuentran la impresora.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
-        <translation>Nombre que muestran las listas de impresoras. De 1 a 31 caracteres: letras, números, espacios, signos de puntuación.</translation>
+        <translation>Nombre que muestran las listas de impresoras.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkHostName">
-        <translation>Nombre propio de la impresora. De 1 a 31 caracteres: letras, números, guiones.</translation>
+        <translation>Nombre propio de la impresora.</translation>
     </message>
     <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
         <translation>Wi-Fi</translation>
@@ -87,6 +87,12 @@
     <message id="DWT_Localize_Firmware_Text_Second_Label">
         <translation>segundos (de 30 a 300)</translation>
     </message>
+    <message id="DWT_Localize_Field_Least">
+        <translation>Ajustado a %1, el mínimo.</translation>
+    </message>
+    <message id="DWT_Localize_Field_Most">
+        <translation>Ajustado a %1, el máximo.</translation>
+    </message>
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
         <translation>E&amp;stablecer una nueva contraseña de administrador</translation>
     </message>
@@ -106,7 +112,7 @@
         <translation>Deje ambos campos vacíos para quitar la contraseña. Anote la nueva: no se puede leer de la impresora.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
-        <translation>Hasta 8 caracteres, sin espacios: letras, números, signos de puntuación.</translation>
+        <translation>Contraseña que se pedirá antes de cambiar ajustes.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Reinput">
         <translation>La misma contraseña otra vez.</translation>
@@ -118,7 +124,7 @@
         <translation>Confirmación de la contraseña</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
-        <translation>Escriba 8 caracteres como máximo, sin espacios: letras mayúsculas y minúsculas sin tilde ni ñ (A-Z, a-z), números y ! " # $ % &amp; ' ( ) * + , - . / { | } ~</translation>
+        <translation>8 caracteres como máximo, sin espacios: letras sin tilde ni ñ (A-Z, a-z), números y ! " # $ % &amp; ' ( ) * + , - . / { | } ~</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>Las contraseñas no coinciden. Escriba la misma contraseña en ambos campos.</translation>
@@ -166,13 +172,13 @@
         <translation>Puerta de enlace:</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_IPAddress">
-        <translation>Cuatro números de 0 a 255 separados por puntos, por ejemplo 192.168.0.10.</translation>
+        <translation>Dirección de la impresora: cuatro números separados por puntos, por ejemplo 192.168.0.10.</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_SubnetMask">
-        <translation>Cuatro números de 0 a 255 separados por puntos, por ejemplo 255.255.255.0.</translation>
+        <translation>Indica qué direcciones pertenecen a la red de la impresora.</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_Gateway">
-        <translation>La dirección del router: cuatro números de 0 a 255 separados por puntos.</translation>
+        <translation>La dirección del router.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
         <translation>Dirección IP</translation>
@@ -184,13 +190,13 @@
         <translation>Puerta de enlace</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_IpAddress_InputErr">
-        <translation>Escriba la dirección IP como cuatro números de 0 a 255 separados por puntos. No se admiten 0.0.0.0, 127.0.0.1 ni 255.255.255.255.</translation>
+        <translation>Una dirección de 0.0.0.1 a 255.255.255.254, salvo 127.0.0.1.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Subnetmask_InputErr">
-        <translation>Escriba la máscara de subred como cuatro números de 0 a 255 separados por puntos. No se admiten 0.0.0.0 ni 255.255.255.255.</translation>
+        <translation>Una máscara de 0.0.0.1 a 255.255.255.254, como 255.255.255.0.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Router_InputErr">
-        <translation>Escriba la puerta de enlace como cuatro números de 0 a 255 separados por puntos. No se admiten 0.0.0.0 ni 255.255.255.255.</translation>
+        <translation>Una dirección de 0.0.0.1 a 255.255.255.254.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_WirelessConnection">
         <translation>Conexión Wi-Fi</translation>
@@ -244,13 +250,13 @@
         <translation>Puerta de enlace:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_IPAddress">
-        <translation>Cuatro números de 0 a 255 separados por puntos, por ejemplo 192.168.0.10.</translation>
+        <translation>Dirección de la impresora: cuatro números separados por puntos, por ejemplo 192.168.0.10.</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SubnetMask">
-        <translation>Cuatro números de 0 a 255 separados por puntos, por ejemplo 255.255.255.0.</translation>
+        <translation>Indica qué direcciones pertenecen a la red de la impresora.</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
-        <translation>La dirección del router: cuatro números de 0 a 255 separados por puntos.</translation>
+        <translation>La dirección del router.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_Security">
         <translation>Red y seguridad</translation>
@@ -304,7 +310,7 @@
         <translation>Nombre de red (SSID):</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SSID">
-        <translation>Nombre de la red Wi-Fi. De 1 a 32 caracteres: letras, números, espacios, signos de puntuación.</translation>
+        <translation>Nombre de la red Wi-Fi.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
         <translation>Ele&amp;gir…</translation>
@@ -313,13 +319,13 @@
         <translation>Clave WPA:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_PSK">
-        <translation>Clave precompartida de la red (contraseña). De 8 a 63 caracteres: letras, números, espacios, signos de puntuación.</translation>
+        <translation>Clave precompartida de la red (contraseña).</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
         <translation>Clave WEP:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_WEPKey">
-        <translation>5 o 13 caracteres, o bien 10 o 26 dígitos hexadecimales (0 a 9, A a F).</translation>
+        <translation>Clave WEP de la red.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SelectWEPKey_Label">
         <translation>Número de clave WEP:</translation>
@@ -337,19 +343,19 @@
         <translation>Nombre de red (SSID)</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
-        <translation>Escriba de 1 a 32 caracteres: letras mayúsculas y minúsculas sin tilde ni ñ (A-Z, a-z), números, espacios y los signos de un teclado estadounidense. Una red con otros caracteres en su nombre se puede tomar de la lista de redes.</translation>
+        <translation>De 1 a 32 caracteres: letras sin tilde ni ñ (A-Z, a-z), números, espacios, signos de un teclado estadounidense. Una red con otro nombre se puede elegir de la lista.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
         <translation>Clave WPA</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
-        <translation>Escriba de 8 a 63 caracteres: letras mayúsculas y minúsculas sin tilde ni ñ (A-Z, a-z), números, espacios y los signos de un teclado estadounidense.</translation>
+        <translation>De 8 a 63 caracteres: letras sin tilde ni ñ (A-Z, a-z), números, espacios, signos de un teclado estadounidense.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
         <translation>Clave WEP</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_WEPKey_InputErr">
-        <translation>Escriba 5 o 13 caracteres (letras, números, espacios y los signos de un teclado estadounidense), o bien 10 o 26 dígitos hexadecimales (0 a 9 y A a F).</translation>
+        <translation>5 o 13 caracteres (letras, números, espacios, signos de un teclado estadounidense), o bien 10 o 26 dígitos hexadecimales (0 a 9, A a F).</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_WirelessLANMode">
         <translation>Punto de acceso</translation>
@@ -430,16 +436,16 @@
         <translation>Clave WPA:</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_SSID">
-        <translation>Lo que sigue a DIRECT- en el nombre de la red. De 1 a 25 caracteres: letras, números, espacios, signos de puntuación.</translation>
+        <translation>Lo que sigue a DIRECT- en el nombre de la red.</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_PSK">
-        <translation>Clave (contraseña) con la que se unen los equipos. De 8 a 63 caracteres: letras, números, espacios, signos de puntuación.</translation>
+        <translation>Clave (contraseña) con la que se unen los equipos.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
         <translation>Nombre de red (SSID) del punto de acceso</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
-        <translation>Escriba de 1 a 25 caracteres: letras mayúsculas y minúsculas sin tilde ni ñ (A-Z, a-z), números, espacios y los signos de un teclado estadounidense.</translation>
+        <translation>De 1 a 25 caracteres: letras sin tilde ni ñ (A-Z, a-z), números, espacios, signos de un teclado estadounidense.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
         <translation>Clave WPA del punto de acceso</translation>
@@ -801,6 +807,33 @@
     <message id="DWT_Localize_Menu_LookAgain">
         <translation>&amp;Buscar de nuevo</translation>
     </message>
+    <message id="DWT_Localize_Menu_SaveSettings">
+        <translation>&amp;Guardar los ajustes…</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ApplyFile">
+        <translation>A&amp;plicar un archivo…</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Print">
+        <translation>&amp;Imprimir…</translation>
+    </message>
+    <message id="DWT_Localize_Files_Settings">
+        <translation>Ajustes (*.json)</translation>
+    </message>
+    <message id="DWT_Localize_Files_NotSaved">
+        <translation>No se han podido guardar los ajustes</translation>
+    </message>
+    <message id="DWT_Localize_Files_NotApplied">
+        <translation>No se puede aplicar el archivo</translation>
+    </message>
+    <message id="DWT_Localize_Files_Unsent">
+        <translation>Primero envíe o deshaga los cambios de las páginas.</translation>
+    </message>
+    <message id="DWT_Localize_Files_NoChange">
+        <translation>La impresora ya tiene todos los ajustes del archivo</translation>
+    </message>
+    <message id="DWT_Localize_Files_More">
+        <translation>… y %1 más</translation>
+    </message>
     <message id="DWT_Localize_Menu_Quit">
         <translation>&amp;Salir</translation>
     </message>
@@ -818,6 +851,9 @@
     </message>
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>Seleccionar t&amp;odo</translation>
+    </message>
+    <message id="DWT_Localize_Menu_RevertPage">
+        <translation>&amp;Restablecer la página</translation>
     </message>
     <message id="DWT_Localize_Menu_View">
         <translation>&amp;Ver</translation>
@@ -876,6 +912,12 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Outline_Changed">
         <translation>Modificado, aún sin enviar</translation>
+    </message>
+    <message id="DWT_Localize_Field_Changed">
+        <translation>Modificado. La impresora tiene: %1</translation>
+    </message>
+    <message id="DWT_Localize_Field_Reset">
+        <translation>Deshacer el cambio de %1 (Esc)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotUsed">
         <translation>La impresora no usa estos ajustes en el modo de comunicación elegido en la página «Red Wi-Fi».</translation>

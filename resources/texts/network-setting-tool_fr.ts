@@ -16,19 +16,19 @@
         <translation>Nom de l’imprimante</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PrinterName_InputErr">
-        <translation>Saisissez de 1 à 31 caractères. Un nom d’imprimante se compose des lettres A à Z et a à z, de chiffres et de traits d’union, sans espaces.</translation>
+        <translation>De 1 à 31 caractères : lettres A à Z et a à z, chiffres et traits d’union, sans espaces.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourName">
         <translation>Nom Bonjour</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourName_InputErr">
-        <translation>Saisissez de 1 à 25 caractères. Un nom Bonjour se compose des lettres A à Z et a à z, de chiffres et de traits d’union, sans espaces.</translation>
+        <translation>De 1 à 25 caractères : lettres A à Z et a à z, chiffres et traits d’union, sans espaces.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourServiceName">
         <translation>Nom du service Bonjour</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
-        <translation>Saisissez de 1 à 31 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain. Les lettres accentuées ne sont pas autorisées.</translation>
+        <translation>De 1 à 31 caractères : lettres A à Z et a à z, chiffres, espaces, ponctuation d’un clavier américain.</translation>
     </message>
     <message id="DWT_Localize_Network_Box_PrinterName">
         <translation>Nom de l’imprimante</translation>
@@ -46,13 +46,13 @@
         <translation>.local</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
-        <translation>Nom sous lequel les ordinateurs du réseau trouvent l’imprimante. De 1 à 25 caractères : lettres, chiffres, traits d’union.</translation>
+        <translation>Nom sous lequel les ordinateurs du réseau trouvent l’imprimante.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
-        <translation>Nom affiché par les listes d’imprimantes. De 1 à 31 caractères : lettres, chiffres, espaces, signes de ponctuation.</translation>
+        <translation>Nom affiché par les listes d’imprimantes.</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkHostName">
-        <translation>Nom de l’imprimante elle-même. De 1 à 31 caractères : lettres, chiffres, traits d’union.</translation>
+        <translation>Nom de l’imprimante elle-même.</translation>
     </message>
     <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
         <translation>Wi-Fi</translation>
@@ -87,6 +87,12 @@
     <message id="DWT_Localize_Firmware_Text_Second_Label">
         <translation>secondes (de 30 à 300)</translation>
     </message>
+    <message id="DWT_Localize_Field_Least">
+        <translation>Réglé sur %1, le minimum.</translation>
+    </message>
+    <message id="DWT_Localize_Field_Most">
+        <translation>Réglé sur %1, le maximum.</translation>
+    </message>
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
         <translation>Définir un nou&amp;veau mot de passe administrateur</translation>
     </message>
@@ -106,7 +112,7 @@
         <translation>Laissez les deux champs vides pour supprimer le mot de passe. Notez le nouveau : il ne peut pas être lu dans l’imprimante.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
-        <translation>Jusqu’à 8 caractères, sans espaces : lettres, chiffres, signes de ponctuation.</translation>
+        <translation>Mot de passe demandé avant toute modification des paramètres.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Reinput">
         <translation>Le même mot de passe, une seconde fois.</translation>
@@ -118,7 +124,7 @@
         <translation>Confirmation du mot de passe</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
-        <translation>Saisissez 8 caractères au plus, sans espaces : lettres A à Z et a à z, chiffres et ! " # $ % &amp; ' ( ) * + , - . / { | } ~</translation>
+        <translation>8 caractères au plus, sans espaces : lettres A à Z et a à z, chiffres et ! " # $ % &amp; ' ( ) * + , - . / { | } ~</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>Les deux mots de passe sont différents. Saisissez le même mot de passe dans les deux champs.</translation>
@@ -166,13 +172,13 @@
         <translation>Passerelle par défaut :</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_IPAddress">
-        <translation>Quatre nombres de 0 à 255 séparés par des points, par exemple 192.168.0.10.</translation>
+        <translation>Adresse de l’imprimante : quatre nombres séparés par des points, par exemple 192.168.0.10.</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_SubnetMask">
-        <translation>Quatre nombres de 0 à 255 séparés par des points, par exemple 255.255.255.0.</translation>
+        <translation>Indique quelles adresses font partie du réseau de l’imprimante.</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_Gateway">
-        <translation>Adresse du routeur : quatre nombres de 0 à 255 séparés par des points.</translation>
+        <translation>Adresse du routeur.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
         <translation>Adresse IP</translation>
@@ -184,13 +190,13 @@
         <translation>Passerelle par défaut</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_IpAddress_InputErr">
-        <translation>Saisissez l’adresse IP sous la forme de quatre nombres de 0 à 255 séparés par des points. 0.0.0.0, 127.0.0.1 et 255.255.255.255 ne sont pas autorisées.</translation>
+        <translation>Une adresse de 0.0.0.1 à 255.255.255.254, sauf 127.0.0.1.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Subnetmask_InputErr">
-        <translation>Saisissez le masque de sous-réseau sous la forme de quatre nombres de 0 à 255 séparés par des points. 0.0.0.0 et 255.255.255.255 ne sont pas autorisés.</translation>
+        <translation>Un masque de 0.0.0.1 à 255.255.255.254, tel que 255.255.255.0.</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Router_InputErr">
-        <translation>Saisissez la passerelle par défaut sous la forme de quatre nombres de 0 à 255 séparés par des points. 0.0.0.0 et 255.255.255.255 ne sont pas autorisées.</translation>
+        <translation>Une adresse de 0.0.0.1 à 255.255.255.254.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_WirelessConnection">
         <translation>Connexion Wi-Fi</translation>
@@ -244,13 +250,13 @@
         <translation>Passerelle par défaut :</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_IPAddress">
-        <translation>Quatre nombres de 0 à 255 séparés par des points, par exemple 192.168.0.10.</translation>
+        <translation>Adresse de l’imprimante : quatre nombres séparés par des points, par exemple 192.168.0.10.</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SubnetMask">
-        <translation>Quatre nombres de 0 à 255 séparés par des points, par exemple 255.255.255.0.</translation>
+        <translation>Indique quelles adresses font partie du réseau de l’imprimante.</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
-        <translation>Adresse du routeur : quatre nombres de 0 à 255 séparés par des points.</translation>
+        <translation>Adresse du routeur.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_Security">
         <translation>Réseau et sécurité</translation>
@@ -304,7 +310,7 @@
         <translation>Nom du réseau (SSID) :</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SSID">
-        <translation>Nom du réseau Wi-Fi. De 1 à 32 caractères : lettres, chiffres, espaces, signes de ponctuation.</translation>
+        <translation>Nom du réseau Wi-Fi.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
         <translation>&amp;Choisir…</translation>
@@ -313,13 +319,13 @@
         <translation>Clé WPA :</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_PSK">
-        <translation>Clé prépartagée du réseau (mot de passe). De 8 à 63 caractères : lettres, chiffres, espaces, signes de ponctuation.</translation>
+        <translation>Clé prépartagée du réseau (mot de passe).</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
         <translation>Clé WEP :</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_WEPKey">
-        <translation>5 ou 13 caractères, ou bien 10 ou 26 chiffres hexadécimaux (0 à 9, A à F).</translation>
+        <translation>Clé WEP du réseau.</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SelectWEPKey_Label">
         <translation>Numéro de clé WEP :</translation>
@@ -337,19 +343,19 @@
         <translation>Nom du réseau (SSID)</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
-        <translation>Saisissez de 1 à 32 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain. Un réseau dont le nom contient d’autres caractères peut être choisi dans la liste des réseaux.</translation>
+        <translation>De 1 à 32 caractères : lettres A à Z et a à z, chiffres, espaces, ponctuation d’un clavier américain. Un réseau d’un autre nom peut être choisi dans la liste.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
         <translation>Clé WPA</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
-        <translation>Saisissez de 8 à 63 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain.</translation>
+        <translation>De 8 à 63 caractères : lettres A à Z et a à z, chiffres, espaces, ponctuation d’un clavier américain.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
         <translation>Clé WEP</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_WEPKey_InputErr">
-        <translation>Saisissez 5 ou 13 caractères (lettres, chiffres, espaces et signes de ponctuation d’un clavier américain), ou bien 10 ou 26 chiffres hexadécimaux (0 à 9 et A à F).</translation>
+        <translation>5 ou 13 caractères (lettres, chiffres, espaces, ponctuation d’un clavier américain), ou bien 10 ou 26 chiffres hexadécimaux (0 à 9, A à F).</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_WirelessLANMode">
         <translation>Point d’accès</translation>
@@ -430,16 +436,16 @@
         <translation>Clé WPA :</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_SSID">
-        <translation>Partie du nom du réseau après « DIRECT- ». De 1 à 25 caractères : lettres, chiffres, espaces, signes de ponctuation.</translation>
+        <translation>Partie du nom du réseau après « DIRECT- ».</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_PSK">
-        <translation>Clé (mot de passe) avec laquelle les ordinateurs se connectent. De 8 à 63 caractères : lettres, chiffres, espaces, signes de ponctuation.</translation>
+        <translation>Clé (mot de passe) avec laquelle les ordinateurs se connectent.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
         <translation>Nom du réseau (SSID) du point d’accès</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
-        <translation>Saisissez de 1 à 25 caractères : lettres A à Z et a à z, chiffres, espaces et signes de ponctuation d’un clavier américain.</translation>
+        <translation>De 1 à 25 caractères : lettres A à Z et a à z, chiffres, espaces, ponctuation d’un clavier américain.</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
         <translation>Clé WPA du point d’accès</translation>
@@ -801,6 +807,33 @@
     <message id="DWT_Localize_Menu_LookAgain">
         <translation>&amp;Rechercher à nouveau</translation>
     </message>
+    <message id="DWT_Localize_Menu_SaveSettings">
+        <translation>&amp;Enregistrer les paramètres…</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ApplyFile">
+        <translation>&amp;Appliquer un fichier…</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Print">
+        <translation>&amp;Imprimer…</translation>
+    </message>
+    <message id="DWT_Localize_Files_Settings">
+        <translation>Paramètres (*.json)</translation>
+    </message>
+    <message id="DWT_Localize_Files_NotSaved">
+        <translation>Les paramètres n’ont pas pu être enregistrés</translation>
+    </message>
+    <message id="DWT_Localize_Files_NotApplied">
+        <translation>Le fichier ne peut pas être appliqué</translation>
+    </message>
+    <message id="DWT_Localize_Files_Unsent">
+        <translation>Envoyez ou annulez d’abord les modifications des pages.</translation>
+    </message>
+    <message id="DWT_Localize_Files_NoChange">
+        <translation>L’imprimante a déjà tous les paramètres du fichier</translation>
+    </message>
+    <message id="DWT_Localize_Files_More">
+        <translation>… et %1 de plus</translation>
+    </message>
     <message id="DWT_Localize_Menu_Quit">
         <translation>&amp;Quitter</translation>
     </message>
@@ -818,6 +851,9 @@
     </message>
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message id="DWT_Localize_Menu_RevertPage">
+        <translation>&amp;Rétablir la page</translation>
     </message>
     <message id="DWT_Localize_Menu_View">
         <translation>&amp;Affichage</translation>
@@ -876,6 +912,12 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Outline_Changed">
         <translation>Modifié, pas encore envoyé</translation>
+    </message>
+    <message id="DWT_Localize_Field_Changed">
+        <translation>Modifié. L’imprimante a : %1</translation>
+    </message>
+    <message id="DWT_Localize_Field_Reset">
+        <translation>Annuler la modification : %1 (Esc)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotUsed">
         <translation>L’imprimante n’utilise pas ces paramètres dans le mode de communication choisi sur la page « Réseau Wi-Fi ».</translation>

@@ -16,19 +16,19 @@
         <translation>プリンター名</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PrinterName_InputErr">
-        <translation>1～31 文字で入力してください。プリンター名には半角の英字 (A～Z、a～z)、数字、ハイフンを使用できます。スペースは使用できません。</translation>
+        <translation>1～31 文字。半角の英字 (A～Z、a～z)、数字、ハイフンを使用できます。スペースは使用できません。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourName">
         <translation>Bonjour 名</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourName_InputErr">
-        <translation>1～25 文字で入力してください。Bonjour 名には半角の英字 (A～Z、a～z)、数字、ハイフンを使用できます。スペースは使用できません。</translation>
+        <translation>1～25 文字。半角の英字 (A～Z、a～z)、数字、ハイフンを使用できます。スペースは使用できません。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourServiceName">
         <translation>Bonjour サービス名</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
-        <translation>1～31 文字で入力してください。半角の英字 (A～Z、a～z)、数字、スペース、US キーボードの記号を使用できます。アクセント付きの文字は使用できません。</translation>
+        <translation>1～31 文字。半角の英字 (A～Z、a～z)、数字、スペース、US キーボードの記号を使用できます。</translation>
     </message>
     <message id="DWT_Localize_Network_Box_PrinterName">
         <translation>プリンター名</translation>
@@ -46,13 +46,13 @@
         <translation>.local</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
-        <translation>ネットワーク上のコンピューターがプリンターに接続するときの名前です。半角の英字、数字、ハイフンで 1～25 文字。</translation>
+        <translation>ネットワーク上のコンピューターがプリンターに接続するときの名前です。</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
-        <translation>プリンターの一覧に表示される名前です。半角の英字、数字、スペース、記号で 1～31 文字。</translation>
+        <translation>プリンターの一覧に表示される名前です。</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkHostName">
-        <translation>プリンター自体の名前です。半角の英字、数字、ハイフンで 1～31 文字。</translation>
+        <translation>プリンター自体の名前です。</translation>
     </message>
     <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
         <translation>無線 LAN</translation>
@@ -87,6 +87,12 @@
     <message id="DWT_Localize_Firmware_Text_Second_Label">
         <translation>秒 (30～300)</translation>
     </message>
+    <message id="DWT_Localize_Field_Least">
+        <translation>最小値の %1 に設定しました。</translation>
+    </message>
+    <message id="DWT_Localize_Field_Most">
+        <translation>最大値の %1 に設定しました。</translation>
+    </message>
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
         <translation>新しい管理者パスワードを設定する(&amp;N)</translation>
     </message>
@@ -106,7 +112,7 @@
         <translation>パスワードを削除するには、両方の欄を空にします。新しいパスワードは控えておいてください。プリンターから読み出すことはできません。</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
-        <translation>半角の英字、数字、記号で 8 文字まで。スペースは使用できません。</translation>
+        <translation>設定を変更する前に要求されるパスワードです。</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Reinput">
         <translation>同じパスワードをもう一度入力します。</translation>
@@ -118,7 +124,7 @@
         <translation>パスワードの確認</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
-        <translation>8 文字以内で入力してください。半角の英字 (A～Z、a～z)、数字、および ! " # $ % &amp; ' ( ) * + , - . / { | } ~ を使用できます。スペースは使用できません。</translation>
+        <translation>8 文字以内。半角の英字 (A～Z、a～z)、数字、および ! " # $ % &amp; ' ( ) * + , - . / { | } ~ を使用できます。スペースは使用できません。</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>2 つのパスワードが一致しません。両方の欄に同じパスワードを入力してください。</translation>
@@ -166,13 +172,13 @@
         <translation>デフォルトゲートウェイ:</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_IPAddress">
-        <translation>0～255 の数値 4 個をピリオドで区切ります。例: 192.168.0.10</translation>
+        <translation>プリンター自体のアドレスです。数値 4 個をピリオドで区切ります。例: 192.168.0.10</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_SubnetMask">
-        <translation>0～255 の数値 4 個をピリオドで区切ります。例: 255.255.255.0</translation>
+        <translation>プリンターと同じネットワークに属するアドレスの範囲を示します。</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_Gateway">
-        <translation>ルーターのアドレスです。0～255 の数値 4 個をピリオドで区切ります。</translation>
+        <translation>ルーターのアドレスです。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
         <translation>IP アドレス</translation>
@@ -184,13 +190,13 @@
         <translation>デフォルトゲートウェイ</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_IpAddress_InputErr">
-        <translation>IP アドレスは、0～255 の数値 4 個をピリオドで区切って入力してください。0.0.0.0、127.0.0.1、255.255.255.255 は使用できません。</translation>
+        <translation>0.0.0.1～255.255.255.254 のアドレス (127.0.0.1 を除く)。</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Subnetmask_InputErr">
-        <translation>サブネットマスクは、0～255 の数値 4 個をピリオドで区切って入力してください。0.0.0.0 と 255.255.255.255 は使用できません。</translation>
+        <translation>0.0.0.1～255.255.255.254 のマスク (例: 255.255.255.0)。</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Router_InputErr">
-        <translation>デフォルトゲートウェイは、0～255 の数値 4 個をピリオドで区切って入力してください。0.0.0.0 と 255.255.255.255 は使用できません。</translation>
+        <translation>0.0.0.1～255.255.255.254 のアドレス。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_WirelessConnection">
         <translation>無線 LAN 接続</translation>
@@ -244,13 +250,13 @@
         <translation>デフォルトゲートウェイ:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_IPAddress">
-        <translation>0～255 の数値 4 個をピリオドで区切ります。例: 192.168.0.10</translation>
+        <translation>プリンター自体のアドレスです。数値 4 個をピリオドで区切ります。例: 192.168.0.10</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SubnetMask">
-        <translation>0～255 の数値 4 個をピリオドで区切ります。例: 255.255.255.0</translation>
+        <translation>プリンターと同じネットワークに属するアドレスの範囲を示します。</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
-        <translation>ルーターのアドレスです。0～255 の数値 4 個をピリオドで区切ります。</translation>
+        <translation>ルーターのアドレスです。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_Security">
         <translation>ネットワークとセキュリティ</translation>
@@ -304,7 +310,7 @@
         <translation>ネットワーク名 (SSID):</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SSID">
-        <translation>無線 LAN の名前です。半角の英字、数字、スペース、記号で 1～32 文字。</translation>
+        <translation>無線 LAN の名前です。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
         <translation>選択(&amp;O)…</translation>
@@ -313,13 +319,13 @@
         <translation>WPA キー:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_PSK">
-        <translation>ネットワークの事前共有キー (パスワード) です。半角の英字、数字、スペース、記号で 8～63 文字。</translation>
+        <translation>ネットワークの事前共有キー (パスワード) です。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
         <translation>WEP キー:</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_WEPKey">
-        <translation>5 文字または 13 文字、あるいは 16 進数 (0～9、A～F) で 10 桁または 26 桁。</translation>
+        <translation>ネットワークの WEP キーです。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SelectWEPKey_Label">
         <translation>WEP キー番号:</translation>
@@ -337,19 +343,19 @@
         <translation>ネットワーク名 (SSID)</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
-        <translation>1～32 文字で入力してください。半角の英字 (A～Z、a～z)、数字、スペース、US キーボードの記号を使用できます。その他の文字を含む名前のネットワークは、ネットワークの一覧から選択できます。</translation>
+        <translation>1～32 文字。半角の英字 (A～Z、a～z)、数字、スペース、US キーボードの記号を使用できます。その他の名前のネットワークは一覧から選択できます。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
         <translation>WPA キー</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
-        <translation>8～63 文字で入力してください。半角の英字 (A～Z、a～z)、数字、スペース、US キーボードの記号を使用できます。</translation>
+        <translation>8～63 文字。半角の英字 (A～Z、a～z)、数字、スペース、US キーボードの記号を使用できます。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
         <translation>WEP キー</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_WEPKey_InputErr">
-        <translation>5 文字または 13 文字 (半角の英字、数字、スペース、US キーボードの記号)、あるいは 16 進数 (0～9、A～F) で 10 桁または 26 桁を入力してください。</translation>
+        <translation>5 文字または 13 文字 (半角の英字、数字、スペース、US キーボードの記号)、あるいは 16 進数 (0～9、A～F) で 10 桁または 26 桁。</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_WirelessLANMode">
         <translation>アクセスポイント</translation>
@@ -430,16 +436,16 @@
         <translation>WPA キー:</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_SSID">
-        <translation>ネットワーク名の DIRECT- に続く部分です。半角の英字、数字、スペース、記号で 1～25 文字。</translation>
+        <translation>ネットワーク名の DIRECT- に続く部分です。</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_PSK">
-        <translation>コンピューターが参加するときのキー (パスワード) です。半角の英字、数字、スペース、記号で 8～63 文字。</translation>
+        <translation>コンピューターが参加するときのキー (パスワード) です。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
         <translation>アクセスポイントのネットワーク名 (SSID)</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
-        <translation>1～25 文字で入力してください。半角の英字 (A～Z、a～z)、数字、スペース、US キーボードの記号を使用できます。</translation>
+        <translation>1～25 文字。半角の英字 (A～Z、a～z)、数字、スペース、US キーボードの記号を使用できます。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
         <translation>アクセスポイントの WPA キー</translation>
@@ -801,6 +807,33 @@
     <message id="DWT_Localize_Menu_LookAgain">
         <translation>再検索(&amp;L)</translation>
     </message>
+    <message id="DWT_Localize_Menu_SaveSettings">
+        <translation>設定を保存(&amp;S)…</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ApplyFile">
+        <translation>ファイルを適用(&amp;A)…</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Print">
+        <translation>印刷(&amp;P)…</translation>
+    </message>
+    <message id="DWT_Localize_Files_Settings">
+        <translation>設定 (*.json)</translation>
+    </message>
+    <message id="DWT_Localize_Files_NotSaved">
+        <translation>設定を保存できませんでした</translation>
+    </message>
+    <message id="DWT_Localize_Files_NotApplied">
+        <translation>ファイルを適用できません</translation>
+    </message>
+    <message id="DWT_Localize_Files_Unsent">
+        <translation>先に、ページの変更を送信するか元に戻してください。</translation>
+    </message>
+    <message id="DWT_Localize_Files_NoChange">
+        <translation>プリンターの設定はファイルの内容とすでに同じです</translation>
+    </message>
+    <message id="DWT_Localize_Files_More">
+        <translation>… ほか %1 件</translation>
+    </message>
     <message id="DWT_Localize_Menu_Quit">
         <translation>終了(&amp;Q)</translation>
     </message>
@@ -818,6 +851,9 @@
     </message>
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>すべて選択(&amp;A)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_RevertPage">
+        <translation>ページの変更を元に戻す(&amp;R)</translation>
     </message>
     <message id="DWT_Localize_Menu_View">
         <translation>表示(&amp;V)</translation>
@@ -876,6 +912,12 @@
     </message>
     <message id="DWT_Localize_Outline_Changed">
         <translation>変更あり (未送信)</translation>
+    </message>
+    <message id="DWT_Localize_Field_Changed">
+        <translation>変更あり。プリンターの値: %1</translation>
+    </message>
+    <message id="DWT_Localize_Field_Reset">
+        <translation>%1の変更を元に戻す (Esc)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotUsed">
         <translation>「無線 LAN」ページで選択された通信モードでは、プリンターはこれらの設定を使用しません。</translation>

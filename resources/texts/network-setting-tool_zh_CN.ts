@@ -16,19 +16,19 @@
         <translation>打印机名称</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PrinterName_InputErr">
-        <translation>请输入 1 到 31 个字符。打印机名称由字母 A 到 Z 和 a 到 z、数字和连字符组成，不含空格。</translation>
+        <translation>1 到 31 个字符：字母 A 到 Z 和 a 到 z、数字和连字符，不含空格。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourName">
         <translation>Bonjour 名称</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourName_InputErr">
-        <translation>请输入 1 到 25 个字符。Bonjour 名称由字母 A 到 Z 和 a 到 z、数字和连字符组成，不含空格。</translation>
+        <translation>1 到 25 个字符：字母 A 到 Z 和 a 到 z、数字和连字符，不含空格。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Network_BonjourServiceName">
         <translation>Bonjour 服务名称</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_BonjourServiceName_InputErr">
-        <translation>请输入 1 到 31 个字符：字母 A 到 Z 和 a 到 z、数字、空格以及美式键盘上的标点符号。不能使用带重音符号的字母。</translation>
+        <translation>1 到 31 个字符：字母 A 到 Z 和 a 到 z、数字、空格、美式键盘上的标点符号。</translation>
     </message>
     <message id="DWT_Localize_Network_Box_PrinterName">
         <translation>打印机名称</translation>
@@ -46,13 +46,13 @@
         <translation>.local</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjour">
-        <translation>网络上的计算机访问打印机所用的名称。1 到 25 个字符：字母、数字、连字符。</translation>
+        <translation>网络上的计算机访问打印机所用的名称。</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkBonjourService">
-        <translation>打印机列表中显示的名称。1 到 31 个字符：字母、数字、空格、标点符号。</translation>
+        <translation>打印机列表中显示的名称。</translation>
     </message>
     <message id="DWT_ToolChip_Network_Text_NetworkHostName">
-        <translation>打印机自身的名称。1 到 31 个字符：字母、数字、连字符。</translation>
+        <translation>打印机自身的名称。</translation>
     </message>
     <message id="DWT_Localize_Wireless_Box_WirelessLANInfomation">
         <translation>无线网络</translation>
@@ -87,6 +87,12 @@
     <message id="DWT_Localize_Firmware_Text_Second_Label">
         <translation>秒（30 到 300）</translation>
     </message>
+    <message id="DWT_Localize_Field_Least">
+        <translation>已设为最小值 %1。</translation>
+    </message>
+    <message id="DWT_Localize_Field_Most">
+        <translation>已设为最大值 %1。</translation>
+    </message>
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
         <translation>设置新的管理员密码(&amp;N)</translation>
     </message>
@@ -106,7 +112,7 @@
         <translation>将两个输入框都留空可删除密码。请记下新密码：无法从打印机读取密码。</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
-        <translation>最多 8 个字符，不含空格：字母、数字、标点符号。</translation>
+        <translation>更改设置前需要输入的密码。</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Reinput">
         <translation>再次输入相同的密码。</translation>
@@ -118,7 +124,7 @@
         <translation>确认密码</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_InputErr">
-        <translation>最多输入 8 个字符，不含空格：字母 A 到 Z 和 a 到 z、数字以及 ! " # $ % &amp; ' ( ) * + , - . / { | } ~</translation>
+        <translation>最多 8 个字符，不含空格：字母 A 到 Z 和 a 到 z、数字以及 ! " # $ % &amp; ' ( ) * + , - . / { | } ~</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>两次输入的密码不一致。请在两个输入框中输入相同的密码。</translation>
@@ -166,13 +172,13 @@
         <translation>默认网关：</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_IPAddress">
-        <translation>用点分隔的四个 0 到 255 的数字，例如 192.168.0.10。</translation>
+        <translation>打印机自身的地址：用点分隔的四个数字，例如 192.168.0.10。</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_SubnetMask">
-        <translation>用点分隔的四个 0 到 255 的数字，例如 255.255.255.0。</translation>
+        <translation>说明哪些地址属于打印机所在的网络。</translation>
     </message>
     <message id="DWT_ToolChip_Ethernet_Text_Gateway">
-        <translation>路由器的地址：用点分隔的四个 0 到 255 的数字。</translation>
+        <translation>路由器的地址。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Ethernet_IpAddress">
         <translation>IP 地址</translation>
@@ -184,13 +190,13 @@
         <translation>默认网关</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_IpAddress_InputErr">
-        <translation>请以用点分隔的四个 0 到 255 的数字输入 IP 地址。不能使用 0.0.0.0、127.0.0.1 和 255.255.255.255。</translation>
+        <translation>0.0.0.1 到 255.255.255.254 的地址，127.0.0.1 除外。</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Subnetmask_InputErr">
-        <translation>请以用点分隔的四个 0 到 255 的数字输入子网掩码。不能使用 0.0.0.0 和 255.255.255.255。</translation>
+        <translation>0.0.0.1 到 255.255.255.254 的掩码，例如 255.255.255.0。</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Router_InputErr">
-        <translation>请以用点分隔的四个 0 到 255 的数字输入默认网关。不能使用 0.0.0.0 和 255.255.255.255。</translation>
+        <translation>0.0.0.1 到 255.255.255.254 的地址。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_WirelessConnection">
         <translation>无线连接</translation>
@@ -244,13 +250,13 @@
         <translation>默认网关：</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_IPAddress">
-        <translation>用点分隔的四个 0 到 255 的数字，例如 192.168.0.10。</translation>
+        <translation>打印机自身的地址：用点分隔的四个数字，例如 192.168.0.10。</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SubnetMask">
-        <translation>用点分隔的四个 0 到 255 的数字，例如 255.255.255.0。</translation>
+        <translation>说明哪些地址属于打印机所在的网络。</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_Gateway">
-        <translation>路由器的地址：用点分隔的四个 0 到 255 的数字。</translation>
+        <translation>路由器的地址。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Box_Security">
         <translation>网络和安全</translation>
@@ -304,7 +310,7 @@
         <translation>网络名称 (SSID)：</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_SSID">
-        <translation>无线网络的名称。1 到 32 个字符：字母、数字、空格、标点符号。</translation>
+        <translation>无线网络的名称。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Button_SelectSSID">
         <translation>选择(&amp;O)…</translation>
@@ -313,13 +319,13 @@
         <translation>WPA 密钥：</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_PSK">
-        <translation>网络的预共享密钥（密码）。8 到 63 个字符：字母、数字、空格、标点符号。</translation>
+        <translation>网络的预共享密钥（密码）。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_WEPKey_Label">
         <translation>WEP 密钥：</translation>
     </message>
     <message id="DWT_ToolChip_Infrastructure_Text_WEPKey">
-        <translation>5 个或 13 个字符，或者 10 位或 26 位十六进制数字（0 到 9、A 到 F）。</translation>
+        <translation>网络的 WEP 密钥。</translation>
     </message>
     <message id="DWT_Localize_Infrastructure_Text_SelectWEPKey_Label">
         <translation>WEP 密钥编号：</translation>
@@ -337,19 +343,19 @@
         <translation>网络名称 (SSID)</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_Infrastructure_SSID_InputErr">
-        <translation>请输入 1 到 32 个字符：字母 A 到 Z 和 a 到 z、数字、空格以及美式键盘上的标点符号。名称含有其他字符的网络可从网络列表中选取。</translation>
+        <translation>1 到 32 个字符：字母 A 到 Z 和 a 到 z、数字、空格、美式键盘上的标点符号。名称含有其他字符的网络可从列表中选择。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_PSK">
         <translation>WPA 密钥</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_PSK_InputErr">
-        <translation>请输入 8 到 63 个字符：字母 A 到 Z 和 a 到 z、数字、空格以及美式键盘上的标点符号。</translation>
+        <translation>8 到 63 个字符：字母 A 到 Z 和 a 到 z、数字、空格、美式键盘上的标点符号。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_Infrastructure_WEPKey">
         <translation>WEP 密钥</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_WEPKey_InputErr">
-        <translation>请输入 5 个或 13 个字符（字母、数字、空格以及美式键盘上的标点符号），或者 10 位或 26 位十六进制数字（0 到 9 和 A 到 F）。</translation>
+        <translation>5 个或 13 个字符（字母、数字、空格、美式键盘上的标点符号），或者 10 位或 26 位十六进制数字（0 到 9、A 到 F）。</translation>
     </message>
     <message id="DWT_Localize_SimpleAP_Box_WirelessLANMode">
         <translation>接入点</translation>
@@ -430,16 +436,16 @@
         <translation>WPA 密钥：</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_SSID">
-        <translation>网络名称中 DIRECT- 之后的部分。1 到 25 个字符：字母、数字、空格、标点符号。</translation>
+        <translation>网络名称中 DIRECT- 之后的部分。</translation>
     </message>
     <message id="DWT_ToolChip_SimpleAP_Text_PSK">
-        <translation>计算机加入时使用的密钥（密码）。8 到 63 个字符：字母、数字、空格、标点符号。</translation>
+        <translation>计算机加入时使用的密钥（密码）。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_SSID">
         <translation>接入点的网络名称 (SSID)</translation>
     </message>
     <message id="DWT_Localize_Alert_InfoText_SimpleAP_SSID_InputErr">
-        <translation>请输入 1 到 25 个字符：字母 A 到 Z 和 a 到 z、数字、空格以及美式键盘上的标点符号。</translation>
+        <translation>1 到 25 个字符：字母 A 到 Z 和 a 到 z、数字、空格、美式键盘上的标点符号。</translation>
     </message>
     <message id="DWT_Localize_Alert_MessageText_SimpleAP_PSK">
         <translation>接入点的 WPA 密钥</translation>
@@ -801,6 +807,33 @@
     <message id="DWT_Localize_Menu_LookAgain">
         <translation>重新搜索(&amp;L)</translation>
     </message>
+    <message id="DWT_Localize_Menu_SaveSettings">
+        <translation>保存设置(&amp;S)…</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ApplyFile">
+        <translation>应用文件(&amp;A)…</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Print">
+        <translation>打印(&amp;P)…</translation>
+    </message>
+    <message id="DWT_Localize_Files_Settings">
+        <translation>设置 (*.json)</translation>
+    </message>
+    <message id="DWT_Localize_Files_NotSaved">
+        <translation>无法保存设置</translation>
+    </message>
+    <message id="DWT_Localize_Files_NotApplied">
+        <translation>无法应用此文件</translation>
+    </message>
+    <message id="DWT_Localize_Files_Unsent">
+        <translation>请先发送或还原页面上的更改。</translation>
+    </message>
+    <message id="DWT_Localize_Files_NoChange">
+        <translation>打印机已具有文件中的所有设置</translation>
+    </message>
+    <message id="DWT_Localize_Files_More">
+        <translation>… 以及另外 %1 项</translation>
+    </message>
     <message id="DWT_Localize_Menu_Quit">
         <translation>退出(&amp;Q)</translation>
     </message>
@@ -818,6 +851,9 @@
     </message>
     <message id="DWT_Localize_Menu_SelectAll">
         <translation>全选(&amp;A)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_RevertPage">
+        <translation>还原此页(&amp;R)</translation>
     </message>
     <message id="DWT_Localize_Menu_View">
         <translation>查看(&amp;V)</translation>
@@ -876,6 +912,12 @@
     </message>
     <message id="DWT_Localize_Outline_Changed">
         <translation>已更改，尚未发送</translation>
+    </message>
+    <message id="DWT_Localize_Field_Changed">
+        <translation>已更改。打印机中的值：%1</translation>
+    </message>
+    <message id="DWT_Localize_Field_Reset">
+        <translation>撤消对“%1”的更改 (Esc)</translation>
     </message>
     <message id="DWT_Localize_MainDialog_Text_NotUsed">
         <translation>在“无线网络”页面上选择的通信模式下，打印机不使用这些设置。</translation>

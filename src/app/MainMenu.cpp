@@ -44,11 +44,13 @@ QString selectedText(const QWidget *widget) {
     return field && field->echoMode() == QLineEdit::Normal ? field->selectedText() : QString();
 }
 
-// Makes an entry act for a widget, and be enabled exactly while a person can use the widget.
+// Makes an entry act for a widget, and be enabled exactly while a person can use the widget and,
+// with `mayAct`, that allows it.
 class WidgetEntry : public QObject {
   public:
-    WidgetEntry(QAction *entry, QWidget *widget, const std::function<void()> &action)
-        : QObject(widget), m_entry(entry), m_widget(widget) {
+    WidgetEntry(QAction *entry, QWidget *widget, const std::function<void()> &action,
+                const std::function<bool()> &mayAct = nullptr)
+        : QObject(widget), m_entry(entry), m_widget(widget), m_mayAct(mayAct) {
         widget->installEventFilter(this);
         connect(entry, &QAction::triggered, this, action);
         follow();
@@ -59,14 +61,17 @@ class WidgetEntry : public QObject {
             follow();
         return false;
     }
-
-  private:
+    // Asks anew whether the entry can act.
     void follow() {
-        if (m_entry) m_entry->setEnabled(m_widget->isVisible() && m_widget->isEnabled());
+        if (m_entry)
+            m_entry->setEnabled(m_widget->isVisible() && m_widget->isEnabled() &&
+                                (!m_mayAct || m_mayAct()));
     }
 
+  private:
     const QPointer<QAction> m_entry;
     QWidget *const m_widget;
+    const std::function<bool()> m_mayAct;
 };
 
 void pressBy(QAction *entry, QAbstractButton *button) {
@@ -109,6 +114,10 @@ MainMenu::MainMenu(QWidget *parent) : QMenuBar(parent) {
     m_open = add(file, "DWT_Localize_Menu_Open", Qt::CTRL | Qt::Key_O);
     m_lookAgain = add(file, "DWT_Localize_Menu_LookAgain", Qt::Key_F5);
     file->addSeparator();
+    m_saveSettings = add(file, "DWT_Localize_Menu_SaveSettings", Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+    m_applyFile = add(file, "DWT_Localize_Menu_ApplyFile", Qt::CTRL | Qt::SHIFT | Qt::Key_O);
+    m_print = add(file, "DWT_Localize_Menu_Print", Qt::CTRL | Qt::Key_P);
+    file->addSeparator();
     add(file, "DWT_Localize_Menu_Close", Qt::CTRL | Qt::Key_W,
         onWindow([](QWidget *w) { w->close(); }));
     add(file, "DWT_Localize_Menu_Quit", Qt::CTRL | Qt::Key_Q, [] { Application::terminate(); });
@@ -116,7 +125,9 @@ MainMenu::MainMenu(QWidget *parent) : QMenuBar(parent) {
     QMenu *const printer = addMenu(u"DWT_Localize_Menu_Printer"_s);
     m_send = add(printer, "DWT_Localize_Menu_Send", Qt::CTRL | Qt::Key_S);
     m_readAgain = add(printer, "DWT_Localize_Menu_ReadAgain", Qt::Key_F5);
-    for (QAction *entry : {m_send, m_readAgain, m_copyAllSettings}) entry->setEnabled(false);
+    for (QAction *entry : {m_send, m_readAgain, m_revertPage, m_copyAllSettings, m_saveSettings,
+                           m_applyFile, m_print})
+        entry->setEnabled(false);
     QMenu *const view = addMenu(u"DWT_Localize_Menu_View"_s);
     add(view, "DWT_Localize_Menu_PrinterList", Qt::CTRL | Qt::Key_L,
         [this] { Q_EMIT printerListChosen(); });
@@ -142,6 +153,7 @@ void MainMenu::addEditMenu() {
         if (auto *const field = qobject_cast<QLineEdit *>(m_focus)) field->selectAll();
     });
     edit->addSeparator();
+    m_revertPage = add(edit, "DWT_Localize_Menu_RevertPage", {});
     m_copyAllSettings =
         add(edit, "DWT_Localize_Menu_CopyAllSettings", Qt::CTRL | Qt::SHIFT | Qt::Key_C);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
@@ -191,9 +203,19 @@ void MainMenu::actOnList(QAbstractButton *open, QAbstractButton *lookAgain) {
     new WidgetEntry(m_lookAgain, lookAgain, [lookAgain] { lookAgain->click(); });
 }
 
-void MainMenu::actOnPrinter(const DWTMainSettingWindow &printer) {
+void MainMenu::actOnPrinter(DWTMainSettingWindow &printer) {
     pressBy(m_send, printer.sendButton());
     pressBy(m_readAgain, printer.readAgainButton());
+    auto *const revert = new WidgetEntry(
+        m_revertPage, printer.window(), [&printer] { printer.revertPage(); },
+        [&printer] { return printer.canRevertPage(); });
+    connect(&printer, &DWTMainSettingWindow::editsFollowed, revert, &WidgetEntry::follow);
+    new WidgetEntry(m_saveSettings, printer.window(), [&printer] { printer.saveSettings(); });
+    auto *const apply = new WidgetEntry(
+        m_applyFile, printer.window(), [&printer] { printer.applyFile(); },
+        [&printer] { return printer.canBeChanged(); });
+    connect(&printer, &DWTMainSettingWindow::editsFollowed, apply, &WidgetEntry::follow);
+    new WidgetEntry(m_print, printer.window(), [&printer] { printer.printReport(); });
     new WidgetEntry(m_copyAllSettings, printer.window(),
                     [&printer] { QApplication::clipboard()->setText(printer.report()); });
 }

@@ -23,7 +23,7 @@ class MainMenu : public QMenuBar {
 
     // Connects the entries for a printer with the loaded window `printer`, each enabled while the
     // window's button is. The window before must be gone or hidden.
-    void actOnPrinter(const DWTMainSettingWindow &printer);
+    void actOnPrinter(DWTMainSettingWindow &printer);
 
   Q_SIGNALS:
     // The list of printers is to be shown.
@@ -41,9 +41,13 @@ class MainMenu : public QMenuBar {
     QAction *m_copy = nullptr;
     QAction *m_paste = nullptr;
     QAction *m_selectAll = nullptr;
+    QAction *m_revertPage = nullptr;
     QAction *m_copyAllSettings = nullptr;
     QAction *m_open = nullptr;
     QAction *m_lookAgain = nullptr;
+    QAction *m_saveSettings = nullptr;
+    QAction *m_applyFile = nullptr;
+    QAction *m_print = nullptr;
     QAction *m_send = nullptr;
     QAction *m_readAgain = nullptr;
     QPointer<QWidget> m_focus;  // the widget that has it, or had it before a menu bar took it

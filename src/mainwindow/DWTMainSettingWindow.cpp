@@ -62,6 +62,7 @@ void DWTMainSettingWindow::makePages() {
     }
     // The buttons below the pages come after them.
     QWidget *before = window_Main->previousInFocusChain();
+    while (!(before->focusPolicy() & Qt::TabFocus)) before = before->previousInFocusChain();
     for (QWidget *button :
          {button_MainHelp, button_MainNewSetting, button_MainCancel, button_MainSend}) {
         QWidget::setTabOrder(before, button);

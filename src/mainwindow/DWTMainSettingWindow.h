@@ -60,8 +60,22 @@ class DWTMainSettingWindow : public QObject,
     QAbstractButton *sendButton() const { return button_MainSend; }
     QAbstractButton *readAgainButton() const { return button_MainNewSetting; }
     QAbstractButton *closeButton() const { return button_MainCancel; }
+    // Whether the shown page differs from what was read; editsFollowed() says when to ask anew.
+    bool canRevertPage() const;
+    // Puts back what was read on the shown page.
+    void revertPage();
     // The settings that the pages show now, as plain text, a line each. Secrets are left out.
     QString report() const;
+    // Asks for a file and writes the settings that the pages show into it, as the command line
+    // does. Secrets are left out.
+    void saveSettings();
+    // Whether the settings of the printer can be changed; editsFollowed() says when to ask anew.
+    bool canBeChanged() const { return bool_GetDataSuccess; }
+    // Asks for a file of settings and, showing what they change, whether they are to be sent. Says
+    // why when the printer cannot have them; nothing is sent then.
+    void applyFile();
+    // Asks for a printer, or a PDF file, and prints the report.
+    void printReport();
     // With an entry: the first opening, of that printer. Without: reads again. False when the first
     // opening failed or was cancelled; the window is then closed. `waiting` shows how far it is.
     bool initializeData(const std::optional<PrinterEntry> &entry, WaitWindow *waiting = nullptr);
@@ -80,6 +94,10 @@ class DWTMainSettingWindow : public QObject,
 
     // Asks about unsent changes, as closing does. True when the application may end.
     bool terminateNetworkTool() { return MSW_AppTerminate(); }
+
+  Q_SIGNALS:
+    // A page was edited, filled or chosen.
+    void editsFollowed();
 
   private:
     bool MSW_Init() { return true; }
@@ -117,6 +135,8 @@ class DWTMainSettingWindow : public QObject,
     Plan shownPlan() const;
     void enableAllViews(bool enabled);
     void MSW_UISelector(const QString &viewKey) { m_pages->select(viewKey); }
+    // The page that is shown; null when none is.
+    DWTBaseView *shownPage() const;
     std::optional<QString> MSW_SelectedUIString() const;
     // False when the user chose Cancel.
     bool showStandardAlert(const char *titleKey, const char *kindKey, const char *informationKey,
@@ -127,7 +147,7 @@ class DWTMainSettingWindow : public QObject,
     bool checkAndStorePages();
     void goToFirstFault();
     bool warnOfChangedConnection();
-    void askToSend();
+    void askToSend(const Plan &plan);
     std::optional<QString> sendViewAskingPassword();
     void push_SendConfirmTransmission();
     void push_SendLoginOK();
@@ -159,6 +179,7 @@ class DWTMainSettingWindow : public QObject,
 
     // Closing and reading again.
     void push_MainCancel() { MSW_AppClose(); }
+    bool hasUnsentChanges() const;
     bool windowShouldClose();
     bool MSW_AppClose();
     bool MSW_AppTerminate() { return MSW_AppClose(); }
@@ -194,6 +215,7 @@ class DWTMainSettingWindow : public QObject,
     Ending m_ending;                                     // of the last send
     bool m_comparing = false;                            // the printer is read again
     bool m_endIsRead = false;
+    bool m_sendsFile = false;  // what is sent comes from a file, not from the pages
     PrinterEntry dictionary_PrinterInfo;
     bool bool_usbPrinter = true;
     bool bool_GetDataSuccess = false;

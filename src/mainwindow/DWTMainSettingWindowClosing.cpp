@@ -19,13 +19,17 @@ bool DWTMainSettingWindow::windowShouldClose() {
     return true;
 }
 
-bool DWTMainSettingWindow::MSW_AppClose() {
-    const bool editable = bool_usbPrinter && bool_GetDataSuccess;
+bool DWTMainSettingWindow::hasUnsentChanges() const {
     const auto differs = [](const std::shared_ptr<DWTBaseView> &page) {
         return !page->itemCheckDifferentToDataManager();
     };
-    if (editable &&
-        std::any_of(dictionary_ViewManagement.cbegin(), dictionary_ViewManagement.cend(), differs))
+    return bool_usbPrinter && bool_GetDataSuccess &&
+           std::any_of(dictionary_ViewManagement.cbegin(), dictionary_ViewManagement.cend(),
+                       differs);
+}
+
+bool DWTMainSettingWindow::MSW_AppClose() {
+    if (hasUnsentChanges())
         return window_SendData->runOn(DWT_View_Key_Send_ChangeCheck, m_session->name()) !=
                SendDialog::stay;
     closeMainWindow(selectorStaysHidden);
@@ -40,7 +44,7 @@ void DWTMainSettingWindow::closeMainWindow(const QVariantMap &userInfo) {
 
 void DWTMainSettingWindow::push_SendChangeCheckReflect() {
     window_SendData->closeDialog();
-    if (checkAndStorePages()) askToSend();
+    if (checkAndStorePages()) askToSend(shownPlan());
 }
 
 void DWTMainSettingWindow::push_SendChangeCheckNoReflect() {

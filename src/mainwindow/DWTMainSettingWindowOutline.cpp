@@ -43,6 +43,22 @@ void DWTMainSettingWindow::followEdits() {
     simpleAP_ViewObject->showIsUsed(mode == CommunicationMode::AccessPoint);
     m_plan = shownPlan();
     outlineView_Main->reloadMarks();
+    Q_EMIT editsFollowed();
+}
+
+DWTBaseView *DWTMainSettingWindow::shownPage() const {
+    return dictionary_ViewManagement.value(MSW_SelectedUIString().value_or(QString())).get();
+}
+
+bool DWTMainSettingWindow::canRevertPage() const {
+    DWTBaseView *const page = shownPage();
+    return page && bool_GetDataSuccess &&
+           (page->hasFault() || !page->itemCheckDifferentToDataManager());
+}
+
+void DWTMainSettingWindow::revertPage() {
+    if (DWTBaseView *const page = shownPage()) page->revert();
+    followEdits();
 }
 
 void DWTMainSettingWindow::goToPage(const QString &viewKey) {
@@ -103,5 +119,6 @@ bool DWTMainSettingWindow::shouldSelectItem(OutlineView *, const QVariantMap &it
     if (viewKey == shown) return false;
     if (bool_usbPrinter && shown) dictionary_ViewManagement[*shown]->itemSetToDataManager();
     MSW_UISelector(viewKey);
+    Q_EMIT editsFollowed();
     return true;
 }

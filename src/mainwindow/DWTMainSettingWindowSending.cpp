@@ -13,11 +13,11 @@ using namespace Qt::StringLiterals;
 
 void DWTMainSettingWindow::push_MainSend() {
     if (!checkAndStorePages()) return;
-    if (warnOfChangedConnection()) askToSend();
+    if (warnOfChangedConnection()) askToSend(shownPlan());
 }
 
-void DWTMainSettingWindow::askToSend() {
-    window_SendData->setPlan(shownPlan());
+void DWTMainSettingWindow::askToSend(const Plan &plan) {
+    window_SendData->setPlan(plan);
     if (const auto view = sendViewAskingPassword())
         window_SendData->runOn(*view, m_session->name());
 }
@@ -109,7 +109,7 @@ void DWTMainSettingWindow::showEnding(bool comparing) {
     const bool isVerified = m_ending.comparison == Ending::Comparison::Done;
     if (m_ending.isComplete() && !isVerified)
         paragraphs.prepend(localized("DWT_Localize_Send_End_TextField"));
-    if (!m_ending.isComplete()) paragraphs << localized("DWT_Localize_Send_Kept");
+    if (!m_ending.isComplete() && !m_sendsFile) paragraphs << localized("DWT_Localize_Send_Kept");
     if (comparing) paragraphs << localized("DWT_Localize_Send_End_Comparing");
     window_SendData->showEnding(m_ending, paragraphs, comparing);
 }
@@ -138,6 +138,7 @@ void DWTMainSettingWindow::push_SendEndOK() {
         password_ViewObject->clearPassword(bool_usbPrinter);
         password_ViewObject->passwordChangeSetting(false);
     }
+    for (const auto &page : dictionary_ViewManagement) page->followSavedData();
     showOwnName();
     if (m_ending.isComplete())
         MSW_SendButtonDisable();

@@ -1,10 +1,13 @@
 #include "pages/DWTBaseView.h"
 
+#include <QCheckBox>
+#include <QLabel>
 #include <algorithm>
 
 #include "platform/core/NotificationCenter.h"
 #include "platform/core/Texts.h"
 #include "platform/ui/FieldLooks.h"
+#include "platform/ui/FieldRow.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,13 +23,25 @@ void DWTBaseView::TBV_Dealloc() {
     if (!view_Base->parent()) delete view_Base;
 }
 
-Field &DWTBaseView::addField(QWidget *control, const QString &key, bool *input,
-                             std::function<bool()> store) {
-    Field field{control, key.isEmpty() ? nullptr : settingOf(string_ViewKey, key), input,
-                std::move(store)};
+Field &DWTBaseView::append(QWidget *control, const QString &key) {
+    Field field{control, key.isEmpty() ? nullptr : settingOf(string_ViewKey, key)};
     if (field.setting) {
         field.name = localized(field.setting->labelKey);
         if (field.line() && field.setting->rule) field.rule = &*field.setting->rule;
+    }
+    m_fields.push_back(std::move(field));
+    return m_fields.back();
+}
+
+Field &DWTBaseView::addField(QWidget *control, const QString &key, bool *input,
+                             std::function<bool()> store) {
+    Field &field = append(control, key);
+    field.input = input;
+    field.store = std::move(store);
+    if (!qobject_cast<QCheckBox *>(control)) {
+        field.row = new FieldRow(control);
+        QObject::connect(field.row, &FieldRow::resetRequested, this,
+                         [this, control] { putBack(*fieldOf(control)); });
     }
     if (auto *line = qobject_cast<TextField *>(control)) {
         QObject::connect(line, &QLineEdit::textChanged, this, [this] { updateMarks(); });
@@ -34,13 +49,12 @@ Field &DWTBaseView::addField(QWidget *control, const QString &key, bool *input,
             line->setInputMethodHints(Qt::ImhSensitiveData | Qt::ImhNoPredictiveText |
                                       Qt::ImhNoAutoUppercase | line->inputMethodHints());
     }
-    m_fields.push_back(std::move(field));
-    return m_fields.back();
+    return field;
 }
 
 void DWTBaseView::addShown(QLineEdit *control, const QString &key) {
     showAsValue(control);
-    Field &field = addField(control, key);
+    Field &field = append(control, key);
     if (field.setting->kind == Setting::Kind::Mac) showAsDigits(control);
     field.rule = nullptr;
     field.edited = false;
@@ -54,11 +68,19 @@ const Field *DWTBaseView::fieldOf(const QWidget *control) const {
 
 void DWTBaseView::initializeUI() {
     notificationManager();
+    for (const Field &field : m_fields)
+        if (field.row && field.rule && field.rule->ruleKey)
+            field.row->setRule(localized(field.rule->ruleKey));
+    for (const QLabel *label : view_Base->findChildren<QLabel *>())
+        if (label->buddy() && label->buddy()->accessibleName().isEmpty())
+            label->buddy()->setAccessibleName(nameInLabel(label->text()));
 }
 
 void DWTBaseView::showDataManager() {
     mutableDictionary_ViewSettings = savedCategory();
     for (const Field &field : m_fields) fill(field);
+    m_said.clear();
+    followSavedData();
 }
 
 void DWTBaseView::enableAllItems(bool enabled) {
@@ -69,6 +91,7 @@ void DWTBaseView::enableAllItems(bool enabled) {
 void DWTBaseView::showForReading(bool reading) {
     keepLegible(view_Base, reading);
     for (const Field &field : m_fields) {
+        if (field.row) field.row->showForReading(reading);
         if (auto *popup = qobject_cast<PopUpButton *>(field.control)) popup->showAsValue(reading);
         if (!field.edited || !field.line() || field.isSecret()) continue;
         showAsValue(field.line(), reading);
@@ -90,36 +113,6 @@ bool DWTBaseView::itemInputCheck() {
     return passed;
 }
 
-QString DWTBaseView::brokenRuleOf(const Field &field) const {
-    const bool counts = field.rule && !field.isNumber() && field.control->isEnabled();
-    if (!counts || isUnchangedText(field) || (field.isAddress() && isUnknown(field)) ||
-        passes(field))
-        return {};
-    return localized(field.rule->ruleKey);
-}
-
-void DWTBaseView::updateMarks(bool all) {
-    for (const Field &field : m_fields) {
-        auto *const control = qobject_cast<TextField *>(field.control);
-        if (control && (all || !control->fault().isEmpty())) control->setFault(faultOf(field));
-    }
-}
-
-void DWTBaseView::focusFirstFault() {
-    TextField *const fault = firstFault();
-    if (!fault) return;
-    fault->setFocus(Qt::OtherFocusReason);
-    fault->selectAll();
-}
-
-TextField *DWTBaseView::firstFault() const {
-    for (const Field &field : m_fields) {
-        auto *const control = qobject_cast<TextField *>(field.control);
-        if (control && !control->fault().isEmpty()) return control;
-    }
-    return nullptr;
-}
-
 bool DWTBaseView::checkAddresses() const {
     QStringList names, rules;
     for (const Field &field : m_fields) {
@@ -138,10 +131,15 @@ bool DWTBaseView::checkAddresses() const {
     return false;
 }
 
-void DWTBaseView::forceIntoRange(const Field &number) const {
+void DWTBaseView::forceIntoRange(const Field &number) {
     if (isUnknown(number)) return;
-    const int value = Rules::numberInRange(number.line()->text(), *number.rule);
+    const Rules::Rule &rule = *number.rule;
+    const int typed = integerOf(number.line()->text());
+    const int value = Rules::numberInRange(number.line()->text(), rule);
     number.line()->setText(QString::number(value));
+    if (value == typed) return;
+    const auto *said = value == rule.min ? "DWT_Localize_Field_Least" : "DWT_Localize_Field_Most";
+    m_said.insert(number.control, localized(said).arg(value));
 }
 
 bool DWTBaseView::passes(const Field &field) const {
@@ -190,7 +188,7 @@ bool DWTBaseView::textShouldEndEditing(TextField *control) {
             field->store();
         else
             store(control);
-        control->setFault(faultOf(*field));
+        field->row->setFault(faultOf(*field));
     }
     sendNotificationSendOK();
     return true;
@@ -199,9 +197,10 @@ bool DWTBaseView::textShouldEndEditing(TextField *control) {
 void DWTBaseView::controlTextDidChange(TextField *control) {
     const Field *field = fieldOf(control);
     if (!field) return;
+    m_said.remove(control);
     if (field->isAddress()) checkIPtextField(control);
     if (field->isNumber()) checkCountTextField(control);
-    postSendState(itemCheckDifferentToDataManager());
+    postSendState(itemCheckDifferentToDataManager(), true);
 }
 
 void DWTBaseView::showInputError(const QString &fieldName, const QString &rule) const {
@@ -227,8 +226,10 @@ void DWTBaseView::handOver(const CategoryDictionary &category) {
 }
 
 // A choice may have changed which fields count.
-void DWTBaseView::postSendState(bool unchanged) {
+void DWTBaseView::postSendState(bool unchanged, bool typing) {
     updateMarks();
+    updateNotices(typing);
+    updateChanges();
     NotificationCenter::shared().post(
         unchanged ? DWT_MainDialog_SendNG_Message : DWT_MainDialog_SendOK_Message, this);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QPointer>
 #include <QWidget>
 #include <memory>
@@ -44,6 +45,10 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     virtual void enableAllItems(bool enabled);
     // Lets the values of a disabled page be selected and read well, or ends that. Not the secrets.
     void showForReading(bool reading);
+    // Puts back what was read, as an edit of the user's.
+    virtual void revert();
+    // Follows the saved data after a send: what counts as changed, and what is said of it.
+    void followSavedData();
     // Checks the enabled fields. Alerts name what is wrong: one for all addresses, of which the
     // first wrong one is selected, then one a field. Numbers are forced into their range. False
     // when something is wrong; every wrong field is marked then.
@@ -110,6 +115,10 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     virtual bool passes(const Field &field) const;
     // Why what a field holds cannot be used, in words; empty when it can, or does not count.
     virtual QString faultOf(const Field &field) const { return brokenRuleOf(field); }
+    // What is worth knowing of a value that can be used, in words; may be empty.
+    virtual QString noticeOf(const Field &field) const;
+    // Puts back what was read for a row, as an edit of the user's.
+    virtual void putBack(const Field &field);
     // The user begins to edit, or `ended` to edit, a field.
     virtual void markInput(const Field &field, bool) {
         if (field.input) *field.input = true;
@@ -118,6 +127,8 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
 
     // --- What every page does with its category ---
 
+    // Puts the saved value of a row into the page's category, and shows it; a secret is emptied.
+    void restore(const Field &field);
     // Puts what a row shows into the page's category and hands that over. Always true.
     bool store(const QWidget *control);
     // The saved category; empty when there is none.
@@ -151,11 +162,22 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // Whether the printer did not report the value of a row, and nobody entered one.
     bool isUnknown(const Field &field) const;
     bool checkAddresses() const;
+    Field &append(QWidget *control, const QString &key);
     // Marks what is wrong among the fields that are marked already, or among all.
     void updateMarks(bool all = false);
+    // Says what is worth knowing of the values; `typing`: says nothing new.
+    void updateNotices(bool typing = false);
+    // Marks what differs from the saved data.
+    void updateChanges();
+    // What was read for a row that shows another value, in words; empty when it shows the same.
+    QString changeOf(const Field &field) const;
     TextField *firstFault() const;
-    void forceIntoRange(const Field &number) const;
-    void postSendState(bool unchanged);
+    // Forces a number into its range, and keeps in mind what to say of it.
+    void forceIntoRange(const Field &number);
+    // `typing`: the user has not left the field yet.
+    void postSendState(bool unchanged, bool typing = false);
 
     std::vector<Field> m_fields;
+    // What became of a field's value when its editing ended, until the value changes.
+    QHash<const QWidget *, QString> m_said;
 };

@@ -76,12 +76,37 @@ void DWTInfrastructureView::initializeUI() {
 
 // Codes are selected while all encryptions are offered. A network from the list is forgotten.
 void DWTInfrastructureView::showDataManager() {
-    mutableDictionary_selectSSID.clear();
-    bool_SSIDfromSelectSSID = false;
-    sayKeyOf({});
+    forgetNetwork();
     initializeEncryption();
     InterfaceView::showDataManager();
     adjustSecurity();
+}
+
+void DWTInfrastructureView::forgetNetwork() {
+    mutableDictionary_selectSSID.clear();
+    bool_SSIDfromSelectSSID = false;
+    sayKeyOf({});
+}
+
+QList<const QWidget *> DWTInfrastructureView::putBackWith(const QWidget *control) const {
+    const QList<const QWidget *> security{popupbutton_InfrastructureAuthentic,
+                                          popupbutton_InfrastructureEncryption};
+    const QList<const QWidget *> network{textField_InfrastructureSSID, security[0], security[1]};
+    if (bool_SSIDfromSelectSSID && network.contains(control)) return network;
+    if (security.contains(control)) return security;
+    return {control};
+}
+
+// Codes are selected while all encryptions are offered.
+void DWTInfrastructureView::putBack(const Field &field) {
+    const QList<const QWidget *> together = putBackWith(field.control);
+    if (together.size() == 1) return InterfaceView::putBack(field);
+    forgetNetwork();
+    mutableDictionary_ViewSettings.insert(DWT_SaveData_Infrastructure_SSIDList_SSID, QString());
+    initializeEncryption();
+    for (const QWidget *control : together) restore(*fieldOf(control));
+    adjustSecurity();
+    InterfaceView::putBack(field);
 }
 
 // The printer reports no keys.

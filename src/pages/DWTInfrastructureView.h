@@ -36,6 +36,7 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
     void fill(const Field &field) override;
     bool passes(const Field &field) const override;
     void markInput(const Field &field, bool ended) override;
+    void putBack(const Field &field) override;
     CategoryDictionary shownCategory() const override;
 
   private:
@@ -57,6 +58,11 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
     static bool isText(const Field &field) {
         return field.edited && field.setting->kind == Setting::Kind::Text;
     }
+    // The rows that are put back with one: authentication and encryption together, and with the
+    // name when all three are a network's of the list.
+    QList<const QWidget *> putBackWith(const QWidget *control) const;
+    // Ends what a network of the list has given.
+    void forgetNetwork();
     // What filling and enabling do with the security that the printer reported.
     void adjustSecurity();
     // Offers the encryptions that go with the chosen authentication, and changes one that does not.

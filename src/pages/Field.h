@@ -6,6 +6,8 @@
 
 #include "settings/Settings.h"
 
+class FieldRow;
+
 // A row of a page's table: a setting and its control. Texts, addresses, numbers and choices that
 // are only shown are in a QLineEdit, choices in a RadioGroup (codes as tags) or a QComboBox (codes
 // as item data), flags in a QCheckBox.
@@ -15,8 +17,9 @@ struct Field {
     bool *input = nullptr;             // set when the field was filled or touched
     std::function<bool()> store = {};  // at the end of editing; the page's own by default
     const Rules::Rule *rule = nullptr;
-    QString name = {};   // in alerts
-    bool edited = true;  // false: shown, and never written
+    QString name = {};        // in alerts
+    bool edited = true;       // false: shown, and never written
+    FieldRow *row = nullptr;  // around the control; null for one that only shows, and for a flag
 
     QString key() const { return setting ? setting->key : QString(); }
     bool isAddress() const { return setting && setting->kind == Setting::Kind::Address; }

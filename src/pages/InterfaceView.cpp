@@ -84,6 +84,16 @@ void InterfaceView::selectAddressSettingInput() {
         if (field.isAddress()) field.control->setEnabled(!isAutomatic());
 }
 
+// Automatic setup shows the addresses in use again.
+void InterfaceView::putBack(const Field &field) {
+    DWTBaseView::putBack(field);
+    if (field.control != m_controls.choice) return;
+    if (isAutomatic())
+        for (const Field &address : fields())
+            if (address.isAddress()) fill(address);
+    chooseAddressSetup();
+}
+
 void InterfaceView::fill(const Field &field) {
     const CategoryDictionary &values = mutableDictionary_ViewSettings;
     if (field.control == m_controls.choice) {

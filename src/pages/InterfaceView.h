@@ -53,6 +53,7 @@ class InterfaceView : public DWTBaseView {
     void selectAddressSettingInput();
 
     void fill(const Field &field) override;
+    void putBack(const Field &field) override;
     bool isUsed(const Field &field) const override { return !field.isAddress() || !isAutomatic(); }
 
   private:

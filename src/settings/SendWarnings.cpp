@@ -26,7 +26,7 @@ QList<SendWarning> warningsOf(const AddressSetup &setup, const CategoryDictionar
     const auto parts = [&](const Setting *setting) { return addressValue(values, setting->key); };
     const quint32 mask = numberOf(parts(setup.mask)), gateway = numberOf(parts(setup.gateway));
     const auto warning = [&](SendWarning::Kind kind, const Setting *setting) {
-        return QList{SendWarning{kind, setting->viewKey, parts(setting).join(u'.')}};
+        return QList{SendWarning{kind, setting->viewKey, parts(setting).join(u'.'), setting->key}};
     };
     if (!isMask(mask)) return warning(SendWarning::NotAMask, setup.mask);
     if (gateway != 0 && ((gateway ^ numberOf(parts(setup.address))) & mask) != 0)
@@ -74,8 +74,10 @@ QList<SendWarning> warningsOf(const SettingRecord &saved, const SettingRecord &c
     }
     const CategoryDictionary network = changed.value(DWT_View_Key_Infrastructure);
     if (isNewNetworkWithoutKey(saved.value(DWT_View_Key_Infrastructure), network))
-        warnings << SendWarning{SendWarning::KeyKept, DWT_View_Key_Infrastructure,
-                                readableText(textValue(network, DWT_SaveData_Infrastructure_SSID))};
+        warnings << SendWarning{
+            SendWarning::KeyKept, DWT_View_Key_Infrastructure,
+            readableText(textValue(network, DWT_SaveData_Infrastructure_SSID)),
+            networkKeyOf(integerValue(network, DWT_SaveData_Infrastructure_Encryption))};
     const auto modeOf = [](const SettingRecord &record) {
         return integerValue(record.value(DWT_View_Key_Wireless),
                             DWT_SaveData_Wireless_CommunicateMode);
@@ -83,6 +85,6 @@ QList<SendWarning> warningsOf(const SettingRecord &saved, const SettingRecord &c
     const QStringList left = addressOf(modeOf(saved), saved);
     if (modeOf(saved) != modeOf(changed) && numberOf(left) != 0)
         warnings << SendWarning{SendWarning::AddressUnreachable, DWT_View_Key_Wireless,
-                                left.join(u'.')};
+                                left.join(u'.'), DWT_SaveData_Wireless_CommunicateMode};
     return warnings;
 }

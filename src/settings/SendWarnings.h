@@ -15,6 +15,7 @@ struct SendWarning {
     Kind kind;
     QString viewKey;  // the category, and page, that it is about
     QString subject;  // a network's name as it is shown, or an address
+    QString key;      // of the setting that it is about, in the category
 };
 
 // A warning as a sentence.

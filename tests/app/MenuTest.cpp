@@ -68,6 +68,14 @@ TEST_F(Menu, OffersWhatCanBeDoneWhileKeysAloneOpenAPrinterChangeItAndSend) {
     keys("Ctrl+S");
     const auto *const field = controlOf(walk.main(), name);
     for (int i = 0; i < 40 && !field->hasFocus(); ++i) keys("Tab");
+    const QString before = walk.shown(name);
+    keys("Ctrl+A");
+    enter("gate-1");
+    EXPECT_TRUE(enabled("Alt+E").contains(text("Revert page")));
+    keys("Alt+E R");
+    EXPECT_EQ(walk.shown(name), before);
+    EXPECT_FALSE(enabled("Alt+E").contains(text("Revert page")));
+    EXPECT_EQ(enabled(offered), text("Read again"));
     keys("Ctrl+A");
     enter("gate-2");
     EXPECT_EQ(enabled(offered), text("Send to printer…|Read again"));

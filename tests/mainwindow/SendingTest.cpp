@@ -104,7 +104,7 @@ TEST_F(Sending, WrongInputOnTwoPagesIsToldAndLeadsToTheFirstFieldToMend) {
             [](QWidget *alert) {
                 const auto *box = static_cast<QMessageBox *>(alert);
                 EXPECT_EQ(box->windowTitle(), text("Label-Printer – Network Setting Tool"));
-                EXPECT_TRUE(box->informativeText().startsWith(text("Wired network\nEnter the IP")));
+                EXPECT_TRUE(box->informativeText().startsWith(text("Wired network\nAn address")));
                 QTest::keyClick(alert, Qt::Key_Return);
             })
         .alert("Bonjour name cannot be used");

@@ -82,20 +82,26 @@ TEST_P(AddressSetup, OnlyAnotherAddressChangesHowThePrinterIsReached) {
 }
 
 TEST_P(AddressSetup, AWrongAddressIsMarkedFromTheEndOfItsEditingUntilItIsRight) {
-    const auto icons = [this] { return address()->findChildren<QToolButton *>(); };
+    const auto said = [this] { return noteOf(address()).text(); };
     page->showConnectResult(true);
     type(address(), text("10.0.0."));
     EXPECT_EQ(connection()->text(), text("Not tested yet")) << "the result of another address";
     EXPECT_FALSE(page->hasFault()) << "marked while it is typed";
     QTest::keyClick(address(), Qt::Key_Tab);
     EXPECT_TRUE(page->hasFault());
-    ASSERT_EQ(icons().size(), 1);
-    EXPECT_TRUE(icons()[0]->isVisible());
-    EXPECT_EQ(icons()[0]->text(), address()->accessibleDescription());
-    EXPECT_TRUE(address()->accessibleDescription().startsWith(text("Enter the IP address as")));
+    EXPECT_EQ(said(), text("An address from 0.0.0.1 to 255.255.255.254, but not 127.0.0.1."));
+    EXPECT_TRUE(address()->accessibleDescription().startsWith(said()));
+    const int below = noteOf(address()).height();
     QTest::keyClick(address(), Qt::Key_End);
     QTest::keyClicks(address(), text("9"));
-    EXPECT_FALSE(page->hasFault() || icons()[0]->isVisible());
+    EXPECT_FALSE(page->hasFault());
+    QTest::keyClick(address(), Qt::Key_Tab);
+    EXPECT_EQ(said(), QString()) << "the rule of a field without the focus";
+    EXPECT_EQ(noteOf(address()).height(), below) << "the page jumps";
+    EXPECT_FALSE(noteOf(window.focusWidget()).text().isEmpty()) << "a rule before typing";
+    type(mask(), text("255.0.255.0"));
+    QTest::keyClick(mask(), Qt::Key_Return);
+    EXPECT_TRUE(noteOf(mask()).text().startsWith(text("255.0.255.0 is not a usual")));
 }
 
 TEST_P(AddressSetup, OneAlertNamesEveryWrongAddressAndSelectsTheFirst) {
@@ -118,6 +124,14 @@ TEST_P(AddressSetup, SwitchingTheSetupTakesTheMatchingAddresses) {
     EXPECT_EQ(state, DWT_MainDialog_SendOK_Message);
     EXPECT_EQ(changeList(), text("Address assignment: Fixed address > Automatic (DHCP)"));
     EXPECT_EQ(address()->text(), text("10.0.0.9"));
+    const QWidget *const setup = control<RadioGroup>(named("radioButton_%1IPAddressSetting"));
+    EXPECT_TRUE(resetOf(setup).isVisible() && !resetOf(address()).isVisible());
+    resetOf(setup).click();
+    EXPECT_EQ(storedSetup("mode") + storedSetup("ip"), text("110.0.0.9"));
+    resetOf(address()).click();
+    EXPECT_TRUE(page->itemCheckDifferentToDataManager() && address()->text() == text("10.0.0.5"));
+    address()->setText(text("10.0.0.9"));
+    pick("buttonCell_Auto");
     EXPECT_FALSE(address()->isEnabled() || mask()->isEnabled() || gateway()->isEnabled());
     gateway()->setText(text("1.2"));
     EXPECT_TRUE(alertsOf(true).isEmpty() && page->itemConnectChangeCheck());

@@ -100,6 +100,16 @@ TEST_F(InfrastructurePage, ChangingWhatTheListGaveMakesItTheUsersOwn) {
     EXPECT_FALSE(ssid()->hasFocus());
     EXPECT_FALSE(staysTaken([&] { page->showDataManager(); })) << "a new reading forgets the list";
     EXPECT_TRUE(page->itemCheckDifferentToDataManager());
+    page->showSSIDFromSelectSSID(network("Lager", 1, 2));
+    resetOf(authentic()).click();
+    EXPECT_TRUE(page->itemCheckDifferentToDataManager() && ssid()->text() == text("Café"))
+        << "what the list gave goes back as a whole";
+    choose(authentic(), "Open system");
+    type(wepKey(), text("abcde"));
+    resetOf(wepKey()).click();
+    EXPECT_TRUE(wepKey()->text().isEmpty() && !resetOf(wepKey()).isVisible());
+    resetOf(encryption()).click();
+    EXPECT_EQ(changeList(), QString());
 }
 
 TEST_F(InfrastructurePage, ClearedKeysCountAsUntouched) {

@@ -9,6 +9,7 @@
 #include "pages/DWTWirelessView.h"
 #include "platform/core/NotificationCenter.h"
 #include "platform/core/Texts.h"
+#include "platform/ui/FieldNote.h"
 #include "support/DataManagers.h"
 #include "support/DialogScript.h"
 
@@ -40,6 +41,14 @@ class PageInWindow {
         auto *found = window.findChild<Widget *>(name.toString());
         EXPECT_TRUE(found) << qPrintable(name.toString());
         return found;
+    }
+    // What stands below a field.
+    static FieldNote &noteOf(const QWidget *field) {
+        return *field->parentWidget()->findChild<FieldNote *>();
+    }
+    // The button beside a field that puts back what was read.
+    static QToolButton &resetOf(const QWidget *field) {
+        return *field->parentWidget()->findChild<QToolButton *>({}, Qt::FindDirectChildrenOnly);
     }
     QString shown(const char *name) { return control<QLineEdit>(name)->text(); }
     void pick(const char *cell) { control<QRadioButton>(cell)->click(); }

@@ -30,6 +30,16 @@ TEST_F(NetworkPage, ShowsTheNamesAndFollowsEveryEdit) {
     EXPECT_EQ(stored("names.service"), text("'New'"));
     EXPECT_EQ(changeList(),
               text("Printer name: Desk > Desk2|Bonjour service name: Desk labels > New"));
+    EXPECT_TRUE(printer->toolTip().endsWith(text("\nChanged. The printer has: Desk")));
+    EXPECT_FALSE(resetOf(bonjour).isVisible());
+    QTest::keyClick(printer, Qt::Key_Escape);
+    EXPECT_FALSE(resetOf(printer).isVisible());
+    EXPECT_EQ(changeList(), text("Bonjour service name: Desk labels > New"));
+    EXPECT_EQ(stored("names.printer"), text("'Desk'"));
+    type(bonjour, text("not one"));
+    page->revert();
+    EXPECT_TRUE(changeList().isEmpty() && !page->hasFault() && m.manager->isEqualToSaveData());
+    EXPECT_EQ(state, DWT_MainDialog_SendNG_Message);
 }
 
 struct WirelessPage : PageTest<DWTWirelessView> {
@@ -64,17 +74,24 @@ TEST_F(FirmwarePage, TheTimeOutIsComparedWhileTypingAndForcedIntoItsRangeAfterwa
     EXPECT_TRUE(alertsOf(true).isEmpty());
     page->itemSetToDataManager();
     EXPECT_EQ(stored("device.timeout"), text("30")) << "sent without leaving the field";
+    const char *const least = "Set to 30, the least.", *const most = "Set to 300, the most.";
     const struct {
-        const char *typed, *shown, *forced;
-    } cases[] = {
-        {"29", "29", "30"},    {"30", "30", "30"},  {"301", "301", "300"},
-        {"", "", "30"},        {"x", "", "30"},     {"12a34", "1234", "300"},
-        {"300", "300", "300"}, {"\n4５", "", "30"}, {"99999999999999", "99999999999999", "300"}};
+        const char *typed, *shown, *forced, *said;
+    } cases[] = {{"29", "29", "30", least},
+                 {"30", "30", "30", ""},
+                 {"301", "301", "300", most},
+                 {"", "", "30", least},
+                 {"x", "", "30", least},
+                 {"12a34", "1234", "300", most},
+                 {"300", "300", "300", ""},
+                 {"\n4５", "", "30", least},
+                 {"99999999999999", "99999999999999", "300", most}};
     for (const auto &c : cases) {
         type(timeOut, text(c.typed));
         EXPECT_EQ(timeOut->text(), text(c.shown)) << c.typed;
         QTest::keyClick(timeOut, Qt::Key_Return);
         EXPECT_EQ(timeOut->text(), text(c.forced)) << c.typed;
+        EXPECT_EQ(noteOf(timeOut).text(), text(c.said)) << c.typed;
         EXPECT_EQ(stored("device.timeout"), text(c.forced));
     }
     EXPECT_EQ(changeList(), text("Print timeout: 45 > 300"));

@@ -8,3 +8,8 @@ inline QColor mixed(const QColor &one, const QColor &other, int percent) {
     return {part(one.red(), other.red()), part(one.green(), other.green()),
             part(one.blue(), other.blue())};
 }
+
+// The colour of what is wrong, in texts and outlines, on a background of the colour `window`.
+inline QColor faultColour(const QColor &window) {
+    return window.lightness() < 128 ? QColor(0xff, 0x8f, 0x85) : QColor(0xb3, 0x1b, 0x1b);
+}

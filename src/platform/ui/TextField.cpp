@@ -1,15 +1,17 @@
 #include "platform/ui/TextField.h"
 
-#include <QAction>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QPointer>
 #include <QSignalBlocker>
-#include <QStyle>
+#include <QWidgetAction>
 #include <utility>
 
 #include "platform/core/NotificationCenter.h"
+#include "platform/ui/Colours.h"
 #include "platform/ui/FieldLooks.h"
+#include "platform/ui/WarningSign.h"
 
 using namespace Qt::StringLiterals;
 
@@ -42,12 +44,15 @@ void TextField::forget() {
 
 void TextField::setFault(const QString &why) {
     if (why == fault()) return;
-    if (!m_mark)
-        m_mark = addAction(style()->standardIcon(QStyle::SP_MessageBoxWarning), TrailingPosition);
-    m_mark->setText(why);
-    m_mark->setToolTip(Qt::convertFromPlainText(why));
+    m_fault = why;
+    if (!m_mark) {
+        auto *const inside = new QWidgetAction(this);
+        inside->setDefaultWidget(new WarningSign);
+        addAction(inside, TrailingPosition);
+        m_mark = inside;
+    }
     m_mark->setVisible(!why.isEmpty());
-    setAccessibleDescription(why);
+    update();
 }
 
 void TextField::textDidChange() {
@@ -79,6 +84,15 @@ void TextField::keyPressEvent(QKeyEvent *event) {
 void TextField::hideEvent(QHideEvent *event) {
     QLineEdit::hideEvent(event);
     if (!event->spontaneous()) m_editing = false;
+}
+
+void TextField::paintEvent(QPaintEvent *event) {
+    QLineEdit::paintEvent(event);
+    if (m_fault.isEmpty()) return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(faultColour(palette().color(QPalette::Window)), 2));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 2, 2);
 }
 
 void TextField::userChangedText() {

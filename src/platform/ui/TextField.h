@@ -35,11 +35,11 @@ class TextField : public QLineEdit {
     // Empties the field and its undo history, as for a used secret. Reports nothing.
     void forget();
 
-    // Marks the text as one that cannot be used: by an icon inside the field, with `why` as its
-    // tool tip and as the field's accessible description. An empty text takes the mark away.
+    // Marks the text as one that cannot be used, for the reason `why`: by a sign inside the field
+    // and a red outline. An empty reason takes the mark away.
     void setFault(const QString &why);
     // Why the text cannot be used; empty while the field is not marked.
-    QString fault() const { return accessibleDescription(); }
+    QString fault() const { return m_fault; }
 
   protected:
     // Editing begins; text() is the old text. Does nothing by itself.
@@ -52,6 +52,7 @@ class TextField : public QLineEdit {
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
   private:
     void userChangedText();
@@ -60,8 +61,9 @@ class TextField : public QLineEdit {
     bool endEditing();
 
     TextFieldDelegate *m_delegate = nullptr;
-    QAction *m_mark = nullptr;  // the icon of a fault; made for the first one
-    QString m_previous;         // the text before the change that is being made
+    QAction *m_mark = nullptr;  // the sign of a fault; made for the first one
+    QString m_fault;
+    QString m_previous;  // the text before the change that is being made
     bool m_editing = false;
     bool m_forgotten = false;   // emptied while it had the focus, and not changed since
     bool m_userChange = false;  // between the two signals of a change that the user made

@@ -6,7 +6,9 @@
 // The style's small warning sign, made when it is first shown.
 class WarningSign : public QLabel {
   public:
-    using QLabel::QLabel;
+    explicit WarningSign(QWidget *parent = nullptr) : QLabel(parent) {
+        setAlignment(Qt::AlignCenter);
+    }
 
     QSize sizeHint() const override {
         const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
