@@ -137,6 +137,7 @@ bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &ent
     }
     if (reached)
         for (const auto &page : dictionary_ViewManagement) page->showDataManager();
+    if (reached) password_ViewObject->showPasswordState({});  // asked when its page is shown
     bool_GetDataSuccess = read == ReadResult::Complete && bool_usbPrinter;
     // First, since enabling the pages may find a difference that can be sent.
     if (reached && entry) MSW_SendButtonDisable();

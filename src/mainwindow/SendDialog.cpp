@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/ui/FieldLooks.h"
+#include "settings/Rules.h"
 #include "settings/SettingKeys.h"
 
 using namespace Qt::StringLiterals;
@@ -32,7 +33,8 @@ SendDialog::SendDialog(QWidget *parent) : ModalWindow(parent) {
                 {DWT_View_Key_Send_End, textField_SendEnd},
                 {DWT_View_Key_Send_ConnectError, textField_SendConnectError}};
     for (QLabel *label : std::as_const(m_saying)) m_usualTexts.insert(label, label->text());
-    fitWidth(textField_Password, u"00000000"_s);
+    // The longest password, and the button inside.
+    fitWidth(textField_Password, QString(Rules::longestPassword + 5, u'M'));
     showChanges(false);
     connectButtons();
     const auto observe = [this](const QString &name,

@@ -4,6 +4,7 @@
 #include <QScrollBar>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
+#include <algorithm>
 
 #include "platform/ui/Colours.h"
 
@@ -74,7 +75,10 @@ class MarkDelegate : public QStyledItemDelegate {
     using QStyledItemDelegate::QStyledItemDelegate;
 
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override {
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 2 * rowMargin);
+        const QSize plain = QStyledItemDelegate::sizeHint(option, index);
+        // As high with a mark as without.
+        const int height = std::max(plain.height(), option.decorationSize.height());
+        return {plain.width(), height + 2 * rowMargin};
     }
 
   protected:
