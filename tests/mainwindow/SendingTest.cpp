@@ -83,6 +83,10 @@ TEST_F(Sending, WrongInputOnTwoPagesIsToldAndLeadsToTheFirstFieldToMend) {
     EXPECT_EQ(markOf("Names"), text("Changed, not sent yet"));
     choose("Wired network");
     EXPECT_EQ(markOf("Names"), text("A value on this page cannot be used"));
+    const auto height = [this](const char *category) {
+        return control<OutlineView>("outlineView_Main")->visualRect(rowOf(category)).height();
+    };
+    EXPECT_EQ(height("Names"), height("Password")) << "the outline jumps";
     press(control("radioButton_EthernetIPAddressSetting"), "buttonCell_Manual");
     type("textField_EthernetIpAddress", "1.2.3");
     dialogs

@@ -4,7 +4,6 @@
 #include <QScrollBar>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
-#include <algorithm>
 
 #include "platform/ui/Colours.h"
 
@@ -76,9 +75,13 @@ class MarkDelegate : public QStyledItemDelegate {
 
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override {
         const QSize plain = QStyledItemDelegate::sizeHint(option, index);
-        // As high with a mark as without.
-        const int height = std::max(plain.height(), option.decorationSize.height());
-        return {plain.width(), height + 2 * rowMargin};
+        QStyleOptionViewItem marked = option;
+        initStyleOption(&marked, index);
+        marked.features |= QStyleOptionViewItem::HasDecoration;  // as high with a mark as without
+        marked.decorationSize = option.decorationSize;
+        const QSize size = marked.widget->style()->sizeFromContents(QStyle::CT_ItemViewItem,
+                                                                    &marked, {}, marked.widget);
+        return {plain.width(), size.height() + 2 * rowMargin};
     }
 
   protected:
