@@ -111,6 +111,17 @@ void shootPages() {
     }
     for (int i = 0; i < 6; ++i) QTest::keyClick(outline, Qt::Key_Up);
     shoot(walk.main(), "page-firmware");
+    for (int i = 0; i < 2; ++i) QTest::keyClick(outline, Qt::Key_Down);
+    const std::pair<const char *, const char *> typed[] = {
+        {"textField_EthernetIpAddress", "192.168.20"},
+        {"textField_EthernetSubnetMask", "255.0.255.0"}};
+    for (const auto &[field, value] : typed) {
+        walk.type(field, text(value));
+        QTest::keyClick(controlOf(walk.main(), field), Qt::Key_Return);
+    }
+    controlOf(walk.main(), "textField_EthernetDefaultGateway")->setFocus();
+    shoot(walk.main(), "page-edited");
+    walk.dialogs().on("view_SendChangeCheck", "button_SendChangeCheckNoReflect");
     walk.main()->close();
     open(walk, "Goods in (first floor)");
     shoot(walk.main(), "page-read-only");

@@ -96,6 +96,9 @@
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
         <translation>Neues Administrator&amp;passwort festlegen</translation>
     </message>
+    <message id="DWT_Localize_Password_Text_Remove_Label">
+        <translation>Passwort &amp;entfernen</translation>
+    </message>
     <message id="DWT_Localize_Password_Box_AdministratorPassword">
         <translation>Administratorpasswort</translation>
     </message>
@@ -108,8 +111,17 @@
     <message id="DWT_Localize_Password_Text_PasswordInfomation">
         <translation>Ist ein Administratorpasswort festgelegt, lassen sich Einstellungen erst nach der Anmeldung ändern.</translation>
     </message>
+    <message id="DWT_Localize_Password_State_Set">
+        <translation>Der Drucker hat derzeit ein Administratorpasswort.</translation>
+    </message>
+    <message id="DWT_Localize_Password_State_NotSet">
+        <translation>Der Drucker hat derzeit kein Administratorpasswort.</translation>
+    </message>
+    <message id="DWT_Localize_Password_State_Unknown">
+        <translation>Es ist nicht bekannt, ob der Drucker derzeit ein Administratorpasswort hat.</translation>
+    </message>
     <message id="DWT_Localize_Password_Text_Cautions_Label">
-        <translation>Lassen Sie beide Felder leer, um das Passwort zu entfernen. Notieren Sie ein neues Passwort: Es kann nicht aus dem Drucker gelesen werden.</translation>
+        <translation>Notieren Sie ein neues Passwort: Es kann nicht aus dem Drucker gelesen werden.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
         <translation>Das Passwort, nach dem gefragt wird, bevor Einstellungen geändert werden.</translation>
@@ -129,6 +141,12 @@
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>Die Passwörter stimmen nicht überein. Geben Sie in beiden Feldern dasselbe Passwort ein.</translation>
     </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_Missing">
+        <translation>Geben Sie das neue Passwort ein, oder wählen Sie „Passwort entfernen“.</translation>
+    </message>
+    <message id="DWT_Localize_Password_TooLong">
+        <translation>Höchstens 8 Zeichen: Der Rest wird nicht übernommen.</translation>
+    </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
         <translation>Noch nicht geprüft</translation>
     </message>
@@ -140,6 +158,9 @@
     </message>
     <message id="DWT_Localize_Ethernet_Button_Connect">
         <translation>&amp;Verbindung prüfen</translation>
+    </message>
+    <message id="DWT_Localize_Connect_Unsent">
+        <translation>Eine Prüfung ist möglich, sobald die Änderungen gesendet oder zurückgenommen sind.</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
         <translation>LAN-Verbindung</translation>
@@ -958,6 +979,9 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Send_Warning_KeyKept">
         <translation>Das Netzwerk „%1“ ist geschützt, es wurde aber kein Schlüssel eingegeben. Der Drucker behält seinen alten Schlüssel.</translation>
     </message>
+    <message id="DWT_Localize_Send_Warning_SecurityUnknown">
+        <translation>Die Sicherheit des Netzwerks „%1“ ist nicht bekannt. Wählen Sie seine Authentifizierung.</translation>
+    </message>
     <message id="DWT_Localize_Send_Warning_NotAMask">
         <translation>%1 ist keine übliche Subnetzmaske. Computer erreichen den Drucker möglicherweise nicht.</translation>
     </message>
@@ -975,6 +999,9 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Key_Show">
         <translation>Schlüssel anzeigen</translation>
+    </message>
+    <message id="DWT_Localize_Password_Show">
+        <translation>Passwort anzeigen</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Empty_USB">
         <translation>Es wurde kein Drucker gefunden. Prüfen Sie, ob der Drucker eingeschaltet und über ein USB-Kabel mit diesem Computer verbunden ist. Wählen Sie dann „Erneut suchen“.</translation>

@@ -96,6 +96,9 @@
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
         <translation>Set a &amp;new administrator password</translation>
     </message>
+    <message id="DWT_Localize_Password_Text_Remove_Label">
+        <translation>Re&amp;move the password</translation>
+    </message>
     <message id="DWT_Localize_Password_Box_AdministratorPassword">
         <translation>Administrator password</translation>
     </message>
@@ -108,8 +111,17 @@
     <message id="DWT_Localize_Password_Text_PasswordInfomation">
         <translation>When an administrator password is set, settings can be changed only after logging in.</translation>
     </message>
+    <message id="DWT_Localize_Password_State_Set">
+        <translation>The printer has an administrator password now.</translation>
+    </message>
+    <message id="DWT_Localize_Password_State_NotSet">
+        <translation>The printer has no administrator password now.</translation>
+    </message>
+    <message id="DWT_Localize_Password_State_Unknown">
+        <translation>It is not known whether the printer has an administrator password now.</translation>
+    </message>
     <message id="DWT_Localize_Password_Text_Cautions_Label">
-        <translation>Leave both fields empty to remove the password. Keep a note of a new one: it cannot be read from the printer.</translation>
+        <translation>Keep a note of a new password: it cannot be read from the printer.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
         <translation>The password that will be asked for before settings are changed.</translation>
@@ -129,6 +141,12 @@
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>The passwords do not match. Type the same password in both fields.</translation>
     </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_Missing">
+        <translation>Enter the new password, or choose “Remove the password”.</translation>
+    </message>
+    <message id="DWT_Localize_Password_TooLong">
+        <translation>8 characters at most: the rest is not taken.</translation>
+    </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
         <translation>Not tested yet</translation>
     </message>
@@ -140,6 +158,9 @@
     </message>
     <message id="DWT_Localize_Ethernet_Button_Connect">
         <translation>&amp;Test connection</translation>
+    </message>
+    <message id="DWT_Localize_Connect_Unsent">
+        <translation>A test is possible once the changes are sent or undone.</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
         <translation>Wired connection</translation>
@@ -958,6 +979,9 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Send_Warning_KeyKept">
         <translation>The network “%1” is protected, but no key was entered. The printer keeps its old key.</translation>
     </message>
+    <message id="DWT_Localize_Send_Warning_SecurityUnknown">
+        <translation>The security of the network “%1” is not known. Choose its authentication.</translation>
+    </message>
     <message id="DWT_Localize_Send_Warning_NotAMask">
         <translation>%1 is not a usual subnet mask. Computers may not reach the printer.</translation>
     </message>
@@ -975,6 +999,9 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Key_Show">
         <translation>Show the key</translation>
+    </message>
+    <message id="DWT_Localize_Password_Show">
+        <translation>Show the password</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Empty_USB">
         <translation>No printer was found. Check that the printer is switched on and connected to this computer with a USB cable. Then choose “Look again”.</translation>

@@ -96,6 +96,9 @@
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
         <translation>E&amp;stablecer una nueva contraseña de administrador</translation>
     </message>
+    <message id="DWT_Localize_Password_Text_Remove_Label">
+        <translation>&amp;Quitar la contraseña</translation>
+    </message>
     <message id="DWT_Localize_Password_Box_AdministratorPassword">
         <translation>Contraseña de administrador</translation>
     </message>
@@ -108,8 +111,17 @@
     <message id="DWT_Localize_Password_Text_PasswordInfomation">
         <translation>Con una contraseña de administrador, los ajustes solo se pueden cambiar tras iniciar sesión.</translation>
     </message>
+    <message id="DWT_Localize_Password_State_Set">
+        <translation>La impresora tiene ahora una contraseña de administrador.</translation>
+    </message>
+    <message id="DWT_Localize_Password_State_NotSet">
+        <translation>La impresora no tiene ahora ninguna contraseña de administrador.</translation>
+    </message>
+    <message id="DWT_Localize_Password_State_Unknown">
+        <translation>No se sabe si la impresora tiene ahora una contraseña de administrador.</translation>
+    </message>
     <message id="DWT_Localize_Password_Text_Cautions_Label">
-        <translation>Deje ambos campos vacíos para quitar la contraseña. Anote la nueva: no se puede leer de la impresora.</translation>
+        <translation>Anote la contraseña nueva: no se puede leer de la impresora.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
         <translation>Contraseña que se pedirá antes de cambiar ajustes.</translation>
@@ -129,6 +141,12 @@
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>Las contraseñas no coinciden. Escriba la misma contraseña en ambos campos.</translation>
     </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_Missing">
+        <translation>Escriba la contraseña nueva o elija «Quitar la contraseña».</translation>
+    </message>
+    <message id="DWT_Localize_Password_TooLong">
+        <translation>8 caracteres como máximo: el resto no se acepta.</translation>
+    </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
         <translation>Aún sin probar</translation>
     </message>
@@ -140,6 +158,9 @@
     </message>
     <message id="DWT_Localize_Ethernet_Button_Connect">
         <translation>&amp;Probar conexión</translation>
+    </message>
+    <message id="DWT_Localize_Connect_Unsent">
+        <translation>Se puede probar cuando los cambios se hayan enviado o deshecho.</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
         <translation>Conexión cableada</translation>
@@ -958,6 +979,9 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Send_Warning_KeyKept">
         <translation>La red «%1» está protegida, pero no se ha escrito ninguna clave. La impresora conserva su clave anterior.</translation>
     </message>
+    <message id="DWT_Localize_Send_Warning_SecurityUnknown">
+        <translation>No se conoce la seguridad de la red «%1». Elija su autenticación.</translation>
+    </message>
     <message id="DWT_Localize_Send_Warning_NotAMask">
         <translation>%1 no es una máscara de subred habitual. Es posible que los equipos no puedan acceder a la impresora.</translation>
     </message>
@@ -975,6 +999,9 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Key_Show">
         <translation>Mostrar la clave</translation>
+    </message>
+    <message id="DWT_Localize_Password_Show">
+        <translation>Mostrar la contraseña</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Empty_USB">
         <translation>No se encontró ninguna impresora. Compruebe que la impresora está encendida y conectada a este equipo con un cable USB. Elija después «Buscar de nuevo».</translation>

@@ -96,6 +96,9 @@
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
         <translation>Définir un nou&amp;veau mot de passe administrateur</translation>
     </message>
+    <message id="DWT_Localize_Password_Text_Remove_Label">
+        <translation>&amp;Supprimer le mot de passe</translation>
+    </message>
     <message id="DWT_Localize_Password_Box_AdministratorPassword">
         <translation>Mot de passe administrateur</translation>
     </message>
@@ -108,8 +111,17 @@
     <message id="DWT_Localize_Password_Text_PasswordInfomation">
         <translation>Si un mot de passe administrateur est défini, les paramètres ne peuvent être modifiés qu’après identification.</translation>
     </message>
+    <message id="DWT_Localize_Password_State_Set">
+        <translation>L’imprimante a actuellement un mot de passe administrateur.</translation>
+    </message>
+    <message id="DWT_Localize_Password_State_NotSet">
+        <translation>L’imprimante n’a actuellement pas de mot de passe administrateur.</translation>
+    </message>
+    <message id="DWT_Localize_Password_State_Unknown">
+        <translation>On ignore si l’imprimante a actuellement un mot de passe administrateur.</translation>
+    </message>
     <message id="DWT_Localize_Password_Text_Cautions_Label">
-        <translation>Laissez les deux champs vides pour supprimer le mot de passe. Notez le nouveau : il ne peut pas être lu dans l’imprimante.</translation>
+        <translation>Notez le nouveau mot de passe : il ne peut pas être lu dans l’imprimante.</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
         <translation>Mot de passe demandé avant toute modification des paramètres.</translation>
@@ -129,6 +141,12 @@
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>Les deux mots de passe sont différents. Saisissez le même mot de passe dans les deux champs.</translation>
     </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_Missing">
+        <translation>Saisissez le nouveau mot de passe, ou choisissez « Supprimer le mot de passe ».</translation>
+    </message>
+    <message id="DWT_Localize_Password_TooLong">
+        <translation>8 caractères au plus : le reste n’est pas pris en compte.</translation>
+    </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
         <translation>Pas encore testé</translation>
     </message>
@@ -140,6 +158,9 @@
     </message>
     <message id="DWT_Localize_Ethernet_Button_Connect">
         <translation>&amp;Tester la connexion</translation>
+    </message>
+    <message id="DWT_Localize_Connect_Unsent">
+        <translation>Un test est possible une fois les modifications envoyées ou annulées.</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
         <translation>Connexion filaire</translation>
@@ -958,6 +979,9 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Send_Warning_KeyKept">
         <translation>Le réseau « %1 » est protégé, mais aucune clé n’a été saisie. L’imprimante garde son ancienne clé.</translation>
     </message>
+    <message id="DWT_Localize_Send_Warning_SecurityUnknown">
+        <translation>La sécurité du réseau « %1 » n’est pas connue. Choisissez son authentification.</translation>
+    </message>
     <message id="DWT_Localize_Send_Warning_NotAMask">
         <translation>%1 n’est pas un masque de sous-réseau habituel. Les ordinateurs risquent de ne pas joindre l’imprimante.</translation>
     </message>
@@ -975,6 +999,9 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Key_Show">
         <translation>Afficher la clé</translation>
+    </message>
+    <message id="DWT_Localize_Password_Show">
+        <translation>Afficher le mot de passe</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Empty_USB">
         <translation>Aucune imprimante trouvée. Vérifiez que l’imprimante est allumée et reliée à cet ordinateur par un câble USB. Choisissez ensuite « Rechercher à nouveau ».</translation>

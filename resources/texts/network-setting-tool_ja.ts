@@ -96,6 +96,9 @@
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
         <translation>新しい管理者パスワードを設定する(&amp;N)</translation>
     </message>
+    <message id="DWT_Localize_Password_Text_Remove_Label">
+        <translation>パスワードを削除する(&amp;D)</translation>
+    </message>
     <message id="DWT_Localize_Password_Box_AdministratorPassword">
         <translation>管理者パスワード</translation>
     </message>
@@ -108,8 +111,17 @@
     <message id="DWT_Localize_Password_Text_PasswordInfomation">
         <translation>管理者パスワードを設定すると、ログインしないと設定を変更できません。</translation>
     </message>
+    <message id="DWT_Localize_Password_State_Set">
+        <translation>現在、管理者パスワードが設定されています。</translation>
+    </message>
+    <message id="DWT_Localize_Password_State_NotSet">
+        <translation>現在、管理者パスワードは設定されていません。</translation>
+    </message>
+    <message id="DWT_Localize_Password_State_Unknown">
+        <translation>現在、管理者パスワードが設定されているかどうかは不明です。</translation>
+    </message>
     <message id="DWT_Localize_Password_Text_Cautions_Label">
-        <translation>パスワードを削除するには、両方の欄を空にします。新しいパスワードは控えておいてください。プリンターから読み出すことはできません。</translation>
+        <translation>新しいパスワードは控えておいてください。プリンターから読み出すことはできません。</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
         <translation>設定を変更する前に要求されるパスワードです。</translation>
@@ -129,6 +141,12 @@
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>2 つのパスワードが一致しません。両方の欄に同じパスワードを入力してください。</translation>
     </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_Missing">
+        <translation>新しいパスワードを入力するか、[パスワードを削除する] を選択してください。</translation>
+    </message>
+    <message id="DWT_Localize_Password_TooLong">
+        <translation>8 文字までです。それ以上は入力されません。</translation>
+    </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
         <translation>未テスト</translation>
     </message>
@@ -140,6 +158,9 @@
     </message>
     <message id="DWT_Localize_Ethernet_Button_Connect">
         <translation>接続テスト(&amp;T)</translation>
+    </message>
+    <message id="DWT_Localize_Connect_Unsent">
+        <translation>変更を送信するか元に戻すと、テストできます。</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
         <translation>有線接続</translation>
@@ -958,6 +979,9 @@
     <message id="DWT_Localize_Send_Warning_KeyKept">
         <translation>ネットワーク「%1」は保護されていますが、キーが入力されていません。プリンターは以前のキーをそのまま使用します。</translation>
     </message>
+    <message id="DWT_Localize_Send_Warning_SecurityUnknown">
+        <translation>ネットワーク「%1」のセキュリティが不明です。認証方式を選択してください。</translation>
+    </message>
     <message id="DWT_Localize_Send_Warning_NotAMask">
         <translation>%1 は一般的なサブネットマスクではありません。コンピューターからプリンターに接続できない可能性があります。</translation>
     </message>
@@ -975,6 +999,9 @@
     </message>
     <message id="DWT_Localize_Key_Show">
         <translation>キーを表示</translation>
+    </message>
+    <message id="DWT_Localize_Password_Show">
+        <translation>パスワードを表示</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Empty_USB">
         <translation>プリンターが見つかりません。プリンターの電源が入っていて、USB ケーブルでこのコンピューターに接続されていることを確認してから、［再検索］をクリックしてください。</translation>

@@ -96,6 +96,9 @@
     <message id="DWT_Localize_Password_Text_PasswordChange_Label">
         <translation>设置新的管理员密码(&amp;N)</translation>
     </message>
+    <message id="DWT_Localize_Password_Text_Remove_Label">
+        <translation>删除密码(&amp;D)</translation>
+    </message>
     <message id="DWT_Localize_Password_Box_AdministratorPassword">
         <translation>管理员密码</translation>
     </message>
@@ -108,8 +111,17 @@
     <message id="DWT_Localize_Password_Text_PasswordInfomation">
         <translation>设置管理员密码后，必须登录才能更改设置。</translation>
     </message>
+    <message id="DWT_Localize_Password_State_Set">
+        <translation>打印机目前设有管理员密码。</translation>
+    </message>
+    <message id="DWT_Localize_Password_State_NotSet">
+        <translation>打印机目前未设管理员密码。</translation>
+    </message>
+    <message id="DWT_Localize_Password_State_Unknown">
+        <translation>目前不清楚打印机是否设有管理员密码。</translation>
+    </message>
     <message id="DWT_Localize_Password_Text_Cautions_Label">
-        <translation>将两个输入框都留空可删除密码。请记下新密码：无法从打印机读取密码。</translation>
+        <translation>请记下新密码：无法从打印机读取密码。</translation>
     </message>
     <message id="DWT_ToolChip_Password_Text_Password">
         <translation>更改设置前需要输入的密码。</translation>
@@ -129,6 +141,12 @@
     <message id="DWT_Localize_Alert_InfoText_Password_MatchingErr">
         <translation>两次输入的密码不一致。请在两个输入框中输入相同的密码。</translation>
     </message>
+    <message id="DWT_Localize_Alert_InfoText_Password_Missing">
+        <translation>请输入新密码，或选择“删除密码”。</translation>
+    </message>
+    <message id="DWT_Localize_Password_TooLong">
+        <translation>最多 8 个字符：多余的字符不会被接受。</translation>
+    </message>
     <message id="DWT_Localize_Ethernet_Text_Connection_Nolook">
         <translation>尚未测试</translation>
     </message>
@@ -140,6 +158,9 @@
     </message>
     <message id="DWT_Localize_Ethernet_Button_Connect">
         <translation>测试连接(&amp;T)</translation>
+    </message>
+    <message id="DWT_Localize_Connect_Unsent">
+        <translation>发送或撤消更改后即可测试。</translation>
     </message>
     <message id="DWT_Localize_Ethernet_Box_WiredConnection">
         <translation>有线连接</translation>
@@ -958,6 +979,9 @@
     <message id="DWT_Localize_Send_Warning_KeyKept">
         <translation>网络“%1”受保护，但未输入密钥。打印机将保留原来的密钥。</translation>
     </message>
+    <message id="DWT_Localize_Send_Warning_SecurityUnknown">
+        <translation>网络“%1”的安全设置未知。请选择其身份验证方式。</translation>
+    </message>
     <message id="DWT_Localize_Send_Warning_NotAMask">
         <translation>%1 不是常用的子网掩码。计算机可能无法访问打印机。</translation>
     </message>
@@ -975,6 +999,9 @@
     </message>
     <message id="DWT_Localize_Key_Show">
         <translation>显示密钥</translation>
+    </message>
+    <message id="DWT_Localize_Password_Show">
+        <translation>显示密码</translation>
     </message>
     <message id="DWT_Localize_PrinterList_Empty_USB">
         <translation>未找到打印机。请检查打印机是否已开机，并已用 USB 电缆连接到此计算机。然后选择“重新搜索”。</translation>

@@ -139,6 +139,7 @@ bool DWTMainSettingWindow::initializeData(const std::optional<PrinterEntry> &ent
     if (reached && !m_cancelled) {
         m_readAt = QTime::currentTime();
         for (const auto &page : dictionary_ViewManagement) page->showDataManager();
+        password_ViewObject->showPasswordState({});  // asked when its page is shown
         showState(read == ReadResult::Complete);
     }
     bool_GetDataSuccess = read == ReadResult::Complete && bool_usbPrinter;

@@ -135,6 +135,9 @@ class DWTMainSettingWindow : public QObject,
     Plan shownPlan() const;
     void enableAllViews(bool enabled);
     void MSW_UISelector(const QString &viewKey) { m_pages->select(viewKey); }
+    // Asks the printer whether it has a password, for the page that says it, unless it
+    // is known.
+    void askPasswordState();
     // The page that is shown; null when none is.
     DWTBaseView *shownPage() const;
     std::optional<QString> MSW_SelectedUIString() const;

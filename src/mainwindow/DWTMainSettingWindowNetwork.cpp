@@ -23,7 +23,7 @@ void DWTMainSettingWindow::push_InfrastructureSelectSSID() {
     infrastructure_ViewObject->showSSIDFromSelectSSID(*picked);
     MSW_SendButtonEnable();
     followEdits();
-    infrastructure_ViewObject->focusKey();
+    infrastructure_ViewObject->focusNextEntry();
 }
 
 NetworkList::Found DWTMainSettingWindow::networksInReach(QWidget *over) {

@@ -3,6 +3,7 @@
 #include <QStyle>
 
 #include "mainwindow/DWTMainSettingWindow.h"
+#include "mainwindow/WaitWindow.h"
 #include "platform/core/PropertyList.h"
 #include "platform/core/Texts.h"
 
@@ -46,6 +47,13 @@ void DWTMainSettingWindow::followEdits() {
     Q_EMIT editsFollowed();
 }
 
+void DWTMainSettingWindow::askPasswordState() {
+    if (!bool_GetDataSuccess || password_ViewObject->isStateKnown()) return;
+    const WaitSheet waiting = window_Wait->over(window_Main);
+    const int state = dataManager_Object->isPassword();
+    password_ViewObject->showPasswordState(state);
+}
+
 DWTBaseView *DWTMainSettingWindow::shownPage() const {
     return dictionary_ViewManagement.value(MSW_SelectedUIString().value_or(QString())).get();
 }
@@ -74,7 +82,10 @@ SettingRecord DWTMainSettingWindow::shownRecord() const {
 }
 
 Plan DWTMainSettingWindow::shownPlan() const {
-    return dataManager_Object ? planOf(dataManager_Object->savedData(), shownRecord()) : Plan();
+    if (!dataManager_Object) return {};
+    Plan plan = planOf(dataManager_Object->savedData(), shownRecord());
+    for (const auto &page : dictionary_ViewManagement) plan.warnings << page->ownWarnings();
+    return plan;
 }
 
 int DWTMainSettingWindow::numberOfChildrenOfItem(OutlineView *, const QVariantMap &item) {
@@ -119,6 +130,7 @@ bool DWTMainSettingWindow::shouldSelectItem(OutlineView *, const QVariantMap &it
     if (viewKey == shown) return false;
     if (bool_usbPrinter && shown) dictionary_ViewManagement[*shown]->itemSetToDataManager();
     MSW_UISelector(viewKey);
+    if (viewKey == DWT_View_Key_Password) askPasswordState();
     Q_EMIT editsFollowed();
     return true;
 }

@@ -61,6 +61,7 @@ std::optional<QString> DWTMainSettingWindow::sendViewAskingPassword() {
     const WaitSheet waiting = window_Wait->over(window_Main);
     const int password = dataManager_Object->isPassword();
     if (isWaitCancelled()) return {};
+    password_ViewObject->showPasswordState(password);
     if (password == PasswordState::NotSet) return DWT_View_Key_Send_Confirm;
     if (password != PasswordState::Set) return DWT_View_Key_Send_ConnectError;
     window_SendData->clearPassword();
@@ -135,10 +136,18 @@ void DWTMainSettingWindow::push_SendEndOK() {
         m_ending.isClean(DWT_SaveData_Infrastructure_WEPKey))
         infrastructure_ViewObject->clearEncryptionKey(bool_usbPrinter);
     if (m_ending.isClean(DWT_SaveData_Password_Password)) {
+        const CategoryDictionary sent = password_ViewObject->shownCategory();
+        const bool isEmpty = textValue(sent, DWT_SaveData_Password_Password).isEmpty();
+        if (integerValue(sent, DWT_SaveData_Password_Change) != 0)
+            password_ViewObject->showPasswordState(isEmpty ? PasswordState::NotSet
+                                                           : PasswordState::Set);
         password_ViewObject->clearPassword(bool_usbPrinter);
         password_ViewObject->passwordChangeSetting(false);
     }
-    for (const auto &page : dictionary_ViewManagement) page->followSavedData();
+    for (const auto &page : dictionary_ViewManagement) {
+        page->coverSecrets();
+        page->followSavedData();
+    }
     showOwnName();
     if (m_ending.isComplete())
         MSW_SendButtonDisable();

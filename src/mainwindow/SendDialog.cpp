@@ -6,6 +6,7 @@
 
 #include "platform/core/Texts.h"
 #include "platform/ui/FieldLooks.h"
+#include "settings/Rules.h"
 #include "settings/SettingKeys.h"
 
 using namespace Qt::StringLiterals;
@@ -89,7 +90,8 @@ SendDialog::SendDialog(QWidget *parent) : ModalWindow(parent) {
                 {DWT_View_Key_Send_End, textField_SendEnd},
                 {DWT_View_Key_Send_ConnectError, textField_SendConnectError}};
     for (QLabel *label : std::as_const(m_saying)) m_usualTexts.insert(label, label->text());
-    fitWidth(textField_Password, u"00000000"_s);
+    // The longest password, and the button inside.
+    fitWidth(textField_Password, QString(Rules::longestPassword + 5, u'M'));
     connect(&m_showingItem, &QTimer::timeout, this, &SendDialog::showItem);
     connectButtons();
     const auto observe = [this](const QString &name,

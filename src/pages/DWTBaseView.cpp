@@ -1,6 +1,7 @@
 #include "pages/DWTBaseView.h"
 
 #include <QCheckBox>
+#include <QFormLayout>
 #include <QLabel>
 #include <algorithm>
 
@@ -74,6 +75,24 @@ void DWTBaseView::initializeUI() {
     for (const QLabel *label : view_Base->findChildren<QLabel *>())
         if (label->buddy() && label->buddy()->accessibleName().isEmpty())
             label->buddy()->setAccessibleName(nameInLabel(label->text()));
+    alignLabels();
+}
+
+void DWTBaseView::alignLabels() {
+    QList<QLabel *> labels;
+    int width = 0;
+    for (const QFormLayout *form : view_Base->findChildren<QFormLayout *>())
+        for (int row = 0; row < form->rowCount(); ++row) {
+            const QLayoutItem *const item = form->itemAt(row, QFormLayout::LabelRole);
+            auto *const label = item ? qobject_cast<QLabel *>(item->widget()) : nullptr;
+            if (!label) continue;
+            labels << label;
+            width = std::max(width, label->sizeHint().width());
+        }
+    for (QLabel *label : labels) {
+        label->setMinimumWidth(width);
+        label->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    }
 }
 
 void DWTBaseView::showDataManager() {

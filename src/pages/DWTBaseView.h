@@ -14,6 +14,7 @@
 #include "platform/ui/PopUpButton.h"
 #include "platform/ui/TextField.h"
 #include "settings/DWTDataManager.h"
+#include "settings/SendWarnings.h"
 
 // Posted by a page after an edit, as sender: something differs from the saved data, or nothing.
 DWT_KEY(DWT_MainDialog_SendOK_Message);
@@ -49,6 +50,8 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     virtual void revert();
     // Follows the saved data after a send: what counts as changed, and what is said of it.
     void followSavedData();
+    // Masks the secrets that are shown.
+    void coverSecrets();
     // Checks the enabled fields. Alerts name what is wrong: one for all addresses, of which the
     // first wrong one is selected, then one a field. Numbers are forced into their range. False
     // when something is wrong; every wrong field is marked then.
@@ -64,6 +67,8 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // True when the controls' values equal the saved data.
     bool itemCheckDifferentToDataManager() { return shownCategory() == savedCategory(); }
 
+    // What only the page knows of its values, and is to be said before they are sent.
+    virtual QList<SendWarning> ownWarnings() const { return {}; }
     // The saved category with what the page shows now. A code that no choice stands for stays.
     virtual CategoryDictionary shownCategory() const;
 
@@ -102,6 +107,8 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // Adds a row that only shows its value.
     void addShown(QLineEdit *control, const QString &key);
     const std::vector<Field> &fields() const { return m_fields; }
+    // Shows or hides a control of the table, with its label.
+    void showRow(const QWidget *control, bool on);
     // The row of a control; a null pointer when it is none of the page's.
     const Field *fieldOf(const QWidget *control) const;
 
@@ -162,6 +169,8 @@ class DWTBaseView : public DWTBaseClass, public TextFieldDelegate {
     // Whether the printer did not report the value of a row, and nobody entered one.
     bool isUnknown(const Field &field) const;
     bool checkAddresses() const;
+    // Lets the labels of all groups of the page end at one place.
+    void alignLabels();
     Field &append(QWidget *control, const QString &key);
     // Marks what is wrong among the fields that are marked already, or among all.
     void updateMarks(bool all = false);

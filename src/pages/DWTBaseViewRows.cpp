@@ -1,15 +1,31 @@
 // What stands beside and below the fields: faults, notices, changes, and the way back from a
 // change.
 
+#include <QLabel>
+#include <QLayout>
+
 #include "pages/DWTBaseView.h"
 #include "platform/core/Texts.h"
 #include "platform/ui/FieldRow.h"
-#include "settings/SendWarnings.h"
+#include "platform/ui/MaskedField.h"
 #include "settings/Values.h"
 
 void DWTBaseView::followSavedData() {
     updateNotices();
     updateChanges();
+}
+
+void DWTBaseView::showRow(const QWidget *control, bool on) {
+    FieldRow *const row = fieldOf(control)->row;
+    row->setVisible(on);
+    for (auto *label : view_Base->findChildren<QLabel *>())
+        if (label->buddy() == control) label->setVisible(on);
+    // A layout that is not visible does not lay out by itself what comes back.
+    row->parentWidget()->layout()->activate();
+}
+
+void DWTBaseView::coverSecrets() {
+    for (auto *secret : view_Base->findChildren<MaskedField *>()) secret->cover();
 }
 
 void DWTBaseView::revert() {
@@ -82,7 +98,7 @@ QString DWTBaseView::noticeOf(const Field &field) const {
     const SettingRecord saved = ndm_Object->savedData();
     SettingRecord shown = saved;
     shown[string_ViewKey] = shownCategory();
-    for (const SendWarning &warning : warningsOf(saved, shown))
+    for (const SendWarning &warning : ownWarnings() + warningsOf(saved, shown))
         if (warning.viewKey == string_ViewKey && warning.key == field.key())
             return wordsOf(warning);
     return {};

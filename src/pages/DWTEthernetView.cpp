@@ -15,7 +15,7 @@ bool DWTEthernetView::ETV_Init() {
                DWT_SaveData_Connect_Gateway, &bool_EthernetGatewayInput,
                [this] { return itemInputCheckEthernetGateway(); });
     setControls({radioButton_EthernetIPAddressSetting, textField_EthernetIpAddress,
-                 textField_EthernetConnection, button_EthernetConnect,
+                 textField_EthernetConnection, button_EthernetConnect, textField_EthernetWhyNot,
                  "DWT_Localize_Ethernet_Text_Connection_Online",
                  "DWT_Localize_Ethernet_Text_Connection_Offline"});
     connect(radioButton_EthernetIPAddressSetting, &RadioGroup::selected, this,

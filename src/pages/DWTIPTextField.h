@@ -3,7 +3,7 @@
 #include "pages/RecallingTextField.h"
 
 // A text field into which only digits and dots can be typed; what is typed is filtered at once.
-class DWTIPTextField : public RecallingTextField {
+class DWTIPTextField : public RecallingTextField<TextField> {
     Q_OBJECT
   public:
     explicit DWTIPTextField(QWidget *parent = nullptr) : RecallingTextField(parent) {}

@@ -43,6 +43,7 @@ void DWTInfrastructureView::addAddressFields() {
                [this] { return itemInputCheckInfrastructureGateway(); });
     setControls({radioButton_InfrastructureIPAddressSetting, textField_InfrastructureIpAddress,
                  textField_InfrastructureConnection, button_InfrastructureConnect,
+                 textField_InfrastructureWhyNot,
                  "DWT_Localize_Infrastructure_Text_Connection_Online",
                  "DWT_Localize_Infrastructure_Text_Connection_Offline"});
 }
@@ -72,6 +73,9 @@ void DWTInfrastructureView::initializeUI() {
     offer(popupbutton_InfrastructureAuthentic, array_popUpButton_Authentic);
     initializeEncryption();
     offer(popupbutton_InfrastructureSelectWEPKey, array_popUpButton_SelectWEPKey, 1);
+    // Room for the choice with most fields, so that nothing moves with the choice.
+    showKeyFields(DWT_SaveData_Infrastructure_WEPKey);
+    box_Security->setMinimumHeight(box_Security->sizeHint().height());
 }
 
 // Codes are selected while all encryptions are offered. A network from the list is forgotten.
@@ -85,6 +89,7 @@ void DWTInfrastructureView::showDataManager() {
 void DWTInfrastructureView::forgetNetwork() {
     mutableDictionary_selectSSID.clear();
     bool_SSIDfromSelectSSID = false;
+    m_securityUnknown = false;
     sayKeyOf({});
 }
 
@@ -153,6 +158,7 @@ bool DWTInfrastructureView::textShouldEndEditing(TextField *control) {
 void DWTInfrastructureView::controlTextDidChange(TextField *control) {
     if (control == textField_InfrastructureSSID && bool_SSIDfromSelectSSID) {
         bool_SSIDfromSelectSSID = false;
+        m_securityUnknown = false;
         sayKeyOf({});
         mutableDictionary_ViewSettings.insert(DWT_SaveData_Infrastructure_SSIDList_SSID, QString());
     }
@@ -170,17 +176,21 @@ CategoryDictionary DWTInfrastructureView::shownCategory() const {
 }
 
 void DWTInfrastructureView::showSSIDFromSelectSSID(const SSIDEntry &network) {
-    const QMap<int, int> authentications{{ListAuthentication::WPA, Authentication::WPA},
+    const QMap<int, int> authentications{{ListAuthentication::Open, Authentication::Open},
+                                         {ListAuthentication::WPA, Authentication::WPA},
                                          {ListAuthentication::WPA2, Authentication::WPA2},
                                          {ListAuthentication::WPAAndWPA2, Authentication::WPA2}};
-    const QMap<int, int> encryptions{{ListEncryption::WEP, Encryption::WEP},
+    const QMap<int, int> encryptions{{ListEncryption::None, Encryption::None},
+                                     {ListEncryption::WEP, Encryption::WEP},
                                      {ListEncryption::TKIP, Encryption::TKIP},
                                      {ListEncryption::AES, Encryption::AES},
                                      {ListEncryption::TKIPAndAES, Encryption::AES}};
-    const int authentic =
-        authentications.value(integerValue(network, DWT_SSIDList_Authentic), Authentication::Open);
-    const int encryption =
-        encryptions.value(integerValue(network, DWT_SSIDList_Encryption), Encryption::None);
+    const int listedAuthentic = integerValue(network, DWT_SSIDList_Authentic);
+    const int listedEncryption = integerValue(network, DWT_SSIDList_Encryption);
+    m_securityUnknown =
+        !authentications.contains(listedAuthentic) || !encryptions.contains(listedEncryption);
+    const int authentic = authentications.value(listedAuthentic, Authentication::Open);
+    const int encryption = encryptions.value(listedEncryption, Encryption::None);
     mutableDictionary_selectSSID = network;
     mutableDictionary_selectSSID.insert(DWT_SSIDList_Authentic, authentic);
     mutableDictionary_selectSSID.insert(DWT_SSIDList_Encryption, encryption);
@@ -198,9 +208,19 @@ void DWTInfrastructureView::showSSIDFromSelectSSID(const SSIDEntry &network) {
     handOver(settings);
     selectAuthenticCodeInput();
     sayKeyOf(textField_InfrastructureSSID->text());
+    forgetConnectResult();
+    followSavedData();
 }
 
-void DWTInfrastructureView::focusKey() {
+QList<SendWarning> DWTInfrastructureView::ownWarnings() const {
+    if (!m_securityUnknown) return {};
+    return {{SendWarning::SecurityUnknown, viewKey(), textField_InfrastructureSSID->text(),
+             DWT_SaveData_Infrastructure_Authentic}};
+}
+
+void DWTInfrastructureView::focusNextEntry() {
+    if (m_securityUnknown)
+        return popupbutton_InfrastructureAuthentic->setFocus(Qt::OtherFocusReason);
     for (TextField *key : std::initializer_list<TextField *>{textField_InfrastructurePSK,
                                                              textField_InfrastructureWEPKey})
         if (key->isEnabled()) key->setFocus(Qt::OtherFocusReason);
@@ -237,6 +257,8 @@ void DWTInfrastructureView::clearEncryptionKey(bool) {
 }
 
 void DWTInfrastructureView::select_InfrastructureAuthentic() {
+    forgetConnectResult();
+    m_securityUnknown = false;
     storeChoice(popupbutton_InfrastructureAuthentic);
     if (popupbutton_InfrastructureAuthentic->currentData() !=
         integerValue(mutableDictionary_selectSSID, DWT_SSIDList_Authentic))
@@ -245,6 +267,8 @@ void DWTInfrastructureView::select_InfrastructureAuthentic() {
 }
 
 void DWTInfrastructureView::select_InfrastructureEncryption() {
+    forgetConnectResult();
+    m_securityUnknown = false;
     storeChoice(popupbutton_InfrastructureEncryption);
     if (itemInputCheckInfrastructureEncryption() !=
         integerValue(mutableDictionary_selectSSID, DWT_SSIDList_Encryption))
@@ -298,6 +322,14 @@ void DWTInfrastructureView::selectEncryptionCodeInput() {
     textField_InfrastructurePSK->setEnabled(key == DWT_SaveData_Infrastructure_PSK);
     textField_InfrastructureWEPKey->setEnabled(key == DWT_SaveData_Infrastructure_WEPKey);
     popupbutton_InfrastructureSelectWEPKey->setEnabled(key == DWT_SaveData_Infrastructure_WEPKey);
+    showKeyFields(key);
+}
+
+void DWTInfrastructureView::showKeyFields(const QString &key) {
+    const bool isWEP = key == DWT_SaveData_Infrastructure_WEPKey;
+    showRow(textField_InfrastructurePSK, key == DWT_SaveData_Infrastructure_PSK);
+    showRow(textField_InfrastructureWEPKey, isWEP);
+    showRow(popupbutton_InfrastructureSelectWEPKey, isWEP);
 }
 
 void DWTInfrastructureView::storeChoice(const QComboBox *popup) {

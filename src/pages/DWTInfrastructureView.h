@@ -19,11 +19,13 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
 
     // Takes a network over that the user picked in the list of those that the printer sees.
     void showSSIDFromSelectSSID(const SSIDEntry &network);
-    // Gives the focus to the key field that the chosen encryption uses, if any.
-    void focusKey();
+    // Gives the focus to what is to be entered next: the authentication while the network's is not
+    // known, otherwise the key that the chosen encryption uses, if any.
+    void focusNextEntry();
     // Empties the key fields. The argument is not used.
     void clearEncryptionKey(bool);
 
+    QList<SendWarning> ownWarnings() const override;
     bool textShouldEndEditing(TextField *control) override;
     void controlTextDidChange(TextField *control) override;
 
@@ -67,8 +69,10 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
     void adjustSecurity();
     // Offers the encryptions that go with the chosen authentication, and changes one that does not.
     void selectAuthenticCodeInput();
-    // Enables the key fields that the chosen encryption uses.
+    // Enables the key fields that the chosen encryption uses, and shows no others.
     void selectEncryptionCodeInput();
+    // Shows the fields of the key that the record holds under `key` alone.
+    void showKeyFields(const QString &key);
     void offerEncryptions(Rules::Encryptions offered);
     // Says in the empty key fields whose key belongs there; without a network, "unchanged".
     void sayKeyOf(const QString &network);
@@ -106,4 +110,6 @@ class DWTInfrastructureView : public InterfaceView, private Ui::InfrastructurePa
          bool_InfrastructureWEPKeyInput = false;
     // SSID and security come from a network of the list, unchanged.
     bool bool_SSIDfromSelectSSID = false;
+    // They do, but the list does not know the security, and the user has not chosen any.
+    bool m_securityUnknown = false;
 };

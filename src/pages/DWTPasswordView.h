@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pages/DWTBaseView.h"
+#include "settings/Codes.h"
 #include "ui_PasswordPage.h"
 
 // A new administrator password, typed twice. The printer's own is never read or shown.
@@ -10,9 +11,16 @@ class DWTPasswordView : public DWTBaseView, private Ui::PasswordPage {
   public:
     void initializeUI() override;
     void enableAllItems(bool enabled) override;
-    // Also checks that both fields agree.
+    void revert() override;
+    CategoryDictionary shownCategory() const override;
+    // Also checks that both fields agree, and are not empty.
     bool itemInputCheck() override;
 
+    // Says whether the printer has a password: a PasswordState; any other value stands for unknown.
+    void showPasswordState(int state);
+    bool isStateKnown() const {
+        return m_state == PasswordState::Set || m_state == PasswordState::NotSet;
+    }
     // Turns the change of the password on or off in the change data. Off empties the fields.
     void passwordChangeSetting(bool on);
     // Empties the fields and turns the change off, in the controls alone. The argument is not used.
@@ -22,10 +30,15 @@ class DWTPasswordView : public DWTBaseView, private Ui::PasswordPage {
     // The printer reports no password: reading changes no control.
     void fill(const Field &) override {}
     QString faultOf(const Field &field) const override;
+    QString noticeOf(const Field &field) const override;
+    void putBack(const Field &field) override;
 
   private:
-    // The check box's action.
+    // Actions of the two check boxes, of which at most one is on.
     void push_PasswordChange();
+    void push_PasswordRemove();
+    // The localised fault of both fields together; empty when there is none.
+    QString faultOfBoth() const;
     // Store the password in the change data when both fields agree. Always true.
     bool itemInputCheckPassword() { return !fieldsAgree() || store(secureTextField_Password); }
     bool itemInputCheckPasswordReinput() { return itemInputCheckPassword(); }
@@ -35,4 +48,7 @@ class DWTPasswordView : public DWTBaseView, private Ui::PasswordPage {
     QString passwordName() const { return fieldOf(secureTextField_Password)->name; }
     void enableFields(bool enabled);
     void emptyFields();
+
+    int m_state = 0;        // PasswordState
+    bool m_enabled = true;  // the whole page
 };

@@ -2,13 +2,17 @@
 
 #include "settings/Rules.h"
 
-DWTSecureTextField::DWTSecureTextField(QWidget *parent) : RecallingTextField(parent) {
-    setEchoMode(Password);
+DWTSecureTextField::DWTSecureTextField(QWidget *parent) : RecallingTextField(parent) {}
+
+void DWTSecureTextField::forget() {
+    m_refused = false;
+    RecallingTextField::forget();
 }
 
 void DWTSecureTextField::textDidChange() {
-    if (text().size() <= Rules::longestPassword)
-        string_SaveString = text();
-    else
+    m_refused = text().size() > Rules::longestPassword;
+    if (m_refused)
         replaceText(string_SaveString, static_cast<int>(string_SaveString.size()));
+    else
+        string_SaveString = text();
 }

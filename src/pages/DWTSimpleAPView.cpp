@@ -1,6 +1,8 @@
 #include "pages/DWTSimpleAPView.h"
 
+#include "platform/core/Texts.h"
 #include "platform/ui/FieldLooks.h"
+#include "settings/Codes.h"
 
 bool DWTSimpleAPView::SAP_Init() {
     SetViewKey(DWT_View_Key_SimpleAP);
@@ -20,6 +22,20 @@ bool DWTSimpleAPView::SAP_Init() {
 }
 
 void DWTSimpleAPView::SAP_Dealloc() {}
+
+// The key belongs to the encryption that the printer reports; without one there is none.
+void DWTSimpleAPView::showDataManager() {
+    DWTBaseView::showDataManager();
+    const CategoryDictionary saved = savedCategory();
+    const auto encryption = saved.constFind(DWT_SaveData_SimpleAP_Encryption);
+    const bool isKnown = encryption != saved.constEnd();
+    const int code = integerValue(saved, DWT_SaveData_SimpleAP_Encryption);
+    textField_Label_PSK->setText(localized(isKnown && code == Encryption::WEP
+                                               ? "DWT_Localize_Infrastructure_Text_WEPKey_Label"
+                                               : "DWT_Localize_SimpleAP_Text_PSK_Label"));
+    textField_SimpleAPPSK->setAccessibleName(nameInLabel(textField_Label_PSK->text()));
+    showRow(textField_SimpleAPPSK, !isKnown || code != Encryption::None);
+}
 
 void DWTSimpleAPView::fill(const Field &field) {
     if (field.edited)

@@ -8,6 +8,7 @@ class DWTSimpleAPView : public DWTBaseView, private Ui::SimpleAPPage {
     DWT_SETUP(DWTSimpleAPView, DWTBaseView, SAP_Init, SAP_Dealloc)
 
   public:
+    void showDataManager() override;
     // Says above the settings when the printer's communication mode does not use them.
     void showIsUsed(bool used) { textField_SimpleAPNotUsed->setHidden(used); }
 

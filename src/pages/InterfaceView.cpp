@@ -16,6 +16,7 @@ void InterfaceView::addAddress(TextField *field, const QString &key, const QStri
 void InterfaceView::setControls(const Controls &controls) {
     m_controls = controls;
     m_untested = controls.state->text();
+    controls.whyNot->keepRoomFor(localized("DWT_Localize_Connect_Unsent"));
     QObject::connect(controls.connect, &QAbstractButton::clicked, this,
                      &InterfaceView::connectRequested);
 }
@@ -50,9 +51,15 @@ bool InterfaceView::textShouldBeginEditing(TextField *control) {
 }
 
 void InterfaceView::controlTextDidChange(TextField *control) {
-    const Field *const field = fieldOf(control);
-    if (field && field->isAddress()) forgetConnectResult();
+    if (fieldOf(control)) forgetConnectResult();
     DWTBaseView::controlTextDidChange(control);
+}
+
+void InterfaceView::settingConnectButtonEnable(bool enabled) {
+    const QString why = enabled ? QString() : localized("DWT_Localize_Connect_Unsent");
+    m_controls.connect->setEnabled(enabled);
+    m_controls.connect->setToolTip(why);
+    m_controls.whyNot->say(why, FieldNote::Kind::Rule);
 }
 
 void InterfaceView::showConnectResult(bool online) {

@@ -4,6 +4,7 @@
 #include <QLabel>
 
 #include "pages/DWTBaseView.h"
+#include "platform/ui/FieldNote.h"
 #include "platform/ui/RadioGroup.h"
 
 // A page of a network interface: its address setup and the test of its connection. In automatic
@@ -16,12 +17,12 @@ class InterfaceView : public DWTBaseView {
     void enableAllItems(bool enabled) override;
     bool itemConnectChangeCheck() override;
     bool textShouldBeginEditing(TextField *control) override;
-    // The result of a test does not hold for another address.
     void controlTextDidChange(TextField *control) override;
 
     // Shows whether a printer answered at the address that the window tested.
     void showConnectResult(bool online);
-    void settingConnectButtonEnable(bool enabled) { m_controls.connect->setEnabled(enabled); }
+    // Disabled, the button and the text below it say why.
+    void settingConnectButtonEnable(bool enabled);
     // The typed address, split at its dots.
     QStringList getipAddressArray() const { return m_controls.address->text().split(u'.'); }
 
@@ -40,6 +41,7 @@ class InterfaceView : public DWTBaseView {
         TextField *address;  // the printer's own
         QLabel *state;
         QAbstractButton *connect;
+        FieldNote *whyNot;  // why `connect` is disabled
         // Localisation keys of the two results of a test.
         const char *online;
         const char *offline;
@@ -52,6 +54,9 @@ class InterfaceView : public DWTBaseView {
     // Address fields are usable in manual setup only.
     void selectAddressSettingInput();
 
+    // Takes back what the last test said: it does not hold for another address or network.
+    void forgetConnectResult() { m_controls.state->setText(m_untested); }
+
     void fill(const Field &field) override;
     void putBack(const Field &field) override;
     bool isUsed(const Field &field) const override { return !field.isAddress() || !isAutomatic(); }
@@ -60,8 +65,6 @@ class InterfaceView : public DWTBaseView {
     bool isAutomatic() const {
         return m_controls.choice->selectedTag() == AddressSetting::Automatic;
     }
-
-    void forgetConnectResult() { m_controls.state->setText(m_untested); }
 
     Controls m_controls{};
     QString m_untested;                  // what the state says before a test

@@ -2,15 +2,16 @@
 
 #include "platform/ui/TextField.h"
 
-// A text field that handles typing itself, reports it to nobody, and can recall a text.
-class RecallingTextField : public TextField {
-    Q_OBJECT
+// A field, of the kind `Base`, that handles typing itself, reports it to nobody, and can recall a
+// text.
+template <typename Base>
+class RecallingTextField : public Base {
   public:
-    explicit RecallingTextField(QWidget *parent) : TextField(parent) { SRF_Init(); }
+    explicit RecallingTextField(QWidget *parent) : Base(parent) { SRF_Init(); }
     ~RecallingTextField() override { SRF_Dealloc(); }
 
   protected:
-    void textDidBeginEditing() override { string_SaveString = text(); }
+    void textDidBeginEditing() override { string_SaveString = this->text(); }
 
     // The text when editing began, and after each accepted change since then.
     QString string_SaveString;

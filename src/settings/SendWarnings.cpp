@@ -58,6 +58,7 @@ QStringList addressOf(int mode, const SettingRecord &record) {
 
 QString wordsOf(const SendWarning &warning) {
     static const QMap<SendWarning::Kind, const char *> keys{
+        {SendWarning::SecurityUnknown, "DWT_Localize_Send_Warning_SecurityUnknown"},
         {SendWarning::KeyKept, "DWT_Localize_Send_Warning_KeyKept"},
         {SendWarning::NotAMask, "DWT_Localize_Send_Warning_NotAMask"},
         {SendWarning::GatewayOutside, "DWT_Localize_Send_Warning_GatewayOutside"},

@@ -7,10 +7,11 @@
 // What can be sent, and may still not be what was meant.
 struct SendWarning {
     enum Kind {
-        KeyKept,            // `subject`, a protected network, is new, and no key was entered for it
-        NotAMask,           // the subnet mask `subject` has zeros before ones
-        GatewayOutside,     // the gateway `subject` is not in the subnet of the address
-        AddressUnreachable  // with another communication mode, `subject` is not reached any more
+        KeyKept,         // `subject`, a protected network, is new, and no key was entered for it
+        NotAMask,        // the subnet mask `subject` has zeros before ones
+        GatewayOutside,  // the gateway `subject` is not in the subnet of the address
+        AddressUnreachable,  // with another communication mode, `subject` is not reached any more
+        SecurityUnknown      // of the network `subject`; and none was chosen
     };
     Kind kind;
     QString viewKey;  // the category, and page, that it is about

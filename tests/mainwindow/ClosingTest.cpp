@@ -63,6 +63,7 @@ TEST_F(Closing, ReadingAgainAsksBeforeItDropsChangesAndSecrets) {
     choose("Infrastructure");
     type(secrets[0], "secret key");
     choose("Password");
+    EXPECT_TRUE(said("textField_PasswordState").startsWith(text("The printer has no")));
     QTest::mouseClick(control("checkbox_PasswordChange"), Qt::LeftButton);
     for (const char *secret : {secrets[1], secrets[2]}) type(secret, "open123");
     choose("Device");

@@ -55,6 +55,19 @@ TEST_F(Networks, AreListedStrongestFirstAndTakenOver) {
     EXPECT_EQ(list(selectAndLeave), text("a"));
 }
 
+TEST_F(Networks, OneOfUnknownSecurityLeadsToItsChoiceAndIsWarnedOf) {
+    open(R"({"items": {"0x3000": 1}, "scanPolls": 0,
+             "networks": [{"ssid": "odd", "mode": 2, "authentic": 9, "encryption": 9, "signal": -50}]})");
+    list([](QWidget *dialog, TableView *table) {
+        table->selectRow(0);
+        press(dialog, "button_SelectSSIDWindowOK");
+    });
+    EXPECT_EQ(main->window()->focusWidget(), control("popupbutton_InfrastructureAuthentic"));
+    dialogs.said("view_SendConfirm", "textField_SendWarnings",
+                 "The security of the network “odd” is not known.", "button_SendConfirmCancel");
+    send();
+}
+
 TEST_F(Networks, NoListOutsideInfrastructureModeAndAnEmptyOneWithoutAPrinter) {
     open(fourNetworks);
     setFaults(R"({"refuseConnection": true})");

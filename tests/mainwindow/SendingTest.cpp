@@ -50,6 +50,8 @@ TEST_F(Sending, WithoutAPasswordOneConfirmationSendsEverything) {
     openAndType(R"({"items": {"0x3102": 3, "0x3103": 3}})");
     choose("Infrastructure");
     type("textField_InfrastructurePSK", "secret key");
+    field("textField_InfrastructurePSK")->findChild<QToolButton *>()->click();
+    EXPECT_EQ(field("textField_InfrastructurePSK")->echoMode(), QLineEdit::Normal);
     EXPECT_FALSE(isEnabled("button_EthernetConnect") || isEnabled("button_InfrastructureConnect"));
     QList<int> values;
     QObject::connect(control<QProgressBar>("progress_SendProgress"), &QProgressBar::valueChanged,
@@ -60,6 +62,7 @@ TEST_F(Sending, WithoutAPasswordOneConfirmationSendsEverything) {
     EXPECT_EQ(held(), QByteArray("new-name"));
     EXPECT_TRUE(served->printer().item(0x3105).endsWith("secret key"));
     EXPECT_EQ(field("textField_InfrastructurePSK")->text(), QString());
+    EXPECT_EQ(field("textField_InfrastructurePSK")->echoMode(), QLineEdit::Password);
     EXPECT_FALSE(isEnabled("button_MainSend"));
     EXPECT_TRUE(isEnabled("button_EthernetConnect") && isEnabled("button_InfrastructureConnect"));
     click("button_MainCancel");
@@ -97,6 +100,10 @@ TEST_F(Sending, WrongInputOnTwoPagesIsToldAndLeadsToTheFirstFieldToMend) {
     EXPECT_EQ(markOf("Names"), text("Changed, not sent yet"));
     choose("Wired network");
     EXPECT_EQ(markOf("Names"), text("A value on this page cannot be used"));
+    const auto height = [this](const char *category) {
+        return control<OutlineView>("outlineView_Main")->visualRect(rowOf(category)).height();
+    };
+    EXPECT_EQ(height("Names"), height("Password")) << "the outline jumps";
     press(control("radioButton_EthernetIPAddressSetting"), "buttonCell_Manual");
     type("textField_EthernetIpAddress", "1.2.3");
     dialogs

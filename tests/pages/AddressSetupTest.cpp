@@ -49,6 +49,8 @@ TEST_P(AddressSetup, TypedAddressesAreFilteredStoredAndCompared) {
     EXPECT_EQ(address()->cursorPosition(), 8);
     EXPECT_EQ(state, DWT_MainDialog_SendNG_Message);
     EXPECT_FALSE(test()->isEnabled()) << "a test while addresses are edited";
+    EXPECT_TRUE(test()->toolTip().startsWith(text("A test is possible once")));
+    EXPECT_EQ(control<FieldNote>(named("textField_%1WhyNot"))->text(), test()->toolTip());
     QTest::keyClicks(address(), text("1x"));
     EXPECT_EQ(address()->text(), text("10.0.0.51"));
     for (int i = 0; i < 3; ++i) QTest::keySequence(address(), QKeySequence::Undo);

@@ -80,14 +80,11 @@ TEST(FieldRules, BothPasswordsAreCheckedAndMustAgree) {
     PageInWindow shown(page, "");
     const struct {
         const char *first, *second, *alerts;
-    } cases[] = {{"aB3!/{~", "aB3!/{~", ""},
-                 {"12345678", "12345678", ""},
-                 {"", "", ""},
-                 {"a b", "a b", "New password|Password confirmation"},
-                 {"a_b", "ab", "New password"},
-                 {"ab", "a@b", "Password confirmation"},
-                 {"abc", "abd", "New password"},
-                 {"é", "", "New password"}};
+    } cases[] = {
+        {"aB3!/{~", "aB3!/{~", ""},     {"12345678", "12345678", ""},
+        {"", "", "New password"},       {"a b", "a b", "New password|Password confirmation"},
+        {"a_b", "ab", "New password"},  {"ab", "a@b", "Password confirmation"},
+        {"abc", "abd", "New password"}, {"é", "e", "New password"}};
     page->passwordChangeSetting(true);
     for (const auto &c : cases) {
         shown.type("secureTextField_Password", text(c.first));
@@ -96,7 +93,7 @@ TEST(FieldRules, BothPasswordsAreCheckedAndMustAgree) {
         for (QString &alert : alerts) alert += text(" cannot be used");
         EXPECT_EQ(shown.alertsOf(alerts.isEmpty()), alerts) << c.first;
         if (alerts.isEmpty()) continue;
-        const bool differ = text(c.first) == text("abc");
+        const bool differ = text(c.first) == text("abc") || text(c.second).isEmpty();
         EXPECT_EQ(shown.explanation == explanationOf("Password"), !differ) << c.first;
     }
     EXPECT_EQ(shown.style, QMessageBox::Warning);

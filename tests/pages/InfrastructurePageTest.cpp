@@ -56,6 +56,8 @@ TEST_F(InfrastructurePage, EveryAuthenticationOffersItsEncryptionsAndKeyFields) 
         EXPECT_EQ(stored("wireless.encryption"), text(c.encryptionCode));
         EXPECT_TRUE(psk()->isEnabled() == c.key && wepKey()->isEnabled() == c.wep &&
                     keyNumber()->isEnabled() == c.wep);
+        EXPECT_TRUE(psk()->isVisible() == c.key && wepKey()->isVisible() == c.wep &&
+                    keyNumber()->isVisible() == c.wep);
         page->enableAllItems(true);
         EXPECT_EQ(psk()->isEnabled(), c.key) << "enabling all enables what is not used";
     }
@@ -78,7 +80,12 @@ TEST_F(InfrastructurePage, ANetworkOfTheListFillsThePageWithItsSecurity) {
         EXPECT_EQ(encryption()->currentText(), text(c.shownEncryption)) << c.encryption;
         EXPECT_EQ(stored("wireless.encryption"), text(c.code));
         EXPECT_EQ(changedListSSID(), QByteArray("Lager\xff"));
+        const bool isKnown = c.authentic >= 0 && c.authentic < 99;
+        EXPECT_EQ(noteOf(authentic()).text().isEmpty(), isKnown) << c.authentic;
+        EXPECT_EQ(page->ownWarnings().isEmpty(), isKnown);
     }
+    page->focusNextEntry();
+    EXPECT_TRUE(authentic()->hasFocus());
     EXPECT_TRUE(alertsOf(true).isEmpty()) << "a name of the list may hold any character";
     page->itemSetToDataManager();
     EXPECT_EQ(changedListSSID(), QByteArray("Lager\xff"));
@@ -94,6 +101,9 @@ TEST_F(InfrastructurePage, ChangingWhatTheListGaveMakesItTheUsersOwn) {
     EXPECT_FALSE(staysTaken([&] { type(ssid(), text("Lager")); })) << "the same name, but typed";
     EXPECT_EQ(stored("wireless.ssid"), text("'Lager'"));
     EXPECT_FALSE(staysTaken([&] { choose(encryption(), "TKIP"); }));
+    page->showSSIDFromSelectSSID(network("Lager", 9, 9));
+    choose(authentic(), "Shared key");
+    EXPECT_TRUE(page->ownWarnings().isEmpty()) << "one was chosen";
     EXPECT_FALSE(staysTaken([&] { choose(authentic(), "WPA-Personal"); }));
     ssid()->setFocus();
     EXPECT_TRUE(staysTaken([&] { QTest::keyClick(ssid(), Qt::Key_Tab); })) << "nothing was typed";

@@ -6,6 +6,7 @@ class PasswordPage : public PageTest<DWTPasswordView> {
   protected:
     PasswordPage() : PageTest("") {}
     QCheckBox *box() { return control<QCheckBox>("checkbox_PasswordChange"); }
+    QCheckBox *removal() { return control<QCheckBox>("checkbox_PasswordRemove"); }
     TextField *password() { return control("secureTextField_Password"); }
     TextField *repeated() { return control("secureTextField_PasswordReinput"); }
     // Types both and leaves the fields.
@@ -36,8 +37,20 @@ TEST_F(PasswordPage, TheBoxOpensTheFieldsAndClosingItForgetsThem) {
     EXPECT_EQ(repeated()->fault(), text("The passwords do not match. Type the same password in "
                                         "both fields."));
     typeBoth("", "");
+    EXPECT_TRUE(repeated()->fault().startsWith(text("Enter the new password, or choose")));
+    QTest::keyClicks(password(), text("123456789"));
+    EXPECT_TRUE(noteOf(password()).text().startsWith(text("8 characters at most")));
+    QTest::keyClick(password(), Qt::Key_Backspace);
+    EXPECT_EQ(noteOf(password()).text().contains(text("the rest")), false);
+    resetOf(password()).click();
+    EXPECT_TRUE(password()->text().isEmpty());
+    removal()->click();
     EXPECT_EQ(changeList(), text("New password:  > removed"));
-    EXPECT_TRUE(repeated()->fault().isEmpty());
+    EXPECT_EQ(integerValue(changed(), DWT_SaveData_Password_Change), 1);
+    EXPECT_FALSE(password()->isEnabled() || box()->isChecked());
+    EXPECT_TRUE(alertsOf(true).isEmpty());
+    box()->click();
+    EXPECT_FALSE(removal()->isChecked());
     page->enableAllItems(false);
     EXPECT_FALSE(password()->isEnabled() || repeated()->isEnabled() || box()->isEnabled());
     page->enableAllItems(true);
@@ -55,6 +68,11 @@ TEST_F(PasswordPage, TheBoxOpensTheFieldsAndClosingItForgetsThem) {
     EXPECT_EQ(integerValue(changed(), DWT_SaveData_Password_Change), 0);
     EXPECT_EQ(state, DWT_MainDialog_SendNG_Message);
     EXPECT_TRUE(m.manager->isEqualToSaveData() && changeList().isEmpty());
+    removal()->click();
+    page->revert();
+    EXPECT_TRUE(isEmptyAndClosed() && changeList().isEmpty() && removal()->isEnabled());
+    page->showPasswordState(PasswordState::NotSet);
+    EXPECT_FALSE(removal()->isEnabled()) << "there is nothing to remove";
 }
 
 TEST(PasswordField, HoldsEightCharactersRefusesMoreAsAWholeAndReportsNothing) {

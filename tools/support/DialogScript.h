@@ -85,6 +85,9 @@ class DialogScript : public QObject {
         m_steps.back().part = text(part);
         return *this;
     }
+    DialogScript &said(const char *view, const char *label, const char *part, const char *button) {
+        return said(view, label, part, [button](QWidget *window) { press(window, button); });
+    }
     // Types into a field of the view, then clicks the button.
     DialogScript &type(const char *view, const char *field, const char *typed, const char *button) {
         const auto types = [=](QWidget *window) {

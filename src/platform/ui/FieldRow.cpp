@@ -60,7 +60,13 @@ void FieldRow::addReset() {
     policy.setRetainSizeWhenHidden(true);
     m_reset->setSizePolicy(policy);
     m_reset->hide();
-    m_line->insertWidget(m_line->indexOf(m_control) + 1, m_reset);
+    int place = m_line->indexOf(m_control) + 1;
+    const auto isUnit = [this](int index) {
+        const QLayoutItem *const item = m_line->itemAt(index);
+        return item && qobject_cast<QLabel *>(item->widget());
+    };
+    while (isUnit(place)) ++place;
+    m_line->insertWidget(place, m_reset);
     connect(m_reset, &QToolButton::clicked, this, &FieldRow::resetRequested);
 }
 

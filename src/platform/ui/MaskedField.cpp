@@ -29,7 +29,16 @@ void MaskedField::setRevealTitle(const QString &title) {
     m_reveal->setAccessibleName(title);
 }
 
-void MaskedField::hideEvent(QHideEvent *event) {
+void MaskedField::cover() {
     m_reveal->setChecked(false);
+}
+
+void MaskedField::forget() {
+    cover();
+    TextField::forget();
+}
+
+void MaskedField::hideEvent(QHideEvent *event) {
+    cover();
     TextField::hideEvent(event);
 }

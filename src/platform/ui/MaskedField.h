@@ -15,6 +15,11 @@ class MaskedField : public TextField {
     QString revealTitle() const;
     void setRevealTitle(const QString &title);
 
+    // Masks the text again.
+    void cover();
+    // Masks it as well.
+    void forget() override;
+
   protected:
     void hideEvent(QHideEvent *event) override;
 

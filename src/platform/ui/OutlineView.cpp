@@ -74,7 +74,14 @@ class MarkDelegate : public QStyledItemDelegate {
     using QStyledItemDelegate::QStyledItemDelegate;
 
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override {
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 2 * rowMargin);
+        const QSize plain = QStyledItemDelegate::sizeHint(option, index);
+        QStyleOptionViewItem marked = option;
+        initStyleOption(&marked, index);
+        marked.features |= QStyleOptionViewItem::HasDecoration;  // as high with a mark as without
+        marked.decorationSize = option.decorationSize;
+        const QSize size = marked.widget->style()->sizeFromContents(QStyle::CT_ItemViewItem,
+                                                                    &marked, {}, marked.widget);
+        return {plain.width(), size.height() + 2 * rowMargin};
     }
 
   protected:

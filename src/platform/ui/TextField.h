@@ -33,7 +33,7 @@ class TextField : public QLineEdit {
     // Undoes the last step that the user made; for filters. Reports nothing.
     void takeBack();
     // Empties the field and its undo history, as for a used secret. Reports nothing.
-    void forget();
+    virtual void forget();
 
     // Marks the text as one that cannot be used, for the reason `why`: by a sign inside the field
     // and a red outline. An empty reason takes the mark away.
