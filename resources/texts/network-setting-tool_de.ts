@@ -920,34 +920,67 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
         <translation>Zeichnung: Ein Pfeil zeigt auf die WPS-Taste eines WLAN-Routers; Drucker und Router tauschen Funksignale aus</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>Liest und ändert die Netzwerkeinstellungen von Etikettendruckern.
-
-Aufruf:
-  network-setting list [--json]
-  network-setting show PRINTER [--json]
-  network-setting check FILE [--json]
-  network-setting apply PRINTER FILE [--password-file F] [--dry-run] [--yes]
-  network-setting provision TABLE.csv [--template FILE] [--password-file F]
-                            [--result OUT.csv] [--again]
-  network-setting networks PRINTER [--json]
-
-PRINTER: URI der Liste, eigener Name des Druckers oder Seriennummer. FILE: Einstellungen in JSON.
-
-  --json             JSON ausgeben
-  --dry-run          nur sagen, was sich ändern würde
-  --yes              vor dem Ändern nicht fragen
-  --password-file F  die erste Zeile von F ist das Administratorpasswort
-  --template FILE    Einstellungen für jeden Drucker der Tabelle
-  --result OUT.csv   für jeden Drucker eine Zeile an diese Datei anhängen
-  --again            einen Drucker, der wieder angeschlossen wird, noch einmal bearbeiten
-  --help             diesen Text zeigen
-  --version          die Version zeigen
-
-Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefunden oder erreicht,
-4 Anmeldung abgelehnt, 5 Einstellungen nicht übernommen, 6 abgebrochen.</translation>
+        <translation>Liest und ändert die Netzwerkeinstellungen von Etikettendruckern.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_List">
+        <translation>Die Drucker an USB und im Netzwerk auflisten.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Show">
+        <translation>Alle Einstellungen eines Druckers zeigen, außer Schlüsseln und Passwörtern.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Check">
+        <translation>Alles nennen, was an einer Datei mit Einstellungen oder einer Tabelle falsch ist.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Apply">
+        <translation>Einen Drucker nach einer Datei mit Einstellungen ändern.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Provision">
+        <translation>Jeden Drucker an USB ändern, der eine Zeile in einer Tabelle hat.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Networks">
+        <translation>Einen Drucker drahtlose Netzwerke suchen lassen.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Help">
+        <translation>Zeigen, was das Programm oder ein Befehl kann.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Example">
+        <translation>Beispiel:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Printer">
+        <translation>PRINTER: URI der Liste, eigener Name des Druckers oder Seriennummer. FILE: Einstellungen in JSON.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Codes">
+        <translation>Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefunden oder erreicht, 4 Anmeldung abgelehnt, 5 Einstellungen nicht übernommen, 6 abgebrochen.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_More">
+        <translation>„network-setting COMMAND --help“ zeigt die Optionen eines Befehls.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Json">
+        <translation>JSON ausgeben</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_DryRun">
+        <translation>nur sagen, was sich ändern würde</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Yes">
+        <translation>vor dem Ändern nicht fragen</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_PasswordFile">
+        <translation>die erste Zeile von F ist das Administratorpasswort</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Template">
+        <translation>Einstellungen für jeden Drucker der Tabelle</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Result">
+        <translation>für jeden Drucker eine Zeile an diese Datei anhängen</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Again">
+        <translation>einen Drucker, der wieder angeschlossen wird, noch einmal bearbeiten</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
         <translation>„network-setting --help“ zeigt, was möglich ist.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SeeHelpOf">
+        <translation>„network-setting %1 --help“ zeigt, was dazugehört.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
         <translation>Es ist kein Befehl angegeben.</translation>
@@ -955,8 +988,20 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
     <message id="DWT_Localize_Cli_BadCommand">
         <translation>Es gibt keinen Befehl „%1“.</translation>
     </message>
-    <message id="DWT_Localize_Cli_BadArguments">
-        <translation>„%1“ erwartet %2 Argumente; angegeben sind %3.</translation>
+    <message id="DWT_Localize_Cli_BadOption">
+        <translation>Es gibt keine Option „%1“.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Meant">
+        <translation>Ist „%1“ gemeint?</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoValue">
+        <translation>„%1“ hat keinen Wert.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Needs">
+        <translation>„%1“ braucht %2.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_TooMany">
+        <translation>„%1“ erwartet kein weiteres Argument: „%2“.</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
         <translation>Die Ausgabe konnte nicht geschrieben werden.</translation>

@@ -920,34 +920,67 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
         <translation>Drawing: an arrow points to the WPS button of a wireless router, and printer and router exchange radio signals</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>Reads and changes the network settings of label printers.
-
-Usage:
-  network-setting list [--json]
-  network-setting show PRINTER [--json]
-  network-setting check FILE [--json]
-  network-setting apply PRINTER FILE [--password-file F] [--dry-run] [--yes]
-  network-setting provision TABLE.csv [--template FILE] [--password-file F]
-                            [--result OUT.csv] [--again]
-  network-setting networks PRINTER [--json]
-
-PRINTER is a URI of the list, a printer's own name, or a serial number. FILE holds settings in JSON.
-
-  --json             print JSON
-  --dry-run          only say what would change
-  --yes              do not ask before changing
-  --password-file F  the administrator password is the first line of F
-  --template FILE    settings for every printer of the table
-  --result OUT.csv   add a row for each printer to this file
-  --again            do a printer again that is plugged in again
-  --help             show this text and exit
-  --version          show the version and exit
-
-Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not reached,
-4 login refused, 5 settings not taken over, 6 stopped.</translation>
+        <translation>Reads and changes the network settings of label printers.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_List">
+        <translation>List the printers on USB and on the network.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Show">
+        <translation>Show every setting of a printer but keys and passwords.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Check">
+        <translation>Say everything that is wrong with a file of settings or a table.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Apply">
+        <translation>Change one printer by a file of settings.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Provision">
+        <translation>Change every printer on USB that has a row in a table.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Networks">
+        <translation>Let a printer look for wireless networks.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Help">
+        <translation>Show what the program, or a command, can do.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Example">
+        <translation>Example:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Printer">
+        <translation>PRINTER is a URI of the list, a printer’s own name, or a serial number. FILE holds settings in JSON.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Codes">
+        <translation>Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not reached, 4 login refused, 5 settings not taken over, 6 stopped.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_More">
+        <translation>“network-setting COMMAND --help” shows the options of a command.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Json">
+        <translation>print JSON</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_DryRun">
+        <translation>only say what would change</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Yes">
+        <translation>do not ask before changing</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_PasswordFile">
+        <translation>the administrator password is the first line of F</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Template">
+        <translation>settings for every printer of the table</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Result">
+        <translation>add a row for each printer to this file</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Again">
+        <translation>do a printer again that is plugged in again</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
         <translation>“network-setting --help” shows what can be done.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SeeHelpOf">
+        <translation>“network-setting %1 --help” shows what it takes.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
         <translation>Which command? None is given.</translation>
@@ -955,8 +988,20 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
     <message id="DWT_Localize_Cli_BadCommand">
         <translation>There is no command “%1”.</translation>
     </message>
-    <message id="DWT_Localize_Cli_BadArguments">
-        <translation>“%1” takes %2 arguments; %3 are given.</translation>
+    <message id="DWT_Localize_Cli_BadOption">
+        <translation>There is no option “%1”.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Meant">
+        <translation>Is “%1” meant?</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoValue">
+        <translation>“%1” takes no value.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Needs">
+        <translation>“%1” needs %2.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_TooMany">
+        <translation>“%1” takes no further argument: “%2”.</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
         <translation>The output could not be written.</translation>

@@ -920,34 +920,67 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
         <translation>Dibujo: una flecha señala el botón WPS de un router Wi-Fi; la impresora y el router intercambian señales de radio</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>Lee y cambia los ajustes de red de impresoras de etiquetas.
-
-Uso:
-  network-setting list [--json]
-  network-setting show PRINTER [--json]
-  network-setting check FILE [--json]
-  network-setting apply PRINTER FILE [--password-file F] [--dry-run] [--yes]
-  network-setting provision TABLE.csv [--template FILE] [--password-file F]
-                            [--result OUT.csv] [--again]
-  network-setting networks PRINTER [--json]
-
-PRINTER: URI de la lista, nombre propio de la impresora o número de serie. FILE: ajustes en JSON.
-
-  --json             escribir JSON
-  --dry-run          decir solo qué cambiaría
-  --yes              no preguntar antes de cambiar
-  --password-file F  la contraseña de administrador es la primera línea de F
-  --template FILE    ajustes para cada impresora de la tabla
-  --result OUT.csv   añadir a este archivo una fila por impresora
-  --again            repetir una impresora que se vuelve a conectar
-  --help             mostrar este texto
-  --version          mostrar la versión
-
-Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encontrada o sin acceso,
-4 inicio de sesión rechazado, 5 ajustes no aceptados, 6 detenido.</translation>
+        <translation>Lee y cambia los ajustes de red de impresoras de etiquetas.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_List">
+        <translation>Listar las impresoras USB y de la red.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Show">
+        <translation>Mostrar todos los ajustes de una impresora, salvo claves y contraseñas.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Check">
+        <translation>Decir todo lo que está mal en un archivo de ajustes o una tabla.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Apply">
+        <translation>Cambiar una impresora según un archivo de ajustes.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Provision">
+        <translation>Cambiar cada impresora USB que tiene una fila en una tabla.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Networks">
+        <translation>Hacer que una impresora busque redes inalámbricas.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Help">
+        <translation>Mostrar lo que puede hacer el programa, o una orden.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Example">
+        <translation>Ejemplo:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Printer">
+        <translation>PRINTER: URI de la lista, nombre propio de la impresora o número de serie. FILE: ajustes en JSON.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Codes">
+        <translation>Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encontrada o sin acceso, 4 inicio de sesión rechazado, 5 ajustes no aceptados, 6 detenido.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_More">
+        <translation>«network-setting COMMAND --help» muestra las opciones de una orden.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Json">
+        <translation>escribir JSON</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_DryRun">
+        <translation>decir solo qué cambiaría</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Yes">
+        <translation>no preguntar antes de cambiar</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_PasswordFile">
+        <translation>la contraseña de administrador es la primera línea de F</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Template">
+        <translation>ajustes para cada impresora de la tabla</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Result">
+        <translation>añadir a este archivo una fila por impresora</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Again">
+        <translation>repetir una impresora que se vuelve a conectar</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
         <translation>«network-setting --help» muestra lo que se puede hacer.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SeeHelpOf">
+        <translation>«network-setting %1 --help» muestra lo que admite.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
         <translation>No se ha indicado ninguna orden.</translation>
@@ -955,8 +988,20 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
     <message id="DWT_Localize_Cli_BadCommand">
         <translation>No existe la orden «%1».</translation>
     </message>
-    <message id="DWT_Localize_Cli_BadArguments">
-        <translation>«%1» espera %2 argumentos; se han indicado %3.</translation>
+    <message id="DWT_Localize_Cli_BadOption">
+        <translation>No existe la opción «%1».</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Meant">
+        <translation>¿Se refiere a «%1»?</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoValue">
+        <translation>«%1» no admite ningún valor.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Needs">
+        <translation>«%1» necesita %2.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_TooMany">
+        <translation>«%1» no admite más argumentos: «%2».</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
         <translation>No se ha podido escribir la salida.</translation>

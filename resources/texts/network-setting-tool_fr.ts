@@ -920,34 +920,67 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
         <translation>Dessin : une flèche indique le bouton WPS d’un routeur Wi-Fi ; l’imprimante et le routeur échangent des signaux radio</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>Lit et modifie les réglages réseau d’imprimantes d’étiquettes.
-
-Utilisation :
-  network-setting list [--json]
-  network-setting show PRINTER [--json]
-  network-setting check FILE [--json]
-  network-setting apply PRINTER FILE [--password-file F] [--dry-run] [--yes]
-  network-setting provision TABLE.csv [--template FILE] [--password-file F]
-                            [--result OUT.csv] [--again]
-  network-setting networks PRINTER [--json]
-
-PRINTER : URI de la liste, nom propre de l’imprimante ou numéro de série. FILE : réglages en JSON.
-
-  --json             écrire du JSON
-  --dry-run          dire seulement ce qui changerait
-  --yes              ne pas demander avant de modifier
-  --password-file F  le mot de passe administrateur est la première ligne de F
-  --template FILE    réglages pour chaque imprimante de la table
-  --result OUT.csv   ajouter à ce fichier une ligne pour chaque imprimante
-  --again            refaire une imprimante qui est rebranchée
-  --help             afficher ce texte
-  --version          afficher la version
-
-Se termine par 0 fait, 1 mauvaise utilisation, 2 entrée refusée, 3 imprimante introuvable ou
-injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translation>
+        <translation>Lit et modifie les réglages réseau d’imprimantes d’étiquettes.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_List">
+        <translation>Lister les imprimantes USB et du réseau.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Show">
+        <translation>Montrer tous les réglages d’une imprimante, sauf clés et mots de passe.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Check">
+        <translation>Dire tout ce qui ne va pas dans un fichier de réglages ou une table.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Apply">
+        <translation>Modifier une imprimante d’après un fichier de réglages.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Provision">
+        <translation>Modifier chaque imprimante USB qui a une ligne dans une table.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Networks">
+        <translation>Faire chercher les réseaux sans fil par une imprimante.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Help">
+        <translation>Montrer ce que peut faire le programme, ou une commande.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Example">
+        <translation>Exemple :</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Printer">
+        <translation>PRINTER : URI de la liste, nom propre de l’imprimante ou numéro de série. FILE : réglages en JSON.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Codes">
+        <translation>Se termine par 0 fait, 1 mauvaise utilisation, 2 entrée refusée, 3 imprimante introuvable ou injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_More">
+        <translation>« network-setting COMMAND --help » montre les options d’une commande.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Json">
+        <translation>écrire du JSON</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_DryRun">
+        <translation>dire seulement ce qui changerait</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Yes">
+        <translation>ne pas demander avant de modifier</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_PasswordFile">
+        <translation>le mot de passe administrateur est la première ligne de F</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Template">
+        <translation>réglages pour chaque imprimante de la table</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Result">
+        <translation>ajouter à ce fichier une ligne pour chaque imprimante</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Again">
+        <translation>refaire une imprimante qui est rebranchée</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
         <translation>« network-setting --help » montre ce qui est possible.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SeeHelpOf">
+        <translation>« network-setting %1 --help » montre ce qu’elle accepte.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
         <translation>Aucune commande n’est indiquée.</translation>
@@ -955,8 +988,20 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
     <message id="DWT_Localize_Cli_BadCommand">
         <translation>Il n’y a pas de commande « %1 ».</translation>
     </message>
-    <message id="DWT_Localize_Cli_BadArguments">
-        <translation>« %1 » attend %2 arguments ; %3 sont indiqués.</translation>
+    <message id="DWT_Localize_Cli_BadOption">
+        <translation>Il n’y a pas d’option « %1 ».</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Meant">
+        <translation>Est-ce « %1 » ?</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoValue">
+        <translation>« %1 » n’accepte pas de valeur.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Needs">
+        <translation>« %1 » a besoin de %2.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_TooMany">
+        <translation>« %1 » n’accepte pas d’autre argument : « %2 ».</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
         <translation>La sortie n’a pas pu être écrite.</translation>

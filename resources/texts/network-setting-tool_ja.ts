@@ -920,34 +920,67 @@
         <translation>図: 無線 LAN ルーターの WPS ボタンを指す矢印と、電波をやり取りするプリンターとルーター</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>ラベルプリンターのネットワーク設定を表示・変更します。
-
-使い方:
-  network-setting list [--json]
-  network-setting show PRINTER [--json]
-  network-setting check FILE [--json]
-  network-setting apply PRINTER FILE [--password-file F] [--dry-run] [--yes]
-  network-setting provision TABLE.csv [--template FILE] [--password-file F]
-                            [--result OUT.csv] [--again]
-  network-setting networks PRINTER [--json]
-
-PRINTER は一覧の URI、プリンター名、またはシリアル番号です。FILE は JSON 形式の設定です。
-
-  --json             JSON で出力する
-  --dry-run          変更される内容を表示するだけにする
-  --yes              変更の前に確認しない
-  --password-file F  F の 1 行目を管理者パスワードとして使う
-  --template FILE    表のすべてのプリンターに共通の設定
-  --result OUT.csv   プリンターごとに 1 行をこのファイルに追加する
-  --again            もう一度接続されたプリンターをもう一度処理する
-  --help             この説明を表示して終了する
-  --version          バージョンを表示して終了する
-
-終了コード: 0 完了、1 使い方の誤り、2 入力の誤り、3 プリンターが見つからない、または応答しない、
-4 ログイン拒否、5 設定が反映されない、6 中止。</translation>
+        <translation>ラベルプリンターのネットワーク設定を表示・変更します。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_List">
+        <translation>USB とネットワークのプリンターを一覧表示する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Show">
+        <translation>キーとパスワードを除くプリンターの全設定を表示する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Check">
+        <translation>設定ファイルまたは表の誤りをすべて表示する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Apply">
+        <translation>設定ファイルに従って 1 台のプリンターを変更する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Provision">
+        <translation>表に行がある USB プリンターをすべて変更する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Networks">
+        <translation>プリンターに無線ネットワークを検索させる。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Help">
+        <translation>プログラムまたはコマンドの使い方を表示する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Example">
+        <translation>例:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Printer">
+        <translation>PRINTER は一覧の URI、プリンター名、またはシリアル番号です。FILE は JSON 形式の設定です。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Codes">
+        <translation>終了コード: 0 完了、1 使い方の誤り、2 入力の誤り、3 プリンターが見つからない、または応答しない、4 ログイン拒否、5 設定が反映されない、6 中止。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_More">
+        <translation>コマンドのオプションは「network-setting COMMAND --help」で表示できます。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Json">
+        <translation>JSON で出力する</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_DryRun">
+        <translation>変更される内容を表示するだけにする</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Yes">
+        <translation>変更の前に確認しない</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_PasswordFile">
+        <translation>F の 1 行目を管理者パスワードとして使う</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Template">
+        <translation>表のすべてのプリンターに共通の設定</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Result">
+        <translation>プリンターごとに 1 行をこのファイルに追加する</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Again">
+        <translation>もう一度接続されたプリンターをもう一度処理する</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
         <translation>使い方は「network-setting --help」で表示できます。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SeeHelpOf">
+        <translation>使い方は「network-setting %1 --help」で表示できます。</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
         <translation>コマンドが指定されていません。</translation>
@@ -955,8 +988,20 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
     <message id="DWT_Localize_Cli_BadCommand">
         <translation>「%1」というコマンドはありません。</translation>
     </message>
-    <message id="DWT_Localize_Cli_BadArguments">
-        <translation>「%1」の引数は %2 個です。%3 個指定されています。</translation>
+    <message id="DWT_Localize_Cli_BadOption">
+        <translation>「%1」というオプションはありません。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Meant">
+        <translation>「%1」のことですか?</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoValue">
+        <translation>「%1」は値を取りません。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Needs">
+        <translation>「%1」には %2 が必要です。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_TooMany">
+        <translation>「%1」はこれ以上の引数を取りません: 「%2」</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
         <translation>出力を書き込めませんでした。</translation>

@@ -920,34 +920,67 @@
         <translation>图：箭头指向无线路由器的 WPS 按钮，打印机与路由器交换无线信号</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>查看和更改标签打印机的网络设置。
-
-用法：
-  network-setting list [--json]
-  network-setting show PRINTER [--json]
-  network-setting check FILE [--json]
-  network-setting apply PRINTER FILE [--password-file F] [--dry-run] [--yes]
-  network-setting provision TABLE.csv [--template FILE] [--password-file F]
-                            [--result OUT.csv] [--again]
-  network-setting networks PRINTER [--json]
-
-PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JSON 格式的设置。
-
-  --json             以 JSON 输出
-  --dry-run          只显示将要更改的内容
-  --yes              更改之前不询问
-  --password-file F  管理员密码是 F 的第一行
-  --template FILE    表中每台打印机共用的设置
-  --result OUT.csv   为每台打印机向此文件添加一行
-  --again            再次处理重新插入的打印机
-  --help             显示此说明并退出
-  --version          显示版本并退出
-
-退出码：0 完成，1 用法错误，2 输入有误，3 找不到或无法连接打印机，
-4 登录被拒绝，5 设置未生效，6 已停止。</translation>
+        <translation>查看和更改标签打印机的网络设置。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_List">
+        <translation>列出 USB 和网络上的打印机。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Show">
+        <translation>显示打印机的所有设置（密钥和密码除外）。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Check">
+        <translation>列出设置文件或表中的所有错误。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Apply">
+        <translation>按设置文件更改一台打印机。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Provision">
+        <translation>更改表中有对应行的每台 USB 打印机。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Networks">
+        <translation>让打印机搜索无线网络。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Help">
+        <translation>显示程序或命令的用法。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Example">
+        <translation>示例：</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Printer">
+        <translation>PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JSON 格式的设置。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Codes">
+        <translation>退出码：0 完成，1 用法错误，2 输入有误，3 找不到或无法连接打印机，4 登录被拒绝，5 设置未生效，6 已停止。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_More">
+        <translation>“network-setting COMMAND --help”显示命令的选项。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Json">
+        <translation>以 JSON 输出</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_DryRun">
+        <translation>只显示将要更改的内容</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Yes">
+        <translation>更改之前不询问</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_PasswordFile">
+        <translation>管理员密码是 F 的第一行</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Template">
+        <translation>表中每台打印机共用的设置</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Result">
+        <translation>为每台打印机向此文件添加一行</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Again">
+        <translation>再次处理重新插入的打印机</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
         <translation>“network-setting --help”显示可以执行的操作。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SeeHelpOf">
+        <translation>“network-setting %1 --help”显示其用法。</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
         <translation>没有指定命令。</translation>
@@ -955,8 +988,20 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
     <message id="DWT_Localize_Cli_BadCommand">
         <translation>没有命令“%1”。</translation>
     </message>
-    <message id="DWT_Localize_Cli_BadArguments">
-        <translation>“%1”需要 %2 个参数，但指定了 %3 个。</translation>
+    <message id="DWT_Localize_Cli_BadOption">
+        <translation>没有选项“%1”。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Meant">
+        <translation>您是指“%1”吗？</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoValue">
+        <translation>“%1”没有值。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Needs">
+        <translation>“%1”需要 %2。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_TooMany">
+        <translation>“%1”没有更多参数：“%2”。</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
         <translation>无法写入输出。</translation>

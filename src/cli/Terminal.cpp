@@ -7,11 +7,10 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <algorithm>
 #include <array>
 #include <cstdio>
-#include <cwchar>
 
+#include "cli/Columns.h"
 #include "cli/Interrupt.h"
 #include "platform/core/Texts.h"
 #include "platform/core/Waiting.h"
@@ -28,12 +27,6 @@ const QString programName = u"network-setting"_s;
 
 void put(std::FILE *stream, const QString &text) {
     std::fputs(text.toLocal8Bit().constData(), stream);
-}
-
-// In columns of the terminal, of which some characters take two.
-int widthOf(const QString &text) {
-    const std::wstring wide = text.toStdWString();
-    return std::max(0, ::wcswidth(wide.c_str(), wide.size()));
 }
 
 QString wordsForTerminal(const PrinterProblem &problem) {
@@ -64,23 +57,10 @@ void Terminal::print(const QString &line) {
 }
 
 void Terminal::print(const QList<QStringList> &rows, QList<int> &widths) {
-    for (const QStringList &row : rows)
-        for (qsizetype i = 0; i < row.size(); ++i) {
-            if (widths.size() <= i) widths << 0;
-            widths[i] = std::max(widths[i], widthOf(terminalText(row[i])));
-        }
-    for (const QStringList &row : rows) {
-        QString line;
-        int end = 0;  // of the cells so far
-        for (qsizetype i = 0; i < row.size(); ++i) {
-            const QString cell = terminalText(row[i]);
-            line += cell;
-            end += widths[i] + 2;
-            if (i + 1 < row.size()) line += QString(std::max(2, end - widthOf(line)), u' ');
-        }
-        while (line.endsWith(u' ')) line.chop(1);
-        print(line);
-    }
+    QList<QStringList> cells = rows;
+    for (QStringList &row : cells)
+        for (QString &cell : row) cell = terminalText(cell);
+    for (const QString &line : aligned(cells, widths)) print(line);
 }
 
 void Terminal::print(const QJsonValue &value) {

@@ -1,5 +1,10 @@
 // The program's commands: inside this process and, at a terminal, the real program.
 
+#include <QRegularExpression>
+
+#include "cli/Columns.h"
+#include "cli/CommandTable.h"
+#include "cli/Help.h"
 #include "cli/Programs.h"
 #include "platform/core/NotificationCenter.h"
 #include "support/Endings.h"
@@ -132,8 +137,11 @@ TEST(Commands, EndWithTheCodeOfWhatHappened) {
     } rows[] = {
         {"{}", "", "", UsedWrongly, "command"},
         {"{}", "paint", "", UsedWrongly, "paint"},
-        {"{}", "show", "", UsedWrongly, "1 arguments"},
-        {"{}", "list --yes", "", UsedWrongly, "yes"},
+        {"{}", "show", "", UsedWrongly, "“show” needs PRINTER"},
+        {"{}", "aply", "", UsedWrongly, "“apply” meant"},
+        {"{}", "list --jsn", "", UsedWrongly, "“--json” meant"},
+        {"{}", "provision t.csv --template", "", UsedWrongly, "“--template” needs FILE"},
+        {"{}", "list --json=x", "", UsedWrongly, "takes no value"},
         {"{}", "list --json S1", "", UsedWrongly, "\"code\":1"},
         {"{}", "check /nowhere/x.json", "", InputRefused, "/nowhere/x.json"},
         {"{}", "show Nobody --json", "", NotReached, "\"code\":3"},
@@ -172,6 +180,32 @@ TEST(Commands, EndWithTheCodeOfWhatHappened) {
         EXPECT_EQ(ended.code, row.code) << row.said << ended.err.constData();
         expectIn(ended.err, {row.said});
     }
+}
+
+TEST(Commands, AreExplainedInTheirHelpAndInTheManPage) {
+    QFile file(QStringLiteral(NST_MAN_PAGE));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    static const QRegularExpression macros(u"^\\.([BIR]+ |br$)"_s,
+                                           QRegularExpression::MultilineOption);
+    const QString page = QString::fromUtf8(file.readAll()).remove(u'\\').remove(macros);
+    const QString synopses = page.section(u".SH DESCRIPTION"_s, 0, 0).section(u".SH SYNOPSIS"_s, 1);
+    QString wanted;
+    const Printers printers({});
+    for (const Command &command : allCommands()) {
+        if (!command.helpKey) continue;
+        wanted += synopsisOf(command).join(QString());
+        EXPECT_TRUE(page.section(u".SH COMMANDS"_s, 1).contains(u".TP\n"_s + command.name));
+        for (const Option &option : command.options)
+            EXPECT_TRUE(page.section(u".SH OPTIONS"_s, 1).contains(u".TP\n--"_s + option.name))
+                << option.name.toStdString();
+        const Ended help = run(printers, {command.name, u"--help"_s});
+        EXPECT_EQ(help.out, run(printers, {u"help"_s, command.name}).out);
+        EXPECT_EQ(help.code, Done);
+        for (const QByteArray &line : (help.out + run(printers, "--help").out).split('\n'))
+            EXPECT_LE(QString::fromUtf8(line).size(), longestLine) << line.constData();
+        expectIn(help.out, {command.example.toUtf8()});
+    }
+    EXPECT_EQ(QString(synopses).remove(QRegularExpression(u"\\s"_s)), wanted.remove(u' '));
 }
 
 TEST(Commands, EndAChangeAsThePrinterWasSeenToHaveIt) {
