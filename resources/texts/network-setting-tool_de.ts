@@ -950,7 +950,7 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
         <translation>PRINTER: URI der Liste, eigener Name des Druckers oder Seriennummer. FILE: Einstellungen in JSON.</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Codes">
-        <translation>Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefunden oder erreicht, 4 Anmeldung abgelehnt, 5 Einstellungen nicht übernommen, 6 abgebrochen.</translation>
+        <translation>Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefunden oder erreicht, 4 Anmeldung abgelehnt, 5 Einstellungen nicht übernommen, 6 abgebrochen, 7 würde sich ändern (mit --exit-code).</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_More">
         <translation>„network-setting COMMAND --help“ zeigt die Optionen eines Befehls.</translation>
@@ -961,8 +961,20 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Option_DryRun">
         <translation>nur sagen, was sich ändern würde</translation>
     </message>
+    <message id="DWT_Localize_Cli_Option_ExitCode">
+        <translation>mit 7 enden, wenn sich etwas ändern würde</translation>
+    </message>
     <message id="DWT_Localize_Cli_Option_Yes">
         <translation>vor dem Ändern nicht fragen</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Once">
+        <translation>nur Drucker, die jetzt angeschlossen sind; Vorgabe ohne Terminal</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Timeout">
+        <translation>höchstens so lange auf Drucker warten, die nicht da sind</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Keys">
+        <translation>Netzwerkschlüssel immer senden (always) oder nur, wenn sich das Netzwerk oder seine Sicherheit ändert (when-changed, Vorgabe)</translation>
     </message>
     <message id="DWT_Localize_Cli_Option_PasswordFile">
         <translation>die erste Zeile von F ist das Administratorpasswort</translation>
@@ -994,8 +1006,17 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Meant">
         <translation>Ist „%1“ gemeint?</translation>
     </message>
+    <message id="DWT_Localize_Cli_OfGroup">
+        <translation>Die dieser Gruppe sind: %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoValue">
         <translation>„%1“ hat keinen Wert.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadKeys">
+        <translation>„--keys“ kann nicht „%1“ sein. Erwartet wird eines von: %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadSeconds">
+        <translation>„--timeout“ braucht eine Zahl von Sekunden.</translation>
     </message>
     <message id="DWT_Localize_Cli_Needs">
         <translation>„%1“ braucht %2.</translation>
@@ -1024,11 +1045,17 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Fault_NotJson">
         <translation>Hier ist dies kein gültiges JSON.</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_TooDeep">
+        <translation>Das ist für Einstellungen zu tief verschachtelt.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
         <translation>Der Text ist nicht in UTF-8. Speichern Sie die Datei als UTF-8.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
         <translation>Hier ist dies kein gültiges CSV: Ein Anführungszeichen fehlt oder ist zu viel.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_MoreFaults">
+        <translation>Nicht aufgeführte Fehler: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
         <translation>%1 kann nicht gelesen werden: %2</translation>
@@ -1123,14 +1150,26 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_NotReported">
         <translation>%1 hat diese Einstellungen nicht mitgeteilt: %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_NotReportedValue">
+        <translation>(nicht gemeldet)</translation>
+    </message>
     <message id="DWT_Localize_Cli_ReadOnly">
         <translation>Weggelassen, da nicht änderbar: %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_LeftOut_Automatic">
+        <translation>Ausgelassen, da der Drucker seine Adresse automatisch bezieht: %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_LeftOut_SameNetwork">
+        <translation>Nicht noch einmal gesendet, da das Netzwerk gleich bleibt („--keys always“ sendet es): %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>Ohne Terminal wird nur mit --yes etwas geändert.</translation>
+        <translation>Ohne Terminal und mit --json wird nur mit --yes etwas geändert.</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
         <translation>In %1 wird sich ändern:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_WouldChange">
+        <translation>%1 würde geändert.</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
         <translation>%1 hat diese Einstellungen schon. Es wurde nichts gesendet.</translation>
@@ -1204,11 +1243,26 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_RowsLeft">
         <translation>Diese Drucker der Tabelle waren nicht da: %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_AndMore">
+        <translation>Und %1 weitere.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SameName">
+        <translation>Mehrere Zeilen geben denselben Druckernamen: Zeilen %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_Results_Input">
+        <translation>Es ist eine der Dateien, die gelesen werden.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_InUse">
+        <translation>Ein anderer Lauf schreibt gerade hinein.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_Foreign">
+        <translation>Es ist keine Datei mit Ergebnissen.</translation>
+    </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>%1 kann nicht geschrieben werden: %2. Es wird kein weiterer Drucker begonnen.</translation>
+        <translation>Es wird kein weiterer Drucker begonnen.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>In der ersten Zeile von %1 steht kein Schlüssel oder Passwort.</translation>

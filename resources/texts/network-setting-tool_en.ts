@@ -950,7 +950,7 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
         <translation>PRINTER is a URI of the list, a printer’s own name, or a serial number. FILE holds settings in JSON.</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Codes">
-        <translation>Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not reached, 4 login refused, 5 settings not taken over, 6 stopped.</translation>
+        <translation>Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not reached, 4 login refused, 5 settings not taken over, 6 stopped, 7 would change (with --exit-code).</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_More">
         <translation>“network-setting COMMAND --help” shows the options of a command.</translation>
@@ -961,8 +961,20 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Option_DryRun">
         <translation>only say what would change</translation>
     </message>
+    <message id="DWT_Localize_Cli_Option_ExitCode">
+        <translation>end with 7 when something would change</translation>
+    </message>
     <message id="DWT_Localize_Cli_Option_Yes">
         <translation>do not ask before changing</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Once">
+        <translation>only printers that are plugged in now; the default without a terminal</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Timeout">
+        <translation>wait at most so long for printers that are not there</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Keys">
+        <translation>send network keys always, or when-changed: only with the network or its security (the default)</translation>
     </message>
     <message id="DWT_Localize_Cli_Option_PasswordFile">
         <translation>the administrator password is the first line of F</translation>
@@ -994,8 +1006,17 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Meant">
         <translation>Is “%1” meant?</translation>
     </message>
+    <message id="DWT_Localize_Cli_OfGroup">
+        <translation>Those of this group are: %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoValue">
         <translation>“%1” takes no value.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadKeys">
+        <translation>“--keys” cannot be “%1”. One of these is expected: %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadSeconds">
+        <translation>“--timeout” needs a number of seconds.</translation>
     </message>
     <message id="DWT_Localize_Cli_Needs">
         <translation>“%1” needs %2.</translation>
@@ -1024,11 +1045,17 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Fault_NotJson">
         <translation>This is not valid JSON here.</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_TooDeep">
+        <translation>This is nested too deep for settings.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
         <translation>The text is not UTF-8. Save the file as UTF-8.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
         <translation>This is not valid CSV here: a quotation mark is missing or too many.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_MoreFaults">
+        <translation>Faults that are not listed: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
         <translation>%1 cannot be read: %2</translation>
@@ -1123,14 +1150,26 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_NotReported">
         <translation>%1 did not report these settings: %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_NotReportedValue">
+        <translation>(not reported)</translation>
+    </message>
     <message id="DWT_Localize_Cli_ReadOnly">
         <translation>Left out, since these cannot be changed: %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_LeftOut_Automatic">
+        <translation>Left out, since the printer gets its address automatically: %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_LeftOut_SameNetwork">
+        <translation>Not sent again, since the network stays the same (“--keys always” sends it): %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>Without a terminal, nothing is changed unless --yes is given.</translation>
+        <translation>Without a terminal, and with --json, nothing is changed unless --yes is given.</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
         <translation>In %1, this will change:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_WouldChange">
+        <translation>%1 would be changed.</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
         <translation>%1 has these settings already. Nothing was sent.</translation>
@@ -1204,11 +1243,26 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_RowsLeft">
         <translation>These printers of the table were not there: %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_AndMore">
+        <translation>And %1 more.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SameName">
+        <translation>Several rows give one printer name: lines %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>%1 cannot be written: %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_Results_Input">
+        <translation>It is one of the files that are read.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_InUse">
+        <translation>Another run is writing to it.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_Foreign">
+        <translation>It is not a file of results.</translation>
+    </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>%1 cannot be written: %2. No further printer is begun.</translation>
+        <translation>No further printer is begun.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>The first line of %1 holds no key or password.</translation>

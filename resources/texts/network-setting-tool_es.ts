@@ -950,7 +950,7 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
         <translation>PRINTER: URI de la lista, nombre propio de la impresora o número de serie. FILE: ajustes en JSON.</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Codes">
-        <translation>Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encontrada o sin acceso, 4 inicio de sesión rechazado, 5 ajustes no aceptados, 6 detenido.</translation>
+        <translation>Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encontrada o sin acceso, 4 inicio de sesión rechazado, 5 ajustes no aceptados, 6 detenido, 7 cambiaría (con --exit-code).</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_More">
         <translation>«network-setting COMMAND --help» muestra las opciones de una orden.</translation>
@@ -961,8 +961,20 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Option_DryRun">
         <translation>decir solo qué cambiaría</translation>
     </message>
+    <message id="DWT_Localize_Cli_Option_ExitCode">
+        <translation>terminar con 7 si algo cambiaría</translation>
+    </message>
     <message id="DWT_Localize_Cli_Option_Yes">
         <translation>no preguntar antes de cambiar</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Once">
+        <translation>solo impresoras conectadas ahora; lo predeterminado sin terminal</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Timeout">
+        <translation>esperar como máximo este tiempo a las impresoras que faltan</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Keys">
+        <translation>enviar las claves de red siempre (always) o solo si cambia la red o su seguridad (when-changed, lo predeterminado)</translation>
     </message>
     <message id="DWT_Localize_Cli_Option_PasswordFile">
         <translation>la contraseña de administrador es la primera línea de F</translation>
@@ -994,8 +1006,17 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Meant">
         <translation>¿Se refiere a «%1»?</translation>
     </message>
+    <message id="DWT_Localize_Cli_OfGroup">
+        <translation>Los de este grupo son: %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoValue">
         <translation>«%1» no admite ningún valor.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadKeys">
+        <translation>«--keys» no puede ser «%1». Se espera uno de estos: %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadSeconds">
+        <translation>«--timeout» necesita un número de segundos.</translation>
     </message>
     <message id="DWT_Localize_Cli_Needs">
         <translation>«%1» necesita %2.</translation>
@@ -1024,11 +1045,17 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Fault_NotJson">
         <translation>Aquí, esto no es JSON válido.</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_TooDeep">
+        <translation>Esto está anidado con demasiada profundidad para ajustes.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
         <translation>El texto no está en UTF-8. Guarde el archivo como UTF-8.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
         <translation>Aquí, esto no es CSV válido: falta o sobra una comilla.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_MoreFaults">
+        <translation>Errores que no se muestran: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
         <translation>No se puede leer %1: %2</translation>
@@ -1123,14 +1150,26 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_NotReported">
         <translation>%1 no comunicó estos ajustes: %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_NotReportedValue">
+        <translation>(no comunicado)</translation>
+    </message>
     <message id="DWT_Localize_Cli_ReadOnly">
         <translation>Omitidos, porque no se pueden cambiar: %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_LeftOut_Automatic">
+        <translation>Se omite porque la impresora obtiene su dirección automáticamente: %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_LeftOut_SameNetwork">
+        <translation>No se envía de nuevo porque la red no cambia («--keys always» lo envía): %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>Sin terminal no se cambia nada, salvo con --yes.</translation>
+        <translation>Sin terminal, y con --json, no se cambia nada sin --yes.</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
         <translation>En %1 cambiará lo siguiente:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_WouldChange">
+        <translation>%1 se cambiaría.</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
         <translation>%1 ya tiene estos ajustes. No se ha enviado nada.</translation>
@@ -1204,11 +1243,26 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_RowsLeft">
         <translation>Estas impresoras de la tabla no estaban: %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_AndMore">
+        <translation>Y %1 más.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SameName">
+        <translation>Varias filas dan el mismo nombre de impresora: líneas %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>No se puede escribir %1: %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_Results_Input">
+        <translation>Es uno de los archivos que se leen.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_InUse">
+        <translation>Otra ejecución está escribiendo en él.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_Foreign">
+        <translation>No es un archivo de resultados.</translation>
+    </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>No se puede escribir %1: %2. No se empieza ninguna impresora más.</translation>
+        <translation>No se empieza ninguna otra impresora.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>La primera línea de %1 no contiene ninguna clave ni contraseña.</translation>

@@ -950,7 +950,7 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
         <translation>PRINTER : URI de la liste, nom propre de l’imprimante ou numéro de série. FILE : réglages en JSON.</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Codes">
-        <translation>Se termine par 0 fait, 1 mauvaise utilisation, 2 entrée refusée, 3 imprimante introuvable ou injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translation>
+        <translation>Se termine par 0 fait, 1 mauvaise utilisation, 2 entrée refusée, 3 imprimante introuvable ou injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté, 7 serait modifié (avec --exit-code).</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_More">
         <translation>« network-setting COMMAND --help » montre les options d’une commande.</translation>
@@ -961,8 +961,20 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Option_DryRun">
         <translation>dire seulement ce qui changerait</translation>
     </message>
+    <message id="DWT_Localize_Cli_Option_ExitCode">
+        <translation>se terminer par 7 si quelque chose serait modifié</translation>
+    </message>
     <message id="DWT_Localize_Cli_Option_Yes">
         <translation>ne pas demander avant de modifier</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Once">
+        <translation>seulement les imprimantes branchées maintenant ; par défaut sans terminal</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Timeout">
+        <translation>attendre au plus ce temps les imprimantes absentes</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Keys">
+        <translation>envoyer les clés réseau toujours (always) ou seulement si le réseau ou sa sécurité change (when-changed, par défaut)</translation>
     </message>
     <message id="DWT_Localize_Cli_Option_PasswordFile">
         <translation>le mot de passe administrateur est la première ligne de F</translation>
@@ -994,8 +1006,17 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Meant">
         <translation>Est-ce « %1 » ?</translation>
     </message>
+    <message id="DWT_Localize_Cli_OfGroup">
+        <translation>Ceux de ce groupe sont : %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoValue">
         <translation>« %1 » n’accepte pas de valeur.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadKeys">
+        <translation>« --keys » ne peut pas être « %1 ». Attendu : %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadSeconds">
+        <translation>« --timeout » a besoin d’un nombre de secondes.</translation>
     </message>
     <message id="DWT_Localize_Cli_Needs">
         <translation>« %1 » a besoin de %2.</translation>
@@ -1024,11 +1045,17 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Fault_NotJson">
         <translation>Ici, ce n’est pas du JSON valide.</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_TooDeep">
+        <translation>C’est imbriqué trop profondément pour des réglages.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
         <translation>Le texte n’est pas en UTF-8. Enregistrez le fichier en UTF-8.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
         <translation>Ici, ce n’est pas du CSV valide : un guillemet manque ou est de trop.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_MoreFaults">
+        <translation>Erreurs non affichées : %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
         <translation>%1 ne peut pas être lu : %2</translation>
@@ -1123,14 +1150,26 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_NotReported">
         <translation>%1 n’a pas communiqué ces réglages : %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_NotReportedValue">
+        <translation>(non signalé)</translation>
+    </message>
     <message id="DWT_Localize_Cli_ReadOnly">
         <translation>Laissés de côté, car ils ne peuvent pas être modifiés : %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_LeftOut_Automatic">
+        <translation>Laissé de côté, car l’imprimante obtient son adresse automatiquement : %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_LeftOut_SameNetwork">
+        <translation>Non renvoyé, car le réseau reste le même (« --keys always » l’envoie) : %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>Sans terminal, rien n’est modifié, sauf avec --yes.</translation>
+        <translation>Sans terminal, et avec --json, rien n’est modifié sans --yes.</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
         <translation>Dans %1, ceci changera :</translation>
+    </message>
+    <message id="DWT_Localize_Cli_WouldChange">
+        <translation>%1 serait modifiée.</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
         <translation>%1 a déjà ces réglages. Rien n’a été envoyé.</translation>
@@ -1204,11 +1243,26 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_RowsLeft">
         <translation>Ces imprimantes de la table n’étaient pas là : %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_AndMore">
+        <translation>Et %1 de plus.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SameName">
+        <translation>Plusieurs lignes donnent le même nom d’imprimante : lignes %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>%1 ne peut pas être écrit : %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_Results_Input">
+        <translation>C’est un des fichiers lus.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_InUse">
+        <translation>Une autre exécution y écrit.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_Foreign">
+        <translation>Ce n’est pas un fichier de résultats.</translation>
+    </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>%1 ne peut pas être écrit : %2. Aucune autre imprimante n’est commencée.</translation>
+        <translation>Aucune autre imprimante n’est commencée.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>La première ligne de %1 ne contient ni clé ni mot de passe.</translation>

@@ -950,7 +950,7 @@
         <translation>PRINTER は一覧の URI、プリンター名、またはシリアル番号です。FILE は JSON 形式の設定です。</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Codes">
-        <translation>終了コード: 0 完了、1 使い方の誤り、2 入力の誤り、3 プリンターが見つからない、または応答しない、4 ログイン拒否、5 設定が反映されない、6 中止。</translation>
+        <translation>終了コード: 0 完了、1 使い方の誤り、2 入力の誤り、3 プリンターが見つからない、または応答しない、4 ログイン拒否、5 設定が反映されない、6 中止、7 変更あり (--exit-code 指定時)。</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_More">
         <translation>コマンドのオプションは「network-setting COMMAND --help」で表示できます。</translation>
@@ -961,8 +961,20 @@
     <message id="DWT_Localize_Cli_Option_DryRun">
         <translation>変更される内容を表示するだけにする</translation>
     </message>
+    <message id="DWT_Localize_Cli_Option_ExitCode">
+        <translation>変更がある場合は 7 で終了する</translation>
+    </message>
     <message id="DWT_Localize_Cli_Option_Yes">
         <translation>変更の前に確認しない</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Once">
+        <translation>現在接続されているプリンターだけを処理する。端末がない場合の既定</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Timeout">
+        <translation>接続されていないプリンターを待つ最長時間 (秒)</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Keys">
+        <translation>ネットワークキーを常に送る (always)、またはネットワークかそのセキュリティが変わるときだけ送る (when-changed、既定)</translation>
     </message>
     <message id="DWT_Localize_Cli_Option_PasswordFile">
         <translation>F の 1 行目を管理者パスワードとして使う</translation>
@@ -994,8 +1006,17 @@
     <message id="DWT_Localize_Cli_Meant">
         <translation>「%1」のことですか?</translation>
     </message>
+    <message id="DWT_Localize_Cli_OfGroup">
+        <translation>このグループの設定: %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoValue">
         <translation>「%1」は値を取りません。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadKeys">
+        <translation>「--keys」に「%1」は指定できません。次のいずれかです: %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadSeconds">
+        <translation>「--timeout」には秒数が必要です。</translation>
     </message>
     <message id="DWT_Localize_Cli_Needs">
         <translation>「%1」には %2 が必要です。</translation>
@@ -1024,11 +1045,17 @@
     <message id="DWT_Localize_Cli_Fault_NotJson">
         <translation>ここが正しい JSON ではありません。</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_TooDeep">
+        <translation>設定としては入れ子が深すぎます。</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
         <translation>UTF-8 のテキストではありません。UTF-8 で保存してください。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
         <translation>ここが正しい CSV ではありません。引用符が足りないか、多すぎます。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_MoreFaults">
+        <translation>表示していない誤り: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
         <translation>%1 を読み取れません: %2</translation>
@@ -1123,14 +1150,26 @@
     <message id="DWT_Localize_Cli_NotReported">
         <translation>%1 から次の設定を取得できませんでした: %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_NotReportedValue">
+        <translation>(報告なし)</translation>
+    </message>
     <message id="DWT_Localize_Cli_ReadOnly">
         <translation>変更できないため、次の項目は除きました: %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_LeftOut_Automatic">
+        <translation>プリンターがアドレスを自動的に取得するため、除外しました: %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_LeftOut_SameNetwork">
+        <translation>ネットワークが変わらないため、再送信しません (「--keys always」で送信): %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>端末がないときは、--yes を指定しない限り変更しません。</translation>
+        <translation>端末がない場合と --json を指定した場合は、--yes がなければ何も変更しません。</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
         <translation>%1 で次の設定が変更されます:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_WouldChange">
+        <translation>%1 は変更されます。</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
         <translation>%1 はすでにこの設定になっています。何も送信していません。</translation>
@@ -1204,11 +1243,26 @@
     <message id="DWT_Localize_Cli_RowsLeft">
         <translation>表の次のプリンターはありませんでした: %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_AndMore">
+        <translation>ほか %1 台。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SameName">
+        <translation>複数の行が同じプリンター名を指定しています: %1 行目</translation>
+    </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>%1 に書き込めません: %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_Results_Input">
+        <translation>読み込むファイルの 1 つです。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_InUse">
+        <translation>別の実行が書き込み中です。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_Foreign">
+        <translation>結果のファイルではありません。</translation>
+    </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>%1 に書き込めません: %2。次のプリンターには進みません。</translation>
+        <translation>これ以降のプリンターは処理しません。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>%1 の 1 行目にキーまたはパスワードがありません。</translation>

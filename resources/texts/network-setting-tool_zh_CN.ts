@@ -950,7 +950,7 @@
         <translation>PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JSON 格式的设置。</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Codes">
-        <translation>退出码：0 完成，1 用法错误，2 输入有误，3 找不到或无法连接打印机，4 登录被拒绝，5 设置未生效，6 已停止。</translation>
+        <translation>退出码：0 完成，1 用法错误，2 输入有误，3 找不到或无法连接打印机，4 登录被拒绝，5 设置未生效，6 已停止，7 将会更改（使用 --exit-code 时）。</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_More">
         <translation>“network-setting COMMAND --help”显示命令的选项。</translation>
@@ -961,8 +961,20 @@
     <message id="DWT_Localize_Cli_Option_DryRun">
         <translation>只显示将要更改的内容</translation>
     </message>
+    <message id="DWT_Localize_Cli_Option_ExitCode">
+        <translation>有内容将会更改时以 7 退出</translation>
+    </message>
     <message id="DWT_Localize_Cli_Option_Yes">
         <translation>更改之前不询问</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Once">
+        <translation>仅处理当前已连接的打印机；没有终端时为默认</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Timeout">
+        <translation>最多等待未连接的打印机多少秒</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Keys">
+        <translation>总是发送网络密钥 (always)，或仅在网络或其安全设置更改时发送 (when-changed，默认)</translation>
     </message>
     <message id="DWT_Localize_Cli_Option_PasswordFile">
         <translation>管理员密码是 F 的第一行</translation>
@@ -994,8 +1006,17 @@
     <message id="DWT_Localize_Cli_Meant">
         <translation>您是指“%1”吗？</translation>
     </message>
+    <message id="DWT_Localize_Cli_OfGroup">
+        <translation>该组的设置有：%1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoValue">
         <translation>“%1”没有值。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadKeys">
+        <translation>“--keys”不能是“%1”。应为以下之一：%2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadSeconds">
+        <translation>“--timeout”需要秒数。</translation>
     </message>
     <message id="DWT_Localize_Cli_Needs">
         <translation>“%1”需要 %2。</translation>
@@ -1024,11 +1045,17 @@
     <message id="DWT_Localize_Cli_Fault_NotJson">
         <translation>此处不是有效的 JSON。</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_TooDeep">
+        <translation>对于设置来说嵌套过深。</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
         <translation>文本不是 UTF-8。请将文件保存为 UTF-8。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
         <translation>此处不是有效的 CSV：缺少或多出引号。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_MoreFaults">
+        <translation>未列出的错误：%1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
         <translation>无法读取 %1：%2</translation>
@@ -1123,14 +1150,26 @@
     <message id="DWT_Localize_Cli_NotReported">
         <translation>%1 没有提供以下设置：%2</translation>
     </message>
+    <message id="DWT_Localize_Cli_NotReportedValue">
+        <translation>（未报告）</translation>
+    </message>
     <message id="DWT_Localize_Cli_ReadOnly">
         <translation>以下项目无法更改，已略过：%1</translation>
     </message>
+    <message id="DWT_Localize_Cli_LeftOut_Automatic">
+        <translation>已省略，因为打印机自动获取地址：%1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_LeftOut_SameNetwork">
+        <translation>网络不变，因此不再发送（“--keys always”会发送）：%1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>没有终端时，除非指定 --yes，否则不会更改任何设置。</translation>
+        <translation>没有终端时，以及使用 --json 时，必须给出 --yes 才会更改。</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
         <translation>%1 将更改以下设置：</translation>
+    </message>
+    <message id="DWT_Localize_Cli_WouldChange">
+        <translation>%1 将会被更改。</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
         <translation>%1 已经是这些设置。没有发送任何内容。</translation>
@@ -1204,11 +1243,26 @@
     <message id="DWT_Localize_Cli_RowsLeft">
         <translation>表中的以下打印机不在：%1</translation>
     </message>
+    <message id="DWT_Localize_Cli_AndMore">
+        <translation>另外还有 %1 台。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SameName">
+        <translation>多行给出同一个打印机名称：第 %1 行</translation>
+    </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>无法写入 %1：%2</translation>
     </message>
+    <message id="DWT_Localize_Cli_Results_Input">
+        <translation>它是要读取的文件之一。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_InUse">
+        <translation>另一次运行正在写入。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_Foreign">
+        <translation>它不是结果文件。</translation>
+    </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>无法写入 %1：%2。不再处理后面的打印机。</translation>
+        <translation>不再处理其他打印机。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>%1 的第一行没有密钥或密码。</translation>

@@ -1,5 +1,6 @@
 #include "cli/ApplyCommand.h"
 
+#include "cli/Change.h"
 #include "cli/Choice.h"
 #include "cli/Interrupt.h"
 #include "cli/Notes.h"
@@ -11,60 +12,103 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void printPlan(Context &context, const Session &session, const Plan &plan) {
-    if (plan.changes.isEmpty()) {
-        context.terminal.print(localized("DWT_Localize_Cli_NothingToDo").arg(session.name()));
-        return;
-    }
-    context.terminal.print(localized("DWT_Localize_Cli_WillChange").arg(session.name()));
-    for (const Plan::Change &change : plan.changes)
-        context.terminal.print(u"  %1: %2"_s.arg(change.setting->name, change.words()));
-    for (const SendWarning &warning : plan.warnings) context.terminal.note(wordsOf(warning));
-}
+// The change of the printer that the command line names.
+class Work {
+  public:
+    explicit Work(Context &context)
+        : m_context(context),
+          m_isDry(context.options.has(u"dry-run"_s)),
+          m_isAgreed(context.options.has(u"yes"_s)) {}
 
-ExitCode change(Context &context, Session &session, const Plan &plan) {
-    const QString name = session.name();
-    const auto password = [&] { return context.passwords.forPrinter(name); };
-    const auto mayBegin = [&] {
-        context.terminal.showProgress(localized("DWT_Localize_Cli_Sending").arg(name));
-        return !Interrupt::isRequested();
-    };
-    const Ending ending = session.change(plan, password, mayBegin);
-    const ExitCode code = codeOf(ending);
-    const QString words = session.wordsOf(ending, Naming::Stable).join(u' ');
-    if (code != ExitCode::Done) return context.terminal.fail(code, words);
-    context.terminal.print(words);
-    return Interrupt::isRequested() ? ExitCode::Stopped : ExitCode::Done;
-}
+    ExitCode run(const GivenSettings &given) {
+        if (!m_isAgreed && !m_isDry && (m_context.isJson() || !Terminal::canAsk()))
+            return m_context.terminal.fail(
+                ExitCode::UsedWrongly, localized("DWT_Localize_Cli_NoTerminal"), u"no-terminal"_s);
+        const auto keys = m_context.keys();
+        if (!keys) return ExitCode::UsedWrongly;
+        if (!given.faults.isEmpty())
+            return end(outcomeOf(given.allFaults() + faultsBetween(given.values)));
+        Fault fault;
+        if (!m_context.passwords.load(m_context.options.value(u"password-file"_s), fault))
+            return end(outcomeOf({fault}));
+        noteReadOnly(m_context, given);
+        auto wait = std::make_unique<InterruptibleWait>();
+        Failure failure;
+        m_session = openForChange(m_context, m_context.options.arguments.first(), failure);
+        if (!m_session) return end(failure);
+        const Session::Reading reading = readPrinter(m_context, *m_session);
+        if (isWaitCancelled()) return stopped();
+        if (reading != Session::Reading::Complete)
+            return end(outcomeOf(codeOf(reading), m_session->wordsOf(reading)));
+        Change change(*m_session, given.values, *keys);
+        if (isWaitCancelled()) return stopped();
+        const Outcome &planned = change.planned();
+        if (!planned.faults.isEmpty()) return end(planned);
+        if (!m_context.isJson()) tell(planned);
+        if (planned.plan.changes.isEmpty() || m_isDry) return end(planned);
+        if (!m_isAgreed && !m_context.terminal.confirm(localized("DWT_Localize_Cli_Confirm")))
+            return stopped();
+        wait.reset();  // what is sent is not broken off
+        return make(change);
+    }
+
+  private:
+    ExitCode make(Change &change) {
+        const QString name = m_session->name();
+        const auto password = [&] { return m_context.passwords.forPrinter(name); };
+        const auto mayBegin = [&] {
+            m_context.terminal.showProgress(localized("DWT_Localize_Cli_Sending").arg(name));
+            return !Interrupt::isRequested();
+        };
+        const ExitCode code = end(change.make(password, mayBegin));
+        return code == ExitCode::Done && Interrupt::isRequested() ? ExitCode::Stopped : code;
+    }
+
+    // What will change.
+    void tell(const Outcome &planned) {
+        noteNotReported(m_context, *m_session);
+        if (!planned.plan.changes.isEmpty())
+            m_context.terminal.print(
+                localized("DWT_Localize_Cli_WillChange").arg(m_session->name()));
+        notePlan(m_context, planned);
+    }
+
+    ExitCode stopped() {
+        return end(outcomeOf(ExitCode::Stopped, {localized("DWT_Localize_Cli_Stopped")}));
+    }
+
+    ExitCode end(const Failure &failure) {
+        Outcome outcome = outcomeOf(failure.code, {failure.text});
+        outcome.word = failure.kind;
+        m_context.terminal.fail(failure);
+        if (m_context.isJson()) m_context.terminal.printLine(asJson(outcome));
+        return failure.code;
+    }
+
+    ExitCode end(const Outcome &outcome) {
+        Terminal &terminal = m_context.terminal;
+        const bool isDone = outcome.code == ExitCode::Done;
+        if (!outcome.faults.isEmpty())
+            terminal.fail(outcome.faults);
+        else if (!isDone && outcome.code != ExitCode::WouldChange)
+            terminal.fail(outcome.code, outcome.sentences.join(u' '), outcome.word);
+        else if (isDone && !m_context.isJson())
+            terminal.print(outcome.sentences.join(u' '));
+        if (m_context.isJson()) {
+            QJsonObject object = asJson(outcome);
+            if (m_session) object.insert(u"printer"_s, printerAsJson(*m_session));
+            terminal.printLine(object);
+        }
+        return m_context.codeOfRun(outcome.code);
+    }
+
+    Context &m_context;
+    const bool m_isDry, m_isAgreed;
+    std::optional<Session> m_session;
+};
 
 }  // namespace
 
 ExitCode apply(Context &context) {
-    const bool dryRun = context.options.has(u"dry-run"_s), yes = context.options.has(u"yes"_s);
-    Terminal &terminal = context.terminal;
-    if (!yes && !dryRun && !Terminal::canAsk())
-        return terminal.fail(ExitCode::UsedWrongly, localized("DWT_Localize_Cli_NoTerminal"));
-    const GivenSettings given = settingsFromFile(context.options.arguments[1]);
-    if (!given.faults.isEmpty())
-        return terminal.fail(given.allFaults() + faultsBetween(given.values));
-    Fault fault;
-    if (!context.passwords.load(context.options.value(u"password-file"_s), fault))
-        return terminal.fail({fault});
-    noteReadOnly(context, given);
-    auto wait = std::make_unique<InterruptibleWait>();
-    ExitCode code{};
-    auto session = openForChange(context, context.options.arguments.first(), code);
-    if (!session) return code;
-    const Session::Reading reading = readPrinter(context, *session);
-    if (isWaitCancelled()) return context.stopped();
-    if (reading != Session::Reading::Complete)
-        return terminal.fail(codeOf(reading), session->wordsOf(reading).join(u' '));
-    noteNotReported(context, *session);
-    const Plan plan = planOf(session->record(), given.values);
-    if (!plan.faults.isEmpty()) return terminal.fail(plan.faults);
-    printPlan(context, *session, plan);
-    if (plan.changes.isEmpty() || dryRun) return ExitCode::Done;
-    if (!yes && !terminal.confirm(localized("DWT_Localize_Cli_Confirm"))) return context.stopped();
-    wait.reset();  // what is sent is not broken off
-    return change(context, *session, plan);
+    return Work(context).run(settingsFromFile(context.options.arguments[1]));
 }

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 // A URI and a serial number that one printer has are known at once; whose a name is shows when all
 // names are known.
-std::optional<Session> openPrinter(Context &context, const QString &named, ExitCode &code) {
+std::optional<Session> openPrinter(Context &context, const QString &named, Failure &failure) {
     Look look;
     const auto with = [&](const auto &isMeant) {
         QList<PrinterEntry> meant;
@@ -39,26 +39,26 @@ std::optional<Session> openPrinter(Context &context, const QString &named, ExitC
         return Session(meant.first());
     }
     if (isWaitCancelled()) {
-        code = context.stopped();
+        failure = {ExitCode::Stopped, localized("DWT_Localize_Cli_Stopped"), u"stopped"_s};
         return {};
     }
     if (meant.isEmpty()) context.terminal.note(Printers::problems());
     QStringList candidates;
     for (const PrinterEntry &entry : std::as_const(meant))
         candidates << cellsOf(entry).join(u"  "_s);
-    code = context.terminal.fail(
+    failure = {
         ExitCode::NotReached,
         localized(meant.isEmpty() ? "DWT_Localize_Cli_NotFound" : "DWT_Localize_Cli_Ambiguous")
             .arg(named),
-        candidates);
+        meant.isEmpty() ? u"not-found"_s : u"ambiguous"_s, candidates};
     return {};
 }
 
-std::optional<Session> openForChange(Context &context, const QString &named, ExitCode &code) {
-    auto session = openPrinter(context, named, code);
+std::optional<Session> openForChange(Context &context, const QString &named, Failure &failure) {
+    auto session = openPrinter(context, named, failure);
     if (!session || isUSB(session->entry())) return session;
-    code = context.terminal.fail(ExitCode::UsedWrongly,
-                                 localized("DWT_Localize_Cli_NotUsb").arg(session->name()));
+    failure = {ExitCode::UsedWrongly, localized("DWT_Localize_Cli_NotUsb").arg(session->name()),
+               u"not-usb"_s};
     return {};
 }
 

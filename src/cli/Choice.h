@@ -7,12 +7,12 @@
 
 // The printer that a command line names.
 
-// The printer that `named` stands for: by URI, serial number or name. Nothing, with the `code` to
-// end with, when there is none or more than one; that is told.
-std::optional<Session> openPrinter(Context &context, const QString &named, ExitCode &code);
+// The printer that `named` stands for: by URI, serial number or name. Nothing, with the `failure`,
+// when there is none or more than one.
+std::optional<Session> openPrinter(Context &context, const QString &named, Failure &failure);
 
 // The same of a printer whose settings can be changed.
-std::optional<Session> openForChange(Context &context, const QString &named, ExitCode &code);
+std::optional<Session> openForChange(Context &context, const QString &named, Failure &failure);
 
 // Reads an opened printer and shows meanwhile how far it is.
 Session::Reading readPrinter(Context &context, Session &session);

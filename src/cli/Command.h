@@ -11,7 +11,7 @@ struct Context;
 // What a command line can hold. Help, the man page's synopsis and completion come from it.
 
 // What an argument, or the value of an option, stands for.
-enum class Takes { Nothing, Command, Printer, SettingsFile, TableFile, AnyFile };
+enum class Takes { Nothing, Command, Printer, SettingsFile, TableFile, AnyFile, Keys, Word };
 
 struct Argument {
     QString name;  // in the help: "PRINTER"

@@ -50,6 +50,9 @@ Offer offerOf(const Context &context, Takes takes, const QString &kept = {}) {
         case Takes::TableFile:
         case Takes::AnyFile:
             return {true, {}, kept};
+        case Takes::Keys:
+            return {false, {u"always"_s, u"when-changed"_s}, kept};
+        case Takes::Word:
         case Takes::Nothing:
             break;
     }

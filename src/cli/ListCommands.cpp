@@ -48,9 +48,9 @@ ExitCode list(Context &context) {
 
 ExitCode networks(Context &context) {
     const InterruptibleWait wait;
-    ExitCode code{};
-    auto session = openForChange(context, context.options.arguments.first(), code);
-    if (!session) return code;
+    Failure failure;
+    auto session = openForChange(context, context.options.arguments.first(), failure);
+    if (!session) return context.terminal.fail(failure);
     const auto found = session->manager()->SSIDList([&](int polls, int total) {
         const auto left = DWTDataManager::defaultScanInterval * (total - polls);
         context.terminal.showProgress(

@@ -25,12 +25,12 @@ void printPages(Context &context, const Session &session) {
 
 ExitCode show(Context &context) {
     const InterruptibleWait wait;
-    ExitCode code{};
-    auto session = openPrinter(context, context.options.arguments.first(), code);
-    if (!session) return code;
+    Failure failure;
+    auto session = openPrinter(context, context.options.arguments.first(), failure);
+    if (!session) return context.terminal.fail(failure);
     const Session::Reading reading = readPrinter(context, *session);
     if (isWaitCancelled()) return context.stopped();
-    code = codeOf(reading);
+    const ExitCode code = codeOf(reading);
     const QString words = session->wordsOf(reading).join(u' ');
     if (code != ExitCode::Done && session->record().value(DWT_View_Key_Network).isEmpty())
         return context.terminal.fail(code, words);

@@ -19,6 +19,9 @@ namespace {
 
 using nlohmann::json;
 
+// How deep objects and arrays may be nested; those of settings are three deep.
+constexpr qsizetype deepest = 16;
+
 // The key of an object that names the file of a secret.
 const QString fileKey = u"file"_s;
 
@@ -57,11 +60,13 @@ class Handler : public nlohmann::json_sax<json> {
         : m_result(result), m_file(std::move(file)), m_line(line) {}
 
     bool key(string_t &key) override {
+        m_name.clear();
+        if (!isUsed()) return true;
         m_name = QString::fromStdString(key);
         if (!group().isEmpty()) m_name.prepend(group() + u'.');
         m_nameLine = m_line;
-        if (isUsed() && m_seen.contains(m_name))
-            addFault(localized("DWT_Localize_Cli_Fault_Twice"));
+        if (m_seen.contains(m_name))
+            addFault(localized("DWT_Localize_Cli_Fault_Twice"), u"twice"_s);
         m_seen.insert(m_name);
         return true;
     }
@@ -91,8 +96,7 @@ class Handler : public nlohmann::json_sax<json> {
     bool start_object(std::size_t) override {
         const bool used = isUsed() && (m_open.isEmpty() || isGroup(m_name) || isSecret(m_name));
         if (!used) wrongKind();
-        m_open.append({m_name, used});
-        return true;
+        return open(used);
     }
     bool end_object() override {
         const Open closed = m_open.takeLast();
@@ -103,15 +107,15 @@ class Handler : public nlohmann::json_sax<json> {
     }
     bool start_array(std::size_t) override {
         wrongKind();
-        m_open.append({m_name, false});
-        return true;
+        return open(false);
     }
     bool end_array() override {
         m_open.removeLast();
         return true;
     }
     bool parse_error(std::size_t, const std::string &, const json::exception &) override {
-        m_result.faults << Fault{{m_file, m_line}, localized("DWT_Localize_Cli_Fault_NotJson")};
+        m_result.faults << Fault{
+            {m_file, m_line}, localized("DWT_Localize_Cli_Fault_NotJson"), u"not-json"_s};
         return false;
     }
 
@@ -121,6 +125,15 @@ class Handler : public nlohmann::json_sax<json> {
         QString name;
         bool used;  // false: what is in it is passed over
     };
+
+    // Nothing more is read of a text that is nested deeper than any settings.
+    bool open(bool used) {
+        m_open.append({m_name, used});
+        if (m_open.size() <= deepest) return true;
+        m_result.faults << Fault{
+            {m_file, m_line}, localized("DWT_Localize_Cli_Fault_TooDeep"), u"too-deep"_s};
+        return false;
+    }
 
     // The name of the innermost open object; empty for the outermost, and outside of it.
     QString group() const { return m_open.isEmpty() ? QString() : m_open.last().name; }
@@ -132,8 +145,8 @@ class Handler : public nlohmann::json_sax<json> {
     }
     static QString fileNameOf(const QString &secret) { return secret + u'.' + fileKey; }
 
-    bool addFault(const QString &words) {
-        m_result.faults << Fault{place(), words};
+    bool addFault(const QString &words, const QString &kind) {
+        m_result.faults << Fault{place(), words, kind};
         return true;
     }
 
@@ -143,10 +156,10 @@ class Handler : public nlohmann::json_sax<json> {
     bool wrongKind() {
         if (!isUsed()) return true;
         if (m_open.isEmpty() || isGroup(m_name))
-            return addFault(localized("DWT_Localize_Cli_Fault_Group"));
+            return addFault(localized("DWT_Localize_Cli_Fault_Group"), u"group"_s);
         const Setting *const setting = settingOf(isSecret(group()) ? group() : m_name);
-        return addFault(setting ? wordsOfExpected(*setting)
-                                : localized("DWT_Localize_Cli_Fault_Unknown"));
+        return setting ? addFault(wordsOfExpected(*setting), u"value"_s)
+                       : addFault(wordsOfUnknown(m_name), u"unknown-setting"_s);
     }
 
     // Takes the value that comes, which `parse` makes of it for the setting of its name.
@@ -160,20 +173,23 @@ class Handler : public nlohmann::json_sax<json> {
         }
         const Parsed parsed = parse(*setting);
         if (parsed.value)
-            m_result.values << WantedValue{setting, *parsed.value, place(), parsed.fault};
+            m_result.values << WantedValue{setting, *parsed.value, place(), parsed.fault,
+                                           m_secretFile};
         else
-            m_result.faults << Fault{place(), parsed.fault};
+            m_result.faults << Fault{place(), parsed.fault, u"value"_s};
         return true;
     }
 
     bool takeSecretFile(const QString &name, const QString &path) {
         if (m_name != fileNameOf(name)) return wrongKind();
         m_name = name;
-        return take([&](const Setting &setting) {
-            Fault fault;
-            const auto secret = readSecret(path, fault);
-            return secret ? parsedText(setting, *secret) : Parsed{{}, fault.text};
-        });
+        Fault fault;
+        const auto secret = readSecret(path, fault);
+        if (!secret) return addFault(fault.text, fault.kind);
+        m_secretFile = path;
+        take([&](const Setting &setting) { return parsedText(setting, *secret); });
+        m_secretFile.clear();
+        return true;
     }
 
     GivenSettings &m_result;
@@ -181,6 +197,7 @@ class Handler : public nlohmann::json_sax<json> {
     const int &m_line;  // of the byte that was read last
     QString m_name;     // of the value that comes, with its groups: "wired.address.ip"
     int m_nameLine = 0;
+    QString m_secretFile;  // that gives the value that comes
     QList<Open> m_open;
     QSet<QString> m_seen;
 };
@@ -195,6 +212,8 @@ void insert(QJsonObject &object, const QStringList &path, const QJsonValue &valu
     insert(group, path.mid(1), value);
     object.insert(path.first(), group);
 }
+
+}  // namespace
 
 QJsonValue asJson(const Setting &setting, const CategoryDictionary &category) {
     const QString text = textOf(setting, category);
@@ -215,14 +234,20 @@ QJsonValue asJson(const Setting &setting, const CategoryDictionary &category) {
     return text;
 }
 
-}  // namespace
-
 std::optional<QByteArray> readInput(const QString &path, Fault &fault) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        fault.text = localized("DWT_Localize_Cli_Fault_Unreadable").arg(path, file.errorString());
-        return {};
-    }
+    const bool isOpen =
+        path == u"-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+    const auto refuse = [&](const QString &kind, const QString &words) {
+        fault.kind = kind;
+        fault.text = words;
+        return std::nullopt;
+    };
+    const auto refuseUnread = [&] {
+        return refuse(u"unreadable"_s,
+                      localized("DWT_Localize_Cli_Fault_Unreadable").arg(path, file.errorString()));
+    };
+    if (!isOpen) return refuseUnread();
     QByteArray bytes;
     // A pipe hands over what it has at the moment.
     while (bytes.size() <= longestInput) {
@@ -230,13 +255,12 @@ std::optional<QByteArray> readInput(const QString &path, Fault &fault) {
         if (more.isEmpty()) break;
         bytes += more;
     }
-    if (file.error() != QFileDevice::NoError)
-        fault.text = localized("DWT_Localize_Cli_Fault_Unreadable").arg(path, file.errorString());
-    else if (bytes.size() > longestInput)
-        fault.text = localized("DWT_Localize_Cli_Fault_TooLong").arg(path).arg(longestInput >> 20);
-    else
-        return bytes;
-    return {};
+    if (file.error() != QFileDevice::NoError) return refuseUnread();
+    if (bytes.size() > longestInput)
+        return refuse(
+            u"too-long"_s,
+            localized("DWT_Localize_Cli_Fault_TooLong").arg(path).arg(longestInput >> 20));
+    return bytes;
 }
 
 std::optional<QString> readSecret(const QString &path, Fault &fault) {
@@ -249,6 +273,7 @@ std::optional<QString> readSecret(const QString &path, Fault &fault) {
     const QString secret = decoder.decode(QByteArrayView(*bytes).first(end));
     wipe(*bytes);
     if (!decoder.hasError() && !secret.isEmpty()) return secret;
+    fault.kind = secret.isEmpty() ? u"empty-secret"_s : u"not-utf8"_s;
     fault.text = secret.isEmpty()
                      ? localized("DWT_Localize_Cli_Fault_EmptySecret").arg(path)
                      : u"%1: %2"_s.arg(path, localized("DWT_Localize_Cli_Fault_NotUtf8"));
@@ -258,7 +283,7 @@ std::optional<QString> readSecret(const QString &path, Fault &fault) {
 QList<Fault> GivenSettings::allFaults() const {
     QList<Fault> all = faults;
     for (const WantedValue &value : values)
-        if (!value.brokenRule.isEmpty()) all << Fault{value.place, value.brokenRule};
+        if (!value.brokenRule.isEmpty()) all << Fault{value.place, value.brokenRule, u"value"_s};
     std::stable_sort(all.begin(), all.end(),
                      [](const Fault &a, const Fault &b) { return a.place.line < b.place.line; });
     return all;

@@ -10,7 +10,8 @@
 // Longest file with settings, keys or a table, in bytes.
 inline constexpr qint64 longestInput = qint64{4} * 1024 * 1024;
 
-// The bytes of a file or pipe; nothing, with a `fault`, when it is unreadable or too long.
+// The bytes of a file or pipe, of standard input for "-"; nothing, with a `fault`, when it is
+// unreadable or too long.
 std::optional<QByteArray> readInput(const QString &path, Fault &fault);
 
 // The first line of a file; nothing, with a `fault`, when it is unreadable, empty or not UTF-8.
@@ -33,5 +34,7 @@ GivenSettings settingsFromJson(const QByteArray &json, const QString &file);
 // The same from a file.
 GivenSettings settingsFromFile(const QString &path);
 
+// The value of a setting in a category, as a file gives it; `null` when it is missing.
+QJsonValue asJson(const Setting &setting, const CategoryDictionary &category);
 // The settings of a record in groups, by their names; `null` for what the printer did not report.
 QJsonObject asJson(const SettingRecord &record);

@@ -149,16 +149,24 @@ TEST(Commands, EndWithTheCodeOfWhatHappened) {
          "\"device.timeout\""},
         {R"({"items": {"0x3102": 0, "0x3103": 0}})", yes, R"({"wireless.key": "long enough"})",
          InputRefused, "wireless.key"},
-        {"{}", yes, R"({"wired.address": {"mode": "automatic", "ip": "10.9.9.9"}})", InputRefused,
-         "wired.address.ip"},
+        {"{}", yes, R"({"wired.address": {"mode": "automatic", "ip": "10.9.9.9"}})", Done,
+         "automatically: wired.address.ip"},
+        {R"({"items": {"0x2001": {"setting": 0, "address": "0.0.0.0", "mask": "0.0.0.0",
+            "gateway": "0.0.0.0"}}})",
+         yes, R"({"wired.address.ip": "10.9.9.9"})", InputRefused, "wired.address.ip"},
+        {"{}", "apply S1 f.json --dry-run --exit-code", name, WouldChange, ""},
+        {"{}", "apply S1 f.json --yes --keys never", name, UsedWrongly, "when-changed"},
+        {"{}", yes, R"({"wireless.psk": "long enough"})", InputRefused, ", wireless.key,"},
+        {"{}", yes, R"({"device.timout": 90})", InputRefused, "“device.timeout” meant"},
         {R"({"items": {"0x2001": {"setting": 0, "address": "0.0.0.0", "mask": "0.0.0.0",
             "gateway": "0.0.0.0"}}})",
          yes, R"({"wired.address.mode": "fixed"})", InputRefused, "wired.address.ip"},
         {"{}", "check f.json --json", "{\"device.timeout\": 5,\n \"names.printer\": \"a b\"}",
          InputRefused,
-         R"("line":1,"message":"A whole number from 30 to 300 is expected.","name":"device.timeout"})"
+         R"({"code":2,"fault":"value","file":"f.json","line":1,"message":)"
+         R"("A whole number from 30 to 300 is expected.","name":"device.timeout"})"
          "\n"
-         R"({"code":2,"file":"f.json","line":2,"message":)"},
+         R"({"code":2,"fault":"value","file":"f.json","line":2,"message":)"},
         {R"({"faults": {"refuseConnection": true}})", "show S1", "", NotReached, "be reached"},
         {R"({"faults": {"closeAfterFrames": 9}})", yes, name, NotReached, "answering"},
         {"{}", "apply S1 f.json", name, UsedWrongly, "--yes"},
@@ -205,7 +213,8 @@ TEST(Commands, AreExplainedInTheirHelpAndInTheManPage) {
             EXPECT_LE(QString::fromUtf8(line).size(), longestLine) << line.constData();
         expectIn(help.out, {command.example.toUtf8()});
     }
-    EXPECT_EQ(QString(synopses).remove(QRegularExpression(u"\\s"_s)), wanted.remove(u' '));
+    EXPECT_EQ(QString(synopses).remove(QRegularExpression(u"\\s"_s)).toStdString(),
+              wanted.remove(u' ').toStdString());
 }
 
 TEST(Commands, EndAChangeAsThePrinterWasSeenToHaveIt) {
@@ -213,10 +222,61 @@ TEST(Commands, EndAChangeAsThePrinterWasSeenToHaveIt) {
         const Printers printers({R"({"password": "open123"})"});
         const auto faults = faultsOfSend(printers[1], c);
         printers.write(u"f.json"_s, "{\"" + QByteArray(c.wanted).replace("=", "\": \"") + "\"}");
-        const Ended ended = run(printers, "apply S1 f.json --yes", c.password);
+        const Ended ended = run(printers, "apply S1 f.json --yes --keys always", c.password);
         EXPECT_EQ(ended.code, c.code) << c.ending << ended.err.constData();
         expectIn(ended.out + ended.err, {c.said});
     }
+}
+
+TEST(Commands, ReportAChangeToPrograms) {
+    const char *const office = R"({"wireless": {"ssid": "Office", "authentication": "wpa2-psk",
+        "encryption": "aes", "key": "office-key"}, "password": {"administrator": "next-1"},
+        "wired": {"address": {"mode": "dhcp", "ip": "10.9.9.9"}}, "device": {"timeout": 90}})";
+    const char *const notCompared = R"("notCompared":["wireless.key"])";
+    const struct {
+        const char *arguments, *file;
+        ExitCode code;
+        QByteArrayList parts;
+    } rows[] = {
+        {"--dry-run --exit-code",
+         office,
+         WouldChange,
+         {R"("outcome":"would-change")", R"("serial":"S1")",
+          R"({"name":"device.timeout","new":90,"old":60})", R"({"name":"wireless.key","new":true})",
+          R"("leftOut":[{"name":"wired.address.ip","reason":"automatic"}])"}},
+        {"--yes",
+         office,
+         Done,
+         {R"("outcome":"changed")", notCompared, R"("password.administrator")"}},
+        // Once more, nothing is left to do; the password is the new one.
+        {"--yes",
+         office,
+         Done,
+         {R"("changes":[])", R"("outcome":"unchanged")",
+          R"({"name":"wireless.key","reason":"same-network"})"}},
+        {"--yes --keys always", office, Done, {R"("outcome":"changed")", notCompared}},
+        {"--yes", R"({"device.timeout": 91})", LoginRefused, {R"("outcome":"login-refused")"}},
+        {"--yes",
+         R"({"device.timeout": 9})",
+         InputRefused,
+         {R"("faults":[{"fault":"value","file":"f.json","line":1,)", R"("outcome":"refused")"}},
+        {"--yes --password-file nowhere", office, InputRefused, {R"("fault":"unreadable")"}},
+        {"", office, UsedWrongly, {}}};
+    const Printers printers({R"({"password": "open123", "items": {"0x2001": {
+        "setting": 0, "address": "10.0.0.5", "mask": "255.0.0.0", "gateway": "10.0.0.1"}}})"});
+    for (const auto &row : rows) {
+        printers.write(u"f.json"_s, row.file);
+        const Ended ended =
+            run(printers, ("apply S1 f.json --json "_ba + row.arguments).constData(), "open123");
+        EXPECT_EQ(ended.code, row.code) << row.arguments << ended.err.constData();
+        EXPECT_EQ(ended.out.count('\n'), row.parts.isEmpty() ? 0 : 1) << ended.out.constData();
+        expectIn(ended.out, row.parts);
+        for (const char *secret : {"office-key", "next-1"})
+            EXPECT_FALSE((ended.out + ended.err).contains(secret));
+    }
+    const Ended gone = run(printers, "apply Nobody f.json --yes --json");
+    expectIn(gone.out, {R"("outcome":"not-found")"});
+    expectIn(gone.err, {R"("fault":"not-found")"});
 }
 
 TEST(Commands, ListTheNetworksThatThePrinterFinds) {

@@ -1,0 +1,100 @@
+#include "cli/Outcome.h"
+
+#include <QJsonArray>
+
+#include "cli/Faults.h"
+#include "cli/Views.h"
+#include "platform/core/Texts.h"
+#include "settings/SettingsFile.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString wordOf(SendWarning::Kind kind) {
+    static const QMap<SendWarning::Kind, QString> words{
+        {SendWarning::KeyKept, u"key-kept"_s},
+        {SendWarning::NotAMask, u"not-a-mask"_s},
+        {SendWarning::GatewayOutside, u"gateway-outside"_s},
+        {SendWarning::AddressUnreachable, u"address-unreachable"_s}};
+    return words[kind];
+}
+
+// A value as a file gives it, for people.
+QString fileTextOf(const Setting &setting, const CategoryDictionary &category) {
+    if (!category.contains(setting.key)) return localized("DWT_Localize_Cli_NotReportedValue");
+    const QString text = shownText(asJson(setting, category).toVariant().toString());
+    return text.isEmpty() ? localized("DWT_Localize_Send_Confirm_Empty") : text;
+}
+
+QJsonArray namesIn(const Ending &ending, Ending::State state) {
+    return QJsonArray::fromStringList(namesOf(ending.in(state), Naming::Stable));
+}
+
+QJsonObject asJson(const Plan::Change &change, const Outcome &outcome) {
+    const Setting &setting = *change.setting;
+    const CategoryDictionary before = outcome.before.value(setting.viewKey),
+                             after = outcome.plan.record.value(setting.viewKey);
+    if (setting.isSecret())
+        return {{u"name"_s, setting.name}, {u"new"_s, !textValue(after, setting.key).isEmpty()}};
+    return {{u"name"_s, setting.name},
+            {u"old"_s, asJson(setting, before)},
+            {u"new"_s, asJson(setting, after)}};
+}
+
+}  // namespace
+
+Outcome outcomeOf(ExitCode code, const QStringList &sentences) {
+    return {code, wordOf(code), sentences};
+}
+
+Outcome outcomeOf(const QList<Fault> &faults) {
+    Outcome outcome = outcomeOf(ExitCode::InputRefused, {});
+    for (const Fault &fault : faults) outcome.sentences << wordsOf(fault);
+    outcome.faults = faults;
+    return outcome;
+}
+
+QString lineOf(const Plan::Change &change, const Outcome &outcome) {
+    const Setting &setting = *change.setting;
+    if (setting.isSecret()) return u"%1: %2"_s.arg(setting.name, change.newText);
+    return u"%1: %2 → %3"_s.arg(setting.name,
+                                fileTextOf(setting, outcome.before.value(setting.viewKey)),
+                                fileTextOf(setting, outcome.plan.record.value(setting.viewKey)));
+}
+
+QJsonObject asJson(const Outcome &outcome) {
+    QJsonArray changes, leftOut, warnings, faults;
+    for (const Plan::Change &change : outcome.plan.changes) changes << asJson(change, outcome);
+    for (const Plan::LeftOut &left : outcome.plan.leftOut)
+        leftOut << QJsonObject{
+            {u"name"_s, left.setting->name},
+            {u"reason"_s,
+             left.reason == Plan::LeftOut::Automatic ? u"automatic"_s : u"same-network"_s}};
+    for (const SendWarning &warning : outcome.plan.warnings)
+        warnings << QJsonObject{{u"warning"_s, wordOf(warning.kind)},
+                                {u"message"_s, wordsOf(warning)}};
+    for (const Fault &fault : outcome.faults) faults << asJson(fault);
+    QJsonObject object{{u"outcome"_s, outcome.word},
+                       {u"message"_s, outcome.sentences.join(u' ')},
+                       {u"changes"_s, changes},
+                       {u"leftOut"_s, leftOut},
+                       {u"warnings"_s, warnings},
+                       {u"faults"_s, faults},
+                       {u"notReported"_s,
+                        QJsonArray::fromStringList(namesOf(outcome.notReported, Naming::Stable))}};
+    if (!outcome.ending) return object;
+    using State = Ending::State;
+    object.insert(u"verified"_s, namesIn(*outcome.ending, State::Verified));
+    object.insert(u"notCompared"_s, namesIn(*outcome.ending, State::Accepted));
+    object.insert(u"notAccepted"_s, namesIn(*outcome.ending, State::Refused));
+    object.insert(u"unclear"_s, namesIn(*outcome.ending, State::Unclear));
+    object.insert(u"different"_s, namesIn(*outcome.ending, State::Differs));
+    return object;
+}
+
+QJsonObject printerAsJson(const Session &session) {
+    const SettingRecord &record = session.record();
+    if (!record.contains(QString())) return asJson(session.entry());
+    return asJson(SettingRecord{{QString(), record.value(QString())}})[u"printer"].toObject();
+}
