@@ -928,11 +928,23 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Help_Show">
         <translation>Alle Einstellungen eines Druckers zeigen, außer Schlüsseln und Passwörtern.</translation>
     </message>
+    <message id="DWT_Localize_Cli_Help_Get">
+        <translation>Die Werte einzelner Einstellungen eines Druckers zeigen.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Settings">
+        <translation>Die Namen aller Einstellungen auflisten, und was sie sein können.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Diff">
+        <translation>Zeigen, in welchen Einstellungen sich zwei Drucker oder Dateien unterscheiden.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Help_Check">
         <translation>Alles nennen, was an einer Datei mit Einstellungen oder einer Tabelle falsch ist.</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Apply">
         <translation>Einen Drucker nach einer Datei mit Einstellungen ändern.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Set">
+        <translation>Einzelne Einstellungen eines Druckers ändern.</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Provision">
         <translation>Jeden Drucker an USB ändern, der eine Zeile in einer Tabelle hat.</translation>
@@ -947,7 +959,7 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
         <translation>Beispiel:</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Printer">
-        <translation>PRINTER: URI der Liste, eigener Name des Druckers oder Seriennummer. FILE: Einstellungen in JSON.</translation>
+        <translation>PRINTER: Name des Druckers, Seriennummer, MAC- oder IP-Adresse oder URI der Liste. FILE: Einstellungen in JSON; „-“ ist die Standardeingabe.</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Codes">
         <translation>Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefunden oder erreicht, 4 Anmeldung abgelehnt, 5 Einstellungen nicht übernommen, 6 abgebrochen, 7 würde sich ändern (mit --exit-code).</translation>
@@ -958,6 +970,9 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Option_Json">
         <translation>JSON ausgeben</translation>
     </message>
+    <message id="DWT_Localize_Cli_Option_Settings">
+        <translation>nur was sich ändern lässt, mit den Namen der Dateien</translation>
+    </message>
     <message id="DWT_Localize_Cli_Option_DryRun">
         <translation>nur sagen, was sich ändern würde</translation>
     </message>
@@ -966,6 +981,12 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Cli_Option_Yes">
         <translation>vor dem Ändern nicht fragen</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Only">
+        <translation>nur diese Einstellungen oder Gruppen: wireless,device.timeout</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Without">
+        <translation>diese Einstellungen oder Gruppen auslassen: names,*.address</translation>
     </message>
     <message id="DWT_Localize_Cli_Option_Once">
         <translation>nur Drucker, die jetzt angeschlossen sind; Vorgabe ohne Terminal</translation>
@@ -1072,8 +1093,20 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
         <translation>Diese Einstellung kann nicht geändert werden.</translation>
     </message>
+    <message id="DWT_Localize_Cli_OnlyShown">
+        <translation>Nur zur Anzeige; nicht änderbar.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NeverShown">
+        <translation>„%1“ wird nie gezeigt.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
         <translation>Dieser Name ist zweimal angegeben.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SecretArgument">
+        <translation>Ein Schlüssel oder Passwort ist kein Argument, da andere es sehen könnten. „NAME=@DATEI“ nimmt die erste Zeile einer Datei.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSign">
+        <translation>Erwartet wird NAME=WERT.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
         <translation>Hier wird ein Objekt mit Einstellungen erwartet.</translation>
@@ -1083,6 +1116,9 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
         <translation>Ein Text in Anführungszeichen oder {"file": "..."} wird erwartet.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Hex">
+        <translation>Erwartet werden 2 bis 64 hexadezimale Ziffern, zwei je Byte.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
         <translation>Eine ganze Zahl von %1 bis %2 wird erwartet.</translation>
@@ -1168,6 +1204,9 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_WillChange">
         <translation>In %1 wird sich ändern:</translation>
     </message>
+    <message id="DWT_Localize_Cli_FromFile">
+        <translation>%1, aus %2</translation>
+    </message>
     <message id="DWT_Localize_Cli_WouldChange">
         <translation>%1 würde geändert.</translation>
     </message>
@@ -1178,7 +1217,7 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
         <translation>Ändern? [j/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
-        <translation>j</translation>
+        <translation>j ja y yes</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>Administratorpasswort von %1:</translation>
@@ -1248,6 +1287,12 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Cli_SameName">
         <translation>Mehrere Zeilen geben denselben Druckernamen: Zeilen %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NameTaken">
+        <translation>Ein anderer Drucker heißt bereits %1.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_AddressTaken">
+        <translation>%2 hat die Adresse %1 bereits.</translation>
     </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>%1 kann nicht geschrieben werden: %2</translation>

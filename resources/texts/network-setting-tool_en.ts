@@ -928,11 +928,23 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Help_Show">
         <translation>Show every setting of a printer but keys and passwords.</translation>
     </message>
+    <message id="DWT_Localize_Cli_Help_Get">
+        <translation>Show the values of some settings of a printer.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Settings">
+        <translation>List the names of all settings, and what each may be.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Diff">
+        <translation>Show in which settings two printers or files differ.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Help_Check">
         <translation>Say everything that is wrong with a file of settings or a table.</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Apply">
         <translation>Change one printer by a file of settings.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Set">
+        <translation>Change some settings of one printer.</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Provision">
         <translation>Change every printer on USB that has a row in a table.</translation>
@@ -947,7 +959,7 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
         <translation>Example:</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Printer">
-        <translation>PRINTER is a URI of the list, a printer’s own name, or a serial number. FILE holds settings in JSON.</translation>
+        <translation>PRINTER is a printer’s name, serial number, MAC or IP address, or a URI of the list. FILE holds settings in JSON; “-” is standard input.</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Codes">
         <translation>Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not reached, 4 login refused, 5 settings not taken over, 6 stopped, 7 would change (with --exit-code).</translation>
@@ -958,6 +970,9 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Option_Json">
         <translation>print JSON</translation>
     </message>
+    <message id="DWT_Localize_Cli_Option_Settings">
+        <translation>only what can be changed, by the names of files</translation>
+    </message>
     <message id="DWT_Localize_Cli_Option_DryRun">
         <translation>only say what would change</translation>
     </message>
@@ -966,6 +981,12 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Cli_Option_Yes">
         <translation>do not ask before changing</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Only">
+        <translation>only these settings or groups: wireless,device.timeout</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Without">
+        <translation>leave out these settings or groups: names,*.address</translation>
     </message>
     <message id="DWT_Localize_Cli_Option_Once">
         <translation>only printers that are plugged in now; the default without a terminal</translation>
@@ -1072,8 +1093,20 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
         <translation>This setting cannot be changed.</translation>
     </message>
+    <message id="DWT_Localize_Cli_OnlyShown">
+        <translation>Only shown; it cannot be changed.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NeverShown">
+        <translation>“%1” is never shown.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
         <translation>This name is given twice.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SecretArgument">
+        <translation>A key or password is no argument, which others could see. “NAME=@FILE” takes the first line of a file.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSign">
+        <translation>NAME=VALUE is expected.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
         <translation>An object with settings is expected here.</translation>
@@ -1083,6 +1116,9 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
         <translation>A text in quotation marks or {"file": "..."} is expected.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Hex">
+        <translation>2 to 64 hexadecimal digits are expected, two a byte.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
         <translation>A whole number from %1 to %2 is expected.</translation>
@@ -1168,6 +1204,9 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_WillChange">
         <translation>In %1, this will change:</translation>
     </message>
+    <message id="DWT_Localize_Cli_FromFile">
+        <translation>%1, from %2</translation>
+    </message>
     <message id="DWT_Localize_Cli_WouldChange">
         <translation>%1 would be changed.</translation>
     </message>
@@ -1178,7 +1217,7 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
         <translation>Change it? [y/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
-        <translation>y</translation>
+        <translation>y yes</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>Administrator password of %1:</translation>
@@ -1248,6 +1287,12 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Cli_SameName">
         <translation>Several rows give one printer name: lines %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NameTaken">
+        <translation>Another printer is called %1 already.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_AddressTaken">
+        <translation>%2 has the address %1 already.</translation>
     </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>%1 cannot be written: %2</translation>

@@ -928,11 +928,23 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Help_Show">
         <translation>Mostrar todos los ajustes de una impresora, salvo claves y contraseñas.</translation>
     </message>
+    <message id="DWT_Localize_Cli_Help_Get">
+        <translation>Mostrar los valores de algunos ajustes de una impresora.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Settings">
+        <translation>Listar los nombres de todos los ajustes y lo que admiten.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Diff">
+        <translation>Mostrar en qué ajustes difieren dos impresoras o archivos.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Help_Check">
         <translation>Decir todo lo que está mal en un archivo de ajustes o una tabla.</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Apply">
         <translation>Cambiar una impresora según un archivo de ajustes.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Set">
+        <translation>Cambiar algunos ajustes de una impresora.</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Provision">
         <translation>Cambiar cada impresora USB que tiene una fila en una tabla.</translation>
@@ -947,7 +959,7 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
         <translation>Ejemplo:</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Printer">
-        <translation>PRINTER: URI de la lista, nombre propio de la impresora o número de serie. FILE: ajustes en JSON.</translation>
+        <translation>PRINTER: nombre de la impresora, número de serie, dirección MAC o IP, o URI de la lista. FILE: ajustes en JSON; «-» es la entrada estándar.</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Codes">
         <translation>Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encontrada o sin acceso, 4 inicio de sesión rechazado, 5 ajustes no aceptados, 6 detenido, 7 cambiaría (con --exit-code).</translation>
@@ -958,6 +970,9 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Option_Json">
         <translation>escribir JSON</translation>
     </message>
+    <message id="DWT_Localize_Cli_Option_Settings">
+        <translation>solo lo que se puede cambiar, con los nombres de los archivos</translation>
+    </message>
     <message id="DWT_Localize_Cli_Option_DryRun">
         <translation>decir solo qué cambiaría</translation>
     </message>
@@ -966,6 +981,12 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Cli_Option_Yes">
         <translation>no preguntar antes de cambiar</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Only">
+        <translation>solo estos ajustes o grupos: wireless,device.timeout</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Without">
+        <translation>omitir estos ajustes o grupos: names,*.address</translation>
     </message>
     <message id="DWT_Localize_Cli_Option_Once">
         <translation>solo impresoras conectadas ahora; lo predeterminado sin terminal</translation>
@@ -1072,8 +1093,20 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
         <translation>Este ajuste no se puede cambiar.</translation>
     </message>
+    <message id="DWT_Localize_Cli_OnlyShown">
+        <translation>Solo se muestra; no se puede cambiar.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NeverShown">
+        <translation>«%1» no se muestra nunca.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
         <translation>Este nombre está indicado dos veces.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SecretArgument">
+        <translation>Una clave o contraseña no se da como argumento, pues otros podrían verla. «NOMBRE=@ARCHIVO» toma la primera línea de un archivo.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSign">
+        <translation>Se espera NOMBRE=VALOR.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
         <translation>Aquí se espera un objeto con ajustes.</translation>
@@ -1083,6 +1116,9 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
         <translation>Se espera un texto entre comillas o {"file": "..."}.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Hex">
+        <translation>Se esperan de 2 a 64 dígitos hexadecimales, dos por byte.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
         <translation>Se espera un número entero de %1 a %2.</translation>
@@ -1168,6 +1204,9 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_WillChange">
         <translation>En %1 cambiará lo siguiente:</translation>
     </message>
+    <message id="DWT_Localize_Cli_FromFile">
+        <translation>%1, de %2</translation>
+    </message>
     <message id="DWT_Localize_Cli_WouldChange">
         <translation>%1 se cambiaría.</translation>
     </message>
@@ -1178,7 +1217,7 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
         <translation>¿Cambiarlo? [s/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
-        <translation>s</translation>
+        <translation>s sí si y yes</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>Contraseña de administrador de %1:</translation>
@@ -1248,6 +1287,12 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Cli_SameName">
         <translation>Varias filas dan el mismo nombre de impresora: líneas %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NameTaken">
+        <translation>Otra impresora ya se llama %1.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_AddressTaken">
+        <translation>%2 ya tiene la dirección %1.</translation>
     </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>No se puede escribir %1: %2</translation>

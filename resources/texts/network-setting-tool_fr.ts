@@ -928,11 +928,23 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Help_Show">
         <translation>Montrer tous les réglages d’une imprimante, sauf clés et mots de passe.</translation>
     </message>
+    <message id="DWT_Localize_Cli_Help_Get">
+        <translation>Montrer les valeurs de quelques réglages d’une imprimante.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Settings">
+        <translation>Lister les noms de tous les réglages et ce qu’ils admettent.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Diff">
+        <translation>Montrer en quels réglages deux imprimantes ou fichiers diffèrent.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Help_Check">
         <translation>Dire tout ce qui ne va pas dans un fichier de réglages ou une table.</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Apply">
         <translation>Modifier une imprimante d’après un fichier de réglages.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Set">
+        <translation>Modifier quelques réglages d’une imprimante.</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Provision">
         <translation>Modifier chaque imprimante USB qui a une ligne dans une table.</translation>
@@ -947,7 +959,7 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
         <translation>Exemple :</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Printer">
-        <translation>PRINTER : URI de la liste, nom propre de l’imprimante ou numéro de série. FILE : réglages en JSON.</translation>
+        <translation>PRINTER : nom de l’imprimante, numéro de série, adresse MAC ou IP, ou URI de la liste. FILE : réglages en JSON ; « - » est l’entrée standard.</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Codes">
         <translation>Se termine par 0 fait, 1 mauvaise utilisation, 2 entrée refusée, 3 imprimante introuvable ou injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté, 7 serait modifié (avec --exit-code).</translation>
@@ -958,6 +970,9 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Option_Json">
         <translation>écrire du JSON</translation>
     </message>
+    <message id="DWT_Localize_Cli_Option_Settings">
+        <translation>seulement ce qui peut être modifié, avec les noms des fichiers</translation>
+    </message>
     <message id="DWT_Localize_Cli_Option_DryRun">
         <translation>dire seulement ce qui changerait</translation>
     </message>
@@ -966,6 +981,12 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Cli_Option_Yes">
         <translation>ne pas demander avant de modifier</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Only">
+        <translation>seulement ces réglages ou groupes : wireless,device.timeout</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Without">
+        <translation>laisser de côté ces réglages ou groupes : names,*.address</translation>
     </message>
     <message id="DWT_Localize_Cli_Option_Once">
         <translation>seulement les imprimantes branchées maintenant ; par défaut sans terminal</translation>
@@ -1072,8 +1093,20 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
         <translation>Ce réglage ne peut pas être modifié.</translation>
     </message>
+    <message id="DWT_Localize_Cli_OnlyShown">
+        <translation>Affiché seulement ; ne peut pas être modifié.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NeverShown">
+        <translation>« %1 » n’est jamais montré.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
         <translation>Ce nom est indiqué deux fois.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SecretArgument">
+        <translation>Une clé ou un mot de passe n’est pas un argument, que d’autres pourraient voir. « NOM=@FICHIER » prend la première ligne d’un fichier.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSign">
+        <translation>NOM=VALEUR est attendu.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
         <translation>Un objet avec des réglages est attendu ici.</translation>
@@ -1083,6 +1116,9 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
         <translation>Un texte entre guillemets ou {"file": "..."} est attendu.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Hex">
+        <translation>2 à 64 chiffres hexadécimaux sont attendus, deux par octet.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
         <translation>Un nombre entier de %1 à %2 est attendu.</translation>
@@ -1168,6 +1204,9 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_Cli_WillChange">
         <translation>Dans %1, ceci changera :</translation>
     </message>
+    <message id="DWT_Localize_Cli_FromFile">
+        <translation>%1, de %2</translation>
+    </message>
     <message id="DWT_Localize_Cli_WouldChange">
         <translation>%1 serait modifiée.</translation>
     </message>
@@ -1178,7 +1217,7 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
         <translation>Modifier ? [o/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
-        <translation>o</translation>
+        <translation>o oui y yes</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>Mot de passe administrateur de %1 :</translation>
@@ -1248,6 +1287,12 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Cli_SameName">
         <translation>Plusieurs lignes donnent le même nom d’imprimante : lignes %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NameTaken">
+        <translation>Une autre imprimante s’appelle déjà %1.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_AddressTaken">
+        <translation>%2 a déjà l’adresse %1.</translation>
     </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>%1 ne peut pas être écrit : %2</translation>

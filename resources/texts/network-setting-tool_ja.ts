@@ -928,11 +928,23 @@
     <message id="DWT_Localize_Cli_Help_Show">
         <translation>キーとパスワードを除くプリンターの全設定を表示する。</translation>
     </message>
+    <message id="DWT_Localize_Cli_Help_Get">
+        <translation>プリンターの一部の設定の値を表示する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Settings">
+        <translation>すべての設定の名前と指定できる値を一覧表示する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Diff">
+        <translation>2 台のプリンターまたはファイルの設定の違いを表示する。</translation>
+    </message>
     <message id="DWT_Localize_Cli_Help_Check">
         <translation>設定ファイルまたは表の誤りをすべて表示する。</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Apply">
         <translation>設定ファイルに従って 1 台のプリンターを変更する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Set">
+        <translation>プリンターの一部の設定を変更する。</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Provision">
         <translation>表に行がある USB プリンターをすべて変更する。</translation>
@@ -947,7 +959,7 @@
         <translation>例:</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Printer">
-        <translation>PRINTER は一覧の URI、プリンター名、またはシリアル番号です。FILE は JSON 形式の設定です。</translation>
+        <translation>PRINTER はプリンター名、シリアル番号、MAC アドレス、IP アドレス、または一覧の URI です。FILE は JSON 形式の設定です。「-」は標準入力です。</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Codes">
         <translation>終了コード: 0 完了、1 使い方の誤り、2 入力の誤り、3 プリンターが見つからない、または応答しない、4 ログイン拒否、5 設定が反映されない、6 中止、7 変更あり (--exit-code 指定時)。</translation>
@@ -958,6 +970,9 @@
     <message id="DWT_Localize_Cli_Option_Json">
         <translation>JSON で出力する</translation>
     </message>
+    <message id="DWT_Localize_Cli_Option_Settings">
+        <translation>変更できる設定だけを、ファイルでの名前で表示する</translation>
+    </message>
     <message id="DWT_Localize_Cli_Option_DryRun">
         <translation>変更される内容を表示するだけにする</translation>
     </message>
@@ -966,6 +981,12 @@
     </message>
     <message id="DWT_Localize_Cli_Option_Yes">
         <translation>変更の前に確認しない</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Only">
+        <translation>これらの設定またはグループだけ: wireless,device.timeout</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Without">
+        <translation>これらの設定またはグループを除外する: names,*.address</translation>
     </message>
     <message id="DWT_Localize_Cli_Option_Once">
         <translation>現在接続されているプリンターだけを処理する。端末がない場合の既定</translation>
@@ -1072,8 +1093,20 @@
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
         <translation>この設定は変更できません。</translation>
     </message>
+    <message id="DWT_Localize_Cli_OnlyShown">
+        <translation>表示のみです。変更できません。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NeverShown">
+        <translation>「%1」は表示されません。</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
         <translation>この名前が 2 回指定されています。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SecretArgument">
+        <translation>キーやパスワードは他人に見えるため、引数では指定できません。「名前=@ファイル」でファイルの 1 行目を使います。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSign">
+        <translation>名前=値 の形で指定してください。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
         <translation>ここには設定を含むオブジェクトが必要です。</translation>
@@ -1083,6 +1116,9 @@
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
         <translation>引用符で囲んだ文字列、または {"file": "..."} が必要です。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Hex">
+        <translation>2～64 桁の 16 進数字が必要です (1 バイトにつき 2 桁)。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
         <translation>%1 から %2 までの整数が必要です。</translation>
@@ -1168,6 +1204,9 @@
     <message id="DWT_Localize_Cli_WillChange">
         <translation>%1 で次の設定が変更されます:</translation>
     </message>
+    <message id="DWT_Localize_Cli_FromFile">
+        <translation>%1 (%2 から)</translation>
+    </message>
     <message id="DWT_Localize_Cli_WouldChange">
         <translation>%1 は変更されます。</translation>
     </message>
@@ -1178,7 +1217,7 @@
         <translation>変更しますか? [y/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
-        <translation>y</translation>
+        <translation>y yes はい</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>%1 の管理者パスワード:</translation>
@@ -1248,6 +1287,12 @@
     </message>
     <message id="DWT_Localize_Cli_SameName">
         <translation>複数の行が同じプリンター名を指定しています: %1 行目</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NameTaken">
+        <translation>別のプリンターがすでに %1 という名前です。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_AddressTaken">
+        <translation>%2 がすでにアドレス %1 を使用しています。</translation>
     </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>%1 に書き込めません: %2</translation>

@@ -928,11 +928,23 @@
     <message id="DWT_Localize_Cli_Help_Show">
         <translation>显示打印机的所有设置（密钥和密码除外）。</translation>
     </message>
+    <message id="DWT_Localize_Cli_Help_Get">
+        <translation>显示打印机部分设置的值。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Settings">
+        <translation>列出所有设置的名称及其允许的值。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Diff">
+        <translation>显示两台打印机或两个文件的设置差异。</translation>
+    </message>
     <message id="DWT_Localize_Cli_Help_Check">
         <translation>列出设置文件或表中的所有错误。</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Apply">
         <translation>按设置文件更改一台打印机。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Set">
+        <translation>更改一台打印机的部分设置。</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Provision">
         <translation>更改表中有对应行的每台 USB 打印机。</translation>
@@ -947,7 +959,7 @@
         <translation>示例：</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Printer">
-        <translation>PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JSON 格式的设置。</translation>
+        <translation>PRINTER 是打印机名称、序列号、MAC 或 IP 地址，或列表中的 URI。FILE 是 JSON 格式的设置；“-”表示标准输入。</translation>
     </message>
     <message id="DWT_Localize_Cli_Help_Codes">
         <translation>退出码：0 完成，1 用法错误，2 输入有误，3 找不到或无法连接打印机，4 登录被拒绝，5 设置未生效，6 已停止，7 将会更改（使用 --exit-code 时）。</translation>
@@ -958,6 +970,9 @@
     <message id="DWT_Localize_Cli_Option_Json">
         <translation>以 JSON 输出</translation>
     </message>
+    <message id="DWT_Localize_Cli_Option_Settings">
+        <translation>仅显示可更改的设置，使用文件中的名称</translation>
+    </message>
     <message id="DWT_Localize_Cli_Option_DryRun">
         <translation>只显示将要更改的内容</translation>
     </message>
@@ -966,6 +981,12 @@
     </message>
     <message id="DWT_Localize_Cli_Option_Yes">
         <translation>更改之前不询问</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Only">
+        <translation>仅限这些设置或组：wireless,device.timeout</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Without">
+        <translation>省略这些设置或组：names,*.address</translation>
     </message>
     <message id="DWT_Localize_Cli_Option_Once">
         <translation>仅处理当前已连接的打印机；没有终端时为默认</translation>
@@ -1072,8 +1093,20 @@
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
         <translation>此设置无法更改。</translation>
     </message>
+    <message id="DWT_Localize_Cli_OnlyShown">
+        <translation>仅供显示，不能更改。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NeverShown">
+        <translation>“%1”从不显示。</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
         <translation>此名称指定了两次。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SecretArgument">
+        <translation>密钥或密码不能作为参数给出，因为他人可能看到。“名称=@文件”使用文件的第一行。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSign">
+        <translation>应为 名称=值。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
         <translation>此处应为包含设置的对象。</translation>
@@ -1083,6 +1116,9 @@
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
         <translation>应为带引号的文本或 {"file": "..."}。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Hex">
+        <translation>应为 2 到 64 位十六进制数字，每字节两位。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
         <translation>应为 %1 到 %2 的整数。</translation>
@@ -1168,6 +1204,9 @@
     <message id="DWT_Localize_Cli_WillChange">
         <translation>%1 将更改以下设置：</translation>
     </message>
+    <message id="DWT_Localize_Cli_FromFile">
+        <translation>%1，来自 %2</translation>
+    </message>
     <message id="DWT_Localize_Cli_WouldChange">
         <translation>%1 将会被更改。</translation>
     </message>
@@ -1178,7 +1217,7 @@
         <translation>要更改吗？[y/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
-        <translation>y</translation>
+        <translation>y yes 是</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>%1 的管理员密码：</translation>
@@ -1248,6 +1287,12 @@
     </message>
     <message id="DWT_Localize_Cli_SameName">
         <translation>多行给出同一个打印机名称：第 %1 行</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NameTaken">
+        <translation>另一台打印机已名为 %1。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_AddressTaken">
+        <translation>%2 已使用地址 %1。</translation>
     </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>无法写入 %1：%2</translation>

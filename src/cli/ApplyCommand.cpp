@@ -2,8 +2,10 @@
 
 #include "cli/Change.h"
 #include "cli/Choice.h"
+#include "cli/Collisions.h"
 #include "cli/Interrupt.h"
 #include "cli/Notes.h"
+#include "cli/Selection.h"
 #include "cli/Views.h"
 #include "platform/core/Texts.h"
 #include "platform/core/Waiting.h"
@@ -42,7 +44,8 @@ class Work {
             return end(outcomeOf(codeOf(reading), m_session->wordsOf(reading)));
         Change change(*m_session, given.values, *keys);
         if (isWaitCancelled()) return stopped();
-        const Outcome &planned = change.planned();
+        Outcome planned = change.planned();
+        planned.warnings += collisionsOf(m_session->entry(), planned.plan);
         if (!planned.faults.isEmpty()) return end(planned);
         if (!m_context.isJson()) tell(planned);
         if (planned.plan.changes.isEmpty() || m_isDry) return end(planned);
@@ -60,7 +63,12 @@ class Work {
             m_context.terminal.showProgress(localized("DWT_Localize_Cli_Sending").arg(name));
             return !Interrupt::isRequested();
         };
-        const ExitCode code = end(change.make(password, mayBegin));
+        Outcome outcome = change.make(password, mayBegin);
+        while (outcome.code == ExitCode::LoginRefused && m_context.passwords.mayRetry()) {
+            m_context.terminal.note(outcome.sentences.join(u' '));
+            outcome = change.make(password, mayBegin);
+        }
+        const ExitCode code = end(outcome);
         return code == ExitCode::Done && Interrupt::isRequested() ? ExitCode::Stopped : code;
     }
 
@@ -107,8 +115,53 @@ class Work {
     std::optional<Session> m_session;
 };
 
+// Adds what an argument gives.
+void give(const QString &argument, GivenSettings &given) {
+    const qsizetype sign = argument.indexOf(u'=');
+    const QString name = argument.left(sign);
+    const Setting *const setting = settingOf(name);
+    const auto refuse = [&](const QString &words, const QString &kind) {
+        given.faults << Fault{{.name = name}, words, kind};
+    };
+    if (!setting) return refuse(wordsOfUnknown(name), u"unknown-setting"_s);
+    if (setting->access() == Setting::Access::Read)
+        return refuse(localized("DWT_Localize_Cli_Fault_ReadOnly"), u"read-only"_s);
+    if (sign < 0) return refuse(localized("DWT_Localize_Cli_NoSign"), u"value"_s);
+    QString text = argument.mid(sign + 1);
+    QString file;
+    if (setting->isSecret() && !text.isEmpty()) {
+        if (!text.startsWith(u'@'))
+            return refuse(localized("DWT_Localize_Cli_SecretArgument"), u"secret-argument"_s);
+        Fault fault;
+        file = text.mid(1);
+        const auto secret = readSecret(file, fault);
+        if (!secret) return refuse(fault.text, fault.kind);
+        text = *secret;
+    }
+    const Parsed parsed = parsedText(*setting, text);
+    if (!parsed.value) return refuse(parsed.fault, u"value"_s);
+    given.values << WantedValue{setting, *parsed.value, {.name = name}, parsed.fault, file};
+}
+
+ExitCode run(Context &context, GivenSettings given) {
+    const ExitCode code = Work(context).run(given);
+    forgetSecrets(given.values);
+    return code;
+}
+
 }  // namespace
 
 ExitCode apply(Context &context) {
-    return Work(context).run(settingsFromFile(context.options.arguments[1]));
+    const Selection selection(context.options.value(u"only"_s),
+                              context.options.value(u"without"_s));
+    if (const QString unknown = selection.unknown(); !unknown.isEmpty())
+        return context.terminal.fail(ExitCode::UsedWrongly,
+                                     unknown + u": "_s + wordsOfUnknown(unknown));
+    return run(context, selection.of(settingsFromFile(context.options.arguments[1])));
+}
+
+ExitCode set(Context &context) {
+    GivenSettings given;
+    for (const QString &argument : context.options.arguments.mid(1)) give(argument, given);
+    return run(context, given);
 }

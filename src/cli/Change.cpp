@@ -9,6 +9,13 @@
 
 using namespace Qt::StringLiterals;
 
+void forgetSecrets(QList<WantedValue> &values) {
+    for (WantedValue &value : values)
+        if (auto *const text = std::get_if<QString>(&value.value);
+            text && value.setting->isSecret())
+            wipe(*text);
+}
+
 Change::Change(Session &session, const QList<WantedValue> &wanted, Keys keys) : m_session(session) {
     plan(wanted, keys);
 }
@@ -41,6 +48,10 @@ void Change::plan(QList<WantedValue> wanted, Keys keys) {
                               {localized("DWT_Localize_Cli_WouldChange").arg(m_session.name())});
     }
     m_planned.plan = plan;
+    for (const SendWarning &warning : plan.warnings) m_planned.warnings << warningOf(warning);
+    for (const WantedValue &value : std::as_const(wanted))
+        if (!value.secretFile.isEmpty())
+            m_planned.secretFiles.insert(value.setting->name, value.secretFile);
     m_planned.before = before;
     m_planned.notReported = m_session.manager()->notReported();
 }

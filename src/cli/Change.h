@@ -2,6 +2,9 @@
 
 #include "cli/Outcome.h"
 
+// Wipes the secrets of values, here and wherever their texts are shared.
+void forgetSecrets(QList<WantedValue> &values);
+
 // The change of one printer that was read, to what is wanted. Any thread, one at a time.
 class Change {
   public:

@@ -7,7 +7,8 @@
 
 // The printer that a command line names.
 
-// The printer that `named` stands for: by URI, serial number or name. Nothing, with the `failure`,
+// The printer that `named` stands for: by URI, serial number, address, name or MAC
+// address, in any case. Nothing, with the `failure`,
 // when there is none or more than one.
 std::optional<Session> openPrinter(Context &context, const QString &named, Failure &failure);
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cwchar>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // As much of a part as fits into so many columns.
@@ -60,6 +62,18 @@ QStringList wrapped(const QString &head, const QStringList &parts) {
             isEmpty = false;
             part.remove(0, piece.size());
         }
+    }
+    return lines;
+}
+
+// Japanese and Chinese have no spaces to part a text at.
+QStringList explained(const QList<std::pair<QString, QString>> &rows) {
+    int width = 0;
+    for (const auto &[name, text] : rows) width = std::max(width, widthOf(name));
+    QStringList lines;
+    for (const auto &[name, text] : rows) {
+        const QString gap(width - widthOf(name) + 2, u' ');
+        lines << wrapped(u"  "_s + name + gap, text.split(u' '));
     }
     return lines;
 }

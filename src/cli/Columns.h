@@ -16,3 +16,6 @@ QStringList aligned(const QList<QStringList> &rows, QList<int> &widths);
 // `longestLine` columns. The first line begins with `head`; the others are indented by its width.
 inline constexpr int longestLine = 80;
 QStringList wrapped(const QString &head, const QStringList &parts);
+
+// Names, each with what is said of it beside it, in such lines.
+QStringList explained(const QList<std::pair<QString, QString>> &rows);

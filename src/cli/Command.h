@@ -11,7 +11,20 @@ struct Context;
 // What a command line can hold. Help, the man page's synopsis and completion come from it.
 
 // What an argument, or the value of an option, stands for.
-enum class Takes { Nothing, Command, Printer, SettingsFile, TableFile, AnyFile, Keys, Word };
+enum class Takes {
+    Nothing,
+    Word,
+    Command,
+    Printer,
+    PrinterOrFile,
+    SettingsFile,
+    TableFile,
+    AnyFile,
+    ShownNames,  // of settings that are shown
+    Names,       // of settings that can be changed
+    Values,      // the same with "=" and a value
+    Keys         // when keys are sent
+};
 
 struct Argument {
     QString name;  // in the help: "PRINTER"

@@ -3,6 +3,7 @@
 #include "cli/ApplyCommand.h"
 #include "cli/HelpCommands.h"
 #include "cli/ListCommands.h"
+#include "cli/SettingCommands.h"
 #include "cli/ShowCommands.h"
 #include "cli/TableCommands.h"
 
@@ -22,10 +23,31 @@ const QList<Command> &allCommands() {
         once{u"once"_s, "DWT_Localize_Cli_Option_Once"},
         timeout{u"timeout"_s, "DWT_Localize_Cli_Option_Timeout", Takes::Word, u"SECONDS"_s},
         keys{u"keys"_s, "DWT_Localize_Cli_Option_Keys", Takes::Keys, u"WHEN"_s},
+        changeable{u"settings"_s, "DWT_Localize_Cli_Option_Settings"},
+        only{u"only"_s, "DWT_Localize_Cli_Option_Only", Takes::Names, u"NAMES"_s},
+        without{u"without"_s, "DWT_Localize_Cli_Option_Without", Takes::Names, u"NAMES"_s},
         result{u"result"_s, "DWT_Localize_Cli_Option_Result", Takes::AnyFile, u"OUT.csv"_s};
     static const QList<Command> all{
         {u"list"_s, {}, {json}, "DWT_Localize_Cli_Help_List", u"list"_s, list},
-        {u"show"_s, {printer}, {json}, "DWT_Localize_Cli_Help_Show", u"show Packing-Desk"_s, show},
+        {u"show"_s,
+         {printer},
+         {changeable, json},
+         "DWT_Localize_Cli_Help_Show",
+         u"show Packing-Desk"_s,
+         show},
+        {u"get"_s,
+         {printer, {u"NAME"_s, Takes::ShownNames, false, true}},
+         {json},
+         "DWT_Localize_Cli_Help_Get",
+         u"get Packing-Desk device.timeout wired.address"_s,
+         get},
+        {u"settings"_s, {}, {json}, "DWT_Localize_Cli_Help_Settings", u"settings"_s, listSettings},
+        {u"diff"_s,
+         {{u"A"_s, Takes::PrinterOrFile}, {u"B"_s, Takes::PrinterOrFile}},
+         {exitCode, json},
+         "DWT_Localize_Cli_Help_Diff",
+         u"diff Packing-Desk office.json"_s,
+         diff},
         {u"check"_s,
          {file},
          {common, json},
@@ -34,10 +56,16 @@ const QList<Command> &allCommands() {
          check},
         {u"apply"_s,
          {printer, file},
-         {dryRun, exitCode, yes, keys, password, json},
+         {dryRun, exitCode, yes, only, without, keys, password, json},
          "DWT_Localize_Cli_Help_Apply",
          u"apply Packing-Desk office.json --dry-run"_s,
          apply},
+        {u"set"_s,
+         {printer, {u"NAME=VALUE"_s, Takes::Values, false, true}},
+         {dryRun, exitCode, yes, keys, password, json},
+         "DWT_Localize_Cli_Help_Set",
+         u"set Packing-Desk device.timeout=90 wireless.key=@office.key"_s,
+         set},
         {u"provision"_s,
          {table},
          {common, dryRun, exitCode, result, once, timeout, again, keys, password, json},

@@ -9,21 +9,6 @@ namespace {
 
 const QString programName = u"network-setting"_s;
 
-// A text that other lines explain beside it. Japanese and Chinese have no spaces to part it at.
-QStringList explained(const QString &name, int width, const QString &text) {
-    const QString head = u"  "_s + name + QString(width - widthOf(name) + 2, u' ');
-    return wrapped(head, text.split(u' '));
-}
-
-// Rows of a name and the key of what is said of it.
-QStringList explained(const QList<std::pair<QString, const char *>> &rows) {
-    int width = 0;
-    for (const auto &[name, key] : rows) width = std::max(width, widthOf(name));
-    QStringList lines;
-    for (const auto &[name, key] : rows) lines << explained(name, width, localized(key));
-    return lines;
-}
-
 QString withValue(const Option &option) {
     return u"--"_s + option.name +
            (option.value.isEmpty() ? QString() : QString(u' ') + option.value);
@@ -43,9 +28,9 @@ QStringList synopsisOf(const Command &command) {
 
 QStringList helpOf(const QList<Command> &commands) {
     QStringList lines = wrapped({}, localized("DWT_Localize_Cli_Help").split(u' '));
-    QList<std::pair<QString, const char *>> rows;
+    QList<std::pair<QString, QString>> rows;
     for (const Command &command : commands)
-        if (command.helpKey) rows << std::pair(command.name, command.helpKey);
+        if (command.helpKey) rows << std::pair(command.name, localized(command.helpKey));
     lines << QString() << explained(rows) << QString();
     for (const char *key : {"DWT_Localize_Cli_Help_Printer", "DWT_Localize_Cli_Help_Codes"})
         lines << wrapped({}, localized(key).split(u' ')) << QString();
@@ -56,9 +41,9 @@ QStringList helpOf(const Command &command) {
     const QStringList parts = synopsisOf(command);
     QStringList lines = wrapped(parts.first() + u' ', parts.mid(1));
     lines << QString() << wrapped({}, localized(command.helpKey).split(u' '));
-    QList<std::pair<QString, const char *>> rows;
+    QList<std::pair<QString, QString>> rows;
     for (const Option &option : command.options)
-        rows << std::pair(withValue(option), option.helpKey);
+        rows << std::pair(withValue(option), localized(option.helpKey));
     if (!rows.isEmpty()) lines << QString() << explained(rows);
     return lines << QString() << localized("DWT_Localize_Cli_Help_Example")
                  << u"  "_s + programName + u' ' + command.example;

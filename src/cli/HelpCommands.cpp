@@ -6,6 +6,7 @@
 #include "cli/Look.h"
 #include "platform/core/Texts.h"
 #include "settings/PrinterWords.h"
+#include "settings/Settings.h"
 
 using namespace Qt::StringLiterals;
 
@@ -33,6 +34,22 @@ QStringList printerNames() {
     return names;
 }
 
+// The names of settings for which something holds, each with an ending.
+QStringList settingNames(const auto &holds, const QString &ending = {}) {
+    QStringList names;
+    for (const Setting &setting : settings())
+        if (!setting.name.isEmpty() && holds(setting)) names << setting.name + ending;
+    return names;
+}
+
+bool isShown(const Setting &setting) {
+    return setting.access() != Setting::Access::Enter;
+}
+
+bool isChangeable(const Setting &setting) {
+    return setting.access() != Setting::Access::Read;
+}
+
 // What a word can be; its beginning that stays is `kept`, such as "--template=".
 struct Offer {
     bool isFiles = false;
@@ -40,16 +57,33 @@ struct Offer {
     QString kept = {};
 };
 
-Offer offerOf(const Context &context, Takes takes, const QString &kept = {}) {
+Offer offerOf(const Context &context, Takes takes, const QString &word, const QString &kept = {}) {
     switch (takes) {
         case Takes::Command:
             return {false, namesOf(context.commands), kept};
         case Takes::Printer:
             return {false, printerNames(), kept};
+        case Takes::PrinterOrFile:
+            if (const QStringList names = printerNames().filter(word, Qt::CaseInsensitive);
+                !names.isEmpty())
+                return {false, names, kept};
+            return {true, {}, kept};
         case Takes::SettingsFile:
         case Takes::TableFile:
         case Takes::AnyFile:
             return {true, {}, kept};
+        case Takes::ShownNames:
+            return {false, settingNames(isShown), kept};
+        case Takes::Names: {
+            const qsizetype end = word.lastIndexOf(u',') + 1;
+            return {false, settingNames(isChangeable), kept + word.left(end)};
+        }
+        case Takes::Values: {
+            const qsizetype end = word.indexOf(u'=') + 1;
+            if (end == 0) return {false, settingNames(isChangeable, u"="_s), kept};
+            const Setting *const setting = settingOf(word.left(end - 1));
+            return {false, setting ? setting->codes : QStringList(), word.left(end)};
+        }
         case Takes::Keys:
             return {false, {u"always"_s, u"when-changed"_s}, kept};
         case Takes::Word:
@@ -69,14 +103,14 @@ Offer offerOf(const Context &context, const Command &command, const QStringList 
     for (qsizetype i = 0; i + 1 < words.size(); ++i) {
         const Option *const option = optionOf(words[i]);
         const bool takes = option && option->takes != Takes::Nothing;
-        if (takes && i + 2 == words.size()) return offerOf(context, option->takes);
+        if (takes && i + 2 == words.size()) return offerOf(context, option->takes, words.last());
         if (takes) ++i;
         if (!words[i].startsWith(u'-') && !takes) ++given;
     }
     const QString &last = words.last();
     const qsizetype sign = last.indexOf(u'=');
     if (const Option *const option = sign > 0 ? optionOf(last.left(sign)) : nullptr)
-        return offerOf(context, option->takes, last.left(sign + 1));
+        return offerOf(context, option->takes, last.mid(sign + 1), last.left(sign + 1));
     if (last.startsWith(u'-')) {
         Offer offer{false, {u"--help"_s}};
         for (const Option &option : command.options) offer.words << u"--"_s + option.name;
@@ -85,7 +119,7 @@ Offer offerOf(const Context &context, const Command &command, const QStringList 
     if (command.arguments.isEmpty()) return {};
     const Argument &end = command.arguments.last();
     if (given >= command.arguments.size() && !end.isMany) return {};
-    return offerOf(context, command.arguments.value(given, end).takes);
+    return offerOf(context, command.arguments.value(given, end).takes, last);
 }
 
 }  // namespace

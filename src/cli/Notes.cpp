@@ -37,6 +37,5 @@ void notePlan(Context &context, const Outcome &planned) {
             if (left.reason == reason) names << left.setting->name;
         if (!names.isEmpty()) context.terminal.note(localized(key).arg(names.join(u", "_s)));
     }
-    for (const SendWarning &warning : planned.plan.warnings)
-        context.terminal.note(wordsOf(warning));
+    for (const Outcome::Warning &warning : planned.warnings) context.terminal.note(warning.text);
 }

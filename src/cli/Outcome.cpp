@@ -20,11 +20,9 @@ QString wordOf(SendWarning::Kind kind) {
     return words[kind];
 }
 
-// A value as a file gives it, for people.
 QString fileTextOf(const Setting &setting, const CategoryDictionary &category) {
-    if (!category.contains(setting.key)) return localized("DWT_Localize_Cli_NotReportedValue");
-    const QString text = shownText(asJson(setting, category).toVariant().toString());
-    return text.isEmpty() ? localized("DWT_Localize_Send_Confirm_Empty") : text;
+    return category.contains(setting.key) ? fileTextOf(asJson(setting, category))
+                                          : localized("DWT_Localize_Cli_NotReportedValue");
 }
 
 QJsonArray namesIn(const Ending &ending, Ending::State state) {
@@ -55,8 +53,22 @@ Outcome outcomeOf(const QList<Fault> &faults) {
     return outcome;
 }
 
+Outcome::Warning warningOf(const SendWarning &warning) {
+    return {wordOf(warning.kind), wordsOf(warning)};
+}
+
+QString fileTextOf(const QJsonValue &value) {
+    const QString text = shownText(value.toVariant().toString());
+    return text.isEmpty() ? localized("DWT_Localize_Send_Confirm_Empty") : text;
+}
+
 QString lineOf(const Plan::Change &change, const Outcome &outcome) {
     const Setting &setting = *change.setting;
+    const QString file = outcome.secretFiles.value(setting.name);
+    if (setting.isSecret() && !file.isEmpty())
+        return u"%1: %2"_s.arg(
+            setting.name,
+            localized("DWT_Localize_Cli_FromFile").arg(change.newText, shownText(file)));
     if (setting.isSecret()) return u"%1: %2"_s.arg(setting.name, change.newText);
     return u"%1: %2 → %3"_s.arg(setting.name,
                                 fileTextOf(setting, outcome.before.value(setting.viewKey)),
@@ -71,9 +83,8 @@ QJsonObject asJson(const Outcome &outcome) {
             {u"name"_s, left.setting->name},
             {u"reason"_s,
              left.reason == Plan::LeftOut::Automatic ? u"automatic"_s : u"same-network"_s}};
-    for (const SendWarning &warning : outcome.plan.warnings)
-        warnings << QJsonObject{{u"warning"_s, wordOf(warning.kind)},
-                                {u"message"_s, wordsOf(warning)}};
+    for (const Outcome::Warning &warning : outcome.warnings)
+        warnings << QJsonObject{{u"warning"_s, warning.kind}, {u"message"_s, warning.text}};
     for (const Fault &fault : outcome.faults) faults << asJson(fault);
     QJsonObject object{{u"outcome"_s, outcome.word},
                        {u"message"_s, outcome.sentences.join(u' ')},

@@ -32,10 +32,7 @@ Rows::Printer printerOf(const Session &session) {
                           entry.value(PrinterKey::SerialNumber),
                           session.name(),
                           {}};
-    for (const Setting &setting : settings())
-        if (setting.kind == Setting::Kind::Mac)
-            printer.macs << textValue(session.record().value(setting.viewKey), setting.key);
-    printer.macs.removeAll(QString());
+    printer.macs = macsOf(session.record());
     return printer;
 }
 
@@ -222,7 +219,11 @@ void Provision::finish(const Session &session, const Result &result) {
 void Provision::note(const Session &session, const Result &result) {
     const Outcome &outcome = result.outcome;
     QStringList sentences = outcome.sentences;
-    for (const SendWarning &warning : outcome.plan.warnings) sentences << wordsOf(warning);
+    for (const Outcome::Warning &warning : outcome.warnings) sentences << warning.text;
+    if (outcome.ending && !outcome.notReported.isEmpty())
+        sentences << localized("DWT_Localize_Cli_NotReported")
+                         .arg(session.name(),
+                              namesOf(outcome.notReported, Naming::Stable).join(u", "_s));
     const QString words = sentences.join(u' ');
     const PrinterEntry &entry = session.entry();
     if (m_isJson) {

@@ -21,6 +21,15 @@ void printPages(Context &context, const Session &session) {
     context.terminal.print(rowsOf(session.record()));
 }
 
+// As `set` takes them.
+void printValues(Context &context, const SettingRecord &record) {
+    for (const Setting &setting : settings())
+        if (setting.access() == Setting::Access::Change)
+            context.terminal.print(
+                setting.name + u'=' +
+                asJson(setting, record.value(setting.viewKey)).toVariant().toString());
+}
+
 }  // namespace
 
 ExitCode show(Context &context) {
@@ -34,8 +43,11 @@ ExitCode show(Context &context) {
     const QString words = session->wordsOf(reading).join(u' ');
     if (code != ExitCode::Done && session->record().value(DWT_View_Key_Network).isEmpty())
         return context.terminal.fail(code, words);
+    const bool isPart = context.options.has(u"settings"_s);
     if (context.isJson())
-        context.terminal.print(asJson(session->record()));
+        context.terminal.print(asJson(session->record(), isPart ? Part::Changeable : Part::All));
+    else if (isPart)
+        printValues(context, session->record());
     else
         printPages(context, *session);
     if (code != ExitCode::Done) return context.terminal.fail(code, words);

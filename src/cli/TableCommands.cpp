@@ -1,9 +1,11 @@
 #include "cli/TableCommands.h"
 
+#include "cli/Change.h"
 #include "cli/Notes.h"
 #include "cli/Provision.h"
 #include "cli/Table.h"
 #include "platform/core/Texts.h"
+#include "settings/Wipe.h"
 
 using namespace Qt::StringLiterals;
 
@@ -86,6 +88,11 @@ ExitCode provision(Context &context) {
     order.once = options.has(u"once"_s) || (!options.has(u"timeout"_s) && !Terminal::canAsk());
     order.resultFile = options.value(u"result"_s);
     order.inputs = {table, options.value(u"template"_s), options.value(u"password-file"_s)};
-    Provision provision(context.terminal, context.passwords, order, context.isJson());
-    return context.codeOfRun(provision.run());
+    const ExitCode code =
+        Provision(context.terminal, context.passwords, order, context.isJson()).run();
+    for (TableRow &row : order.rows) {
+        forgetSecrets(row.values);
+        wipe(row.login);
+    }
+    return context.codeOfRun(code);
 }

@@ -138,7 +138,7 @@ bool Terminal::confirm(const QString &question) {
         return false;
     }
     const QString said = QString::fromLocal8Bit(answer.data()).trimmed().toLower();
-    return said == u"y" || said == localized("DWT_Localize_Cli_Yes");
+    return QStringList(localized("DWT_Localize_Cli_Yes").split(u' ')).contains(said);
 }
 
 std::optional<QString> Terminal::askPassword(const QString &question) {

@@ -110,6 +110,13 @@ bool comesByItself(const Setting &setting, const QList<WantedValue> &values) {
     return false;
 }
 
+// The bytes of a network name that cannot be typed; a byte is a character of it. Empty for others.
+QByteArray networkBytesOf(const QString &name) {
+    const bool isTyped =
+        Rules::isText(name, Rules::printableCharacters, 0, Rules::longestSSID, false);
+    return isTyped ? QByteArray() : name.toLatin1();
+}
+
 // Whether the setting is, or belongs to, a key of the wireless network, which no printer reports.
 bool isNetworkKey(const Setting &setting) {
     return setting.viewKey == DWT_View_Key_Infrastructure && !setting.isReported();
@@ -179,6 +186,9 @@ Plan planOf(const SettingRecord &saved, const QList<WantedValue> &values, Keys k
         with[setting.viewKey].insert(setting.key, value.value);
         if (setting.viewKey == DWT_View_Key_Password)
             with[setting.viewKey].insert(DWT_SaveData_Password_Change, 1);
+        if (setting.key == DWT_SaveData_Infrastructure_SSID)
+            with[setting.viewKey].insert(DWT_SaveData_Infrastructure_SSIDList_SSID,
+                                         networkBytesOf(std::get<QString>(value.value)));
         if (!isChange(setting, saved, with)) continue;
         if (comesByItself(setting, values)) {
             leftOut << Plan::LeftOut{&setting, Plan::LeftOut::Automatic};

@@ -11,6 +11,7 @@
 #include <nlohmann/json.hpp>
 
 #include "platform/core/Texts.h"
+#include "settings/SettingKeys.h"
 #include "settings/Wipe.h"
 
 using namespace Qt::StringLiterals;
@@ -53,6 +54,15 @@ class CountedBytes {
     int *m_line;
 };
 
+// A network name as hexadecimal digits of its bytes.
+const QString ssidHex = u"wireless.ssidHex"_s;
+
+bool isNoText(const QByteArray &bytes) {
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
+    const QString text = decoder.decode(bytes);
+    return decoder.hasError() || shownText(text) != text;
+}
+
 // Takes the values of the text as they come.
 class Handler : public nlohmann::json_sax<json> {
   public:
@@ -70,7 +80,10 @@ class Handler : public nlohmann::json_sax<json> {
         m_seen.insert(m_name);
         return true;
     }
-    bool null() override { return settingOf(m_name) || isGroup(m_name) ? true : wrongKind(); }
+    bool null() override {
+        const bool isKnown = settingOf(m_name) || isGroup(m_name) || m_name == ssidHex;
+        return isKnown ? true : wrongKind();
+    }
     bool boolean(bool) override { return wrongKind(); }
     bool number_float(number_float_t, const string_t &) override { return wrongKind(); }
     bool binary(binary_t &) override { return wrongKind(); }
@@ -85,9 +98,10 @@ class Handler : public nlohmann::json_sax<json> {
         QString given = QString::fromStdString(value);
         std::fill(value.begin(), value.end(), '\0');  // it may be a key
         if (isUsed() && isSecret(group())) {
-            given = QFileInfo(m_file).dir().filePath(given);
+            given = QDir::cleanPath(QFileInfo(m_file).dir().filePath(given));
             return takeSecretFile(group(), given);
         }
+        if (isUsed() && m_name == ssidHex) return takeNetworkName(given.toLatin1());
         return take([&](const Setting &setting) {
             if (setting.kind != Setting::Kind::Number) return parsedText(setting, given);
             return Parsed{{}, wordsOfExpected(setting)};
@@ -177,6 +191,17 @@ class Handler : public nlohmann::json_sax<json> {
                                            m_secretFile};
         else
             m_result.faults << Fault{place(), parsed.fault, u"value"_s};
+        return true;
+    }
+
+    // A byte of the name is a character of the record's text.
+    bool takeNetworkName(const QByteArray &digits) {
+        const QByteArray bytes = QByteArray::fromHex(digits);
+        if (bytes.toHex() != digits.toLower() || bytes.isEmpty() ||
+            bytes.size() > Rules::longestSSID)
+            return addFault(localized("DWT_Localize_Cli_Fault_Hex"), u"value"_s);
+        const Setting *const setting = settingOf(ssidHex.chopped(3));
+        m_result.values << WantedValue{setting, QString::fromLatin1(bytes), place(), {}};
         return true;
     }
 
@@ -300,16 +325,26 @@ GivenSettings settingsFromJson(const QByteArray &bytes, const QString &file) {
 
 GivenSettings settingsFromFile(const QString &path) {
     Fault fault;
-    const auto bytes = readInput(path, fault);
-    if (bytes) return settingsFromJson(*bytes, path);
-    return {{}, {fault}, {}};
+    auto bytes = readInput(path, fault);
+    if (!bytes) return {{}, {fault}, {}};
+    const GivenSettings given = settingsFromJson(*bytes, path);
+    wipe(*bytes);
+    return given;
 }
 
-QJsonObject asJson(const SettingRecord &record) {
+QJsonObject asJson(const SettingRecord &record, Part part) {
     QJsonObject object;
-    for (const Setting &setting : settings())
-        if (setting.access() != Setting::Access::Enter && record.contains(setting.viewKey))
-            insert(object, setting.name.split(u'.'),
-                   asJson(setting, record.value(setting.viewKey)));
+    for (const Setting &setting : settings()) {
+        const Setting::Access access = setting.access();
+        const bool isWanted = part == Part::All ? access != Setting::Access::Enter
+                                                : access == Setting::Access::Change;
+        if (!isWanted || !record.contains(setting.viewKey)) continue;
+        const CategoryDictionary category = record.value(setting.viewKey);
+        const QByteArray bytes = textValue(category, setting.key).toLatin1();
+        const bool isBytes = setting.key == DWT_SaveData_Infrastructure_SSID && isNoText(bytes);
+        insert(object, setting.name.split(u'.'),
+               isBytes ? QJsonValue() : asJson(setting, category));
+        if (isBytes) insert(object, ssidHex.split(u'.'), QString::fromLatin1(bytes.toHex()));
+    }
     return object;
 }

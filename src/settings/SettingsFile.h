@@ -28,7 +28,8 @@ struct GivenSettings {
 };
 
 // Reads settings from JSON: groups as objects, `null` for no change, a secret also as {"file":
-// PATH}, relative to `file`. Takes any bytes.
+// PATH}, relative to `file`; "wireless.ssidHex" gives the bytes of a network name that is no text.
+// Takes any bytes.
 GivenSettings settingsFromJson(const QByteArray &json, const QString &file);
 
 // The same from a file.
@@ -36,5 +37,7 @@ GivenSettings settingsFromFile(const QString &path);
 
 // The value of a setting in a category, as a file gives it; `null` when it is missing.
 QJsonValue asJson(const Setting &setting, const CategoryDictionary &category);
-// The settings of a record in groups, by their names; `null` for what the printer did not report.
-QJsonObject asJson(const SettingRecord &record);
+// The settings of a record in groups, by their names; `null` for what the printer did not report. A
+// network name that is no text is given as "ssidHex".
+enum class Part { All, Changeable };
+QJsonObject asJson(const SettingRecord &record, Part part = Part::All);

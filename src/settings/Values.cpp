@@ -46,10 +46,11 @@ QString wordsOfUnknown(const QString &name) {
     const QString group = name.section(u'.', 0, 0) + u'.';
     for (const Setting &setting : settings()) {
         if (setting.name.isEmpty() || setting.access() == Setting::Access::Read) continue;
-        known << setting.name;
+        known << setting.name << setting.name.section(u'.', 0, 0);
         if (setting.name.startsWith(group)) ofGroup << setting.name;
     }
     const QString words = localized("DWT_Localize_Cli_Fault_Unknown") + u' ';
+    known.removeDuplicates();
     const QString nearest = nearestOf(name, known);
     if (!nearest.isEmpty()) return words + localized("DWT_Localize_Cli_Meant").arg(nearest);
     const QString names = ofGroup.join(u", "_s);

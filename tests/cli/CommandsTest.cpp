@@ -157,6 +157,16 @@ TEST(Commands, EndWithTheCodeOfWhatHappened) {
         {"{}", "apply S1 f.json --dry-run --exit-code", name, WouldChange, ""},
         {"{}", "apply S1 f.json --yes --keys never", name, UsedWrongly, "when-changed"},
         {"{}", yes, R"({"wireless.psk": "long enough"})", InputRefused, ", wireless.key,"},
+        {"{}", "set S1 device.timeout=9 names.printer=B", "", UsedWrongly, "--yes"},
+        {"{}", "set S1 device.timeout=9 names.printr=B --yes", "", InputRefused, "“names.printer”"},
+        {"{}", "set S1 wireless.key=office-key --yes", "", InputRefused, "NAME=@FILE"},
+        {"{}", "set S1 wired.mac=x --yes", "", InputRefused, "wired.mac"},
+        {"{}", "apply S1 f.json --yes --only wirless", name, UsedWrongly, "“wireless” meant"},
+        {"{}", "apply S1 f.json --yes --without names", R"({"names.printer": "a b"})", Done, ""},
+        {"{}", "set S1 names.printer=desk --dry-run", "", Done, "called desk already"},
+        {"{}", "get S1 wireless.key", "", UsedWrongly, "never shown"},
+        {"{}", "diff S1 f.json --exit-code", R"({"device.timeout": 60})", Done, ""},
+        {"{}", "diff S2 f.json --exit-code", name, WouldChange, ""},
         {"{}", yes, R"({"device.timout": 90})", InputRefused, "“device.timeout” meant"},
         {R"({"items": {"0x2001": {"setting": 0, "address": "0.0.0.0", "mask": "0.0.0.0",
             "gateway": "0.0.0.0"}}})",
@@ -174,6 +184,9 @@ TEST(Commands, EndWithTheCodeOfWhatHappened) {
         {"{}", "show Desk --json", "", NotReached,
          R"(serial number S2  virtual://2","Desk  Larkfield L200  USB  serial number S3  )"},
         {"{}", "show S2", "", Done, ""},
+        {"{}", "show s2", "", Done, ""},
+        {R"({"items": {"0x2000": "020000001234"}})", "show 02:00:00:00:12:34", "", Done, ""},
+        {"{}", "show 02:00:00:00:12:35", "", NotReached, "02:00"},
         // A printer on the network has no name of its own, and is not changed.
         {desk, "show Label-Printer", "", NotReached, "Label-Printer"},
         {"{}", "show virtual://network", "", Done, ""},
@@ -277,6 +290,44 @@ TEST(Commands, ReportAChangeToPrograms) {
     const Ended gone = run(printers, "apply Nobody f.json --yes --json");
     expectIn(gone.out, {R"("outcome":"not-found")"});
     expectIn(gone.err, {R"("fault":"not-found")"});
+}
+
+TEST(Commands, GetAndSetSomeSettings) {
+    const Printers printers({R"({"items": {"0x1006": "Desk", "0x3104": "\u00ff\u0001"},
+        "faults": {"items": {"0x1005": {"code": "0x7777"}}}})"});
+    printers.write(u"key"_s, "office-key");
+    const struct {
+        const char *arguments, *out;
+    } rows[] = {{"get desk device.timeout", "60\n"},
+                {"get Desk names.printer device",
+                 "names.printer=Desk\ndevice.firmware=1.000\n"
+                 "device.timeout=60\n"},
+                {"get S1 device.timeout names.service --json",
+                 R"({"device.timeout":60,"names.service":null})"},
+                {"set S1 device.timeout=91 accessPoint.key=@key --dry-run",
+                 "In Desk, this will change:\n  device.timeout: 60 → 91\n  accessPoint.key: new, "
+                 "from key\n"},
+                {"set S1 device.timeout=91 --yes",
+                 "In Desk, this will change:\n  device.timeout: 60 → 91\n"
+                 "Desk was changed, and has the new settings.\n"},
+                {"diff S1 S1", ""}};
+    for (const auto &row : rows) {
+        const Ended ended = run(printers, row.arguments);
+        EXPECT_EQ(ended.code, Done) << ended.err.constData();
+        const bool isJson = QByteArray(row.arguments).endsWith("json");
+        EXPECT_EQ((isJson ? compact(ended.out) : ended.out).toStdString(), row.out);
+    }
+    // What can be changed is a file of settings; a network name may be no text.
+    const Ended shown = run(printers, "show S1 --settings --json");
+    expectIn(compact(shown.out), {R"("ssid":null,"ssidHex":"c3bf01")"});
+    EXPECT_FALSE(shown.out.contains("uri"));
+    printers.write(u"f.json"_s, R"({"wireless": {"ssidHex": "C3A9ff00"}})");
+    EXPECT_EQ(run(printers, "apply S1 f.json --yes").code, Done);
+    EXPECT_TRUE(printers[1].item(0x3104).contains("\xC3\xA9\xFF"_ba));
+    const QByteArray all = compact(run(printers, "settings --json").out);
+    expectIn(all,
+             {R"({"access":"change","kind":"number","max":300,"min":30,"name":"device.timeout")",
+              R"("secret":true)", R"("values":["automatic","fixed"])"});
 }
 
 TEST(Commands, ListTheNetworksThatThePrinterFinds) {

@@ -24,7 +24,7 @@ expect() {
   fi
 }
 expect 'provision' p
-expect '--help --json' show --
+expect '--help --json --settings' show --
 expect 'Packing-Desk' show packing
 expect 'Goods\ in\ \(first\ floor\)' networks G
 expect 'office.json' check o
@@ -34,5 +34,8 @@ expect 'office.json table.csv' provision --template ''
 expect 'table.csv' provision --template = office.json t
 expect 'office.json' apply Desk-1 --password-file = o
 expect 'apply' help a
+expect 'device.timeout=' set Packing-Desk device.t
+expect 'fixed' set Packing-Desk wired.address.mode = f
+expect 'device\,names.bonjour' apply Packing-Desk office.json --only device,names.b
 expect '' paint ''
 exit "$failed"
