@@ -1,6 +1,7 @@
 #include "cli/Columns.h"
 
 #include <algorithm>
+#include <clocale>
 #include <cwchar>
 
 using namespace Qt::StringLiterals;
@@ -17,9 +18,12 @@ QString fitting(const QString &part, int columns) {
 }  // namespace
 
 int widthOf(const QString &text) {
+    // The locale of the user may not be installed, or know the characters of no other language.
+    static const locale_t unicode = ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    const locale_t before = ::uselocale(unicode);
     const std::wstring wide = text.toStdWString();
     const int width = ::wcswidth(wide.c_str(), wide.size());
-    // The locale may know the characters of no other language.
+    ::uselocale(before);
     return width < 0 ? int(wide.size()) : width;
 }
 

@@ -1,6 +1,7 @@
 // The program's commands: inside this process and, at a terminal, the real program.
 
 #include <QRegularExpression>
+#include <clocale>
 
 #include "cli/Columns.h"
 #include "cli/CommandTable.h"
@@ -69,6 +70,15 @@ TEST(Commands, ListsWhatTheWindowLists) {
               R"("model":"Larkfield L200","name":null,"port":null,"serial":null,)"
               R"("uri":"tcp://127.0.0.1:1"}])");
     expectIn(programs.err, {"{\"note\":"});
+}
+
+TEST(Commands, KeepTheirColumnsInEveryLocale) {
+    const QByteArray before = std::setlocale(LC_ALL, nullptr);
+    for (const char *locale : {"C", "C.UTF-8"}) {
+        std::setlocale(LC_ALL, locale);
+        EXPECT_EQ(widthOf(u"Café 倉庫"_s), 9);
+    }
+    std::setlocale(LC_ALL, before.constData());
 }
 
 TEST(Commands, ShowEverythingButSecrets) {
@@ -360,8 +370,10 @@ TEST(Commands, AskAtTheTerminal) {
     const char *const apply = "apply S1 f.json";
     EXPECT_EQ(talk(printers, apply, {{"[y/N]", "\n"}}).code, Stopped);
     EXPECT_EQ(talk(printers, apply, {{"[y/N]", "\x03"}}).code, Stopped);
-    EXPECT_EQ(talk(printers, apply, {{"[y/N]", "y\n"}, {"password", "\x03\n"}}).code, Stopped);
-    const Ended changed = talk(printers, apply, {{"[y/N]", "y\n"}, {"password", "open123\n"}});
+    EXPECT_EQ(talk(printers, apply, {{"[y/N]", "y\n"}, {"password of", "\x03\n"}}).code, Stopped);
+    const Ended changed =
+        talk(printers, apply,
+             {{"[y/N]", "Yes\n"}, {"password of", "wrong\n"}, {"password of", "open123\n"}});
     EXPECT_EQ(changed.code, Done) << changed.out.constData();
     expectIn(changed.out, {"Label-Printer", "Reading"});  // it was not changed before
     EXPECT_FALSE(changed.out.contains("open123")) << changed.out.constData();

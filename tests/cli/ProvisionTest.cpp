@@ -4,6 +4,7 @@
 #include "cli/Provision.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -197,6 +198,8 @@ TEST(Provision, NothingIsSentFromATableWithAFaultOrWithoutAFileForTheResults) {
     EXPECT_EQ(first.err.count('\n'), 3) << first.err.constData();
     EXPECT_TRUE(first.err.contains("table.csv: line 4, column \"device.timeout\": "));
     EXPECT_EQ(run(printers, {u"check"_s, table}).err, first.err);
+    printers.write(u"many.csv"_s, "serial,device.timeout\n" + QByteArray(",9\n").repeated(150));
+    EXPECT_EQ(run(printers, "check many.csv").err.count('\n'), Terminal::mostFaults + 1);
     // An address of the template would be that of two printers.
     printers.write(u"table.csv"_s, "serial\nS1\nS2\n");
     const QString common = printers.write(
@@ -226,6 +229,8 @@ TEST(Provision, ADryRunSendsNothingAndARerunFindsNothingToDo) {
         EXPECT_EQ(run(printers, "provision t.csv --result out.csv").code, NotReached);
         EXPECT_EQ(outcomesOf(printers)["S1"], outcome);
     }
+    // What a killed run leaves, and only before the one send.
+    EXPECT_EQ(printers.read(u"out.csv"_s).count(",begun,\n"), 1);
     EXPECT_EQ(printers[1].password(), QByteArray("new-1"));
 }
 
@@ -237,17 +242,25 @@ TEST(Provision, ResultsAreAddedOnlyToAFileOfResults) {
         const char *file;
         QByteArray holds;
         ExitCode code;
-        const char *begin;  // of what it holds then
+        const char *begin;     // of what it holds then
+        bool isTaken = false;  // by another run
     } rows[] = {{"t.csv", table, InputRefused, "serial"},
                 {"out.csv", "#!/bin/sh\n", InputRefused, "#!/bin/sh\n"},
                 {"out.csv", torn, Done, "2026,De\n"},
-                {"out.csv", "", Done, "time,"}};
+                {"out.csv", "", Done, "time,"},
+                {"out.csv", header, InputRefused, "time,", true}};
     for (const auto &row : rows) {
         const Printers printers({profileOf(1).replace("Old-1", "=1+1")});
         printers.write(QLatin1String(row.file), row.holds);
         printers.write(u"t.csv"_s, table);
+        const int other =
+            ::open(QFile::encodeName(printers.path(u"out.csv"_s)).constData(), O_RDWR);
+        if (row.isTaken) {
+            EXPECT_EQ(::flock(other, LOCK_EX), 0);
+        }
         const Ended ended =
             run(printers, "provision t.csv --result "_ba.append(row.file).constData());
+        ::close(other);
         EXPECT_EQ(ended.code, row.code) << ended.err.constData();
         const QByteArray held = printers.read(QLatin1String(row.file));
         EXPECT_TRUE(held.contains(row.begin)) << held.constData();
