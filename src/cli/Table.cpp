@@ -8,6 +8,7 @@
 
 #include "platform/core/Texts.h"
 #include "settings/SettingKeys.h"
+#include "settings/Wipe.h"
 
 using namespace Qt::StringLiterals;
 
@@ -205,14 +206,17 @@ Table tableFromCsv(const QByteArray &bytes, const QString &file) {
     Table table;
     Fault fault{{file}, {}};
     QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
-    const QString decoded = decoder.decode(bytes);
+    QString decoded = decoder.decode(bytes);
     if (decoder.hasError()) {
         fault.kind = u"not-utf8"_s;
         fault.text = localized("DWT_Localize_Cli_Fault_NotUtf8");
         table.faults << fault;
         return table;
     }
-    const QList<Line> lines = Lines::of(decoded.toUtf8(), fault);
+    QByteArray csv = decoded.toUtf8();
+    const QList<Line> lines = Lines::of(csv, fault);
+    wipe(decoded);
+    wipe(csv);
     Reader reader(table, file);
     if (!lines.isEmpty()) reader.readColumns(lines.first());
     for (qsizetype i = 1; i < lines.size(); ++i) reader.readRow(lines[i]);
@@ -225,9 +229,11 @@ Table tableFromCsv(const QByteArray &bytes, const QString &file) {
 
 Table tableFromFile(const QString &path) {
     Fault fault;
-    const auto bytes = readInput(path, fault);
-    if (bytes) return tableFromCsv(*bytes, path);
-    return {{}, {fault}};
+    auto bytes = readInput(path, fault);
+    if (!bytes) return {{}, {fault}};
+    Table table = tableFromCsv(*bytes, path);
+    wipe(*bytes);
+    return table;
 }
 
 QList<Fault> repeatedAddresses(const QList<TableRow> &rows) {

@@ -1,8 +1,8 @@
 #include "settings/SettingsFile.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QSet>
 #include <QStringDecoder>
 #include <algorithm>
@@ -176,6 +176,15 @@ class Handler : public nlohmann::json_sax<json> {
                        : addFault(wordsOfUnknown(m_name), u"unknown-setting"_s);
     }
 
+    // A setting that goes by two names is given under one of them.
+    bool give(const WantedValue &value) {
+        if (!m_givenAs.contains(value.setting)) m_givenAs.insert(value.setting, m_name);
+        if (m_givenAs[value.setting] != m_name)
+            return addFault(localized("DWT_Localize_Cli_Fault_Twice"), u"twice"_s);
+        m_result.values << value;
+        return true;
+    }
+
     // Takes the value that comes, which `parse` makes of it for the setting of its name.
     template <typename Parse>
     bool take(const Parse &parse) {
@@ -187,10 +196,8 @@ class Handler : public nlohmann::json_sax<json> {
         }
         const Parsed parsed = parse(*setting);
         if (parsed.value)
-            m_result.values << WantedValue{setting, *parsed.value, place(), parsed.fault,
-                                           m_secretFile};
-        else
-            m_result.faults << Fault{place(), parsed.fault, u"value"_s};
+            return give({setting, *parsed.value, place(), parsed.fault, m_secretFile});
+        m_result.faults << Fault{place(), parsed.fault, u"value"_s};
         return true;
     }
 
@@ -200,9 +207,7 @@ class Handler : public nlohmann::json_sax<json> {
         if (bytes.toHex() != digits.toLower() || bytes.isEmpty() ||
             bytes.size() > Rules::longestSSID)
             return addFault(localized("DWT_Localize_Cli_Fault_Hex"), u"value"_s);
-        const Setting *const setting = settingOf(ssidHex.chopped(3));
-        m_result.values << WantedValue{setting, QString::fromLatin1(bytes), place(), {}};
-        return true;
+        return give({settingOf(ssidHex.chopped(3)), QString::fromLatin1(bytes), place(), {}});
     }
 
     bool takeSecretFile(const QString &name, const QString &path) {
@@ -225,6 +230,7 @@ class Handler : public nlohmann::json_sax<json> {
     QString m_secretFile;  // that gives the value that comes
     QList<Open> m_open;
     QSet<QString> m_seen;
+    QHash<const Setting *, QString> m_givenAs;  // under which name a setting was given
 };
 
 // Puts a value under the names of its groups.
@@ -259,52 +265,6 @@ QJsonValue asJson(const Setting &setting, const CategoryDictionary &category) {
     return text;
 }
 
-std::optional<QByteArray> readInput(const QString &path, Fault &fault) {
-    QFile file(path);
-    const bool isOpen =
-        path == u"-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    const auto refuse = [&](const QString &kind, const QString &words) {
-        fault.kind = kind;
-        fault.text = words;
-        return std::nullopt;
-    };
-    const auto refuseUnread = [&] {
-        return refuse(u"unreadable"_s,
-                      localized("DWT_Localize_Cli_Fault_Unreadable").arg(path, file.errorString()));
-    };
-    if (!isOpen) return refuseUnread();
-    QByteArray bytes;
-    // A pipe hands over what it has at the moment.
-    while (bytes.size() <= longestInput) {
-        const QByteArray more = file.read(longestInput + 1 - bytes.size());
-        if (more.isEmpty()) break;
-        bytes += more;
-    }
-    if (file.error() != QFileDevice::NoError) return refuseUnread();
-    if (bytes.size() > longestInput)
-        return refuse(
-            u"too-long"_s,
-            localized("DWT_Localize_Cli_Fault_TooLong").arg(path).arg(longestInput >> 20));
-    return bytes;
-}
-
-std::optional<QString> readSecret(const QString &path, Fault &fault) {
-    auto bytes = readInput(path, fault);
-    if (!bytes) return {};
-    qsizetype end = bytes->indexOf('\n');
-    if (end < 0) end = bytes->size();
-    if (end > 0 && bytes->at(end - 1) == '\r') --end;
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
-    const QString secret = decoder.decode(QByteArrayView(*bytes).first(end));
-    wipe(*bytes);
-    if (!decoder.hasError() && !secret.isEmpty()) return secret;
-    fault.kind = secret.isEmpty() ? u"empty-secret"_s : u"not-utf8"_s;
-    fault.text = secret.isEmpty()
-                     ? localized("DWT_Localize_Cli_Fault_EmptySecret").arg(path)
-                     : u"%1: %2"_s.arg(path, localized("DWT_Localize_Cli_Fault_NotUtf8"));
-    return {};
-}
-
 QList<Fault> GivenSettings::allFaults() const {
     QList<Fault> all = faults;
     for (const WantedValue &value : values)
@@ -327,7 +287,7 @@ GivenSettings settingsFromFile(const QString &path) {
     Fault fault;
     auto bytes = readInput(path, fault);
     if (!bytes) return {{}, {fault}, {}};
-    const GivenSettings given = settingsFromJson(*bytes, path);
+    GivenSettings given = settingsFromJson(*bytes, path);
     wipe(*bytes);
     return given;
 }

@@ -79,6 +79,9 @@ TEST(Input, OfSettingsInJson) {
         {"{\n\"device\": {\"timeout\": 60},\n}", "device.timeout=60 | 3"},
         {"{\"names\": {\"printer\": \"\xFF\"}}", "1"},
         {"{} {}", "1"},
+        {R"({"wireless": {"ssid": null, "ssidHex": "41e9"}})", "wireless.ssid='A\u00e9'"},
+        {R"({"wireless": {"ssidHex": "41", "ssid": "A"}})", "wireless.ssid='A' | 1 wireless.ssid"},
+        {R"({"wireless": {"ssidHex": "4"}})", "1 wireless.ssidHex"},
         {QByteArray("{\"a\":").repeated(100'000), "1 a | 1"},
     };
     for (const auto &[json, expected] : rows) EXPECT_EQ(ofJson(json), expected) << json.constData();

@@ -332,6 +332,23 @@ TEST(Provision, PrintersAreDoneAsTheyArePluggedInEachOnce) {
     }
 }
 
+TEST(Provision, WaitsForPrintersNoLongerThanItIsTold) {
+    const QList<TableRow> rows = tableFromCsv("serial,device.timeout\nS1,90\n", {}).rows;
+    for (const bool once : {true, false}) {
+        const Printers printers({profileOf(1)});
+        ComingSource::State state;  // none is there
+        std::vector<std::unique_ptr<PrinterSource>> sources;
+        sources.push_back(std::make_unique<ComingSource>(printers.catalogue, state));
+        installLibrary(std::make_shared<PrinterLibrary>(std::move(sources)));
+        Terminal terminal(false);
+        Passwords passwords;
+        ProvisionOrder order{.rows = rows, .once = once};
+        if (!once) order.deadline = QDeadlineTimer(1);
+        EXPECT_EQ(Provision(terminal, passwords, order, false).run(), NotReached);
+        installLibrary(nullptr);
+    }
+}
+
 TEST(Provision, SeveralPrintersOverUsbAtATime) {
     const UsbBed bed;
     if (!UsbBed::isThere()) GTEST_SKIP();
