@@ -1,5 +1,7 @@
 #include "cli/ApplyCommand.h"
 
+#include <algorithm>
+
 #include "cli/Change.h"
 #include "cli/Choice.h"
 #include "cli/Collisions.h"
@@ -44,8 +46,8 @@ class Work {
             return end(outcomeOf(codeOf(reading), m_session->wordsOf(reading)));
         Change change(*m_session, given.values, *keys);
         if (isWaitCancelled()) return stopped();
-        Outcome planned = change.planned();
-        planned.warnings += collisionsOf(m_session->entry(), planned.plan);
+        const Outcome &planned = change.planned();
+        change.warn(collisionsOf(m_session->entry(), planned.plan));
         if (!planned.faults.isEmpty()) return end(planned);
         if (!m_context.isJson()) tell(planned);
         if (planned.plan.changes.isEmpty() || m_isDry) return end(planned);
@@ -126,6 +128,9 @@ void give(const QString &argument, GivenSettings &given) {
     if (!setting) return refuse(wordsOfUnknown(name), u"unknown-setting"_s);
     if (setting->access() == Setting::Access::Read)
         return refuse(localized("DWT_Localize_Cli_Fault_ReadOnly"), u"read-only"_s);
+    if (std::any_of(given.values.begin(), given.values.end(),
+                    [&](const WantedValue &value) { return value.setting == setting; }))
+        return refuse(localized("DWT_Localize_Cli_Fault_Twice"), u"twice"_s);
     if (sign < 0) return refuse(localized("DWT_Localize_Cli_NoSign"), u"value"_s);
     QString text = argument.mid(sign + 1);
     QString file;

@@ -16,6 +16,8 @@ class Change {
 
     // What it comes to without a send: refused, unchanged, or would change.
     const Outcome &planned() const { return m_planned; }
+    // Adds warnings of which the plan knows nothing.
+    void warn(const QList<Outcome::Warning> &warnings) { m_planned.warnings += warnings; }
     // Makes it, as Session::change(). The password is not asked for when it is known already.
     Outcome make(const Session::AskPassword &password, const std::function<bool()> &mayBegin);
 

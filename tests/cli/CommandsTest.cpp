@@ -174,6 +174,7 @@ TEST(Commands, EndWithTheCodeOfWhatHappened) {
         {"{}", "apply S1 f.json --yes --only wirless", name, UsedWrongly, "“wireless” meant"},
         {"{}", "apply S1 f.json --yes --without names", R"({"names.printer": "a b"})", Done, ""},
         {"{}", "set S1 names.printer=desk --dry-run", "", Done, "called desk already"},
+        {"{}", "set S1 names.printer=B names.printer=C --yes", "", InputRefused, "names.printer"},
         {"{}", "get S1 wireless.key", "", UsedWrongly, "never shown"},
         {"{}", "diff S1 f.json --exit-code", R"({"device.timeout": 60})", Done, ""},
         {"{}", "diff S2 f.json --exit-code", name, WouldChange, ""},
@@ -235,6 +236,7 @@ TEST(Commands, AreExplainedInTheirHelpAndInTheManPage) {
         for (const QByteArray &line : (help.out + run(printers, "--help").out).split('\n'))
             EXPECT_LE(QString::fromUtf8(line).size(), longestLine) << line.constData();
         expectIn(help.out, {command.example.toUtf8()});
+        EXPECT_TRUE(page.contains(command.example)) << command.example.toStdString();
     }
     EXPECT_EQ(QString(synopses).remove(QRegularExpression(u"\\s"_s)).toStdString(),
               wanted.remove(u' ').toStdString());
@@ -297,6 +299,9 @@ TEST(Commands, ReportAChangeToPrograms) {
         for (const char *secret : {"office-key", "next-1"})
             EXPECT_FALSE((ended.out + ended.err).contains(secret));
     }
+    const Printers two({"{}", R"({"items": {"0x1006": "Same"}})"});
+    expectIn(run(two, "set S1 names.printer=same --yes --json").out,
+             {R"("outcome":"changed")", R"("warning":"name-taken")"});
     const Ended gone = run(printers, "apply Nobody f.json --yes --json");
     expectIn(gone.out, {R"("outcome":"not-found")"});
     expectIn(gone.err, {R"("fault":"not-found")"});
