@@ -4,6 +4,7 @@
 
 #include "cli/Help.h"
 #include "cli/Look.h"
+#include "platform/core/Nearest.h"
 #include "platform/core/Texts.h"
 #include "settings/PrinterWords.h"
 #include "settings/Settings.h"
@@ -132,8 +133,9 @@ ExitCode help(Context &context) {
     }
     const Command *const command = commandOf(context, name);
     if (!command || !command->helpKey)
-        return context.terminal.fail(ExitCode::UsedWrongly,
-                                     localized("DWT_Localize_Cli_BadCommand").arg(name));
+        return context.terminal.fail(
+            ExitCode::UsedWrongly, wordsOfUnknownWord("DWT_Localize_Cli_BadCommand", name,
+                                                      nearestOf(name, namesOf(context.commands))));
     for (const QString &line : helpOf(*command)) context.terminal.print(line);
     return ExitCode::Done;
 }

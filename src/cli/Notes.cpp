@@ -28,14 +28,6 @@ void noteReadOnly(Context &context, const GivenSettings &given) {
 void notePlan(Context &context, const Outcome &planned) {
     for (const Plan::Change &change : planned.plan.changes)
         context.terminal.print(u"  "_s + lineOf(change, planned));
-    const std::pair<Plan::LeftOut::Reason, const char *> reasons[] = {
-        {Plan::LeftOut::Automatic, "DWT_Localize_Cli_LeftOut_Automatic"},
-        {Plan::LeftOut::SameNetwork, "DWT_Localize_Cli_LeftOut_SameNetwork"}};
-    for (const auto &[reason, key] : reasons) {
-        QStringList names;
-        for (const Plan::LeftOut &left : planned.plan.leftOut)
-            if (left.reason == reason) names << left.setting->name;
-        if (!names.isEmpty()) context.terminal.note(localized(key).arg(names.join(u", "_s)));
-    }
+    for (const QString &words : wordsOfLeftOut(planned.plan)) context.terminal.note(words);
     for (const Outcome::Warning &warning : planned.warnings) context.terminal.note(warning.text);
 }

@@ -23,12 +23,6 @@ QStringList namesOf(const QList<Row> &rows) {
     return names;
 }
 
-// "There is no ...", and which word may be meant.
-QString unknown(const char *key, const QString &word, const QString &meant) {
-    const QString words = localized(key).arg(word);
-    return meant.isEmpty() ? words : words + u' ' + localized("DWT_Localize_Cli_Meant").arg(meant);
-}
-
 // Goes through the words after the command.
 class Reader {
   public:
@@ -62,8 +56,9 @@ class Reader {
         if (!option) {
             const QString meant = nearestOf(given.mid(given.lastIndexOf(u'-', 1) + 1),
                                             namesOf(m_options.command->options) << u"help"_s);
-            fail(unknown("DWT_Localize_Cli_BadOption", m_options.command->name + u' ' + given,
-                         meant.isEmpty() ? meant : u"--"_s + meant));
+            fail(wordsOfUnknownWord("DWT_Localize_Cli_BadOption",
+                                    m_options.command->name + u' ' + given,
+                                    meant.isEmpty() ? meant : u"--"_s + meant));
         } else if (option->takes == Takes::Nothing) {
             if (sign >= 0) fail(localized("DWT_Localize_Cli_NoValue").arg(given));
             m_options.options.insert(option->name, {});
@@ -97,6 +92,11 @@ class Reader {
 
 }  // namespace
 
+QString wordsOfUnknownWord(const char *key, const QString &word, const QString &meant) {
+    const QString words = localized(key).arg(word);
+    return meant.isEmpty() ? words : words + u' ' + localized("DWT_Localize_Cli_Meant").arg(meant);
+}
+
 Options optionsOf(const QStringList &arguments, const QList<Command> &commands) {
     Options options;
     const QString first = arguments.value(1);
@@ -107,8 +107,8 @@ Options optionsOf(const QStringList &arguments, const QList<Command> &commands) 
     else if (first.isEmpty())
         options.error = localized("DWT_Localize_Cli_NoCommand");
     else if (!(options.command = find(commands, first)))
-        options.error =
-            unknown("DWT_Localize_Cli_BadCommand", first, nearestOf(first, namesOf(commands)));
+        options.error = wordsOfUnknownWord("DWT_Localize_Cli_BadCommand", first,
+                                           nearestOf(first, namesOf(commands)));
     else
         Reader(options).read(arguments.mid(2));
     return options;

@@ -23,5 +23,8 @@ struct Options {
     QString value(const QString &option) const { return options.value(option); }
 };
 
+// What is said of an unknown word: the text of the key, and the word that may be meant instead.
+QString wordsOfUnknownWord(const char *key, const QString &word, const QString &meant);
+
 // Understands a command line, of which the first argument is the program's name.
 Options optionsOf(const QStringList &arguments, const QList<Command> &commands);

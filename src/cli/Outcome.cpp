@@ -75,6 +75,20 @@ QString lineOf(const Plan::Change &change, const Outcome &outcome) {
                                 fileTextOf(setting, outcome.plan.record.value(setting.viewKey)));
 }
 
+QStringList wordsOfLeftOut(const Plan &plan) {
+    const std::pair<Plan::LeftOut::Reason, const char *> reasons[] = {
+        {Plan::LeftOut::Automatic, "DWT_Localize_Cli_LeftOut_Automatic"},
+        {Plan::LeftOut::SameNetwork, "DWT_Localize_Cli_LeftOut_SameNetwork"}};
+    QStringList sentences;
+    for (const auto &[reason, key] : reasons) {
+        QStringList names;
+        for (const Plan::LeftOut &left : plan.leftOut)
+            if (left.reason == reason) names << left.setting->name;
+        if (!names.isEmpty()) sentences << localized(key).arg(names.join(u", "_s));
+    }
+    return sentences;
+}
+
 QJsonObject asJson(const Outcome &outcome) {
     QJsonArray changes, leftOut, warnings, faults;
     for (const Plan::Change &change : outcome.plan.changes) changes << asJson(change, outcome);

@@ -39,6 +39,9 @@ QString fileTextOf(const QJsonValue &value);
 // The line of a change in a list of changes: "device.timeout: 60 → 90", in the words of files.
 QString lineOf(const Plan::Change &change, const Outcome &outcome);
 
+// What a plan leaves out, and why, in sentences.
+QStringList wordsOfLeftOut(const Plan &plan);
+
 // The outcome for programs.
 QJsonObject asJson(const Outcome &outcome);
 // What is known of a printer, for programs.

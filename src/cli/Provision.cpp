@@ -148,11 +148,16 @@ Provision::Result Provision::provision(Session &session) {
 }
 
 Outcome Provision::changeByRow(Session &session, const TableRow &row) {
-    Change change(session, row.values, m_order.keys);
-    const Outcome &planned = change.planned();
+    const auto isStopped = [this] { return m_stopping || Interrupt::isRequested(); };
+    std::optional<Change> change;
+    {
+        const CancellableWait wait(isStopped);
+        change.emplace(session, row.values, m_order.keys);
+    }
+    if (isStopped()) return outcomeOf(ExitCode::Stopped, {localized("DWT_Localize_Cli_Stopped")});
+    const Outcome &planned = change->planned();
     if (m_order.isDry || planned.plan.changes.isEmpty() || !planned.faults.isEmpty())
         return planned;
-    const auto isStopped = [this] { return m_stopping || Interrupt::isRequested(); };
     bool hasPassword = true;
     const auto password = [&]() -> std::optional<QString> {
         if (!row.login.isEmpty()) return ownCopy(row.login);
@@ -171,7 +176,7 @@ Outcome Provision::changeByRow(Session &session, const TableRow &row) {
             MainThread::callAndWait([&] { isNoted = write(session, &row, u"begun"_s, {}); });
         return isNoted;
     };
-    return change.make(password, mayBegin);
+    return change->make(password, mayBegin);
 }
 
 Provision::Result Provision::claim(const Session &session) {
@@ -218,7 +223,7 @@ void Provision::finish(const Session &session, const Result &result) {
 // On the terminal, and in the file of results.
 void Provision::note(const Session &session, const Result &result) {
     const Outcome &outcome = result.outcome;
-    QStringList sentences = outcome.sentences;
+    QStringList sentences = outcome.sentences + wordsOfLeftOut(outcome.plan);
     for (const Outcome::Warning &warning : outcome.warnings) sentences << warning.text;
     if (outcome.ending && !outcome.notReported.isEmpty())
         sentences << localized("DWT_Localize_Cli_NotReported")

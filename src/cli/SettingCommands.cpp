@@ -52,10 +52,16 @@ QJsonValue valueOf(const Setting &setting, const SettingRecord &record) {
 
 // --- What settings may be ---
 
+// The symbol of the unit of a number; empty for one without.
+QString unitOf(const Setting &setting) {
+    return setting.key == DWT_SaveData_Firmware_Timeout ? u"s"_s : QString();
+}
+
 QString wordsOfRule(const Setting &setting) {
     if (setting.access() == Setting::Access::Read) return localized("DWT_Localize_Cli_OnlyShown");
-    const bool hasWords = setting.rule && setting.rule->ruleKey;
-    return hasWords ? localized(setting.rule->ruleKey) : wordsOfExpected(setting);
+    if (setting.rule && setting.rule->ruleKey) return localized(setting.rule->ruleKey);
+    const QString unit = unitOf(setting);
+    return wordsOfExpected(setting) + (unit.isEmpty() ? unit : u" [%1]"_s.arg(unit));
 }
 
 QJsonObject asJson(const Setting &setting) {
@@ -81,7 +87,7 @@ QJsonObject asJson(const Setting &setting) {
         object.insert(u"min"_s, setting.rule->min);
         object.insert(u"max"_s, setting.rule->max);
     }
-    if (setting.key == DWT_SaveData_Firmware_Timeout) object.insert(u"unit"_s, u"s"_s);
+    if (const QString unit = unitOf(setting); !unit.isEmpty()) object.insert(u"unit"_s, unit);
     return object;
 }
 
