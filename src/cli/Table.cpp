@@ -6,6 +6,7 @@
 #include <QStringDecoder>
 #include <algorithm>
 
+#include "platform/core/Nearest.h"
 #include "platform/core/Texts.h"
 #include "settings/SettingKeys.h"
 #include "settings/Wipe.h"
@@ -91,6 +92,17 @@ constexpr std::pair<QLatin1StringView, QString TableRow::*> knownBy[] = {
 // The column with the administrator password that a printer has.
 const QString loginColumn = u"login.password"_s;
 
+QString wordsOfUnknownColumn(const QString &name) {
+    QStringList known{loginColumn};
+    for (const auto &[column, member] : knownBy) known << column;
+    for (const Setting &setting : settings())
+        if (setting.access() != Setting::Access::Read && !setting.name.isEmpty())
+            known << setting.name;
+    const QString words = localized("DWT_Localize_Cli_Fault_UnknownColumn");
+    const QString meant = nearestOf(name, known);
+    return meant.isEmpty() ? words : words + u' ' + localized("DWT_Localize_Cli_Meant").arg(meant);
+}
+
 // Makes the rows of the lines of a table.
 class Reader {
   public:
@@ -104,8 +116,7 @@ class Reader {
             m_anyKnown |= column.known != nullptr;
             if (name == loginColumn) column.known = &TableRow::login;
             if (!column.setting && !column.known && !column.isNote())
-                addFault(line.number, name, localized("DWT_Localize_Cli_Fault_UnknownColumn"),
-                         u"unknown-column"_s);
+                addFault(line.number, name, wordsOfUnknownColumn(name), u"unknown-column"_s);
             else if (column.setting && column.setting->access() == Setting::Access::Read)
                 addFault(line.number, name, localized("DWT_Localize_Cli_Fault_ReadOnly"),
                          u"read-only"_s);

@@ -183,6 +183,7 @@ TEST(Commands, EndWithTheCodeOfWhatHappened) {
         {R"({"items": {"0x2001": {"setting": 0, "address": "0.0.0.0", "mask": "0.0.0.0",
             "gateway": "0.0.0.0"}}})",
          yes, R"({"wired.address.mode": "fixed"})", InputRefused, "wired.address.ip"},
+        {"{}", "check t.csv", "", InputRefused, "“login.password” meant"},
         {"{}", "check f.json --json", "{\"device.timeout\": 5,\n \"names.printer\": \"a b\"}",
          InputRefused,
          R"({"code":2,"fault":"value","file":"f.json","line":1,"message":)"
@@ -209,6 +210,7 @@ TEST(Commands, EndWithTheCodeOfWhatHappened) {
         printers.add(network);
         printers.catalogue.virtualPrinters.insert(network, printerOf("{}"));
         printers.write(u"f.json"_s, row.file);
+        printers.write(u"t.csv"_s, "serial,login.pasword\nS1,x\n");
         const Ended ended = run(printers, row.arguments);
         EXPECT_EQ(ended.code, row.code) << row.said << ended.err.constData();
         expectIn(ended.err, {row.said});
