@@ -1,6 +1,7 @@
 // Runs the command line and prints the medians of its process time (user and system) and of its
 // duration: for its help, for showing a demo printer, for provisioning 40 printers over TCP that
-// answer in 2 ms, and for a list of 40 of which six report no name.
+// answer in 2 ms, for a list of 40 of which six report no name, and for checking a table of 5,000
+// rows and a file that is nested 100,000 deep; of the last also the largest memory.
 
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -26,6 +27,9 @@ namespace {
 
 constexpr int rounds = 51;
 constexpr int provisionRounds = 5;
+constexpr int checkRounds = 11;
+constexpr int tableRows = 5000;
+constexpr int nesting = 100'000;
 constexpr int printerCount = 40;
 constexpr int silentCount = 6;
 
@@ -43,13 +47,23 @@ double childTime() {
     return ms(usage.ru_utime) + ms(usage.ru_stime);
 }
 
-Cost runOnce(const QStringList &arguments, const QString &printers) {
+// The largest memory of a run so far, in KiB.
+long largestMemory() {
+    rusage usage{};
+    ::getrusage(RUSAGE_CHILDREN, &usage);
+    return usage.ru_maxrss;
+}
+
+Cost runOnce(const QStringList &arguments, const QString &printers, int expected = 0) {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"ZMLIB_PRINTERS"_s, printers);
     process.setProcessEnvironment(environment);
     process.setStandardOutputFile(QProcess::nullDevice());
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    if (expected == 0)
+        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    else
+        process.setStandardErrorFile(QProcess::nullDevice());
     const double before = childTime();
     QElapsedTimer clock;
     clock.start();
@@ -57,14 +71,15 @@ Cost runOnce(const QStringList &arguments, const QString &printers) {
                   arguments);
     process.waitForFinished(-1);
     const double duration = double(clock.nsecsElapsed()) / 1e6;
-    if (process.exitCode() != 0) qFatal("ended with %d", process.exitCode());
+    if (process.exitCode() != expected) qFatal("ended with %d", process.exitCode());
     return {childTime() - before, duration};
 }
 
-Cost median(const QStringList &arguments, const QString &printers, int count = rounds) {
+Cost median(const QStringList &arguments, const QString &printers, int count = rounds,
+            int expected = 0) {
     std::vector<double> process, duration;
     for (int i = 0; i < count; ++i) {
-        const Cost cost = runOnce(arguments, printers);
+        const Cost cost = runOnce(arguments, printers, expected);
         process.push_back(cost.process);
         duration.push_back(cost.duration);
     }
@@ -107,10 +122,25 @@ void write(const QString &path, const QByteArray &bytes) {
     file.write(bytes);
 }
 
+// First of all, so that the largest memory is that of the nested file.
+void checkFiles(const QTemporaryDir &folder) {
+    const QString many = folder.filePath(u"many.csv"_s), deep = folder.filePath(u"deep.json"_s);
+    QByteArray csv = "serial,names.printer,device.timeout,wired.address.ip\n";
+    for (int i = 0; i < tableRows; ++i)
+        csv += u"S%1,Desk-%1,90,10.0.%2.%3\n"_s.arg(i).arg(i / 250).arg(i % 250 + 1).toLatin1();
+    write(many, csv);
+    write(deep, QByteArray("{\"a\":").repeated(nesting));
+    print("check, nested 100,000 deep", median({u"check"_s, deep}, u"demo"_s, checkRounds, 2));
+    std::printf("largest memory of it: %.1f MiB\n", double(largestMemory()) / 1024);
+    print("check, 5,000 rows", median({u"check"_s, many}, u"demo"_s, checkRounds));
+}
+
 }  // namespace
 
 int main(int argc, char **argv) {
     const QCoreApplication application(argc, argv);
+    const QTemporaryDir folder;
+    checkFiles(folder);
     const Cost help = median({u"list"_s, u"--help"_s}, u"demo"_s);
     const Cost show = median({u"show"_s, u"virtual://packing-desk"_s}, u"demo"_s);
     print("list --help", help);
@@ -129,7 +159,6 @@ int main(int argc, char **argv) {
                                {u"ProductName"_s, u"Larkfield L200"_s},
                                {u"SerialNumber"_s, u"S%1"_s.arg(i)}};
     }
-    const QTemporaryDir folder;
     const QString catalogue = folder.filePath(u"catalogue.json"_s);
     const QString table = folder.filePath(u"table.csv"_s);
     write(catalogue, QJsonDocument(QJsonObject{{u"printers"_s, entries}}).toJson());

@@ -4,9 +4,14 @@ set(NST_NAME network-setting-tool)
 install(TARGETS ${NST_NAME} network-setting DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES packaging/network-setting.bash
   DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME network-setting)
-install(FILES docs/command-line.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES docs/command-line.md docs/fleet.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES packaging/${NST_NAME}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/${NST_NAME}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+# Where Ansible looks for collections.
+install(DIRECTORY packaging/ansible/
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/ansible/collections/ansible_collections/network_setting/tool
+  PATTERN examples EXCLUDE)
+install(DIRECTORY packaging/ansible/examples DESTINATION ${CMAKE_INSTALL_DOCDIR})
 # Always in lib, wherever the libraries go: that is where udev looks.
 install(FILES packaging/70-${NST_NAME}.rules DESTINATION lib/udev/rules.d)
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)

@@ -1,44 +1,31 @@
-# Completion of network-setting for bash: commands, their options, and names of files.
+# Completion of network-setting for bash. The program itself says what a line can go on with.
 
 _network_setting() {
-  local words=() options='' files=0 given=0 i
-  # bash takes "--template=FILE" apart at the "=".
-  for ((i = 0; i <= COMP_CWORD; i++)); do
-    [ "${COMP_WORDS[i]}" = = ] || words+=("${COMP_WORDS[i]}")
+  local words=() word last='' glued='' i offer
+  # bash takes "--template=FILE" and "usb://..." apart at "=" and ":".
+  for ((i = 1; i <= COMP_CWORD; i++)); do
+    word=${COMP_WORDS[i]}
+    if [ ${#words[@]} -gt 0 ] && [[ $word == [=:]* || ${COMP_WORDS[i - 1]} == *[=:] ]]; then
+      words[-1]+=$word
+    else
+      words+=("$word")
+    fi
   done
-  [ "${COMP_WORDS[COMP_CWORD]}" != = ] || words+=('')
-  local last=$((${#words[@]} - 1)) command=${words[1]-}
-  local word=${words[last]}
+  last=${words[-1]}
+  # What bash does not replace, since it stands before a "=" or ":".
+  [[ $last != *[=:]* ]] || glued=${last%"${last##*[=:]}"}
+  mapfile -t offer < <("${COMP_WORDS[0]}" complete -- "${words[@]}" 2>/dev/null)
   COMPREPLY=()
-  if [ "$last" -eq 1 ]; then
-    mapfile -t COMPREPLY < <(compgen -W 'list show check apply provision networks --help --version' -- "$word")
+  if [ "${offer[0]-}" = files ]; then
+    compopt -o filenames 2>/dev/null
+    mapfile -t COMPREPLY < <(compgen -f -- "${offer[1]-}")
     return
   fi
-  # "files" is the argument, counted from 1, that names a file.
-  case $command in
-    list | show | networks) options='--json --help' ;;
-    check) options='--json --help' files=1 ;;
-    apply) options='--password-file --dry-run --yes --help' files=2 ;;
-    provision) options='--template --password-file --result --again --help' files=1 ;;
-    *) return ;;
-  esac
-  case ${words[last - 1]} in
-    --password-file | --template | --result)
-      mapfile -t COMPREPLY < <(compgen -f -- "$word")
-      return
-      ;;
-  esac
-  if [[ $word == -* ]]; then
-    mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
-    return
-  fi
-  for ((i = 2; i <= last; i++)); do
-    case ${words[i - 1]} in --password-file | --template | --result) continue ;; esac
-    [[ ${words[i]} == -* ]] || given=$((given + 1))
+  for word in "${offer[@]:1}"; do
+    word=${word#"$glued"}
+    [[ $word != *= ]] || compopt -o nospace 2>/dev/null
+    COMPREPLY+=("$(printf '%q' "$word")")
   done
-  if [ "$given" -eq "$files" ]; then
-    mapfile -t COMPREPLY < <(compgen -f -- "$word")
-  fi
 }
 
-complete -o filenames -F _network_setting network-setting
+complete -F _network_setting network-setting

@@ -1103,34 +1103,100 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
         <translation>Zeichnung: Ein Pfeil zeigt auf die WPS-Taste eines WLAN-Routers; Drucker und Router tauschen Funksignale aus</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>Liest und ändert die Netzwerkeinstellungen von Etikettendruckern.
-
-Aufruf:
-  network-setting list [--json]
-  network-setting show PRINTER [--json]
-  network-setting check FILE [--json]
-  network-setting apply PRINTER FILE [--password-file F] [--dry-run] [--yes]
-  network-setting provision TABLE.csv [--template FILE] [--password-file F]
-                            [--result OUT.csv] [--again]
-  network-setting networks PRINTER [--json]
-
-PRINTER: URI der Liste, eigener Name des Druckers oder Seriennummer. FILE: Einstellungen in JSON.
-
-  --json             JSON ausgeben
-  --dry-run          nur sagen, was sich ändern würde
-  --yes              vor dem Ändern nicht fragen
-  --password-file F  die erste Zeile von F ist das Administratorpasswort
-  --template FILE    Einstellungen für jeden Drucker der Tabelle
-  --result OUT.csv   für jeden Drucker eine Zeile an diese Datei anhängen
-  --again            einen Drucker, der wieder angeschlossen wird, noch einmal bearbeiten
-  --help             diesen Text zeigen
-  --version          die Version zeigen
-
-Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefunden oder erreicht,
-4 Anmeldung abgelehnt, 5 Einstellungen nicht übernommen, 6 abgebrochen.</translation>
+        <translation>Liest und ändert die Netzwerkeinstellungen von Etikettendruckern.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_List">
+        <translation>Die Drucker an USB und im Netzwerk auflisten.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Show">
+        <translation>Alle Einstellungen eines Druckers zeigen, außer Schlüsseln und Passwörtern.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Get">
+        <translation>Die Werte einzelner Einstellungen eines Druckers zeigen.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Settings">
+        <translation>Die Namen aller Einstellungen auflisten, und was sie sein können.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Diff">
+        <translation>Zeigen, in welchen Einstellungen sich zwei Drucker oder Dateien unterscheiden.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Check">
+        <translation>Alles nennen, was an einer Datei mit Einstellungen oder einer Tabelle falsch ist.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Apply">
+        <translation>Einen Drucker nach einer Datei mit Einstellungen ändern.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Set">
+        <translation>Einzelne Einstellungen eines Druckers ändern.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Provision">
+        <translation>Jeden Drucker an USB ändern, der eine Zeile in einer Tabelle hat.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Networks">
+        <translation>Einen Drucker drahtlose Netzwerke suchen lassen.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Help">
+        <translation>Zeigen, was das Programm oder ein Befehl kann.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Example">
+        <translation>Beispiel:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Printer">
+        <translation>PRINTER: Name des Druckers, Seriennummer, MAC- oder IP-Adresse oder URI der Liste. FILE: Einstellungen in JSON; „-“ ist die Standardeingabe.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Codes">
+        <translation>Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefunden oder erreicht, 4 Anmeldung abgelehnt, 5 Einstellungen nicht übernommen, 6 abgebrochen, 7 würde sich ändern (mit --exit-code).</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_More">
+        <translation>„network-setting COMMAND --help“ zeigt die Optionen eines Befehls.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Json">
+        <translation>JSON ausgeben</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Settings">
+        <translation>nur was sich ändern lässt, mit den Namen der Dateien</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_DryRun">
+        <translation>nur sagen, was sich ändern würde</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_ExitCode">
+        <translation>mit 7 enden, wenn sich etwas ändern würde</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Yes">
+        <translation>vor dem Ändern nicht fragen</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Only">
+        <translation>nur diese Einstellungen oder Gruppen: wireless,device.timeout</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Without">
+        <translation>diese Einstellungen oder Gruppen auslassen: names,*.address</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Once">
+        <translation>nur Drucker, die jetzt angeschlossen sind; Vorgabe ohne Terminal</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Timeout">
+        <translation>höchstens so lange auf Drucker warten, die nicht da sind</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Keys">
+        <translation>Netzwerkschlüssel immer senden (always) oder nur, wenn sich das Netzwerk oder seine Sicherheit ändert (when-changed, Vorgabe)</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_PasswordFile">
+        <translation>die erste Zeile von F ist das Administratorpasswort</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Template">
+        <translation>Einstellungen für jeden Drucker der Tabelle</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Result">
+        <translation>für jeden Drucker eine Zeile an diese Datei anhängen</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Again">
+        <translation>einen Drucker, der wieder angeschlossen wird, noch einmal bearbeiten</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
         <translation>„network-setting --help“ zeigt, was möglich ist.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SeeHelpOf">
+        <translation>„network-setting %1 --help“ zeigt, was dazugehört.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
         <translation>Es ist kein Befehl angegeben.</translation>
@@ -1138,8 +1204,29 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
     <message id="DWT_Localize_Cli_BadCommand">
         <translation>Es gibt keinen Befehl „%1“.</translation>
     </message>
-    <message id="DWT_Localize_Cli_BadArguments">
-        <translation>„%1“ erwartet %2 Argumente; angegeben sind %3.</translation>
+    <message id="DWT_Localize_Cli_BadOption">
+        <translation>Es gibt keine Option „%1“.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Meant">
+        <translation>Ist „%1“ gemeint?</translation>
+    </message>
+    <message id="DWT_Localize_Cli_OfGroup">
+        <translation>Die dieser Gruppe sind: %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoValue">
+        <translation>„%1“ hat keinen Wert.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadKeys">
+        <translation>„--keys“ kann nicht „%1“ sein. Erwartet wird eines von: %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadSeconds">
+        <translation>„--timeout“ braucht eine Zahl von Sekunden.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Needs">
+        <translation>„%1“ braucht %2.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_TooMany">
+        <translation>„%1“ erwartet kein weiteres Argument: „%2“.</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
         <translation>Die Ausgabe konnte nicht geschrieben werden.</translation>
@@ -1162,11 +1249,17 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
     <message id="DWT_Localize_Cli_Fault_NotJson">
         <translation>Hier ist dies kein gültiges JSON.</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_TooDeep">
+        <translation>Das ist für Einstellungen zu tief verschachtelt.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
         <translation>Der Text ist nicht in UTF-8. Speichern Sie die Datei als UTF-8.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
         <translation>Hier ist dies kein gültiges CSV: Ein Anführungszeichen fehlt oder ist zu viel.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_MoreFaults">
+        <translation>Nicht aufgeführte Fehler: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
         <translation>%1 kann nicht gelesen werden: %2</translation>
@@ -1183,8 +1276,20 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
         <translation>Diese Einstellung kann nicht geändert werden.</translation>
     </message>
+    <message id="DWT_Localize_Cli_OnlyShown">
+        <translation>Nur zur Anzeige; nicht änderbar.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NeverShown">
+        <translation>„%1“ wird nie gezeigt.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
         <translation>Dieser Name ist zweimal angegeben.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SecretArgument">
+        <translation>Ein Schlüssel oder Passwort ist kein Argument, da andere es sehen könnten. „NAME=@DATEI“ nimmt die erste Zeile einer Datei.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSign">
+        <translation>Erwartet wird NAME=WERT.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
         <translation>Hier wird ein Objekt mit Einstellungen erwartet.</translation>
@@ -1194,6 +1299,9 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
         <translation>Ein Text in Anführungszeichen oder {"file": "..."} wird erwartet.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Hex">
+        <translation>Erwartet werden 2 bis 64 hexadezimale Ziffern, zwei je Byte.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
         <translation>Eine ganze Zahl von %1 bis %2 wird erwartet.</translation>
@@ -1261,14 +1369,29 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
     <message id="DWT_Localize_Cli_NotReported">
         <translation>%1 hat diese Einstellungen nicht mitgeteilt: %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_NotReportedValue">
+        <translation>(nicht gemeldet)</translation>
+    </message>
     <message id="DWT_Localize_Cli_ReadOnly">
         <translation>Weggelassen, da nicht änderbar: %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_LeftOut_Automatic">
+        <translation>Ausgelassen, da der Drucker seine Adresse automatisch bezieht: %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_LeftOut_SameNetwork">
+        <translation>Nicht noch einmal gesendet, da das Netzwerk gleich bleibt („--keys always“ sendet es): %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>Ohne Terminal wird nur mit --yes etwas geändert.</translation>
+        <translation>Ohne Terminal und mit --json wird nur mit --yes etwas geändert.</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
         <translation>In %1 wird sich ändern:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_FromFile">
+        <translation>%1, aus %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_WouldChange">
+        <translation>%1 würde geändert.</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
         <translation>%1 hat diese Einstellungen schon. Es wurde nichts gesendet.</translation>
@@ -1277,7 +1400,7 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
         <translation>Ändern? [j/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
-        <translation>j</translation>
+        <translation>j ja y yes</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>Administratorpasswort von %1:</translation>
@@ -1345,11 +1468,32 @@ Endet mit 0 fertig, 1 falscher Aufruf, 2 Eingabe abgelehnt, 3 Drucker nicht gefu
     <message id="DWT_Localize_Cli_RowsLeft">
         <translation>Diese Drucker der Tabelle waren nicht da: %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_AndMore">
+        <translation>Und %1 weitere.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SameName">
+        <translation>Mehrere Zeilen geben denselben Druckernamen: Zeilen %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NameTaken">
+        <translation>Ein anderer Drucker heißt bereits %1.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_AddressTaken">
+        <translation>%2 hat die Adresse %1 bereits.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_Results_Input">
+        <translation>Es ist eine der Dateien, die gelesen werden.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_InUse">
+        <translation>Ein anderer Lauf schreibt gerade hinein.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_Foreign">
+        <translation>Es ist keine Datei mit Ergebnissen.</translation>
+    </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>%1 kann nicht geschrieben werden: %2. Es wird kein weiterer Drucker begonnen.</translation>
+        <translation>Es wird kein weiterer Drucker begonnen.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>In der ersten Zeile von %1 steht kein Schlüssel oder Passwort.</translation>

@@ -1103,34 +1103,100 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
         <translation>Drawing: an arrow points to the WPS button of a wireless router, and printer and router exchange radio signals</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>Reads and changes the network settings of label printers.
-
-Usage:
-  network-setting list [--json]
-  network-setting show PRINTER [--json]
-  network-setting check FILE [--json]
-  network-setting apply PRINTER FILE [--password-file F] [--dry-run] [--yes]
-  network-setting provision TABLE.csv [--template FILE] [--password-file F]
-                            [--result OUT.csv] [--again]
-  network-setting networks PRINTER [--json]
-
-PRINTER is a URI of the list, a printer's own name, or a serial number. FILE holds settings in JSON.
-
-  --json             print JSON
-  --dry-run          only say what would change
-  --yes              do not ask before changing
-  --password-file F  the administrator password is the first line of F
-  --template FILE    settings for every printer of the table
-  --result OUT.csv   add a row for each printer to this file
-  --again            do a printer again that is plugged in again
-  --help             show this text and exit
-  --version          show the version and exit
-
-Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not reached,
-4 login refused, 5 settings not taken over, 6 stopped.</translation>
+        <translation>Reads and changes the network settings of label printers.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_List">
+        <translation>List the printers on USB and on the network.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Show">
+        <translation>Show every setting of a printer but keys and passwords.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Get">
+        <translation>Show the values of some settings of a printer.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Settings">
+        <translation>List the names of all settings, and what each may be.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Diff">
+        <translation>Show in which settings two printers or files differ.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Check">
+        <translation>Say everything that is wrong with a file of settings or a table.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Apply">
+        <translation>Change one printer by a file of settings.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Set">
+        <translation>Change some settings of one printer.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Provision">
+        <translation>Change every printer on USB that has a row in a table.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Networks">
+        <translation>Let a printer look for wireless networks.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Help">
+        <translation>Show what the program, or a command, can do.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Example">
+        <translation>Example:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Printer">
+        <translation>PRINTER is a printer’s name, serial number, MAC or IP address, or a URI of the list. FILE holds settings in JSON; “-” is standard input.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Codes">
+        <translation>Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not reached, 4 login refused, 5 settings not taken over, 6 stopped, 7 would change (with --exit-code).</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_More">
+        <translation>“network-setting COMMAND --help” shows the options of a command.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Json">
+        <translation>print JSON</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Settings">
+        <translation>only what can be changed, by the names of files</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_DryRun">
+        <translation>only say what would change</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_ExitCode">
+        <translation>end with 7 when something would change</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Yes">
+        <translation>do not ask before changing</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Only">
+        <translation>only these settings or groups: wireless,device.timeout</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Without">
+        <translation>leave out these settings or groups: names,*.address</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Once">
+        <translation>only printers that are plugged in now; the default without a terminal</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Timeout">
+        <translation>wait at most so long for printers that are not there</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Keys">
+        <translation>send network keys always, or when-changed: only with the network or its security (the default)</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_PasswordFile">
+        <translation>the administrator password is the first line of F</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Template">
+        <translation>settings for every printer of the table</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Result">
+        <translation>add a row for each printer to this file</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Again">
+        <translation>do a printer again that is plugged in again</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
         <translation>“network-setting --help” shows what can be done.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SeeHelpOf">
+        <translation>“network-setting %1 --help” shows what it takes.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
         <translation>Which command? None is given.</translation>
@@ -1138,8 +1204,29 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
     <message id="DWT_Localize_Cli_BadCommand">
         <translation>There is no command “%1”.</translation>
     </message>
-    <message id="DWT_Localize_Cli_BadArguments">
-        <translation>“%1” takes %2 arguments; %3 are given.</translation>
+    <message id="DWT_Localize_Cli_BadOption">
+        <translation>There is no option “%1”.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Meant">
+        <translation>Is “%1” meant?</translation>
+    </message>
+    <message id="DWT_Localize_Cli_OfGroup">
+        <translation>Those of this group are: %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoValue">
+        <translation>“%1” takes no value.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadKeys">
+        <translation>“--keys” cannot be “%1”. One of these is expected: %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadSeconds">
+        <translation>“--timeout” needs a number of seconds.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Needs">
+        <translation>“%1” needs %2.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_TooMany">
+        <translation>“%1” takes no further argument: “%2”.</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
         <translation>The output could not be written.</translation>
@@ -1162,11 +1249,17 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
     <message id="DWT_Localize_Cli_Fault_NotJson">
         <translation>This is not valid JSON here.</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_TooDeep">
+        <translation>This is nested too deep for settings.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
         <translation>The text is not UTF-8. Save the file as UTF-8.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
         <translation>This is not valid CSV here: a quotation mark is missing or too many.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_MoreFaults">
+        <translation>Faults that are not listed: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
         <translation>%1 cannot be read: %2</translation>
@@ -1183,8 +1276,20 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
         <translation>This setting cannot be changed.</translation>
     </message>
+    <message id="DWT_Localize_Cli_OnlyShown">
+        <translation>Only shown; it cannot be changed.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NeverShown">
+        <translation>“%1” is never shown.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
         <translation>This name is given twice.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SecretArgument">
+        <translation>A key or password is no argument, which others could see. “NAME=@FILE” takes the first line of a file.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSign">
+        <translation>NAME=VALUE is expected.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
         <translation>An object with settings is expected here.</translation>
@@ -1194,6 +1299,9 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
         <translation>A text in quotation marks or {"file": "..."} is expected.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Hex">
+        <translation>2 to 64 hexadecimal digits are expected, two a byte.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
         <translation>A whole number from %1 to %2 is expected.</translation>
@@ -1261,14 +1369,29 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
     <message id="DWT_Localize_Cli_NotReported">
         <translation>%1 did not report these settings: %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_NotReportedValue">
+        <translation>(not reported)</translation>
+    </message>
     <message id="DWT_Localize_Cli_ReadOnly">
         <translation>Left out, since these cannot be changed: %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_LeftOut_Automatic">
+        <translation>Left out, since the printer gets its address automatically: %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_LeftOut_SameNetwork">
+        <translation>Not sent again, since the network stays the same (“--keys always” sends it): %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>Without a terminal, nothing is changed unless --yes is given.</translation>
+        <translation>Without a terminal, and with --json, nothing is changed unless --yes is given.</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
         <translation>In %1, this will change:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_FromFile">
+        <translation>%1, from %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_WouldChange">
+        <translation>%1 would be changed.</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
         <translation>%1 has these settings already. Nothing was sent.</translation>
@@ -1277,7 +1400,7 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
         <translation>Change it? [y/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
-        <translation>y</translation>
+        <translation>y yes</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>Administrator password of %1:</translation>
@@ -1345,11 +1468,32 @@ Ends with 0 done, 1 used wrongly, 2 input refused, 3 printer not found or not re
     <message id="DWT_Localize_Cli_RowsLeft">
         <translation>These printers of the table were not there: %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_AndMore">
+        <translation>And %1 more.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SameName">
+        <translation>Several rows give one printer name: lines %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NameTaken">
+        <translation>Another printer is called %1 already.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_AddressTaken">
+        <translation>%2 has the address %1 already.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>%1 cannot be written: %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_Results_Input">
+        <translation>It is one of the files that are read.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_InUse">
+        <translation>Another run is writing to it.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_Foreign">
+        <translation>It is not a file of results.</translation>
+    </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>%1 cannot be written: %2. No further printer is begun.</translation>
+        <translation>No further printer is begun.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>The first line of %1 holds no key or password.</translation>

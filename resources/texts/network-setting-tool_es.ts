@@ -1103,34 +1103,100 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
         <translation>Dibujo: una flecha señala el botón WPS de un router Wi-Fi; la impresora y el router intercambian señales de radio</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>Lee y cambia los ajustes de red de impresoras de etiquetas.
-
-Uso:
-  network-setting list [--json]
-  network-setting show PRINTER [--json]
-  network-setting check FILE [--json]
-  network-setting apply PRINTER FILE [--password-file F] [--dry-run] [--yes]
-  network-setting provision TABLE.csv [--template FILE] [--password-file F]
-                            [--result OUT.csv] [--again]
-  network-setting networks PRINTER [--json]
-
-PRINTER: URI de la lista, nombre propio de la impresora o número de serie. FILE: ajustes en JSON.
-
-  --json             escribir JSON
-  --dry-run          decir solo qué cambiaría
-  --yes              no preguntar antes de cambiar
-  --password-file F  la contraseña de administrador es la primera línea de F
-  --template FILE    ajustes para cada impresora de la tabla
-  --result OUT.csv   añadir a este archivo una fila por impresora
-  --again            repetir una impresora que se vuelve a conectar
-  --help             mostrar este texto
-  --version          mostrar la versión
-
-Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encontrada o sin acceso,
-4 inicio de sesión rechazado, 5 ajustes no aceptados, 6 detenido.</translation>
+        <translation>Lee y cambia los ajustes de red de impresoras de etiquetas.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_List">
+        <translation>Listar las impresoras USB y de la red.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Show">
+        <translation>Mostrar todos los ajustes de una impresora, salvo claves y contraseñas.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Get">
+        <translation>Mostrar los valores de algunos ajustes de una impresora.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Settings">
+        <translation>Listar los nombres de todos los ajustes y lo que admiten.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Diff">
+        <translation>Mostrar en qué ajustes difieren dos impresoras o archivos.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Check">
+        <translation>Decir todo lo que está mal en un archivo de ajustes o una tabla.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Apply">
+        <translation>Cambiar una impresora según un archivo de ajustes.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Set">
+        <translation>Cambiar algunos ajustes de una impresora.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Provision">
+        <translation>Cambiar cada impresora USB que tiene una fila en una tabla.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Networks">
+        <translation>Hacer que una impresora busque redes inalámbricas.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Help">
+        <translation>Mostrar lo que puede hacer el programa, o una orden.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Example">
+        <translation>Ejemplo:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Printer">
+        <translation>PRINTER: nombre de la impresora, número de serie, dirección MAC o IP, o URI de la lista. FILE: ajustes en JSON; «-» es la entrada estándar.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Codes">
+        <translation>Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encontrada o sin acceso, 4 inicio de sesión rechazado, 5 ajustes no aceptados, 6 detenido, 7 cambiaría (con --exit-code).</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_More">
+        <translation>«network-setting COMMAND --help» muestra las opciones de una orden.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Json">
+        <translation>escribir JSON</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Settings">
+        <translation>solo lo que se puede cambiar, con los nombres de los archivos</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_DryRun">
+        <translation>decir solo qué cambiaría</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_ExitCode">
+        <translation>terminar con 7 si algo cambiaría</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Yes">
+        <translation>no preguntar antes de cambiar</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Only">
+        <translation>solo estos ajustes o grupos: wireless,device.timeout</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Without">
+        <translation>omitir estos ajustes o grupos: names,*.address</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Once">
+        <translation>solo impresoras conectadas ahora; lo predeterminado sin terminal</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Timeout">
+        <translation>esperar como máximo este tiempo a las impresoras que faltan</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Keys">
+        <translation>enviar las claves de red siempre (always) o solo si cambia la red o su seguridad (when-changed, lo predeterminado)</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_PasswordFile">
+        <translation>la contraseña de administrador es la primera línea de F</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Template">
+        <translation>ajustes para cada impresora de la tabla</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Result">
+        <translation>añadir a este archivo una fila por impresora</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Again">
+        <translation>repetir una impresora que se vuelve a conectar</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
         <translation>«network-setting --help» muestra lo que se puede hacer.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SeeHelpOf">
+        <translation>«network-setting %1 --help» muestra lo que admite.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
         <translation>No se ha indicado ninguna orden.</translation>
@@ -1138,8 +1204,29 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
     <message id="DWT_Localize_Cli_BadCommand">
         <translation>No existe la orden «%1».</translation>
     </message>
-    <message id="DWT_Localize_Cli_BadArguments">
-        <translation>«%1» espera %2 argumentos; se han indicado %3.</translation>
+    <message id="DWT_Localize_Cli_BadOption">
+        <translation>No existe la opción «%1».</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Meant">
+        <translation>¿Se refiere a «%1»?</translation>
+    </message>
+    <message id="DWT_Localize_Cli_OfGroup">
+        <translation>Los de este grupo son: %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoValue">
+        <translation>«%1» no admite ningún valor.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadKeys">
+        <translation>«--keys» no puede ser «%1». Se espera uno de estos: %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadSeconds">
+        <translation>«--timeout» necesita un número de segundos.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Needs">
+        <translation>«%1» necesita %2.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_TooMany">
+        <translation>«%1» no admite más argumentos: «%2».</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
         <translation>No se ha podido escribir la salida.</translation>
@@ -1162,11 +1249,17 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
     <message id="DWT_Localize_Cli_Fault_NotJson">
         <translation>Aquí, esto no es JSON válido.</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_TooDeep">
+        <translation>Esto está anidado con demasiada profundidad para ajustes.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
         <translation>El texto no está en UTF-8. Guarde el archivo como UTF-8.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
         <translation>Aquí, esto no es CSV válido: falta o sobra una comilla.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_MoreFaults">
+        <translation>Errores que no se muestran: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
         <translation>No se puede leer %1: %2</translation>
@@ -1183,8 +1276,20 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
         <translation>Este ajuste no se puede cambiar.</translation>
     </message>
+    <message id="DWT_Localize_Cli_OnlyShown">
+        <translation>Solo se muestra; no se puede cambiar.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NeverShown">
+        <translation>«%1» no se muestra nunca.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
         <translation>Este nombre está indicado dos veces.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SecretArgument">
+        <translation>Una clave o contraseña no se da como argumento, pues otros podrían verla. «NOMBRE=@ARCHIVO» toma la primera línea de un archivo.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSign">
+        <translation>Se espera NOMBRE=VALOR.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
         <translation>Aquí se espera un objeto con ajustes.</translation>
@@ -1194,6 +1299,9 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
         <translation>Se espera un texto entre comillas o {"file": "..."}.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Hex">
+        <translation>Se esperan de 2 a 64 dígitos hexadecimales, dos por byte.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
         <translation>Se espera un número entero de %1 a %2.</translation>
@@ -1261,14 +1369,29 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
     <message id="DWT_Localize_Cli_NotReported">
         <translation>%1 no comunicó estos ajustes: %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_NotReportedValue">
+        <translation>(no comunicado)</translation>
+    </message>
     <message id="DWT_Localize_Cli_ReadOnly">
         <translation>Omitidos, porque no se pueden cambiar: %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_LeftOut_Automatic">
+        <translation>Se omite porque la impresora obtiene su dirección automáticamente: %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_LeftOut_SameNetwork">
+        <translation>No se envía de nuevo porque la red no cambia («--keys always» lo envía): %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>Sin terminal no se cambia nada, salvo con --yes.</translation>
+        <translation>Sin terminal, y con --json, no se cambia nada sin --yes.</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
         <translation>En %1 cambiará lo siguiente:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_FromFile">
+        <translation>%1, de %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_WouldChange">
+        <translation>%1 se cambiaría.</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
         <translation>%1 ya tiene estos ajustes. No se ha enviado nada.</translation>
@@ -1277,7 +1400,7 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
         <translation>¿Cambiarlo? [s/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
-        <translation>s</translation>
+        <translation>s sí si y yes</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>Contraseña de administrador de %1:</translation>
@@ -1345,11 +1468,32 @@ Termina con 0 hecho, 1 uso incorrecto, 2 entrada rechazada, 3 impresora no encon
     <message id="DWT_Localize_Cli_RowsLeft">
         <translation>Estas impresoras de la tabla no estaban: %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_AndMore">
+        <translation>Y %1 más.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SameName">
+        <translation>Varias filas dan el mismo nombre de impresora: líneas %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NameTaken">
+        <translation>Otra impresora ya se llama %1.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_AddressTaken">
+        <translation>%2 ya tiene la dirección %1.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>No se puede escribir %1: %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_Results_Input">
+        <translation>Es uno de los archivos que se leen.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_InUse">
+        <translation>Otra ejecución está escribiendo en él.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_Foreign">
+        <translation>No es un archivo de resultados.</translation>
+    </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>No se puede escribir %1: %2. No se empieza ninguna impresora más.</translation>
+        <translation>No se empieza ninguna otra impresora.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>La primera línea de %1 no contiene ninguna clave ni contraseña.</translation>

@@ -1103,34 +1103,100 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
         <translation>Dessin : une flèche indique le bouton WPS d’un routeur Wi-Fi ; l’imprimante et le routeur échangent des signaux radio</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>Lit et modifie les réglages réseau d’imprimantes d’étiquettes.
-
-Utilisation :
-  network-setting list [--json]
-  network-setting show PRINTER [--json]
-  network-setting check FILE [--json]
-  network-setting apply PRINTER FILE [--password-file F] [--dry-run] [--yes]
-  network-setting provision TABLE.csv [--template FILE] [--password-file F]
-                            [--result OUT.csv] [--again]
-  network-setting networks PRINTER [--json]
-
-PRINTER : URI de la liste, nom propre de l’imprimante ou numéro de série. FILE : réglages en JSON.
-
-  --json             écrire du JSON
-  --dry-run          dire seulement ce qui changerait
-  --yes              ne pas demander avant de modifier
-  --password-file F  le mot de passe administrateur est la première ligne de F
-  --template FILE    réglages pour chaque imprimante de la table
-  --result OUT.csv   ajouter à ce fichier une ligne pour chaque imprimante
-  --again            refaire une imprimante qui est rebranchée
-  --help             afficher ce texte
-  --version          afficher la version
-
-Se termine par 0 fait, 1 mauvaise utilisation, 2 entrée refusée, 3 imprimante introuvable ou
-injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translation>
+        <translation>Lit et modifie les réglages réseau d’imprimantes d’étiquettes.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_List">
+        <translation>Lister les imprimantes USB et du réseau.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Show">
+        <translation>Montrer tous les réglages d’une imprimante, sauf clés et mots de passe.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Get">
+        <translation>Montrer les valeurs de quelques réglages d’une imprimante.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Settings">
+        <translation>Lister les noms de tous les réglages et ce qu’ils admettent.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Diff">
+        <translation>Montrer en quels réglages deux imprimantes ou fichiers diffèrent.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Check">
+        <translation>Dire tout ce qui ne va pas dans un fichier de réglages ou une table.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Apply">
+        <translation>Modifier une imprimante d’après un fichier de réglages.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Set">
+        <translation>Modifier quelques réglages d’une imprimante.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Provision">
+        <translation>Modifier chaque imprimante USB qui a une ligne dans une table.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Networks">
+        <translation>Faire chercher les réseaux sans fil par une imprimante.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Help">
+        <translation>Montrer ce que peut faire le programme, ou une commande.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Example">
+        <translation>Exemple :</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Printer">
+        <translation>PRINTER : nom de l’imprimante, numéro de série, adresse MAC ou IP, ou URI de la liste. FILE : réglages en JSON ; « - » est l’entrée standard.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Codes">
+        <translation>Se termine par 0 fait, 1 mauvaise utilisation, 2 entrée refusée, 3 imprimante introuvable ou injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté, 7 serait modifié (avec --exit-code).</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_More">
+        <translation>« network-setting COMMAND --help » montre les options d’une commande.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Json">
+        <translation>écrire du JSON</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Settings">
+        <translation>seulement ce qui peut être modifié, avec les noms des fichiers</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_DryRun">
+        <translation>dire seulement ce qui changerait</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_ExitCode">
+        <translation>se terminer par 7 si quelque chose serait modifié</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Yes">
+        <translation>ne pas demander avant de modifier</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Only">
+        <translation>seulement ces réglages ou groupes : wireless,device.timeout</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Without">
+        <translation>laisser de côté ces réglages ou groupes : names,*.address</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Once">
+        <translation>seulement les imprimantes branchées maintenant ; par défaut sans terminal</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Timeout">
+        <translation>attendre au plus ce temps les imprimantes absentes</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Keys">
+        <translation>envoyer les clés réseau toujours (always) ou seulement si le réseau ou sa sécurité change (when-changed, par défaut)</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_PasswordFile">
+        <translation>le mot de passe administrateur est la première ligne de F</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Template">
+        <translation>réglages pour chaque imprimante de la table</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Result">
+        <translation>ajouter à ce fichier une ligne pour chaque imprimante</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Again">
+        <translation>refaire une imprimante qui est rebranchée</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
         <translation>« network-setting --help » montre ce qui est possible.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SeeHelpOf">
+        <translation>« network-setting %1 --help » montre ce qu’elle accepte.</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
         <translation>Aucune commande n’est indiquée.</translation>
@@ -1138,8 +1204,29 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
     <message id="DWT_Localize_Cli_BadCommand">
         <translation>Il n’y a pas de commande « %1 ».</translation>
     </message>
-    <message id="DWT_Localize_Cli_BadArguments">
-        <translation>« %1 » attend %2 arguments ; %3 sont indiqués.</translation>
+    <message id="DWT_Localize_Cli_BadOption">
+        <translation>Il n’y a pas d’option « %1 ».</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Meant">
+        <translation>Est-ce « %1 » ?</translation>
+    </message>
+    <message id="DWT_Localize_Cli_OfGroup">
+        <translation>Ceux de ce groupe sont : %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoValue">
+        <translation>« %1 » n’accepte pas de valeur.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadKeys">
+        <translation>« --keys » ne peut pas être « %1 ». Attendu : %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadSeconds">
+        <translation>« --timeout » a besoin d’un nombre de secondes.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Needs">
+        <translation>« %1 » a besoin de %2.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_TooMany">
+        <translation>« %1 » n’accepte pas d’autre argument : « %2 ».</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
         <translation>La sortie n’a pas pu être écrite.</translation>
@@ -1162,11 +1249,17 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
     <message id="DWT_Localize_Cli_Fault_NotJson">
         <translation>Ici, ce n’est pas du JSON valide.</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_TooDeep">
+        <translation>C’est imbriqué trop profondément pour des réglages.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
         <translation>Le texte n’est pas en UTF-8. Enregistrez le fichier en UTF-8.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
         <translation>Ici, ce n’est pas du CSV valide : un guillemet manque ou est de trop.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_MoreFaults">
+        <translation>Erreurs non affichées : %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
         <translation>%1 ne peut pas être lu : %2</translation>
@@ -1183,8 +1276,20 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
         <translation>Ce réglage ne peut pas être modifié.</translation>
     </message>
+    <message id="DWT_Localize_Cli_OnlyShown">
+        <translation>Affiché seulement ; ne peut pas être modifié.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NeverShown">
+        <translation>« %1 » n’est jamais montré.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
         <translation>Ce nom est indiqué deux fois.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SecretArgument">
+        <translation>Une clé ou un mot de passe n’est pas un argument, que d’autres pourraient voir. « NOM=@FICHIER » prend la première ligne d’un fichier.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSign">
+        <translation>NOM=VALEUR est attendu.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
         <translation>Un objet avec des réglages est attendu ici.</translation>
@@ -1194,6 +1299,9 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
         <translation>Un texte entre guillemets ou {"file": "..."} est attendu.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Hex">
+        <translation>2 à 64 chiffres hexadécimaux sont attendus, deux par octet.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
         <translation>Un nombre entier de %1 à %2 est attendu.</translation>
@@ -1261,14 +1369,29 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
     <message id="DWT_Localize_Cli_NotReported">
         <translation>%1 n’a pas communiqué ces réglages : %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_NotReportedValue">
+        <translation>(non signalé)</translation>
+    </message>
     <message id="DWT_Localize_Cli_ReadOnly">
         <translation>Laissés de côté, car ils ne peuvent pas être modifiés : %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_LeftOut_Automatic">
+        <translation>Laissé de côté, car l’imprimante obtient son adresse automatiquement : %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_LeftOut_SameNetwork">
+        <translation>Non renvoyé, car le réseau reste le même (« --keys always » l’envoie) : %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>Sans terminal, rien n’est modifié, sauf avec --yes.</translation>
+        <translation>Sans terminal, et avec --json, rien n’est modifié sans --yes.</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
         <translation>Dans %1, ceci changera :</translation>
+    </message>
+    <message id="DWT_Localize_Cli_FromFile">
+        <translation>%1, de %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_WouldChange">
+        <translation>%1 serait modifiée.</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
         <translation>%1 a déjà ces réglages. Rien n’a été envoyé.</translation>
@@ -1277,7 +1400,7 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
         <translation>Modifier ? [o/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
-        <translation>o</translation>
+        <translation>o oui y yes</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>Mot de passe administrateur de %1 :</translation>
@@ -1345,11 +1468,32 @@ injoignable, 4 connexion refusée, 5 réglages non repris, 6 arrêté.</translat
     <message id="DWT_Localize_Cli_RowsLeft">
         <translation>Ces imprimantes de la table n’étaient pas là : %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_AndMore">
+        <translation>Et %1 de plus.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SameName">
+        <translation>Plusieurs lignes donnent le même nom d’imprimante : lignes %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NameTaken">
+        <translation>Une autre imprimante s’appelle déjà %1.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_AddressTaken">
+        <translation>%2 a déjà l’adresse %1.</translation>
+    </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>%1 ne peut pas être écrit : %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_Results_Input">
+        <translation>C’est un des fichiers lus.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_InUse">
+        <translation>Une autre exécution y écrit.</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_Foreign">
+        <translation>Ce n’est pas un fichier de résultats.</translation>
+    </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>%1 ne peut pas être écrit : %2. Aucune autre imprimante n’est commencée.</translation>
+        <translation>Aucune autre imprimante n’est commencée.</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>La première ligne de %1 ne contient ni clé ni mot de passe.</translation>

@@ -1103,34 +1103,100 @@
         <translation>図: 無線 LAN ルーターの WPS ボタンを指す矢印と、電波をやり取りするプリンターとルーター</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>ラベルプリンターのネットワーク設定を表示・変更します。
-
-使い方:
-  network-setting list [--json]
-  network-setting show PRINTER [--json]
-  network-setting check FILE [--json]
-  network-setting apply PRINTER FILE [--password-file F] [--dry-run] [--yes]
-  network-setting provision TABLE.csv [--template FILE] [--password-file F]
-                            [--result OUT.csv] [--again]
-  network-setting networks PRINTER [--json]
-
-PRINTER は一覧の URI、プリンター名、またはシリアル番号です。FILE は JSON 形式の設定です。
-
-  --json             JSON で出力する
-  --dry-run          変更される内容を表示するだけにする
-  --yes              変更の前に確認しない
-  --password-file F  F の 1 行目を管理者パスワードとして使う
-  --template FILE    表のすべてのプリンターに共通の設定
-  --result OUT.csv   プリンターごとに 1 行をこのファイルに追加する
-  --again            もう一度接続されたプリンターをもう一度処理する
-  --help             この説明を表示して終了する
-  --version          バージョンを表示して終了する
-
-終了コード: 0 完了、1 使い方の誤り、2 入力の誤り、3 プリンターが見つからない、または応答しない、
-4 ログイン拒否、5 設定が反映されない、6 中止。</translation>
+        <translation>ラベルプリンターのネットワーク設定を表示・変更します。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_List">
+        <translation>USB とネットワークのプリンターを一覧表示する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Show">
+        <translation>キーとパスワードを除くプリンターの全設定を表示する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Get">
+        <translation>プリンターの一部の設定の値を表示する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Settings">
+        <translation>すべての設定の名前と指定できる値を一覧表示する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Diff">
+        <translation>2 台のプリンターまたはファイルの設定の違いを表示する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Check">
+        <translation>設定ファイルまたは表の誤りをすべて表示する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Apply">
+        <translation>設定ファイルに従って 1 台のプリンターを変更する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Set">
+        <translation>プリンターの一部の設定を変更する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Provision">
+        <translation>表に行がある USB プリンターをすべて変更する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Networks">
+        <translation>プリンターに無線ネットワークを検索させる。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Help">
+        <translation>プログラムまたはコマンドの使い方を表示する。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Example">
+        <translation>例:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Printer">
+        <translation>PRINTER はプリンター名、シリアル番号、MAC アドレス、IP アドレス、または一覧の URI です。FILE は JSON 形式の設定です。「-」は標準入力です。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Codes">
+        <translation>終了コード: 0 完了、1 使い方の誤り、2 入力の誤り、3 プリンターが見つからない、または応答しない、4 ログイン拒否、5 設定が反映されない、6 中止、7 変更あり (--exit-code 指定時)。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_More">
+        <translation>コマンドのオプションは「network-setting COMMAND --help」で表示できます。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Json">
+        <translation>JSON で出力する</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Settings">
+        <translation>変更できる設定だけを、ファイルでの名前で表示する</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_DryRun">
+        <translation>変更される内容を表示するだけにする</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_ExitCode">
+        <translation>変更がある場合は 7 で終了する</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Yes">
+        <translation>変更の前に確認しない</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Only">
+        <translation>これらの設定またはグループだけ: wireless,device.timeout</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Without">
+        <translation>これらの設定またはグループを除外する: names,*.address</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Once">
+        <translation>現在接続されているプリンターだけを処理する。端末がない場合の既定</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Timeout">
+        <translation>接続されていないプリンターを待つ最長時間 (秒)</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Keys">
+        <translation>ネットワークキーを常に送る (always)、またはネットワークかそのセキュリティが変わるときだけ送る (when-changed、既定)</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_PasswordFile">
+        <translation>F の 1 行目を管理者パスワードとして使う</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Template">
+        <translation>表のすべてのプリンターに共通の設定</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Result">
+        <translation>プリンターごとに 1 行をこのファイルに追加する</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Again">
+        <translation>もう一度接続されたプリンターをもう一度処理する</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
         <translation>使い方は「network-setting --help」で表示できます。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SeeHelpOf">
+        <translation>使い方は「network-setting %1 --help」で表示できます。</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
         <translation>コマンドが指定されていません。</translation>
@@ -1138,8 +1204,29 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
     <message id="DWT_Localize_Cli_BadCommand">
         <translation>「%1」というコマンドはありません。</translation>
     </message>
-    <message id="DWT_Localize_Cli_BadArguments">
-        <translation>「%1」の引数は %2 個です。%3 個指定されています。</translation>
+    <message id="DWT_Localize_Cli_BadOption">
+        <translation>「%1」というオプションはありません。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Meant">
+        <translation>「%1」のことですか?</translation>
+    </message>
+    <message id="DWT_Localize_Cli_OfGroup">
+        <translation>このグループの設定: %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoValue">
+        <translation>「%1」は値を取りません。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadKeys">
+        <translation>「--keys」に「%1」は指定できません。次のいずれかです: %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadSeconds">
+        <translation>「--timeout」には秒数が必要です。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Needs">
+        <translation>「%1」には %2 が必要です。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_TooMany">
+        <translation>「%1」はこれ以上の引数を取りません: 「%2」</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
         <translation>出力を書き込めませんでした。</translation>
@@ -1162,11 +1249,17 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
     <message id="DWT_Localize_Cli_Fault_NotJson">
         <translation>ここが正しい JSON ではありません。</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_TooDeep">
+        <translation>設定としては入れ子が深すぎます。</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
         <translation>UTF-8 のテキストではありません。UTF-8 で保存してください。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
         <translation>ここが正しい CSV ではありません。引用符が足りないか、多すぎます。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_MoreFaults">
+        <translation>表示していない誤り: %1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
         <translation>%1 を読み取れません: %2</translation>
@@ -1183,8 +1276,20 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
         <translation>この設定は変更できません。</translation>
     </message>
+    <message id="DWT_Localize_Cli_OnlyShown">
+        <translation>表示のみです。変更できません。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NeverShown">
+        <translation>「%1」は表示されません。</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
         <translation>この名前が 2 回指定されています。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SecretArgument">
+        <translation>キーやパスワードは他人に見えるため、引数では指定できません。「名前=@ファイル」でファイルの 1 行目を使います。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSign">
+        <translation>名前=値 の形で指定してください。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
         <translation>ここには設定を含むオブジェクトが必要です。</translation>
@@ -1194,6 +1299,9 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
         <translation>引用符で囲んだ文字列、または {"file": "..."} が必要です。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Hex">
+        <translation>2～64 桁の 16 進数字が必要です (1 バイトにつき 2 桁)。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
         <translation>%1 から %2 までの整数が必要です。</translation>
@@ -1261,14 +1369,29 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
     <message id="DWT_Localize_Cli_NotReported">
         <translation>%1 から次の設定を取得できませんでした: %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_NotReportedValue">
+        <translation>(報告なし)</translation>
+    </message>
     <message id="DWT_Localize_Cli_ReadOnly">
         <translation>変更できないため、次の項目は除きました: %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_LeftOut_Automatic">
+        <translation>プリンターがアドレスを自動的に取得するため、除外しました: %1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_LeftOut_SameNetwork">
+        <translation>ネットワークが変わらないため、再送信しません (「--keys always」で送信): %1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>端末がないときは、--yes を指定しない限り変更しません。</translation>
+        <translation>端末がない場合と --json を指定した場合は、--yes がなければ何も変更しません。</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
         <translation>%1 で次の設定が変更されます:</translation>
+    </message>
+    <message id="DWT_Localize_Cli_FromFile">
+        <translation>%1 (%2 から)</translation>
+    </message>
+    <message id="DWT_Localize_Cli_WouldChange">
+        <translation>%1 は変更されます。</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
         <translation>%1 はすでにこの設定になっています。何も送信していません。</translation>
@@ -1277,7 +1400,7 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
         <translation>変更しますか? [y/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
-        <translation>y</translation>
+        <translation>y yes はい</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>%1 の管理者パスワード:</translation>
@@ -1345,11 +1468,32 @@ PRINTER は一覧の URI、プリンター名、またはシリアル番号で�
     <message id="DWT_Localize_Cli_RowsLeft">
         <translation>表の次のプリンターはありませんでした: %1</translation>
     </message>
+    <message id="DWT_Localize_Cli_AndMore">
+        <translation>ほか %1 台。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SameName">
+        <translation>複数の行が同じプリンター名を指定しています: %1 行目</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NameTaken">
+        <translation>別のプリンターがすでに %1 という名前です。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_AddressTaken">
+        <translation>%2 がすでにアドレス %1 を使用しています。</translation>
+    </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>%1 に書き込めません: %2</translation>
     </message>
+    <message id="DWT_Localize_Cli_Results_Input">
+        <translation>読み込むファイルの 1 つです。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_InUse">
+        <translation>別の実行が書き込み中です。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_Foreign">
+        <translation>結果のファイルではありません。</translation>
+    </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>%1 に書き込めません: %2。次のプリンターには進みません。</translation>
+        <translation>これ以降のプリンターは処理しません。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>%1 の 1 行目にキーまたはパスワードがありません。</translation>

@@ -1103,34 +1103,100 @@
         <translation>图：箭头指向无线路由器的 WPS 按钮，打印机与路由器交换无线信号</translation>
     </message>
     <message id="DWT_Localize_Cli_Help">
-        <translation>查看和更改标签打印机的网络设置。
-
-用法：
-  network-setting list [--json]
-  network-setting show PRINTER [--json]
-  network-setting check FILE [--json]
-  network-setting apply PRINTER FILE [--password-file F] [--dry-run] [--yes]
-  network-setting provision TABLE.csv [--template FILE] [--password-file F]
-                            [--result OUT.csv] [--again]
-  network-setting networks PRINTER [--json]
-
-PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JSON 格式的设置。
-
-  --json             以 JSON 输出
-  --dry-run          只显示将要更改的内容
-  --yes              更改之前不询问
-  --password-file F  管理员密码是 F 的第一行
-  --template FILE    表中每台打印机共用的设置
-  --result OUT.csv   为每台打印机向此文件添加一行
-  --again            再次处理重新插入的打印机
-  --help             显示此说明并退出
-  --version          显示版本并退出
-
-退出码：0 完成，1 用法错误，2 输入有误，3 找不到或无法连接打印机，
-4 登录被拒绝，5 设置未生效，6 已停止。</translation>
+        <translation>查看和更改标签打印机的网络设置。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_List">
+        <translation>列出 USB 和网络上的打印机。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Show">
+        <translation>显示打印机的所有设置（密钥和密码除外）。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Get">
+        <translation>显示打印机部分设置的值。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Settings">
+        <translation>列出所有设置的名称及其允许的值。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Diff">
+        <translation>显示两台打印机或两个文件的设置差异。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Check">
+        <translation>列出设置文件或表中的所有错误。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Apply">
+        <translation>按设置文件更改一台打印机。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Set">
+        <translation>更改一台打印机的部分设置。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Provision">
+        <translation>更改表中有对应行的每台 USB 打印机。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Networks">
+        <translation>让打印机搜索无线网络。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Help">
+        <translation>显示程序或命令的用法。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Example">
+        <translation>示例：</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Printer">
+        <translation>PRINTER 是打印机名称、序列号、MAC 或 IP 地址，或列表中的 URI。FILE 是 JSON 格式的设置；“-”表示标准输入。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_Codes">
+        <translation>退出码：0 完成，1 用法错误，2 输入有误，3 找不到或无法连接打印机，4 登录被拒绝，5 设置未生效，6 已停止，7 将会更改（使用 --exit-code 时）。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Help_More">
+        <translation>“network-setting COMMAND --help”显示命令的选项。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Json">
+        <translation>以 JSON 输出</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Settings">
+        <translation>仅显示可更改的设置，使用文件中的名称</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_DryRun">
+        <translation>只显示将要更改的内容</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_ExitCode">
+        <translation>有内容将会更改时以 7 退出</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Yes">
+        <translation>更改之前不询问</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Only">
+        <translation>仅限这些设置或组：wireless,device.timeout</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Without">
+        <translation>省略这些设置或组：names,*.address</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Once">
+        <translation>仅处理当前已连接的打印机；没有终端时为默认</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Timeout">
+        <translation>最多等待未连接的打印机多少秒</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Keys">
+        <translation>总是发送网络密钥 (always)，或仅在网络或其安全设置更改时发送 (when-changed，默认)</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_PasswordFile">
+        <translation>管理员密码是 F 的第一行</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Template">
+        <translation>表中每台打印机共用的设置</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Result">
+        <translation>为每台打印机向此文件添加一行</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Option_Again">
+        <translation>再次处理重新插入的打印机</translation>
     </message>
     <message id="DWT_Localize_Cli_SeeHelp">
         <translation>“network-setting --help”显示可以执行的操作。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SeeHelpOf">
+        <translation>“network-setting %1 --help”显示其用法。</translation>
     </message>
     <message id="DWT_Localize_Cli_NoCommand">
         <translation>没有指定命令。</translation>
@@ -1138,8 +1204,29 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
     <message id="DWT_Localize_Cli_BadCommand">
         <translation>没有命令“%1”。</translation>
     </message>
-    <message id="DWT_Localize_Cli_BadArguments">
-        <translation>“%1”需要 %2 个参数，但指定了 %3 个。</translation>
+    <message id="DWT_Localize_Cli_BadOption">
+        <translation>没有选项“%1”。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Meant">
+        <translation>您是指“%1”吗？</translation>
+    </message>
+    <message id="DWT_Localize_Cli_OfGroup">
+        <translation>该组的设置有：%1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoValue">
+        <translation>“%1”没有值。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadKeys">
+        <translation>“--keys”不能是“%1”。应为以下之一：%2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_BadSeconds">
+        <translation>“--timeout”需要秒数。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Needs">
+        <translation>“%1”需要 %2。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_TooMany">
+        <translation>“%1”没有更多参数：“%2”。</translation>
     </message>
     <message id="DWT_Localize_Cli_Output">
         <translation>无法写入输出。</translation>
@@ -1162,11 +1249,17 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
     <message id="DWT_Localize_Cli_Fault_NotJson">
         <translation>此处不是有效的 JSON。</translation>
     </message>
+    <message id="DWT_Localize_Cli_Fault_TooDeep">
+        <translation>对于设置来说嵌套过深。</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_NotUtf8">
         <translation>文本不是 UTF-8。请将文件保存为 UTF-8。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_NotCsv">
         <translation>此处不是有效的 CSV：缺少或多出引号。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_MoreFaults">
+        <translation>未列出的错误：%1</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Unreadable">
         <translation>无法读取 %1：%2</translation>
@@ -1183,8 +1276,20 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
     <message id="DWT_Localize_Cli_Fault_ReadOnly">
         <translation>此设置无法更改。</translation>
     </message>
+    <message id="DWT_Localize_Cli_OnlyShown">
+        <translation>仅供显示，不能更改。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NeverShown">
+        <translation>“%1”从不显示。</translation>
+    </message>
     <message id="DWT_Localize_Cli_Fault_Twice">
         <translation>此名称指定了两次。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SecretArgument">
+        <translation>密钥或密码不能作为参数给出，因为他人可能看到。“名称=@文件”使用文件的第一行。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NoSign">
+        <translation>应为 名称=值。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Group">
         <translation>此处应为包含设置的对象。</translation>
@@ -1194,6 +1299,9 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
     </message>
     <message id="DWT_Localize_Cli_Fault_Secret">
         <translation>应为带引号的文本或 {"file": "..."}。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Fault_Hex">
+        <translation>应为 2 到 64 位十六进制数字，每字节两位。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_Number">
         <translation>应为 %1 到 %2 的整数。</translation>
@@ -1261,14 +1369,29 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
     <message id="DWT_Localize_Cli_NotReported">
         <translation>%1 没有提供以下设置：%2</translation>
     </message>
+    <message id="DWT_Localize_Cli_NotReportedValue">
+        <translation>（未报告）</translation>
+    </message>
     <message id="DWT_Localize_Cli_ReadOnly">
         <translation>以下项目无法更改，已略过：%1</translation>
     </message>
+    <message id="DWT_Localize_Cli_LeftOut_Automatic">
+        <translation>已省略，因为打印机自动获取地址：%1</translation>
+    </message>
+    <message id="DWT_Localize_Cli_LeftOut_SameNetwork">
+        <translation>网络不变，因此不再发送（“--keys always”会发送）：%1</translation>
+    </message>
     <message id="DWT_Localize_Cli_NoTerminal">
-        <translation>没有终端时，除非指定 --yes，否则不会更改任何设置。</translation>
+        <translation>没有终端时，以及使用 --json 时，必须给出 --yes 才会更改。</translation>
     </message>
     <message id="DWT_Localize_Cli_WillChange">
         <translation>%1 将更改以下设置：</translation>
+    </message>
+    <message id="DWT_Localize_Cli_FromFile">
+        <translation>%1，来自 %2</translation>
+    </message>
+    <message id="DWT_Localize_Cli_WouldChange">
+        <translation>%1 将会被更改。</translation>
     </message>
     <message id="DWT_Localize_Cli_NothingToDo">
         <translation>%1 已经是这些设置。没有发送任何内容。</translation>
@@ -1277,7 +1400,7 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
         <translation>要更改吗？[y/N]</translation>
     </message>
     <message id="DWT_Localize_Cli_Yes">
-        <translation>y</translation>
+        <translation>y yes 是</translation>
     </message>
     <message id="DWT_Localize_Cli_AskPassword">
         <translation>%1 的管理员密码：</translation>
@@ -1345,11 +1468,32 @@ PRINTER 是列表中的 URI、打印机自己的名称或序列号。FILE 是 JS
     <message id="DWT_Localize_Cli_RowsLeft">
         <translation>表中的以下打印机不在：%1</translation>
     </message>
+    <message id="DWT_Localize_Cli_AndMore">
+        <translation>另外还有 %1 台。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_SameName">
+        <translation>多行给出同一个打印机名称：第 %1 行</translation>
+    </message>
+    <message id="DWT_Localize_Cli_NameTaken">
+        <translation>另一台打印机已名为 %1。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_AddressTaken">
+        <translation>%2 已使用地址 %1。</translation>
+    </message>
     <message id="DWT_Localize_Cli_Unwritable">
         <translation>无法写入 %1：%2</translation>
     </message>
+    <message id="DWT_Localize_Cli_Results_Input">
+        <translation>它是要读取的文件之一。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_InUse">
+        <translation>另一次运行正在写入。</translation>
+    </message>
+    <message id="DWT_Localize_Cli_Results_Foreign">
+        <translation>它不是结果文件。</translation>
+    </message>
     <message id="DWT_Localize_Cli_ResultsEnd">
-        <translation>无法写入 %1：%2。不再处理后面的打印机。</translation>
+        <translation>不再处理其他打印机。</translation>
     </message>
     <message id="DWT_Localize_Cli_Fault_EmptySecret">
         <translation>%1 的第一行没有密钥或密码。</translation>

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the program ends with. A larger code is a worse ending.
+// What the program ends with.
 enum class ExitCode : int {
     Done = 0,          // done and verified, or nothing to do
     UsedWrongly = 1,   // the command line
@@ -8,5 +8,13 @@ enum class ExitCode : int {
     NotReached = 3,    // the printer was not found, or does not answer
     LoginRefused = 4,
     NotAccepted = 5,  // items were refused, or read back differently
-    Stopped = 6       // by the user
+    Stopped = 6,      // by the user
+    WouldChange = 7   // if it were done; only on request
 };
+
+// The worse of two endings: the larger code, but what would change is no fault.
+inline ExitCode worseOf(ExitCode a, ExitCode b) {
+    if (a == ExitCode::WouldChange) return b == ExitCode::Done ? a : b;
+    if (b == ExitCode::WouldChange) return a == ExitCode::Done ? b : a;
+    return a < b ? b : a;
+}

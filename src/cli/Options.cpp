@@ -1,82 +1,115 @@
 #include "cli/Options.h"
 
-#include <QCommandLineParser>
 #include <algorithm>
 
+#include "platform/core/Nearest.h"
 #include "platform/core/Texts.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Command {
-    QString name;
-    int arguments;
-    QStringList flags;
-    QStringList files;  // options that name a file
-};
-
-const QList<Command> &commands() {
-    static const QList<Command> all{
-        {u"list"_s, 0, {u"json"_s}, {}},
-        {u"show"_s, 1, {u"json"_s}, {}},
-        {u"check"_s, 1, {u"json"_s}, {}},
-        {u"apply"_s, 2, {u"dry-run"_s, u"yes"_s}, {u"password-file"_s}},
-        {u"provision"_s, 1, {u"again"_s}, {u"template"_s, u"password-file"_s, u"result"_s}},
-        {u"networks"_s, 1, {u"json"_s}, {}}};
-    return all;
+template <typename Row>
+const Row *find(const QList<Row> &rows, const QString &name) {
+    const auto found =
+        std::find_if(rows.begin(), rows.end(), [&](const Row &row) { return row.name == name; });
+    return found == rows.end() ? nullptr : &*found;
 }
+
+template <typename Row>
+QStringList namesOf(const QList<Row> &rows) {
+    QStringList names;
+    for (const Row &row : rows) names << row.name;
+    return names;
+}
+
+// Goes through the words after the command.
+class Reader {
+  public:
+    explicit Reader(Options &options) : m_options(options) {}
+
+    void read(const QStringList &words) {
+        bool onlyArguments = false;  // after "--"
+        for (qsizetype i = 0; i < words.size(); ++i) {
+            const QString &word = words[i];
+            if (onlyArguments || word == u"-" || !word.startsWith(u'-'))
+                m_options.arguments << word;
+            else if (word == u"--")
+                onlyArguments = true;
+            else
+                readOption(word, words, i);
+        }
+        checkArguments();
+    }
+
+  private:
+    // `at` is the place of the word, and becomes that of its value when that is a word of its own.
+    void readOption(const QString &word, const QStringList &words, qsizetype &at) {
+        if (word == u"-h" || word == u"--help") {
+            m_options.shown = Options::Shown::Help;
+            return;
+        }
+        const qsizetype sign = word.indexOf(u'=');
+        const QString given = word.left(sign);
+        const Option *const option =
+            given.startsWith(u"--") ? find(m_options.command->options, given.mid(2)) : nullptr;
+        if (!option) {
+            const QString meant = nearestOf(given.mid(given.lastIndexOf(u'-', 1) + 1),
+                                            namesOf(m_options.command->options) << u"help"_s);
+            fail(wordsOfUnknownWord("DWT_Localize_Cli_BadOption",
+                                    m_options.command->name + u' ' + given,
+                                    meant.isEmpty() ? meant : u"--"_s + meant));
+        } else if (option->takes == Takes::Nothing) {
+            if (sign >= 0) fail(localized("DWT_Localize_Cli_NoValue").arg(given));
+            m_options.options.insert(option->name, {});
+        } else if (sign >= 0 || at + 1 < words.size()) {
+            m_options.options.insert(option->name, sign >= 0 ? word.mid(sign + 1) : words[++at]);
+        } else {
+            fail(localized("DWT_Localize_Cli_Needs").arg(given, option->value));
+        }
+    }
+
+    void checkArguments() {
+        const QList<Argument> &wanted = m_options.command->arguments;
+        const qsizetype given = m_options.arguments.size();
+        const bool isOpen = !wanted.isEmpty() && wanted.last().isMany;
+        if (given > wanted.size() && !isOpen)
+            fail(localized("DWT_Localize_Cli_TooMany")
+                     .arg(m_options.command->name, m_options.arguments[wanted.size()]));
+        for (qsizetype i = given; i < wanted.size(); ++i)
+            if (!wanted[i].isOptional)
+                fail(localized("DWT_Localize_Cli_Needs")
+                         .arg(m_options.command->name, wanted[i].name));
+    }
+
+    // Only the first fault is told.
+    void fail(const QString &words) {
+        if (m_options.error.isEmpty()) m_options.error = words;
+    }
+
+    Options &m_options;
+};
 
 }  // namespace
 
-Options optionsOf(const QStringList &arguments) {
+QString wordsOfUnknownWord(const char *key, const QString &word, const QString &meant) {
+    const QString words = localized(key).arg(word);
+    return meant.isEmpty() ? words : words + u' ' + localized("DWT_Localize_Cli_Meant").arg(meant);
+}
+
+Options optionsOf(const QStringList &arguments, const QList<Command> &commands) {
     Options options;
-    QCommandLineParser parser;
-    const QCommandLineOption help(QStringList{u"h"_s, u"help"_s});
-    const QCommandLineOption version(QStringList{u"v"_s, u"version"_s});
-    parser.addOptions({help, version});
-    const QString name = arguments.value(1);
-    const auto command = std::find_if(commands().begin(), commands().end(),
-                                      [&](const Command &c) { return c.name == name; });
-    if (command != commands().end()) {
-        for (const QString &flag : command->flags) parser.addOption(QCommandLineOption(flag));
-        for (const QString &file : command->files)
-            parser.addOption(QCommandLineOption(file, {}, u"file"_s));
-    }
-    // Without a command, the first argument can only be an option.
-    const bool understood = parser.parse(arguments);
-    if (understood && parser.isSet(help)) options.shown = Options::Shown::Help;
-    if (understood && parser.isSet(version)) options.shown = Options::Shown::Version;
-    if (options.shown != Options::Shown::Nothing) return options;
-    if (name.isEmpty() || (command == commands().end() && !name.startsWith(u'-'))) {
-        options.error = name.isEmpty() ? localized("DWT_Localize_Cli_NoCommand")
-                                       : localized("DWT_Localize_Cli_BadCommand").arg(name);
-        return options;
-    }
-    if (!understood) {
-        options.error = parser.errorText();
-        return options;
-    }
-    options.command = name;
-    const auto has = [&](const QString &flag) {
-        return command->flags.contains(flag) && parser.isSet(flag);
-    };
-    options.json = has(u"json"_s);
-    options.arguments = parser.positionalArguments().mid(1);
-    if (options.arguments.size() != command->arguments) {
-        options.error = localized("DWT_Localize_Cli_BadArguments")
-                            .arg(name, QString::number(command->arguments),
-                                 QString::number(options.arguments.size()));
-        return options;
-    }
-    const auto file = [&](const QString &option) {
-        return command->files.contains(option) ? parser.value(option) : QString();
-    };
-    options.dryRun = has(u"dry-run"_s);
-    options.yes = has(u"yes"_s);
-    options.again = has(u"again"_s);
-    options.passwordFile = file(u"password-file"_s);
-    options.templateFile = file(u"template"_s);
-    options.resultFile = file(u"result"_s);
+    const QString first = arguments.value(1);
+    if (first == u"-h" || first == u"--help")
+        options.shown = Options::Shown::Help;
+    else if (first == u"-v" || first == u"--version")
+        options.shown = Options::Shown::Version;
+    else if (first.isEmpty())
+        options.error = localized("DWT_Localize_Cli_NoCommand");
+    else if (!(options.command = find(commands, first)))
+        options.error = wordsOfUnknownWord("DWT_Localize_Cli_BadCommand", first,
+                                           nearestOf(first, namesOf(commands)));
+    else
+        Reader(options).read(arguments.mid(2));
     return options;
 }

@@ -19,10 +19,14 @@ class Passwords {
     // used.
     bool load(const QString &file, Fault &fault);
 
+    // Whether a password that was typed, and refused, may be typed again; if so, it is forgotten.
+    bool mayRetry();
+
     // The password for the printer that is called `printer`; nothing when there is none.
     std::optional<QString> forPrinter(const QString &printer);
 
   private:
     std::optional<QString> m_password;
     bool m_isDeclined = false;  // it was asked for, and not entered
+    int m_typed = 0;            // how often it was entered
 };

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "cli/Change.h"
 #include "cli/Interrupt.h"
 #include "cli/Views.h"
 #include "link/Binding.h"
@@ -12,6 +13,7 @@
 #include "platform/core/Waiting.h"
 #include "settings/PrinterWords.h"
 #include "settings/Printers.h"
+#include "settings/Wipe.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,15 +23,8 @@ namespace {
 const QStringList resultColumns{u"time"_s, u"printer"_s, u"serial"_s, u"uri"_s,
                                 u"line"_s, u"outcome"_s, u"detail"_s};
 
-// The word of an ending, for programs.
-QString wordOf(ExitCode code) {
-    static const QMap<ExitCode, QString> words{{ExitCode::Done, u"done"_s},
-                                               {ExitCode::InputRefused, u"refused"_s},
-                                               {ExitCode::NotReached, u"not-reached"_s},
-                                               {ExitCode::LoginRefused, u"login-refused"_s},
-                                               {ExitCode::NotAccepted, u"not-accepted"_s}};
-    return words.value(code, u"stopped"_s);
-}
+// So many printers that are not there are named.
+constexpr qsizetype atAGlance = 10;
 
 Rows::Printer printerOf(const Session &session) {
     const PrinterEntry &entry = session.entry();
@@ -37,23 +32,23 @@ Rows::Printer printerOf(const Session &session) {
                           entry.value(PrinterKey::SerialNumber),
                           session.name(),
                           {}};
-    for (const Setting &setting : settings())
-        if (setting.kind == Setting::Kind::Mac)
-            printer.macs << textValue(session.record().value(setting.viewKey), setting.key);
-    printer.macs.removeAll(QString());
+    printer.macs = macsOf(session.record());
     return printer;
 }
 
 }  // namespace
 
-Provision::Provision(Terminal &terminal, Passwords &passwords, QList<TableRow> rows, bool again)
-    : m_terminal(terminal), m_passwords(passwords), m_rows(std::move(rows), again) {}
+Provision::Provision(Terminal &terminal, Passwords &passwords, ProvisionOrder order, bool isJson)
+    : m_terminal(terminal),
+      m_passwords(passwords),
+      m_order(std::move(order)),
+      m_isJson(isJson),
+      m_rows(m_order.rows, m_order.again) {}
 
-ExitCode Provision::run(const QString &resultFile) {
-    if (!resultFile.isEmpty() && !m_results.open(resultFile, resultColumns))
-        return m_terminal.fail(
-            ExitCode::InputRefused,
-            localized("DWT_Localize_Cli_Unwritable").arg(resultFile, m_results.errorString()));
+ExitCode Provision::run() {
+    if (!m_order.resultFile.isEmpty() &&
+        !m_results.open(m_order.resultFile, resultColumns, m_order.inputs))
+        return m_terminal.fail(ExitCode::InputRefused, m_results.problem(), u"results"_s);
     Interrupt::watch();
     look();
     if (!isEnd()) {
@@ -71,7 +66,7 @@ void Provision::tick() {
         m_names.ask({});
         if (!m_working.isEmpty()) m_terminal.note(localized("DWT_Localize_Cli_Stopping"));
     }
-    const bool follow = !m_stopping && !listsCatalogue();
+    const bool follow = !m_stopping && !m_order.once && !listsCatalogue();
     if (follow && (m_lookAgain || Printers::hasListChanged())) look();
     startNext();
     if (isEnd()) m_loop.quit();
@@ -142,48 +137,46 @@ Provision::Result Provision::provision(Session &session) {
     }
     Result result;
     if (isStopped()) {
-        result.code = ExitCode::Stopped;
-        result.word = wordOf(result.code);
-        result.text = localized("DWT_Localize_Cli_Stopped");
-        return result;
-    }
-    if (read == Session::Reading::Complete) {
+        result.outcome = outcomeOf(ExitCode::Stopped, {localized("DWT_Localize_Cli_Stopped")});
+    } else if (read == Session::Reading::Complete) {
         MainThread::callAndWait([&] { result = claim(session); });
-        if (result.granted) changeByRow(session, result);
-        return result;
+        if (result.granted) result.outcome = changeByRow(session, *result.row);
+    } else {
+        result.outcome = outcomeOf(codeOf(read), session.wordsOf(read));
     }
-    result.code = codeOf(read);
-    result.word = wordOf(result.code);
-    result.text = session.wordsOf(read).join(u' ');
     return result;
 }
 
-void Provision::changeByRow(Session &session, Result &result) {
-    const QString name = session.name();
-    const auto end = [&](ExitCode code, const QStringList &sentences) {
-        result.code = code;
-        result.word = wordOf(code);
-        result.text = sentences.join(u' ');
-    };
-    const Plan plan = planOf(session.record(), result.row->values);
-    QStringList faults;
-    for (const Fault &fault : plan.faults) faults << wordsOf(fault);
-    if (!faults.isEmpty()) return end(ExitCode::InputRefused, faults);
-    if (plan.changes.isEmpty()) {
-        end(ExitCode::Done, {localized("DWT_Localize_Cli_NothingToDo").arg(name)});
-        result.word = u"unchanged"_s;
-        return;
+Outcome Provision::changeByRow(Session &session, const TableRow &row) {
+    const auto isStopped = [this] { return m_stopping || Interrupt::isRequested(); };
+    std::optional<Change> change;
+    {
+        const CancellableWait wait(isStopped);
+        change.emplace(session, row.values, m_order.keys);
     }
-    const auto mayBegin = [this] { return !m_stopping && !Interrupt::isRequested(); };
-    const auto password = [&] {
+    if (isStopped()) return outcomeOf(ExitCode::Stopped, {localized("DWT_Localize_Cli_Stopped")});
+    const Outcome &planned = change->planned();
+    if (m_order.isDry || planned.plan.changes.isEmpty() || !planned.faults.isEmpty())
+        return planned;
+    bool hasPassword = true;
+    const auto password = [&]() -> std::optional<QString> {
+        if (!row.login.isEmpty()) return ownCopy(row.login);
         std::optional<QString> given;
         MainThread::callAndWait([&] {
-            if (mayBegin()) given = m_passwords.forPrinter(name);
+            if (!isStopped()) given = m_passwords.forPrinter(session.name());
         });
+        hasPassword = given.has_value();
         return given;
     };
-    const Ending ending = session.change(plan, password, mayBegin);
-    end(codeOf(ending), session.wordsOf(ending, Naming::Stable));
+    // A run that is killed leaves this trace.
+    const auto mayBegin = [&] {
+        if (isStopped()) return false;
+        bool isNoted = true;
+        if (hasPassword)
+            MainThread::callAndWait([&] { isNoted = write(session, &row, u"begun"_s, {}); });
+        return isNoted;
+    };
+    return change->make(password, mayBegin);
 }
 
 Provision::Result Provision::claim(const Session &session) {
@@ -197,30 +190,30 @@ Provision::Result Provision::claim(const Session &session) {
     const Rows::Claim claim = m_rows.claim(result.printer, namesakes);
     result.row = claim.row;
     using Kind = Rows::Claim::Kind;
-    static const QMap<Kind, const char *> refusals{
+    result.granted = claim.kind == Kind::Granted;
+    if (result.granted) return result;
+    static const QMap<Kind, const char *> words{
         {Kind::SeveralRows, "DWT_Localize_Cli_SeveralRows"},
         {Kind::SeveralPrinters, "DWT_Localize_Cli_SeveralPrinters"},
-        {Kind::RowUsed, "DWT_Localize_Cli_RowUsed"}};
-    result.granted = claim.kind == Kind::Granted;
-    if (const char *const key = refusals.value(claim.kind)) {
-        QStringList lines;
-        for (const int line : claim.lines) lines << QString::number(line);
-        result.code = ExitCode::InputRefused;
-        result.word = wordOf(result.code);
-        result.text = localized(key).arg(name, lines.join(u", "_s));
-    } else if (claim.kind == Kind::NoRow) {
-        result.word = u"no-row"_s;
-        result.text = localized("DWT_Localize_Cli_NoRow").arg(name);
-    } else if (claim.kind == Kind::DoneBefore) {
-        result.word = u"done-before"_s;
-        result.text = localized("DWT_Localize_Cli_DoneBefore").arg(name);
-    }
+        {Kind::RowUsed, "DWT_Localize_Cli_RowUsed"},
+        {Kind::NoRow, "DWT_Localize_Cli_NoRow"},
+        {Kind::DoneBefore, "DWT_Localize_Cli_DoneBefore"}};
+    QStringList lines;
+    for (const int line : claim.lines) lines << QString::number(line);
+    const bool isFault = claim.kind != Kind::NoRow && claim.kind != Kind::DoneBefore;
+    QString sentence = localized(words[claim.kind]);
+    sentence = isFault ? sentence.arg(name, lines.join(u", "_s)) : sentence.arg(name);
+    result.outcome = outcomeOf(isFault ? ExitCode::InputRefused : ExitCode::Done, {sentence});
+    if (claim.kind == Kind::NoRow) result.outcome.word = u"no-row"_s;
+    if (claim.kind == Kind::DoneBefore) result.outcome.word = u"done-before"_s;
     return result;
 }
 
 void Provision::finish(const Session &session, const Result &result) {
-    if (result.granted) m_rows.release(*result.row, result.printer, result.code == ExitCode::Done);
-    m_worst = std::max(m_worst, result.code);
+    const ExitCode code = result.outcome.code;
+    const bool isDone = code == ExitCode::Done || code == ExitCode::WouldChange;
+    if (result.granted) m_rows.release(*result.row, result.printer, isDone);
+    m_worst = worseOf(m_worst, code);
     note(session, result);
     m_working.remove(session.entry().value(PrinterKey::DeviceURI));
     startNext();
@@ -229,35 +222,85 @@ void Provision::finish(const Session &session, const Result &result) {
 
 // On the terminal, and in the file of results.
 void Provision::note(const Session &session, const Result &result) {
+    const Outcome &outcome = result.outcome;
+    QStringList sentences = outcome.sentences + wordsOfLeftOut(outcome.plan);
+    for (const Outcome::Warning &warning : outcome.warnings) sentences << warning.text;
+    if (outcome.ending && !outcome.notReported.isEmpty())
+        sentences << localized("DWT_Localize_Cli_NotReported")
+                         .arg(session.name(),
+                              namesOf(outcome.notReported, Naming::Stable).join(u", "_s));
+    const QString words = sentences.join(u' ');
     const PrinterEntry &entry = session.entry();
-    const QString uri = entry.value(PrinterKey::DeviceURI), whereabouts = whereaboutsOf(entry);
-    m_terminal.print(u"%1: %2"_s.arg(whereabouts.isEmpty() ? uri : whereabouts, result.text));
+    if (m_isJson) {
+        QJsonObject object = asJson(outcome);
+        object.insert(u"printer"_s, printerAsJson(session));
+        object.insert(u"line"_s, result.row ? QJsonValue(result.row->line) : QJsonValue());
+        m_terminal.printLine(object);
+    } else {
+        const QString whereabouts = whereaboutsOf(entry);
+        m_terminal.print(u"%1: %2"_s.arg(
+            whereabouts.isEmpty() ? entry.value(PrinterKey::DeviceURI) : whereabouts, words));
+        if (m_order.isDry)
+            for (const Plan::Change &change : outcome.plan.changes)
+                m_terminal.print(u"  "_s + lineOf(change, outcome));
+    }
     Terminal::flush();
-    if (!m_results.isOpen() || m_writeFailed) return;
+    write(session, result.row, outcome.word == u"changed" ? u"done"_s : outcome.word, words);
+}
+
+// Adds a row to the file of results, if there is one. Without it, nothing more is begun.
+bool Provision::write(const Session &session, const TableRow *row, const QString &word,
+                      const QString &words) {
+    if (!m_results.isOpen()) return true;
+    if (m_writeFailed) return false;
+    const PrinterEntry &entry = session.entry();
     if (m_results.add({QDateTime::currentDateTimeUtc().toString(Qt::ISODate), session.name(),
-                       entry.value(PrinterKey::SerialNumber), uri,
-                       result.row ? QString::number(result.row->line) : QString(), result.word,
-                       result.text}))
-        return;
+                       entry.value(PrinterKey::SerialNumber), entry.value(PrinterKey::DeviceURI),
+                       row ? QString::number(row->line) : QString(), word, words}))
+        return true;
     m_writeFailed = true;
     m_stopping = true;
-    m_terminal.fail(
-        ExitCode::InputRefused,
-        localized("DWT_Localize_Cli_ResultsEnd").arg(m_results.path(), m_results.errorString()));
+    m_terminal.fail(ExitCode::InputRefused,
+                    m_results.problem() + u' ' + localized("DWT_Localize_Cli_ResultsEnd"),
+                    u"results"_s);
+    return false;
 }
 
 bool Provision::isEnd() const {
     if (!m_working.isEmpty()) return false;
-    return m_stopping || (m_waiting.isEmpty() && (m_rows.isAllDone() || listsCatalogue()));
+    const bool isOver = m_order.once || m_order.deadline.hasExpired() || listsCatalogue();
+    return m_stopping || (m_waiting.isEmpty() && (m_rows.isAllDone() || isOver));
 }
 
 ExitCode Provision::result() {
     if (m_writeFailed) return ExitCode::InputRefused;
     if (m_rows.isAllDone()) return m_worst;
-    const QStringList missing = m_rows.unclaimed();
-    if (!missing.isEmpty())
-        m_terminal.note(localized("DWT_Localize_Cli_RowsLeft").arg(missing.join(u", "_s)));
+    for (const PrinterEntry &entry : std::as_const(m_present))
+        m_rows.see({entry.value(PrinterKey::DeviceURI),
+                    entry.value(PrinterKey::SerialNumber),
+                    listedName(m_names.named(entry)),
+                    {}});
+    const auto missing = m_rows.missing();
     if (Interrupt::isRequested())
         return m_terminal.fail(ExitCode::Stopped, localized("DWT_Localize_Cli_Stopped"));
-    return missing.isEmpty() ? m_worst : std::max(m_worst, ExitCode::NotReached);
+    tellMissing(missing);
+    return missing.isEmpty() ? m_worst : worseOf(m_worst, ExitCode::NotReached);
+}
+
+void Provision::tellMissing(const QList<const TableRow *> &rows) {
+    QStringList names;
+    for (const TableRow *const row : rows) {
+        names << row->printer();
+        if (!m_isJson) continue;
+        QJsonObject object = asJson(outcomeOf(ExitCode::NotReached, {}));
+        object.insert(u"outcome"_s, u"not-there"_s);
+        object.insert(u"line"_s, row->line);
+        m_terminal.printLine(object);
+    }
+    if (names.isEmpty()) return;
+    QString words = localized("DWT_Localize_Cli_RowsLeft")
+                        .arg(names.first(std::min(names.size(), atAGlance)).join(u", "_s));
+    if (names.size() > atAGlance)
+        words += u' ' + localized("DWT_Localize_Cli_AndMore").arg(names.size() - atAGlance);
+    m_terminal.note(words);
 }

@@ -1,18 +1,31 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QMap>
 #include <QSet>
 #include <QTimer>
 #include <atomic>
 
-#include "cli/ExitCode.h"
+#include "cli/Outcome.h"
 #include "cli/Passwords.h"
 #include "cli/ResultFile.h"
 #include "cli/Rows.h"
 #include "cli/Terminal.h"
 #include "settings/PrinterNames.h"
-#include "settings/Session.h"
+
+// What is to be done by a table.
+struct ProvisionOrder {
+    QList<TableRow> rows;
+    Keys keys = Keys::WhenChanged;
+    bool isDry = false;  // nothing is sent
+    bool again = false;  // a printer that was done is done again when it is plugged in again
+    bool once = false;   // only for printers that are there at the beginning
+    // How long printers that are not there are waited for.
+    QDeadlineTimer deadline = QDeadlineTimer(QDeadlineTimer::Forever);
+    QString resultFile = {};  // empty for none
+    QStringList inputs = {};  // files that results may not be written to
+};
 
 // Changes every USB printer that has a row in a table, several at a time. Main thread.
 class Provision {
@@ -22,14 +35,13 @@ class Provision {
     // How often it looks for printers that came, and for the user's wish to stop.
     static constexpr std::chrono::milliseconds lookInterval{250};
 
-    // `again`: a printer that was done is done again when it is plugged in again.
-    Provision(Terminal &terminal, Passwords &passwords, QList<TableRow> rows, bool again);
+    Provision(Terminal &terminal, Passwords &passwords, ProvisionOrder order, bool isJson);
 
-    // Runs until every row is done, the user stops it, the results cannot be written or, with a
-    // catalogue, every printer had its turn. Printers that are being written are finished. Result:
-    // Done; Stopped; InputRefused when `resultFile`, if named, cannot be written; otherwise the
-    // largest code of a printer, or NotReached when the printer of a row was not there.
-    ExitCode run(const QString &resultFile);
+    // Runs until every row is done, the order's time is over, the user stops it, the results cannot
+    // be written or, with a catalogue, every printer had its turn. Printers that are being written
+    // are finished. Result: Stopped; InputRefused when the file of results cannot be written;
+    // otherwise the worst code of a printer, or NotReached when the printer of a row was not there.
+    ExitCode run();
 
   private:
     // How the work on one printer ended.
@@ -37,9 +49,7 @@ class Provision {
         Rows::Printer printer = {};
         const TableRow *row = nullptr;
         bool granted = false;  // the row was this printer's
-        ExitCode code = ExitCode::Done;
-        QString word = {};  // for programs
-        QString text = {};
+        Outcome outcome = {};
     };
 
     void tick();
@@ -49,14 +59,19 @@ class Provision {
     void work(const PrinterEntry &entry);
     Result provision(Session &session);
     Result claim(const Session &session);
-    void changeByRow(Session &session, Result &result);
+    Outcome changeByRow(Session &session, const TableRow &row);
     void finish(const Session &session, const Result &result);
     void note(const Session &session, const Result &result);
+    bool write(const Session &session, const TableRow *row, const QString &word,
+               const QString &words);
     bool isEnd() const;
     ExitCode result();
+    void tellMissing(const QList<const TableRow *> &rows);
 
     Terminal &m_terminal;
     Passwords &m_passwords;
+    const ProvisionOrder m_order;
+    const bool m_isJson;
     Rows m_rows;
     ResultFile m_results;
     QMap<QString, PrinterEntry> m_present;  // the printers of the last look, by identity

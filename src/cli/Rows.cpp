@@ -30,6 +30,7 @@ Rows::Claim Rows::claim(const Printer &printer, qsizetype namesakes) {
         if (!isFor(other, printer)) continue;
         if (!row) row = &other;
         lines << other.line;
+        m_states[other.line];  // its printer is there, whatever comes of it
     }
     if (!row) return {Claim::Kind::NoRow};
     if (lines.size() > 1) return {Claim::Kind::SeveralRows, row, lines};
@@ -49,15 +50,20 @@ void Rows::release(const TableRow &row, const Printer &printer, bool done) {
     if (done) state.doneFor = printer.identity();
 }
 
+void Rows::see(const Printer &printer) {
+    for (const TableRow &row : m_rows)
+        if (isFor(row, printer)) m_states[row.line];
+}
+
 bool Rows::isAllDone() const {
     return std::all_of(m_rows.begin(), m_rows.end(), [this](const TableRow &row) {
         return !m_states.value(row.line).doneFor.isEmpty();
     });
 }
 
-QStringList Rows::unclaimed() const {
-    QStringList printers;
+QList<const TableRow *> Rows::missing() const {
+    QList<const TableRow *> rows;
     for (const TableRow &row : m_rows)
-        if (!m_states.contains(row.line)) printers << row.printer();
-    return printers;
+        if (!m_states.contains(row.line)) rows << &row;
+    return rows;
 }

@@ -43,9 +43,12 @@ class Rows {
     // Gives back a row that was granted to a printer, done or not.
     void release(const TableRow &row, const Printer &printer, bool done);
 
+    // Notes that a printer is there, as far as it is known; nobody misses those of its rows.
+    void see(const Printer &printer);
+
     bool isAllDone() const;
-    // The printers whose rows nobody has claimed, as the rows call them.
-    QStringList unclaimed() const;
+    // The rows whose printers were not there.
+    QList<const TableRow *> missing() const;
 
   private:
     struct State {

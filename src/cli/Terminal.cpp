@@ -10,8 +10,9 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <cwchar>
 
+#include "cli/Columns.h"
+#include "cli/Faults.h"
 #include "cli/Interrupt.h"
 #include "platform/core/Texts.h"
 #include "platform/core/Waiting.h"
@@ -30,10 +31,8 @@ void put(std::FILE *stream, const QString &text) {
     std::fputs(text.toLocal8Bit().constData(), stream);
 }
 
-// In columns of the terminal, of which some characters take two.
-int widthOf(const QString &text) {
-    const std::wstring wide = text.toStdWString();
-    return std::max(0, ::wcswidth(wide.c_str(), wide.size()));
+QString compact(const QJsonObject &object) {
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
 QString wordsForTerminal(const PrinterProblem &problem) {
@@ -44,43 +43,16 @@ QString wordsForTerminal(const PrinterProblem &problem) {
 
 }  // namespace
 
-QString wordsOf(const Fault &fault) {
-    QStringList place;
-    if (fault.place.line > 0)
-        place << localized("DWT_Localize_Cli_Place_Line").arg(fault.place.line);
-    const QString quoted = u'"' + fault.place.name + u'"';
-    if (!fault.place.name.isEmpty())
-        place << (fault.place.isColumn ? localized("DWT_Localize_Cli_Place_Column").arg(quoted)
-                                       : quoted);
-    QStringList parts;
-    if (!fault.place.file.isEmpty()) parts << fault.place.file;
-    if (!place.isEmpty()) parts << place.join(u", "_s);
-    return (parts << fault.text).join(u": "_s);
-}
-
 void Terminal::print(const QString &line) {
     showProgress({});
     put(stdout, terminalText(line) + u'\n');
 }
 
 void Terminal::print(const QList<QStringList> &rows, QList<int> &widths) {
-    for (const QStringList &row : rows)
-        for (qsizetype i = 0; i < row.size(); ++i) {
-            if (widths.size() <= i) widths << 0;
-            widths[i] = std::max(widths[i], widthOf(terminalText(row[i])));
-        }
-    for (const QStringList &row : rows) {
-        QString line;
-        int end = 0;  // of the cells so far
-        for (qsizetype i = 0; i < row.size(); ++i) {
-            const QString cell = terminalText(row[i]);
-            line += cell;
-            end += widths[i] + 2;
-            if (i + 1 < row.size()) line += QString(std::max(2, end - widthOf(line)), u' ');
-        }
-        while (line.endsWith(u' ')) line.chop(1);
-        print(line);
-    }
+    QList<QStringList> cells = rows;
+    for (QStringList &row : cells)
+        for (QString &cell : row) cell = terminalText(cell);
+    for (const QString &line : aligned(cells, widths)) print(line);
 }
 
 void Terminal::print(const QJsonValue &value) {
@@ -90,42 +62,50 @@ void Terminal::print(const QJsonValue &value) {
     std::fputs(document.toJson().constData(), stdout);
 }
 
+void Terminal::printLine(const QJsonObject &object) {
+    showProgress({});
+    put(stdout, compact(object) + u'\n');
+}
+
 bool Terminal::flush() {
     return std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
 }
 
-ExitCode Terminal::fail(ExitCode code, const QString &text, const QStringList &candidates) {
+ExitCode Terminal::fail(const Failure &failure) {
     if (m_json) {
-        QJsonObject error{{u"code"_s, int(code)}, {u"message"_s, text}};
-        if (!candidates.isEmpty())
-            error.insert(u"candidates"_s, QJsonArray::fromStringList(candidates));
-        printError(QString::fromUtf8(QJsonDocument(error).toJson(QJsonDocument::Compact)));
+        QJsonObject error{
+            {u"code"_s, int(failure.code)},
+            {u"message"_s, failure.text},
+            {u"fault"_s, failure.kind.isEmpty() ? wordOf(failure.code) : failure.kind}};
+        if (!failure.candidates.isEmpty())
+            error.insert(u"candidates"_s, QJsonArray::fromStringList(failure.candidates));
+        printError(compact(error));
     } else {
-        printError(programName + u": "_s + terminalText(text));
-        for (const QString &candidate : candidates) printError(u"  "_s + terminalText(candidate));
+        printError(programName + u": "_s + terminalText(failure.text));
+        for (const QString &candidate : failure.candidates)
+            printError(u"  "_s + terminalText(candidate));
     }
-    return code;
+    return failure.code;
 }
 
 ExitCode Terminal::fail(const QList<Fault> &faults) {
-    for (const Fault &fault : faults) {
-        if (!m_json) {
+    for (const Fault &fault : faults.first(std::min(faults.size(), mostFaults))) {
+        if (m_json) {
+            QJsonObject error = asJson(fault);
+            error.insert(u"code"_s, int(ExitCode::InputRefused));
+            printError(compact(error));
+        } else {
             printError(terminalText(wordsOf(fault)));
-            continue;
         }
-        QJsonObject error{{u"code"_s, int(ExitCode::InputRefused)}, {u"message"_s, fault.text}};
-        if (!fault.place.file.isEmpty()) error.insert(u"file"_s, fault.place.file);
-        if (fault.place.line > 0) error.insert(u"line"_s, fault.place.line);
-        if (!fault.place.name.isEmpty()) error.insert(u"name"_s, fault.place.name);
-        printError(QString::fromUtf8(QJsonDocument(error).toJson(QJsonDocument::Compact)));
     }
+    if (faults.size() > mostFaults)
+        note(localized("DWT_Localize_Cli_MoreFaults").arg(faults.size() - mostFaults));
     return ExitCode::InputRefused;
 }
 
 void Terminal::note(const QString &text) {
     if (m_json)
-        printError(QString::fromUtf8(
-            QJsonDocument(QJsonObject{{u"note"_s, text}}).toJson(QJsonDocument::Compact)));
+        printError(compact({{u"note"_s, text}}));
     else
         printError(terminalText(text));
 }
@@ -135,7 +115,7 @@ void Terminal::note(const QList<PrinterProblem> &problems) {
 }
 
 void Terminal::showProgress(const QString &text) {
-    if (!::isatty(STDERR_FILENO) || (text.isEmpty() && !m_progress)) return;
+    if (m_json || !::isatty(STDERR_FILENO) || (text.isEmpty() && !m_progress)) return;
     put(stderr, u"\r\x1b[K"_s + terminalText(text));
     m_progress = !text.isEmpty();
 }
@@ -158,7 +138,7 @@ bool Terminal::confirm(const QString &question) {
         return false;
     }
     const QString said = QString::fromLocal8Bit(answer.data()).trimmed().toLower();
-    return said == u"y" || said == localized("DWT_Localize_Cli_Yes");
+    return QStringList(localized("DWT_Localize_Cli_Yes").split(u' ')).contains(said);
 }
 
 std::optional<QString> Terminal::askPassword(const QString &question) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QJsonValue>
+#include <QJsonObject>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -9,6 +9,14 @@
 #include "cli/ExitCode.h"
 #include "settings/Plan.h"
 #include "zmlib/ZMLib.h"
+
+// Why the program ends otherwise than it was asked to.
+struct Failure {
+    ExitCode code = ExitCode::Done;
+    QString text = {};
+    QString kind = {};            // for programs, stable; empty for that of the code
+    QStringList candidates = {};  // what could have been meant
+};
 
 // Standard output, standard error, and questions. Control characters are made visible. Main thread.
 class Terminal {
@@ -27,19 +35,26 @@ class Terminal {
         print(rows, widths);
     }
     void print(const QJsonValue &value);
+    // An object on a line of its own.
+    void printLine(const QJsonObject &object);
     // Hands what was printed to the system. False when it was not taken.
     static bool flush();
 
     // --- What happens beside, on standard error ---
 
-    // Prints an error, with the candidates that could have been meant. Result: `code`.
-    ExitCode fail(ExitCode code, const QString &text, const QStringList &candidates = {});
-    // Faults of input. Always InputRefused.
+    // Prints an error. Result: its code.
+    ExitCode fail(const Failure &failure);
+    ExitCode fail(ExitCode code, const QString &text, const QString &kind = {}) {
+        return fail({code, text, kind});
+    }
+    // Faults of input, of many only the first. Always InputRefused.
+    static constexpr qsizetype mostFaults = 100;
     ExitCode fail(const QList<Fault> &faults);
     // What is no error.
     void note(const QString &text);
     void note(const QList<PrinterProblem> &problems);
-    // What is being done at the moment; only on a terminal. Replaced by what is told next.
+    // What is being done at the moment; only on a terminal, and never between objects. Replaced by
+    // what is told next.
     void showProgress(const QString &text);
 
     // --- Questions ---
@@ -57,6 +72,3 @@ class Terminal {
     const bool m_json;
     bool m_progress = false;  // a line of progress stands on the terminal
 };
-
-// A fault with its place: "table.csv: line 7, column "address": ...".
-QString wordsOf(const Fault &fault);

@@ -24,6 +24,15 @@ QJsonObject asJson(const PrinterEntry &entry) {
     return asJson(SettingRecord{{QString(), listedCategory(entry)}})[u"printer"].toObject();
 }
 
+QStringList macsOf(const SettingRecord &record) {
+    QStringList macs;
+    for (const Setting &setting : settings())
+        if (setting.kind == Setting::Kind::Mac)
+            macs << textValue(record.value(setting.viewKey), setting.key);
+    macs.removeAll(QString());
+    return macs;
+}
+
 QList<QStringList> rowsOf(const SettingRecord &record) {
     QList<QStringList> rows;
     for (const ShownPage &page : shownPages(record)) {

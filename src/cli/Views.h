@@ -13,6 +13,9 @@
 QStringList cellsOf(const PrinterEntry &entry);
 QJsonObject asJson(const PrinterEntry &entry);
 
+// The MAC addresses of all interfaces, 12 capital hexadecimal digits each.
+QStringList macsOf(const SettingRecord &record);
+
 // The pages of a record, each under its title. Without the title of the printer.
 QList<QStringList> rowsOf(const SettingRecord &record);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/core/Texts.h"
+#include "settings/Codes.h"
 #include "settings/SettingKeys.h"
 
 using namespace Qt::StringLiterals;
@@ -33,10 +34,11 @@ class SecurityCheck {
         for (const QString &key :
              {DWT_SaveData_Infrastructure_PSK, DWT_SaveData_Infrastructure_WEPKey})
             if (m_network.contains(encryptionKey) && networkKeyOf(encryption()) != key)
-                add(key, localized("DWT_Localize_Cli_Fault_KeyUnused")
-                             .arg(nameOfCode(encryptionKey, encryption())));
+                add(key, u"key-unused"_s,
+                    localized("DWT_Localize_Cli_Fault_KeyUnused")
+                        .arg(nameOfCode(encryptionKey, encryption())));
         if (!find(m_values, DWT_SaveData_Infrastructure_WEPKey))
-            add(DWT_SaveData_Infrastructure_WEPKeyIndex,
+            add(DWT_SaveData_Infrastructure_WEPKeyIndex, u"number-alone"_s,
                 localized("DWT_Localize_Cli_Fault_NumberAlone"));
         return m_faults;
     }
@@ -50,16 +52,16 @@ class SecurityCheck {
         const QString words = localized("DWT_Localize_Cli_Fault_Pair")
                                   .arg(nameOfCode(encryptionKey, encryption()),
                                        nameOfCode(authenticationKey, authentication));
-        if (!add(encryptionKey, words)) add(authenticationKey, words);
+        if (!add(encryptionKey, u"pair"_s, words)) add(authenticationKey, u"pair"_s, words);
     }
 
     int encryption() const { return integerValue(m_network, encryptionKey); }
 
     // A fault of the value that is given under `key`; false when none is.
-    bool add(const QString &key, const QString &words) {
+    bool add(const QString &key, const QString &kind, const QString &words) {
         const WantedValue *const value = find(m_values, key);
         if (!value) return false;
-        m_faults << Fault{value->place, words};
+        m_faults << Fault{value->place, words, kind};
         return true;
     }
 
@@ -82,16 +84,51 @@ QList<Fault> faultsOf(const AddressSetup &setup, const QList<WantedValue> &chang
         const bool isAddress = addresses.contains(value.setting);
         if (isAddress || value.setting == setup.mode) cause = &value;
         if (isAddress && automatic)
-            faults << Fault{value.place, localized("DWT_Localize_Cli_Fault_AddressUnused")};
+            faults << Fault{value.place, localized("DWT_Localize_Cli_Fault_AddressUnused"),
+                            u"address-unused"_s};
     }
     if (!cause || automatic) return faults;
     // A fixed address needs all three, also those that nobody has given.
     for (const Setting *const setting : addresses) {
         if (Rules::keeps(*setting->rule, addressValue(category, setting->key).join(u'.'))) continue;
-        faults << Fault{cause->place, localized(setting->rule->ruleKey)};
+        faults << Fault{cause->place, localized(setting->rule->ruleKey), u"value"_s};
         faults.last().place.name = setting->name;
     }
     return faults;
+}
+
+// Whether an address is given together with the wish that the printer gets one automatically.
+bool comesByItself(const Setting &setting, const QList<WantedValue> &values) {
+    for (const AddressSetup &setup : addressSetups()) {
+        if (!QList{setup.address, setup.mask, setup.gateway}.contains(&setting)) continue;
+        const auto isAutomatic = [&](const WantedValue &value) {
+            return value.setting == setup.mode &&
+                   value.value == SettingValue(int{AddressSetting::Automatic});
+        };
+        return std::any_of(values.begin(), values.end(), isAutomatic);
+    }
+    return false;
+}
+
+// The bytes of a network name that cannot be typed; a byte is a character of it. Empty for others.
+QByteArray networkBytesOf(const QString &name) {
+    const bool isTyped =
+        Rules::isText(name, Rules::printableCharacters, 0, Rules::longestSSID, false);
+    return isTyped ? QByteArray() : name.toLatin1();
+}
+
+// Whether the setting is, or belongs to, a key of the wireless network, which no printer reports.
+bool isNetworkKey(const Setting &setting) {
+    return setting.viewKey == DWT_View_Key_Infrastructure && !setting.isReported();
+}
+
+bool changesNetwork(const QList<WantedValue> &changed) {
+    const QStringList parts{DWT_SaveData_Wireless_CommunicateMode, DWT_SaveData_Infrastructure_SSID,
+                            DWT_SaveData_Infrastructure_Authentic,
+                            DWT_SaveData_Infrastructure_Encryption};
+    return std::any_of(changed.begin(), changed.end(), [&](const WantedValue &value) {
+        return parts.contains(value.setting->key);
+    });
 }
 
 bool isChange(const Setting &setting, const SettingRecord &saved, const SettingRecord &wanted) {
@@ -138,27 +175,44 @@ Plan planOf(const SettingRecord &saved, const SettingRecord &wanted) {
     return plan;
 }
 
-Plan planOf(const SettingRecord &saved, const QList<WantedValue> &values) {
+Plan planOf(const SettingRecord &saved, const QList<WantedValue> &values, Keys keys) {
     SettingRecord wanted = saved;
     QList<WantedValue> changed;
     QList<Fault> faults;
+    QList<Plan::LeftOut> leftOut;
     for (const WantedValue &value : values) {
         const Setting &setting = *value.setting;
         SettingRecord with = wanted;
         with[setting.viewKey].insert(setting.key, value.value);
         if (setting.viewKey == DWT_View_Key_Password)
             with[setting.viewKey].insert(DWT_SaveData_Password_Change, 1);
+        if (setting.key == DWT_SaveData_Infrastructure_SSID)
+            with[setting.viewKey].insert(DWT_SaveData_Infrastructure_SSIDList_SSID,
+                                         networkBytesOf(std::get<QString>(value.value)));
         if (!isChange(setting, saved, with)) continue;
+        if (comesByItself(setting, values)) {
+            leftOut << Plan::LeftOut{&setting, Plan::LeftOut::Automatic};
+            continue;
+        }
         if (!value.brokenRule.isEmpty()) {
-            faults << Fault{value.place, value.brokenRule};
+            faults << Fault{value.place, value.brokenRule, u"value"_s};
             continue;
         }
         wanted = with;
         changed << value;
     }
+    faults += SecurityCheck(changed, wanted.value(DWT_View_Key_Infrastructure)).faults();
+    if (keys == Keys::WhenChanged && !changesNetwork(changed))
+        for (const WantedValue &value : std::as_const(changed))
+            if (isNetworkKey(*value.setting)) {
+                wanted[value.setting->viewKey].insert(
+                    value.setting->key,
+                    saved.value(value.setting->viewKey).value(value.setting->key));
+                leftOut << Plan::LeftOut{value.setting, Plan::LeftOut::SameNetwork};
+            }
     Plan plan = planOf(saved, wanted);
-    plan.faults =
-        faults + SecurityCheck(changed, wanted.value(DWT_View_Key_Infrastructure)).faults();
+    plan.faults = faults;
+    plan.leftOut = leftOut;
     for (const AddressSetup &setup : addressSetups())
         plan.faults += faultsOf(setup, changed, wanted);
     return plan;

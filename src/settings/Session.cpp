@@ -72,6 +72,9 @@ void Session::enter(const Plan &plan) {
         const CategoryDictionary planned = plan.record.value(viewKey);
         auto category = m_manager->setupDataFromChangeData(viewKey).value_or(CategoryDictionary());
         category.insert(change.setting->key, planned.value(change.setting->key));
+        if (change.setting->key == DWT_SaveData_Infrastructure_SSID)
+            category.insert(DWT_SaveData_Infrastructure_SSIDList_SSID,
+                            planned.value(DWT_SaveData_Infrastructure_SSIDList_SSID));
         if (planned.contains(DWT_SaveData_Password_Change))
             category.insert(DWT_SaveData_Password_Change,
                             planned.value(DWT_SaveData_Password_Change));

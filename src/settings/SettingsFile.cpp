@@ -1,8 +1,8 @@
 #include "settings/SettingsFile.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QSet>
 #include <QStringDecoder>
 #include <algorithm>
@@ -11,6 +11,7 @@
 #include <nlohmann/json.hpp>
 
 #include "platform/core/Texts.h"
+#include "settings/SettingKeys.h"
 #include "settings/Wipe.h"
 
 using namespace Qt::StringLiterals;
@@ -18,6 +19,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using nlohmann::json;
+
+// How deep objects and arrays may be nested; those of settings are three deep.
+constexpr qsizetype deepest = 16;
 
 // The key of an object that names the file of a secret.
 const QString fileKey = u"file"_s;
@@ -50,6 +54,15 @@ class CountedBytes {
     int *m_line;
 };
 
+// A network name as hexadecimal digits of its bytes.
+const QString ssidHex = u"wireless.ssidHex"_s;
+
+bool isNoText(const QByteArray &bytes) {
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
+    const QString text = decoder.decode(bytes);
+    return decoder.hasError() || shownText(text) != text;
+}
+
 // Takes the values of the text as they come.
 class Handler : public nlohmann::json_sax<json> {
   public:
@@ -57,15 +70,20 @@ class Handler : public nlohmann::json_sax<json> {
         : m_result(result), m_file(std::move(file)), m_line(line) {}
 
     bool key(string_t &key) override {
+        m_name.clear();
+        if (!isUsed()) return true;
         m_name = QString::fromStdString(key);
         if (!group().isEmpty()) m_name.prepend(group() + u'.');
         m_nameLine = m_line;
-        if (isUsed() && m_seen.contains(m_name))
-            addFault(localized("DWT_Localize_Cli_Fault_Twice"));
+        if (m_seen.contains(m_name))
+            addFault(localized("DWT_Localize_Cli_Fault_Twice"), u"twice"_s);
         m_seen.insert(m_name);
         return true;
     }
-    bool null() override { return settingOf(m_name) || isGroup(m_name) ? true : wrongKind(); }
+    bool null() override {
+        const bool isKnown = settingOf(m_name) || isGroup(m_name) || m_name == ssidHex;
+        return isKnown ? true : wrongKind();
+    }
     bool boolean(bool) override { return wrongKind(); }
     bool number_float(number_float_t, const string_t &) override { return wrongKind(); }
     bool binary(binary_t &) override { return wrongKind(); }
@@ -80,9 +98,10 @@ class Handler : public nlohmann::json_sax<json> {
         QString given = QString::fromStdString(value);
         std::fill(value.begin(), value.end(), '\0');  // it may be a key
         if (isUsed() && isSecret(group())) {
-            given = QFileInfo(m_file).dir().filePath(given);
+            given = QDir::cleanPath(QFileInfo(m_file).dir().filePath(given));
             return takeSecretFile(group(), given);
         }
+        if (isUsed() && m_name == ssidHex) return takeNetworkName(given.toLatin1());
         return take([&](const Setting &setting) {
             if (setting.kind != Setting::Kind::Number) return parsedText(setting, given);
             return Parsed{{}, wordsOfExpected(setting)};
@@ -91,8 +110,7 @@ class Handler : public nlohmann::json_sax<json> {
     bool start_object(std::size_t) override {
         const bool used = isUsed() && (m_open.isEmpty() || isGroup(m_name) || isSecret(m_name));
         if (!used) wrongKind();
-        m_open.append({m_name, used});
-        return true;
+        return open(used);
     }
     bool end_object() override {
         const Open closed = m_open.takeLast();
@@ -103,15 +121,15 @@ class Handler : public nlohmann::json_sax<json> {
     }
     bool start_array(std::size_t) override {
         wrongKind();
-        m_open.append({m_name, false});
-        return true;
+        return open(false);
     }
     bool end_array() override {
         m_open.removeLast();
         return true;
     }
     bool parse_error(std::size_t, const std::string &, const json::exception &) override {
-        m_result.faults << Fault{{m_file, m_line}, localized("DWT_Localize_Cli_Fault_NotJson")};
+        m_result.faults << Fault{
+            {m_file, m_line}, localized("DWT_Localize_Cli_Fault_NotJson"), u"not-json"_s};
         return false;
     }
 
@@ -121,6 +139,15 @@ class Handler : public nlohmann::json_sax<json> {
         QString name;
         bool used;  // false: what is in it is passed over
     };
+
+    // Nothing more is read of a text that is nested deeper than any settings.
+    bool open(bool used) {
+        m_open.append({m_name, used});
+        if (m_open.size() <= deepest) return true;
+        m_result.faults << Fault{
+            {m_file, m_line}, localized("DWT_Localize_Cli_Fault_TooDeep"), u"too-deep"_s};
+        return false;
+    }
 
     // The name of the innermost open object; empty for the outermost, and outside of it.
     QString group() const { return m_open.isEmpty() ? QString() : m_open.last().name; }
@@ -132,8 +159,8 @@ class Handler : public nlohmann::json_sax<json> {
     }
     static QString fileNameOf(const QString &secret) { return secret + u'.' + fileKey; }
 
-    bool addFault(const QString &words) {
-        m_result.faults << Fault{place(), words};
+    bool addFault(const QString &words, const QString &kind) {
+        m_result.faults << Fault{place(), words, kind};
         return true;
     }
 
@@ -143,10 +170,19 @@ class Handler : public nlohmann::json_sax<json> {
     bool wrongKind() {
         if (!isUsed()) return true;
         if (m_open.isEmpty() || isGroup(m_name))
-            return addFault(localized("DWT_Localize_Cli_Fault_Group"));
+            return addFault(localized("DWT_Localize_Cli_Fault_Group"), u"group"_s);
         const Setting *const setting = settingOf(isSecret(group()) ? group() : m_name);
-        return addFault(setting ? wordsOfExpected(*setting)
-                                : localized("DWT_Localize_Cli_Fault_Unknown"));
+        return setting ? addFault(wordsOfExpected(*setting), u"value"_s)
+                       : addFault(wordsOfUnknown(m_name), u"unknown-setting"_s);
+    }
+
+    // A setting that goes by two names is given under one of them.
+    bool give(const WantedValue &value) {
+        if (!m_givenAs.contains(value.setting)) m_givenAs.insert(value.setting, m_name);
+        if (m_givenAs[value.setting] != m_name)
+            return addFault(localized("DWT_Localize_Cli_Fault_Twice"), u"twice"_s);
+        m_result.values << value;
+        return true;
     }
 
     // Takes the value that comes, which `parse` makes of it for the setting of its name.
@@ -160,20 +196,30 @@ class Handler : public nlohmann::json_sax<json> {
         }
         const Parsed parsed = parse(*setting);
         if (parsed.value)
-            m_result.values << WantedValue{setting, *parsed.value, place(), parsed.fault};
-        else
-            m_result.faults << Fault{place(), parsed.fault};
+            return give({setting, *parsed.value, place(), parsed.fault, m_secretFile});
+        m_result.faults << Fault{place(), parsed.fault, u"value"_s};
         return true;
+    }
+
+    // A byte of the name is a character of the record's text.
+    bool takeNetworkName(const QByteArray &digits) {
+        const QByteArray bytes = QByteArray::fromHex(digits);
+        if (bytes.toHex() != digits.toLower() || bytes.isEmpty() ||
+            bytes.size() > Rules::longestSSID)
+            return addFault(localized("DWT_Localize_Cli_Fault_Hex"), u"value"_s);
+        return give({settingOf(ssidHex.chopped(3)), QString::fromLatin1(bytes), place(), {}});
     }
 
     bool takeSecretFile(const QString &name, const QString &path) {
         if (m_name != fileNameOf(name)) return wrongKind();
         m_name = name;
-        return take([&](const Setting &setting) {
-            Fault fault;
-            const auto secret = readSecret(path, fault);
-            return secret ? parsedText(setting, *secret) : Parsed{{}, fault.text};
-        });
+        Fault fault;
+        const auto secret = readSecret(path, fault);
+        if (!secret) return addFault(fault.text, fault.kind);
+        m_secretFile = path;
+        take([&](const Setting &setting) { return parsedText(setting, *secret); });
+        m_secretFile.clear();
+        return true;
     }
 
     GivenSettings &m_result;
@@ -181,8 +227,10 @@ class Handler : public nlohmann::json_sax<json> {
     const int &m_line;  // of the byte that was read last
     QString m_name;     // of the value that comes, with its groups: "wired.address.ip"
     int m_nameLine = 0;
+    QString m_secretFile;  // that gives the value that comes
     QList<Open> m_open;
     QSet<QString> m_seen;
+    QHash<const Setting *, QString> m_givenAs;  // under which name a setting was given
 };
 
 // Puts a value under the names of its groups.
@@ -195,6 +243,8 @@ void insert(QJsonObject &object, const QStringList &path, const QJsonValue &valu
     insert(group, path.mid(1), value);
     object.insert(path.first(), group);
 }
+
+}  // namespace
 
 QJsonValue asJson(const Setting &setting, const CategoryDictionary &category) {
     const QString text = textOf(setting, category);
@@ -215,50 +265,10 @@ QJsonValue asJson(const Setting &setting, const CategoryDictionary &category) {
     return text;
 }
 
-}  // namespace
-
-std::optional<QByteArray> readInput(const QString &path, Fault &fault) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        fault.text = localized("DWT_Localize_Cli_Fault_Unreadable").arg(path, file.errorString());
-        return {};
-    }
-    QByteArray bytes;
-    // A pipe hands over what it has at the moment.
-    while (bytes.size() <= longestInput) {
-        const QByteArray more = file.read(longestInput + 1 - bytes.size());
-        if (more.isEmpty()) break;
-        bytes += more;
-    }
-    if (file.error() != QFileDevice::NoError)
-        fault.text = localized("DWT_Localize_Cli_Fault_Unreadable").arg(path, file.errorString());
-    else if (bytes.size() > longestInput)
-        fault.text = localized("DWT_Localize_Cli_Fault_TooLong").arg(path).arg(longestInput >> 20);
-    else
-        return bytes;
-    return {};
-}
-
-std::optional<QString> readSecret(const QString &path, Fault &fault) {
-    auto bytes = readInput(path, fault);
-    if (!bytes) return {};
-    qsizetype end = bytes->indexOf('\n');
-    if (end < 0) end = bytes->size();
-    if (end > 0 && bytes->at(end - 1) == '\r') --end;
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
-    const QString secret = decoder.decode(QByteArrayView(*bytes).first(end));
-    wipe(*bytes);
-    if (!decoder.hasError() && !secret.isEmpty()) return secret;
-    fault.text = secret.isEmpty()
-                     ? localized("DWT_Localize_Cli_Fault_EmptySecret").arg(path)
-                     : u"%1: %2"_s.arg(path, localized("DWT_Localize_Cli_Fault_NotUtf8"));
-    return {};
-}
-
 QList<Fault> GivenSettings::allFaults() const {
     QList<Fault> all = faults;
     for (const WantedValue &value : values)
-        if (!value.brokenRule.isEmpty()) all << Fault{value.place, value.brokenRule};
+        if (!value.brokenRule.isEmpty()) all << Fault{value.place, value.brokenRule, u"value"_s};
     std::stable_sort(all.begin(), all.end(),
                      [](const Fault &a, const Fault &b) { return a.place.line < b.place.line; });
     return all;
@@ -275,16 +285,26 @@ GivenSettings settingsFromJson(const QByteArray &bytes, const QString &file) {
 
 GivenSettings settingsFromFile(const QString &path) {
     Fault fault;
-    const auto bytes = readInput(path, fault);
-    if (bytes) return settingsFromJson(*bytes, path);
-    return {{}, {fault}, {}};
+    auto bytes = readInput(path, fault);
+    if (!bytes) return {{}, {fault}, {}};
+    GivenSettings given = settingsFromJson(*bytes, path);
+    wipe(*bytes);
+    return given;
 }
 
-QJsonObject asJson(const SettingRecord &record) {
+QJsonObject asJson(const SettingRecord &record, Part part) {
     QJsonObject object;
-    for (const Setting &setting : settings())
-        if (setting.access() != Setting::Access::Enter && record.contains(setting.viewKey))
-            insert(object, setting.name.split(u'.'),
-                   asJson(setting, record.value(setting.viewKey)));
+    for (const Setting &setting : settings()) {
+        const Setting::Access access = setting.access();
+        const bool isWanted = part == Part::All ? access != Setting::Access::Enter
+                                                : access == Setting::Access::Change;
+        if (!isWanted || !record.contains(setting.viewKey)) continue;
+        const CategoryDictionary category = record.value(setting.viewKey);
+        const QByteArray bytes = textValue(category, setting.key).toLatin1();
+        const bool isBytes = setting.key == DWT_SaveData_Infrastructure_SSID && isNoText(bytes);
+        insert(object, setting.name.split(u'.'),
+               isBytes ? QJsonValue() : asJson(setting, category));
+        if (isBytes) insert(object, ssidHex.split(u'.'), QString::fromLatin1(bytes.toHex()));
+    }
     return object;
 }

@@ -5,16 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "settings/Plan.h"
-
-// Longest file with settings, keys or a table, in bytes.
-inline constexpr qint64 longestInput = qint64{4} * 1024 * 1024;
-
-// The bytes of a file or pipe; nothing, with a `fault`, when it is unreadable or too long.
-std::optional<QByteArray> readInput(const QString &path, Fault &fault);
-
-// The first line of a file; nothing, with a `fault`, when it is unreadable, empty or not UTF-8.
-std::optional<QString> readSecret(const QString &path, Fault &fault);
+#include "settings/InputFile.h"
 
 // Settings that a file gives, in its order.
 struct GivenSettings {
@@ -27,11 +18,16 @@ struct GivenSettings {
 };
 
 // Reads settings from JSON: groups as objects, `null` for no change, a secret also as {"file":
-// PATH}, relative to `file`. Takes any bytes.
+// PATH}, relative to `file`; "wireless.ssidHex" gives the bytes of a network name that is no text.
+// Takes any bytes.
 GivenSettings settingsFromJson(const QByteArray &json, const QString &file);
 
 // The same from a file.
 GivenSettings settingsFromFile(const QString &path);
 
-// The settings of a record in groups, by their names; `null` for what the printer did not report.
-QJsonObject asJson(const SettingRecord &record);
+// The value of a setting in a category, as a file gives it; `null` when it is missing.
+QJsonValue asJson(const Setting &setting, const CategoryDictionary &category);
+// The settings of a record in groups, by their names; `null` for what the printer did not report. A
+// network name that is no text is given as "ssidHex".
+enum class Part { All, Changeable };
+QJsonObject asJson(const SettingRecord &record, Part part = Part::All);

@@ -1,5 +1,6 @@
 #include "settings/Values.h"
 
+#include "platform/core/Nearest.h"
 #include "platform/core/Texts.h"
 
 using namespace Qt::StringLiterals;
@@ -9,6 +10,17 @@ namespace {
 using Kind = Setting::Kind;
 
 const QString unset = u"0.0.0.0"_s;
+
+// What other tools call values.
+const QMap<QString, QString> otherNames{{u"static"_s, u"fixed"_s},
+                                        {u"dhcp"_s, u"automatic"_s},
+                                        {u"wpa-psk"_s, u"wpa"_s},
+                                        {u"wpa2-psk"_s, u"wpa2"_s}};
+
+QString textOrMissing(const Setting &setting, const CategoryDictionary &category) {
+    return category.contains(setting.key) ? textOrEmpty(setting, category)
+                                          : localized("DWT_Localize_Cli_NotReportedValue");
+}
 
 }  // namespace
 
@@ -29,9 +41,26 @@ QString wordsOfExpected(const Setting &setting) {
                                         : u"DWT_Localize_Cli_Fault_Text"_s);
 }
 
+QString wordsOfUnknown(const QString &name) {
+    QStringList known, ofGroup;
+    const QString group = name.section(u'.', 0, 0) + u'.';
+    for (const Setting &setting : settings()) {
+        if (setting.name.isEmpty() || setting.access() == Setting::Access::Read) continue;
+        known << setting.name << setting.name.section(u'.', 0, 0);
+        if (setting.name.startsWith(group)) ofGroup << setting.name;
+    }
+    const QString words = localized("DWT_Localize_Cli_Fault_Unknown") + u' ';
+    known.removeDuplicates();
+    const QString nearest = nearestOf(name, known);
+    if (!nearest.isEmpty()) return words + localized("DWT_Localize_Cli_Meant").arg(nearest);
+    const QString names = ofGroup.join(u", "_s);
+    return (ofGroup.isEmpty() ? words : words + localized("DWT_Localize_Cli_OfGroup").arg(names))
+        .trimmed();
+}
+
 Parsed parsedText(const Setting &setting, const QString &text) {
     if (setting.kind == Kind::Choice) {
-        const qsizetype code = setting.codes.indexOf(text);
+        const qsizetype code = setting.codes.indexOf(otherNames.value(text, text));
         if (code >= 0) return {static_cast<int>(code), {}};
         return {{}, wordsOfExpected(setting)};
     }
@@ -97,7 +126,7 @@ QList<ShownPage> shownPages(const SettingRecord &record) {
         for (const Setting &setting : settings())
             if (setting.viewKey == page.viewKey && setting.access() != Setting::Access::Enter)
                 shown.lines << std::pair(setting.label(),
-                                         textOrEmpty(setting, record.value(page.viewKey)));
+                                         textOrMissing(setting, record.value(page.viewKey)));
         if (!shown.lines.isEmpty()) pages << shown;
     }
     return pages;

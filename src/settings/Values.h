@@ -11,7 +11,8 @@
 QString textOf(const Setting &setting, const CategoryDictionary &category);
 // The same; "(empty)" for an empty one.
 QString textOrEmpty(const Setting &setting, const CategoryDictionary &category);
-// A record as people read it, page by page, without secrets and what the printer never reports.
+// A record as people read it, page by page, without secrets and what the printer never reports. A
+// value that is missing was not reported.
 struct ShownPage {
     QString title;
     QList<std::pair<QString, QString>> lines;  // label and value
@@ -32,3 +33,6 @@ Parsed parsedNumber(const Setting &setting, qint64 number);
 
 // What a value of the setting must be, in words.
 QString wordsOfExpected(const Setting &setting);
+
+// What is said of a name that no setting has, with those that may be meant.
+QString wordsOfUnknown(const QString &name);

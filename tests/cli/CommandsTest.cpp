@@ -1,5 +1,11 @@
 // The program's commands: inside this process and, at a terminal, the real program.
 
+#include <QRegularExpression>
+#include <clocale>
+
+#include "cli/Columns.h"
+#include "cli/CommandTable.h"
+#include "cli/Help.h"
 #include "cli/Programs.h"
 #include "platform/core/NotificationCenter.h"
 #include "support/Endings.h"
@@ -64,6 +70,15 @@ TEST(Commands, ListsWhatTheWindowLists) {
               R"("model":"Larkfield L200","name":null,"port":null,"serial":null,)"
               R"("uri":"tcp://127.0.0.1:1"}])");
     expectIn(programs.err, {"{\"note\":"});
+}
+
+TEST(Commands, KeepTheirColumnsInEveryLocale) {
+    const QByteArray before = std::setlocale(LC_ALL, nullptr);
+    for (const char *locale : {"C", "C.UTF-8"}) {
+        std::setlocale(LC_ALL, locale);
+        EXPECT_EQ(widthOf(u"Café 倉庫"_s), 9);
+    }
+    std::setlocale(LC_ALL, before.constData());
 }
 
 TEST(Commands, ShowEverythingButSecrets) {
@@ -132,8 +147,12 @@ TEST(Commands, EndWithTheCodeOfWhatHappened) {
     } rows[] = {
         {"{}", "", "", UsedWrongly, "command"},
         {"{}", "paint", "", UsedWrongly, "paint"},
-        {"{}", "show", "", UsedWrongly, "1 arguments"},
-        {"{}", "list --yes", "", UsedWrongly, "yes"},
+        {"{}", "show", "", UsedWrongly, "“show” needs PRINTER"},
+        {"{}", "aply", "", UsedWrongly, "“apply” meant"},
+        {"{}", "help aply", "", UsedWrongly, "“apply” meant"},
+        {"{}", "list --jsn", "", UsedWrongly, "“--json” meant"},
+        {"{}", "provision t.csv --template", "", UsedWrongly, "“--template” needs FILE"},
+        {"{}", "list --json=x", "", UsedWrongly, "takes no value"},
         {"{}", "list --json S1", "", UsedWrongly, "\"code\":1"},
         {"{}", "check /nowhere/x.json", "", InputRefused, "/nowhere/x.json"},
         {"{}", "show Nobody --json", "", NotReached, "\"code\":3"},
@@ -141,16 +160,36 @@ TEST(Commands, EndWithTheCodeOfWhatHappened) {
          "\"device.timeout\""},
         {R"({"items": {"0x3102": 0, "0x3103": 0}})", yes, R"({"wireless.key": "long enough"})",
          InputRefused, "wireless.key"},
-        {"{}", yes, R"({"wired.address": {"mode": "automatic", "ip": "10.9.9.9"}})", InputRefused,
-         "wired.address.ip"},
+        {"{}", yes, R"({"wired.address": {"mode": "automatic", "ip": "10.9.9.9"}})", Done,
+         "automatically: wired.address.ip"},
+        {R"({"items": {"0x2001": {"setting": 0, "address": "0.0.0.0", "mask": "0.0.0.0",
+            "gateway": "0.0.0.0"}}})",
+         yes, R"({"wired.address.ip": "10.9.9.9"})", InputRefused, "wired.address.ip"},
+        {"{}", "apply S1 f.json --dry-run --exit-code", name, WouldChange, ""},
+        {"{}", "apply S1 f.json --yes --keys never", name, UsedWrongly, "when-changed"},
+        {"{}", yes, R"({"wireless.psk": "long enough"})", InputRefused, ", wireless.key,"},
+        {"{}", "set S1 device.timeout=9 names.printer=B", "", UsedWrongly, "--yes"},
+        {"{}", "set S1 device.timeout=9 names.printr=B --yes", "", InputRefused, "“names.printer”"},
+        {"{}", "set S1 wireless.key=office-key --yes", "", InputRefused, "NAME=@FILE"},
+        {"{}", "set S1 wired.mac=x --yes", "", InputRefused, "wired.mac"},
+        {"{}", "apply S1 f.json --yes --only wirless", name, UsedWrongly, "“wireless” meant"},
+        {"{}", "apply S1 f.json --yes --without names", R"({"names.printer": "a b"})", Done, ""},
+        {"{}", "set S1 names.printer=desk --dry-run", "", Done, "called desk already"},
+        {"{}", "set S1 names.printer=B names.printer=C --yes", "", InputRefused, "names.printer"},
+        {"{}", "get S1 wireless.key", "", UsedWrongly, "never shown"},
+        {"{}", "diff S1 f.json --exit-code", R"({"device.timeout": 60})", Done, ""},
+        {"{}", "diff S2 f.json --exit-code", name, WouldChange, ""},
+        {"{}", yes, R"({"device.timout": 90})", InputRefused, "“device.timeout” meant"},
         {R"({"items": {"0x2001": {"setting": 0, "address": "0.0.0.0", "mask": "0.0.0.0",
             "gateway": "0.0.0.0"}}})",
          yes, R"({"wired.address.mode": "fixed"})", InputRefused, "wired.address.ip"},
+        {"{}", "check t.csv", "", InputRefused, "“login.password” meant"},
         {"{}", "check f.json --json", "{\"device.timeout\": 5,\n \"names.printer\": \"a b\"}",
          InputRefused,
-         R"("line":1,"message":"A whole number from 30 to 300 is expected.","name":"device.timeout"})"
+         R"({"code":2,"fault":"value","file":"f.json","line":1,"message":)"
+         R"("A whole number from 30 to 300 is expected.","name":"device.timeout"})"
          "\n"
-         R"({"code":2,"file":"f.json","line":2,"message":)"},
+         R"({"code":2,"fault":"value","file":"f.json","line":2,"message":)"},
         {R"({"faults": {"refuseConnection": true}})", "show S1", "", NotReached, "be reached"},
         {R"({"faults": {"closeAfterFrames": 9}})", yes, name, NotReached, "answering"},
         {"{}", "apply S1 f.json", name, UsedWrongly, "--yes"},
@@ -158,6 +197,9 @@ TEST(Commands, EndWithTheCodeOfWhatHappened) {
         {"{}", "show Desk --json", "", NotReached,
          R"(serial number S2  virtual://2","Desk  Larkfield L200  USB  serial number S3  )"},
         {"{}", "show S2", "", Done, ""},
+        {"{}", "show s2", "", Done, ""},
+        {R"({"items": {"0x2000": "020000001234"}})", "show 02:00:00:00:12:34", "", Done, ""},
+        {"{}", "show 02:00:00:00:12:35", "", NotReached, "02:00"},
         // A printer on the network has no name of its own, and is not changed.
         {desk, "show Label-Printer", "", NotReached, "Label-Printer"},
         {"{}", "show virtual://network", "", Done, ""},
@@ -168,10 +210,39 @@ TEST(Commands, EndWithTheCodeOfWhatHappened) {
         printers.add(network);
         printers.catalogue.virtualPrinters.insert(network, printerOf("{}"));
         printers.write(u"f.json"_s, row.file);
+        printers.write(u"t.csv"_s, "serial,login.pasword\nS1,x\n");
         const Ended ended = run(printers, row.arguments);
         EXPECT_EQ(ended.code, row.code) << row.said << ended.err.constData();
         expectIn(ended.err, {row.said});
     }
+}
+
+TEST(Commands, AreExplainedInTheirHelpAndInTheManPage) {
+    QFile file(QStringLiteral(NST_MAN_PAGE));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    static const QRegularExpression macros(u"^\\.([BIR]+ |br$)"_s,
+                                           QRegularExpression::MultilineOption);
+    const QString page = QString::fromUtf8(file.readAll()).remove(u'\\').remove(macros);
+    const QString synopses = page.section(u".SH DESCRIPTION"_s, 0, 0).section(u".SH SYNOPSIS"_s, 1);
+    QString wanted;
+    const Printers printers({});
+    for (const Command &command : allCommands()) {
+        if (!command.helpKey) continue;
+        wanted += synopsisOf(command).join(QString());
+        EXPECT_TRUE(page.section(u".SH COMMANDS"_s, 1).contains(u".TP\n"_s + command.name));
+        for (const Option &option : command.options)
+            EXPECT_TRUE(page.section(u".SH OPTIONS"_s, 1).contains(u".TP\n--"_s + option.name))
+                << option.name.toStdString();
+        const Ended help = run(printers, {command.name, u"--help"_s});
+        EXPECT_EQ(help.out, run(printers, {u"help"_s, command.name}).out);
+        EXPECT_EQ(help.code, Done);
+        for (const QByteArray &line : (help.out + run(printers, "--help").out).split('\n'))
+            EXPECT_LE(QString::fromUtf8(line).size(), longestLine) << line.constData();
+        expectIn(help.out, {command.example.toUtf8()});
+        EXPECT_TRUE(page.contains(command.example)) << command.example.toStdString();
+    }
+    EXPECT_EQ(QString(synopses).remove(QRegularExpression(u"\\s"_s)).toStdString(),
+              wanted.remove(u' ').toStdString());
 }
 
 TEST(Commands, EndAChangeAsThePrinterWasSeenToHaveIt) {
@@ -179,10 +250,102 @@ TEST(Commands, EndAChangeAsThePrinterWasSeenToHaveIt) {
         const Printers printers({R"({"password": "open123"})"});
         const auto faults = faultsOfSend(printers[1], c);
         printers.write(u"f.json"_s, "{\"" + QByteArray(c.wanted).replace("=", "\": \"") + "\"}");
-        const Ended ended = run(printers, "apply S1 f.json --yes", c.password);
+        const Ended ended = run(printers, "apply S1 f.json --yes --keys always", c.password);
         EXPECT_EQ(ended.code, c.code) << c.ending << ended.err.constData();
         expectIn(ended.out + ended.err, {c.said});
     }
+}
+
+TEST(Commands, ReportAChangeToPrograms) {
+    const char *const office = R"({"wireless": {"ssid": "Office", "authentication": "wpa2-psk",
+        "encryption": "aes", "key": "office-key"}, "password": {"administrator": "next-1"},
+        "wired": {"address": {"mode": "dhcp", "ip": "10.9.9.9"}}, "device": {"timeout": 90}})";
+    const char *const notCompared = R"("notCompared":["wireless.key"])";
+    const struct {
+        const char *arguments, *file;
+        ExitCode code;
+        QByteArrayList parts;
+    } rows[] = {
+        {"--dry-run --exit-code",
+         office,
+         WouldChange,
+         {R"("outcome":"would-change")", R"("serial":"S1")",
+          R"({"name":"device.timeout","new":90,"old":60})", R"({"name":"wireless.key","new":true})",
+          R"("leftOut":[{"name":"wired.address.ip","reason":"automatic"}])"}},
+        {"--yes",
+         office,
+         Done,
+         {R"("outcome":"changed")", notCompared, R"("password.administrator")"}},
+        // Once more, nothing is left to do; the password is the new one.
+        {"--yes",
+         office,
+         Done,
+         {R"("changes":[])", R"("outcome":"unchanged")",
+          R"({"name":"wireless.key","reason":"same-network"})"}},
+        {"--yes --keys always", office, Done, {R"("outcome":"changed")", notCompared}},
+        {"--yes", R"({"device.timeout": 91})", LoginRefused, {R"("outcome":"login-refused")"}},
+        {"--yes",
+         R"({"device.timeout": 9})",
+         InputRefused,
+         {R"("faults":[{"fault":"value","file":"f.json","line":1,)", R"("outcome":"refused")"}},
+        {"--yes --password-file nowhere", office, InputRefused, {R"("fault":"unreadable")"}},
+        {"", office, UsedWrongly, {}}};
+    const Printers printers({R"({"password": "open123", "items": {"0x2001": {
+        "setting": 0, "address": "10.0.0.5", "mask": "255.0.0.0", "gateway": "10.0.0.1"}}})"});
+    for (const auto &row : rows) {
+        printers.write(u"f.json"_s, row.file);
+        const Ended ended =
+            run(printers, ("apply S1 f.json --json "_ba + row.arguments).constData(), "open123");
+        EXPECT_EQ(ended.code, row.code) << row.arguments << ended.err.constData();
+        EXPECT_EQ(ended.out.count('\n'), row.parts.isEmpty() ? 0 : 1) << ended.out.constData();
+        expectIn(ended.out, row.parts);
+        for (const char *secret : {"office-key", "next-1"})
+            EXPECT_FALSE((ended.out + ended.err).contains(secret));
+    }
+    const Printers two({"{}", R"({"items": {"0x1006": "Same"}})"});
+    expectIn(run(two, "set S1 names.printer=same --yes --json").out,
+             {R"("outcome":"changed")", R"("warning":"name-taken")"});
+    const Ended gone = run(printers, "apply Nobody f.json --yes --json");
+    expectIn(gone.out, {R"("outcome":"not-found")"});
+    expectIn(gone.err, {R"("fault":"not-found")"});
+}
+
+TEST(Commands, GetAndSetSomeSettings) {
+    const Printers printers({R"({"items": {"0x1006": "Desk", "0x3104": "\u00ff\u0001"},
+        "faults": {"items": {"0x1005": {"code": "0x7777"}}}})"});
+    printers.write(u"key"_s, "office-key");
+    const struct {
+        const char *arguments, *out;
+    } rows[] = {{"get desk device.timeout", "60\n"},
+                {"get Desk names.printer device",
+                 "names.printer=Desk\ndevice.firmware=1.000\n"
+                 "device.timeout=60\n"},
+                {"get S1 device.timeout names.service --json",
+                 R"({"device.timeout":60,"names.service":null})"},
+                {"set S1 device.timeout=91 accessPoint.key=@key --dry-run",
+                 "In Desk, this will change:\n  device.timeout: 60 → 91\n  accessPoint.key: new, "
+                 "from key\n"},
+                {"set S1 device.timeout=91 --yes",
+                 "In Desk, this will change:\n  device.timeout: 60 → 91\n"
+                 "Desk was changed, and has the new settings.\n"},
+                {"diff S1 S1", ""}};
+    for (const auto &row : rows) {
+        const Ended ended = run(printers, row.arguments);
+        EXPECT_EQ(ended.code, Done) << ended.err.constData();
+        const bool isJson = QByteArray(row.arguments).endsWith("json");
+        EXPECT_EQ((isJson ? compact(ended.out) : ended.out).toStdString(), row.out);
+    }
+    // What can be changed is a file of settings; a network name may be no text.
+    const Ended shown = run(printers, "show S1 --settings --json");
+    expectIn(compact(shown.out), {R"("ssid":null,"ssidHex":"c3bf01")"});
+    EXPECT_FALSE(shown.out.contains("uri"));
+    printers.write(u"f.json"_s, R"({"wireless": {"ssidHex": "C3A9ff00"}})");
+    EXPECT_EQ(run(printers, "apply S1 f.json --yes").code, Done);
+    EXPECT_TRUE(printers[1].item(0x3104).contains("\xC3\xA9\xFF"_ba));
+    const QByteArray all = compact(run(printers, "settings --json").out);
+    expectIn(all,
+             {R"({"access":"change","kind":"number","max":300,"min":30,"name":"device.timeout")",
+              R"("secret":true)", R"("values":["automatic","fixed"])"});
 }
 
 TEST(Commands, ListTheNetworksThatThePrinterFinds) {
@@ -215,8 +378,10 @@ TEST(Commands, AskAtTheTerminal) {
     const char *const apply = "apply S1 f.json";
     EXPECT_EQ(talk(printers, apply, {{"[y/N]", "\n"}}).code, Stopped);
     EXPECT_EQ(talk(printers, apply, {{"[y/N]", "\x03"}}).code, Stopped);
-    EXPECT_EQ(talk(printers, apply, {{"[y/N]", "y\n"}, {"password", "\x03\n"}}).code, Stopped);
-    const Ended changed = talk(printers, apply, {{"[y/N]", "y\n"}, {"password", "open123\n"}});
+    EXPECT_EQ(talk(printers, apply, {{"[y/N]", "y\n"}, {"password of", "\x03\n"}}).code, Stopped);
+    const Ended changed =
+        talk(printers, apply,
+             {{"[y/N]", "Yes\n"}, {"password of", "wrong\n"}, {"password of", "open123\n"}});
     EXPECT_EQ(changed.code, Done) << changed.out.constData();
     expectIn(changed.out, {"Label-Printer", "Reading"});  // it was not changed before
     EXPECT_FALSE(changed.out.contains("open123")) << changed.out.constData();

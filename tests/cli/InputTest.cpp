@@ -79,6 +79,10 @@ TEST(Input, OfSettingsInJson) {
         {"{\n\"device\": {\"timeout\": 60},\n}", "device.timeout=60 | 3"},
         {"{\"names\": {\"printer\": \"\xFF\"}}", "1"},
         {"{} {}", "1"},
+        {R"({"wireless": {"ssid": null, "ssidHex": "41e9"}})", "wireless.ssid='A\u00e9'"},
+        {R"({"wireless": {"ssidHex": "41", "ssid": "A"}})", "wireless.ssid='A' | 1 wireless.ssid"},
+        {R"({"wireless": {"ssidHex": "4"}})", "1 wireless.ssidHex"},
+        {QByteArray("{\"a\":").repeated(100'000), "1 a | 1"},
     };
     for (const auto &[json, expected] : rows) EXPECT_EQ(ofJson(json), expected) << json.constData();
 }
@@ -120,6 +124,8 @@ TEST(Input, OfTables) {
         {"serial,wired.address.ip,wireless.address.ip\nS1,10.0.0.1,\nS2,,10.00.0.1\n",
          "2 S1: wired.address.ip=10.0.0.1 / 3 S2: wireless.address.ip=10.0.0.1 / "
          "3 wireless.address.ip"},
+        {"sep=;\nserial;#place;device.timeout;;\nS1;here;60;;\n", "3 S1: device.timeout=60"},
+        {"serial\tdevice.timeout\tlogin.password\nS1\t60\topen", "2 S1: device.timeout=60"},
         {"serial\n\"S1\nS2\n", "4"},
         {"serial\nS\"1\n", "2"},
         {"serial\n\xE9\n", "0"},

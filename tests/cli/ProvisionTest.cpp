@@ -4,6 +4,7 @@
 #include "cli/Provision.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -71,18 +72,20 @@ TEST(Provision, EveryPrinterHasItsOwnOutcome) {
         if (c.name) profiles.last().replace("Old-" + QByteArray::number(number), c.name);
         if (*c.rows) table += c.rows + "\r\n"_ba;
     }
+    table += ",S99,,,,\r\n";
     const Printers printers(profiles);
     const QStringList provision{
         u"provision"_s,  printers.write(u"table.csv"_s, table),
         u"--template"_s, printers.write(u"common.json"_s, R"({"device": {"timeout": 90}})"),
-        u"--result"_s,   printers.path(u"out.csv"_s)};
+        u"--result"_s,   printers.path(u"out.csv"_s),
+        u"--keys"_s,     u"always"_s};
     std::vector<std::string> before;
     for (int i = 1; i <= profiles.size(); ++i) before.push_back(printers.stateOf(i));
     const Ended first = run(printers, provision, "open123");
     EXPECT_EQ(first.code, NotAccepted) << first.err.constData();
     EXPECT_EQ(first.out.count('\n'), profiles.size()) << first.out.constData();
     EXPECT_TRUE(first.out.contains("lines 10, 11")) << first.out.constData();
-    EXPECT_TRUE(first.err.contains("S8")) << first.err.constData();
+    EXPECT_EQ(first.err, "These printers of the table were not there: S99\n");
     const QByteArray results = printers.read(u"out.csv"_s);
     EXPECT_FALSE((first.out + first.err + results).contains("open123"));
     const auto outcomes = outcomesOf(printers);
@@ -95,7 +98,8 @@ TEST(Provision, EveryPrinterHasItsOwnOutcome) {
     printers[8].setFaults({});
     const Ended again = run(printers, provision, "open123");
     EXPECT_EQ(again.out.count("already"), 4) << again.out.constData();
-    EXPECT_EQ(printers.read(u"out.csv"_s).count('\n'), 1 + 2 * profiles.size());
+    const QByteArray all = printers.read(u"out.csv"_s);
+    EXPECT_EQ(all.count('\n') - all.count(",begun,"), 1 + 2 * profiles.size());
     EXPECT_EQ(printers.stateOf(8), "New-8 10.0.0.8 90");
 }
 
@@ -173,7 +177,7 @@ TEST_F(ProvisionProcess, ASignalEndsItWhileItsInputDoesNotCome) {
 
 TEST_F(ProvisionProcess, BeginsNoPrinterWhenTheResultsCannotBeWritten) {
     process.setChildProcessModifier([] {
-        const rlimit limit{400, 400};  // bytes of a file: room for a few rows
+        const rlimit limit{1000, 1000};  // bytes of a file: room for a few rows
         ::setrlimit(RLIMIT_FSIZE, &limit);
     });
     constexpr int count = 2 * Provision::printersAtATime;
@@ -194,6 +198,8 @@ TEST(Provision, NothingIsSentFromATableWithAFaultOrWithoutAFileForTheResults) {
     EXPECT_EQ(first.err.count('\n'), 3) << first.err.constData();
     EXPECT_TRUE(first.err.contains("table.csv: line 4, column \"device.timeout\": "));
     EXPECT_EQ(run(printers, {u"check"_s, table}).err, first.err);
+    printers.write(u"many.csv"_s, "serial,device.timeout\n" + QByteArray(",9\n").repeated(150));
+    EXPECT_EQ(run(printers, "check many.csv").err.count('\n'), Terminal::mostFaults + 1);
     // An address of the template would be that of two printers.
     printers.write(u"table.csv"_s, "serial\nS1\nS2\n");
     const QString common = printers.write(
@@ -204,6 +210,63 @@ TEST(Provision, NothingIsSentFromATableWithAFaultOrWithoutAFileForTheResults) {
     EXPECT_EQ(run(printers, {u"provision"_s, table, u"--result"_s, u"/dev/full"_s}).code,
               InputRefused);
     EXPECT_EQ(printers.stateOf(1), oldState(1));
+}
+
+TEST(Provision, ADryRunSendsNothingAndARerunFindsNothingToDo) {
+    const Printers printers({profileOf(1, R"("password": "open123")"), profileOf(2)});
+    printers.write(u"t.csv"_s,
+                   "serial,device.timeout,password.administrator,login.password,#remark\n"
+                   "S1,90,new-1,open123,first\nS2,60,,,\nS3,60,,,\n");
+    const Ended dry = run(printers, "provision t.csv --dry-run --exit-code --json");
+    EXPECT_EQ(dry.code, NotReached);
+    EXPECT_EQ(dry.out.count('\n'), 3) << dry.out.constData();
+    for (const char *part :
+         {R"("line":2,)", R"("outcome":"would-change")", R"("unchanged")",
+          R"("outcome":"not-there")", R"("name":"password.administrator","new":true)"})
+        EXPECT_TRUE(dry.out.contains(part)) << part << dry.out.constData();
+    EXPECT_EQ(printers.stateOf(1), oldState(1));
+    for (const char *outcome : {"done", "unchanged"}) {
+        EXPECT_EQ(run(printers, "provision t.csv --result out.csv").code, NotReached);
+        EXPECT_EQ(outcomesOf(printers)["S1"], outcome);
+    }
+    // What a killed run leaves, and only before the one send.
+    EXPECT_EQ(printers.read(u"out.csv"_s).count(",begun,\n"), 1);
+    EXPECT_EQ(printers[1].password(), QByteArray("new-1"));
+}
+
+TEST(Provision, ResultsAreAddedOnlyToAFileOfResults) {
+    const QByteArray header = "time,printer,serial,uri,line,outcome,detail\n",
+                     torn = header + "2026,De";
+    const QByteArray table = "serial,device.timeout\nS1,90\n";
+    const struct {
+        const char *file;
+        QByteArray holds;
+        ExitCode code;
+        const char *begin;     // of what it holds then
+        bool isTaken = false;  // by another run
+    } rows[] = {{"t.csv", table, InputRefused, "serial"},
+                {"out.csv", "#!/bin/sh\n", InputRefused, "#!/bin/sh\n"},
+                {"out.csv", torn, Done, "2026,De\n"},
+                {"out.csv", "", Done, "time,"},
+                {"out.csv", header, InputRefused, "time,", true}};
+    for (const auto &row : rows) {
+        const Printers printers({profileOf(1).replace("Old-1", "=1+1")});
+        printers.write(QLatin1String(row.file), row.holds);
+        printers.write(u"t.csv"_s, table);
+        const int other =
+            ::open(QFile::encodeName(printers.path(u"out.csv"_s)).constData(), O_RDWR);
+        if (row.isTaken) {
+            EXPECT_EQ(::flock(other, LOCK_EX), 0);
+        }
+        const Ended ended =
+            run(printers, "provision t.csv --result "_ba.append(row.file).constData());
+        ::close(other);
+        EXPECT_EQ(ended.code, row.code) << ended.err.constData();
+        const QByteArray held = printers.read(QLatin1String(row.file));
+        EXPECT_TRUE(held.contains(row.begin)) << held.constData();
+        EXPECT_EQ(held.contains(",'=1+1,S1,"), row.code == Done);
+        EXPECT_EQ(printers.stateOf(1) == "=1+1 192.168.1.50 90", row.code == Done);
+    }
 }
 
 namespace {
@@ -247,7 +310,8 @@ TEST(Provision, PrintersAreDoneAsTheyArePluggedInEachOnce) {
         // The first comes, and is plugged in again between two looks; then the second comes.
         QTimer timer;
         timer.callOnTimeout([&] {
-            const auto rows = printers.read(u"out.csv"_s).count('\n') - 1;
+            const QByteArray results = printers.read(u"out.csv"_s);
+            const auto rows = results.count('\n') - results.count("begun") - 1;
             state.plugs = std::min(int(rows), 1);
             state.there = rows < 2 ? 1 : 2;
         });
@@ -255,13 +319,32 @@ TEST(Provision, PrintersAreDoneAsTheyArePluggedInEachOnce) {
         const Table table = tableFromCsv("serial,device.timeout\nS1,90\nS2,91\n", {});
         Terminal terminal(false);
         Passwords passwords;
-        Provision provision(terminal, passwords, table.rows, again);
-        EXPECT_EQ(provision.run(printers.path(u"out.csv"_s)), Done);
+        Provision provision(
+            terminal, passwords,
+            {.rows = table.rows, .again = again, .resultFile = printers.path(u"out.csv"_s)}, false);
+        EXPECT_EQ(provision.run(), Done);
         QList<QByteArray> outcomes;
         for (const QByteArray &line : printers.read(u"out.csv"_s).trimmed().split('\n').mid(1))
-            outcomes << line.split(',')[2] + ' ' + line.split(',')[5];
+            if (!line.contains("begun")) outcomes << line.split(',')[2] + ' ' + line.split(',')[5];
         EXPECT_EQ(outcomes, (QList<QByteArray>{"S1 done", again ? "S1 unchanged" : "S1 done-before",
                                                "S2 done"}));
+        installLibrary(nullptr);
+    }
+}
+
+TEST(Provision, WaitsForPrintersNoLongerThanItIsTold) {
+    const QList<TableRow> rows = tableFromCsv("serial,device.timeout\nS1,90\n", {}).rows;
+    for (const bool once : {true, false}) {
+        const Printers printers({profileOf(1)});
+        ComingSource::State state;  // none is there
+        std::vector<std::unique_ptr<PrinterSource>> sources;
+        sources.push_back(std::make_unique<ComingSource>(printers.catalogue, state));
+        installLibrary(std::make_shared<PrinterLibrary>(std::move(sources)));
+        Terminal terminal(false);
+        Passwords passwords;
+        ProvisionOrder order{.rows = rows, .once = once};
+        if (!once) order.deadline = QDeadlineTimer(1);
+        EXPECT_EQ(Provision(terminal, passwords, order, false).run(), NotReached);
         installLibrary(nullptr);
     }
 }
@@ -287,7 +370,8 @@ TEST(Provision, SeveralPrintersOverUsbAtATime) {
     installLibrary(libraryOf<UsbSource>(5000));
     Terminal terminal(false);
     Passwords passwords;
-    EXPECT_EQ(Provision(terminal, passwords, tableFromCsv(csv, {}).rows, false).run({}), Done);
+    Provision provision(terminal, passwords, {.rows = tableFromCsv(csv, {}).rows}, false);
+    EXPECT_EQ(provision.run(), Done);
     for (int i = 1; i <= count; ++i) EXPECT_EQ(printers[size_t(i) - 1]->item(0x1007)[0], 90 + i);
     installLibrary(nullptr);
 }

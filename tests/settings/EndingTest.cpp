@@ -31,7 +31,7 @@ TEST(Plans, HoldChangesFaultsAndWhatMayKeepThePrinterFromBeingReached) {
         {fixed, "wired.address.ip=10.0.0.6", "wired.address.ip/wired.address.gateway/"},
         {fixed, "wired.address.mode=automatic", "wired.address.mode//"},
         {fixed, "wired.address.mode=automatic|.ip=10.0.0.6",
-         "wired.address.mode wired.address.ip/wired.address.ip/"},
+         "wired.address.mode//"},
         {fixed, "password.administrator=", "password.administrator//"},
         {open, "wireless.ssid=New", "ssid//"},
         {open, "wireless.authentication=wpa2|.encryption=aes", "authentication encryption//0 Old"},

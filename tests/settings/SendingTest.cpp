@@ -75,9 +75,12 @@ TEST_P(Send, WritesEveryItemInOrderAndKeepsAllButSecrets) {
             if (row.frame.isNull() || row.code == unused || row.code == 0x3103) continue;
             SCOPED_TRACE(row.values);
             EXPECT_EQ(sent.value(row.code), row.frame);
-            for (const auto &[setting, value, place, fault] : valuesOf(row.values))
-                EXPECT_EQ(m->manager->savedData()[setting->viewKey].value(setting->key) == value,
-                          !itemOf(row.code)->isSecret);
+            for (const WantedValue &wanted : valuesOf(row.values)) {
+                const Setting &setting = *wanted.setting;
+                EXPECT_EQ(
+                    m->manager->savedData()[setting.viewKey].value(setting.key) == wanted.value,
+                    !itemOf(row.code)->isSecret);
+            }
         }
         EXPECT_EQ(m->printer().password(), QByteArray("abcd1234"));
     }
