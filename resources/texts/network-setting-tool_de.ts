@@ -477,6 +477,18 @@
     <message id="DWT_Localize_App_Title">
         <translation>%1 – Netzwerkeinstellungen für Drucker</translation>
     </message>
+    <message id="DWT_Localize_Title_Send">
+        <translation>Senden an %1</translation>
+    </message>
+    <message id="DWT_Localize_Title_Unsent">
+        <translation>Nicht gesendete Änderungen von %1</translation>
+    </message>
+    <message id="DWT_Localize_Title_Networks">
+        <translation>Von %1 gefundene Netzwerke</translation>
+    </message>
+    <message id="DWT_Localize_Title_WPS">
+        <translation>WPS-Anleitung für %1</translation>
+    </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>Das Programm läuft bereits, antwortet aber nicht. Beenden Sie es und starten Sie es dann erneut.</translation>
     </message>
@@ -688,7 +700,7 @@
         <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
-        <translation>WLANs, die der Drucker gefunden hat. Eine leere Liste bedeutet, dass er keines gefunden hat oder nicht erreichbar war.</translation>
+        <translation>WLANs, die der Drucker gefunden hat.</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
         <translation>Netzwerkname (SSID)</translation>

@@ -477,6 +477,18 @@
     <message id="DWT_Localize_App_Title">
         <translation>%1 – Network Setting Tool</translation>
     </message>
+    <message id="DWT_Localize_Title_Send">
+        <translation>Send to %1</translation>
+    </message>
+    <message id="DWT_Localize_Title_Unsent">
+        <translation>Unsent changes of %1</translation>
+    </message>
+    <message id="DWT_Localize_Title_Networks">
+        <translation>Networks found by %1</translation>
+    </message>
+    <message id="DWT_Localize_Title_WPS">
+        <translation>WPS guide for %1</translation>
+    </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>The tool is running already, but does not answer. End it, then start it again.</translation>
     </message>
@@ -688,7 +700,7 @@
         <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
-        <translation>Wireless networks found by the printer. If the list is empty, the printer found none or could not be reached.</translation>
+        <translation>Wireless networks found by the printer.</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
         <translation>Network name (SSID)</translation>

@@ -477,6 +477,18 @@
     <message id="DWT_Localize_App_Title">
         <translation>%1 – Ajustes de red de impresoras</translation>
     </message>
+    <message id="DWT_Localize_Title_Send">
+        <translation>Enviar a %1</translation>
+    </message>
+    <message id="DWT_Localize_Title_Unsent">
+        <translation>Cambios sin enviar de %1</translation>
+    </message>
+    <message id="DWT_Localize_Title_Networks">
+        <translation>Redes detectadas por %1</translation>
+    </message>
+    <message id="DWT_Localize_Title_WPS">
+        <translation>Guía WPS para %1</translation>
+    </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>El programa ya se está ejecutando, pero no responde. Ciérrelo y vuelva a iniciarlo.</translation>
     </message>
@@ -688,7 +700,7 @@
         <translation>&amp;Aceptar</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
-        <translation>Redes Wi-Fi detectadas por la impresora. Una lista vacía significa que no encontró ninguna o que no se pudo acceder a ella.</translation>
+        <translation>Redes Wi-Fi detectadas por la impresora.</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
         <translation>Nombre de red (SSID)</translation>

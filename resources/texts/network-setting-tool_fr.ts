@@ -477,6 +477,18 @@
     <message id="DWT_Localize_App_Title">
         <translation>%1 – Paramètres réseau des imprimantes</translation>
     </message>
+    <message id="DWT_Localize_Title_Send">
+        <translation>Envoyer à %1</translation>
+    </message>
+    <message id="DWT_Localize_Title_Unsent">
+        <translation>Modifications non envoyées de %1</translation>
+    </message>
+    <message id="DWT_Localize_Title_Networks">
+        <translation>Réseaux détectés par %1</translation>
+    </message>
+    <message id="DWT_Localize_Title_WPS">
+        <translation>Guide WPS pour %1</translation>
+    </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>Le programme est déjà lancé, mais ne répond pas. Arrêtez-le, puis relancez-le.</translation>
     </message>
@@ -688,7 +700,7 @@
         <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
-        <translation>Réseaux Wi-Fi détectés par l’imprimante. Une liste vide signifie qu’elle n’en a trouvé aucun ou qu’elle était injoignable.</translation>
+        <translation>Réseaux Wi-Fi détectés par l’imprimante.</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
         <translation>Nom du réseau (SSID)</translation>

@@ -477,6 +477,18 @@
     <message id="DWT_Localize_App_Title">
         <translation>%1 – ネットワーク設定ツール</translation>
     </message>
+    <message id="DWT_Localize_Title_Send">
+        <translation>%1 に送信</translation>
+    </message>
+    <message id="DWT_Localize_Title_Unsent">
+        <translation>%1 の未送信の変更</translation>
+    </message>
+    <message id="DWT_Localize_Title_Networks">
+        <translation>%1 が検出したネットワーク</translation>
+    </message>
+    <message id="DWT_Localize_Title_WPS">
+        <translation>%1 の WPS ガイド</translation>
+    </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>このツールはすでに起動していますが、応答がありません。終了してからもう一度起動してください。</translation>
     </message>
@@ -688,7 +700,7 @@
         <translation>&amp;OK</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
-        <translation>プリンターが検出した無線 LAN ネットワークです。一覧が空の場合は、見つからなかったか、プリンターに接続できませんでした。</translation>
+        <translation>プリンターが検出した無線 LAN ネットワークです。</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
         <translation>ネットワーク名 (SSID)</translation>

@@ -477,6 +477,18 @@
     <message id="DWT_Localize_App_Title">
         <translation>%1 – 网络设置工具</translation>
     </message>
+    <message id="DWT_Localize_Title_Send">
+        <translation>发送到 %1</translation>
+    </message>
+    <message id="DWT_Localize_Title_Unsent">
+        <translation>%1 未发送的更改</translation>
+    </message>
+    <message id="DWT_Localize_Title_Networks">
+        <translation>%1 搜索到的网络</translation>
+    </message>
+    <message id="DWT_Localize_Title_WPS">
+        <translation>%1 的 WPS 指南</translation>
+    </message>
     <message id="DWT_Localize_App_Hangs">
         <translation>此工具已在运行，但没有响应。请先结束它，然后重新启动。</translation>
     </message>
@@ -688,7 +700,7 @@
         <translation>确定(&amp;O)</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TextField">
-        <translation>打印机搜索到的无线网络。列表为空表示未找到网络，或无法连接打印机。</translation>
+        <translation>打印机搜索到的无线网络。</translation>
     </message>
     <message id="DWT_Localize_SSIDList_TableView_Column_SSID">
         <translation>网络名称 (SSID)</translation>

@@ -104,6 +104,7 @@ void showAbout() {
     box->setText(u"<h3>%1 %2</h3><p>%3</p>"_s.arg(name.toHtmlEscaped(), QStringLiteral(NST_VERSION),
                                                   paragraphs.join(u"</p><p>"_s)));
     box->setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
+    box->addButton(localized("DWT_Localize_Alert_Button_OK"), QMessageBox::AcceptRole);
     box->open();
 }
 

@@ -1,6 +1,7 @@
 // What the window says of its printer, above the pages.
 
 #include "mainwindow/DWTMainSettingWindow.h"
+#include "mainwindow/WPSGuideWindow.h"
 #include "platform/core/Texts.h"
 #include "settings/PrinterWords.h"
 
@@ -76,6 +77,12 @@ void DWTMainSettingWindow::showOwnName() {
     const QString own =
         readableText(textValue(saved.value(DWT_View_Key_Network), DWT_SaveData_Network_Printer));
     textField_PrinterOwnName->setText(own.isEmpty() ? QString() : u"· %1"_s.arg(own));
-    if (m_session)
-        window_Main->setWindowTitle(localized("DWT_Localize_App_Title").arg(m_session->name()));
+    if (!m_session) return;
+    const auto entitle = [name = m_session->name()](QWidget *window, const char *key) {
+        const QString title = key ? localized(key).arg(name) : name;
+        window->setWindowTitle(localized("DWT_Localize_App_Title").arg(title));
+    };
+    entitle(window_Main, nullptr);
+    entitle(window_SelectSSID, "DWT_Localize_Title_Networks");
+    entitle(window_WPSGuide, "DWT_Localize_Title_WPS");
 }

@@ -127,7 +127,12 @@ void SendDialog::connectButtons() {
 
 int SendDialog::runOn(const QString &viewKey, const QString &printer) {
     m_printer = printer;
-    setWindowTitle(localized("DWT_Localize_App_Title").arg(printer));
+    const bool isSend =
+        viewKey != DWT_View_Key_Send_ChangeCheck && viewKey != DWT_View_Key_Send_UpdateCheck;
+    setWindowTitle(
+        localized("DWT_Localize_App_Title")
+            .arg(localized(isSend ? "DWT_Localize_Title_Send" : "DWT_Localize_Title_Unsent")
+                     .arg(printer)));
     for (QLabel *label : std::as_const(m_saying)) label->setText(m_usualTexts.value(label));
     m_headings = {
         {DWT_View_Key_Send_ChangeCheck, {"DWT_Localize_Send_ChangeCheck_Heading", Sign::Question}},

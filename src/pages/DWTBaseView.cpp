@@ -76,6 +76,9 @@ void DWTBaseView::initializeUI() {
         if (label->buddy() && label->buddy()->accessibleName().isEmpty())
             label->buddy()->setAccessibleName(nameInLabel(label->text()));
     alignLabels();
+    // In a narrow window the labels stand above their fields.
+    for (QFormLayout *form : view_Base->findChildren<QFormLayout *>())
+        form->setRowWrapPolicy(QFormLayout::WrapLongRows);
 }
 
 void DWTBaseView::alignLabels() {

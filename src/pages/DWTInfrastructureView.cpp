@@ -196,6 +196,7 @@ void DWTInfrastructureView::showSSIDFromSelectSSID(const SSIDEntry &network) {
     mutableDictionary_selectSSID.insert(DWT_SSIDList_Encryption, encryption);
     textField_InfrastructureSSID->setText(
         readableText(textValue(network, DWT_SSIDList_SSID_String)));
+    textField_InfrastructureSSID->setCursorPosition(0);  // a long name shows its beginning
     initializeEncryption();
     CategoryDictionary &settings = mutableDictionary_ViewSettings;
     settings.insert(DWT_SaveData_Infrastructure_Authentic, authentic);

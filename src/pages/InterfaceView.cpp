@@ -16,7 +16,7 @@ void InterfaceView::addAddress(TextField *field, const QString &key, const QStri
 void InterfaceView::setControls(const Controls &controls) {
     m_controls = controls;
     m_untested = controls.state->text();
-    controls.whyNot->keepRoomFor(localized("DWT_Localize_Connect_Unsent"));
+    controls.whyNot->keepLine();
     QObject::connect(controls.connect, &QAbstractButton::clicked, this,
                      &InterfaceView::connectRequested);
 }

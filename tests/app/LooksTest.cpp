@@ -20,6 +20,10 @@ bool isCut(const QWidget *widget) {
     if (header && header->orientation() == Qt::Horizontal)
         for (int i = 0; i < header->count(); ++i)
             if (header->sectionSizeHint(i) > header->sectionSize(i)) return true;
+    // A window as wide as the screen may scroll its pages.
+    if (qobject_cast<const PanelScroller *>(widget) &&
+        widget->window()->width() >= widget->screen()->availableSize().width())
+        return false;
     const auto *area = qobject_cast<const QAbstractScrollArea *>(widget);
     return area && !header && area->horizontalScrollBar()->maximum() > 0;
 }
@@ -209,6 +213,43 @@ TEST_P(Looks, EveryViewOfASendFitsOnItsFirstShowing) {
     lookAt("view_SendConfirm", "button_SendConfirmTransmission");
     lookAt("view_SendEnd", "button_SendEndOK");
     walk.press("button_MainSend");
+}
+
+// Colours of the highest contrast, and letters a quarter larger, while the windows are up.
+TEST_P(Looks, WindowsFollowTheDesktopsColoursAndLettersWhileTheyAreUp) {
+    const QPalette usual = QApplication::palette();
+    const QFont letters = QApplication::font();
+    open("Packing-Desk");
+    walk.type("textField_NetworkBonjour", text("no spaces"));
+    QPalette contrast;
+    for (const auto ground : {QPalette::Window, QPalette::Base, QPalette::Button,
+                              QPalette::AlternateBase, QPalette::ToolTipBase})
+        contrast.setColor(ground, Qt::black);
+    for (const auto ink : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                           QPalette::PlaceholderText, QPalette::ToolTipText})
+        contrast.setColor(ink, Qt::white);
+    contrast.setColor(QPalette::Highlight, Qt::yellow);
+    contrast.setColor(QPalette::HighlightedText, Qt::black);
+    QApplication::setPalette(contrast);
+    QFont large = letters;
+    large.setPointSizeF(letters.pointSizeF() * 1.25);
+    QApplication::setFont(large);
+    walk.main()->resize(walk.main()->screen()->availableSize());
+    auto *outline = controlOf<OutlineView>(walk.main(), "outlineView_Main");
+    outline->setFocus();
+    keys("Up");
+    for (int i = 0; i < 7; ++i, keys("Down")) {
+        look(walk.main());
+        for (const QLabel *label : walk.main()->findChildren<QLabel *>())
+            if (label->isVisible() && !label->text().isEmpty()) {
+                EXPECT_GT(label->palette().color(QPalette::WindowText).lightness(), 110)
+                    << qPrintable(label->text()) << " is dark on black";
+            }
+    }
+    QApplication::setPalette(usual);
+    QApplication::setFont(letters);
+    walk.dialogs().on("view_SendChangeCheck", "button_SendChangeCheckNoReflect");
+    walk.main()->close();
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryLanguage, Looks, testing::ValuesIn(text(NST_LANGUAGES).split(u',')),

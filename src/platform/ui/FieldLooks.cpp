@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <utility>
 
 namespace {
 
@@ -25,10 +26,7 @@ class MenuFilter : public QObject {
     }
 };
 
-}  // namespace
-
-void fitWidth(QLineEdit *field, const QString &sample) {
-    field->ensurePolished();
+void setWidth(QLineEdit *field, const QString &sample) {
     QStyleOptionFrame option;
     option.initFrom(field);
     option.lineWidth = field->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, field);
@@ -40,6 +38,31 @@ void fitWidth(QLineEdit *field, const QString &sample) {
     const QSize text(metrics.horizontalAdvance(shown) + 6, metrics.height());
     const QSize size = field->style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, field);
     field->setFixedWidth(size.width());
+}
+
+// Keeps a field as wide as its sample when the desktop's letters change.
+class WidthKeeper : public QObject {
+  public:
+    WidthKeeper(QLineEdit *field, QString sample)
+        : QObject(field), m_field(field), m_sample(std::move(sample)) {
+        field->installEventFilter(this);
+    }
+    bool eventFilter(QObject *, QEvent *event) override {
+        if (event->type() == QEvent::FontChange) setWidth(m_field, m_sample);
+        return false;
+    }
+
+  private:
+    QLineEdit *const m_field;
+    const QString m_sample;
+};
+
+}  // namespace
+
+void fitWidth(QLineEdit *field, const QString &sample) {
+    field->ensurePolished();
+    setWidth(field, sample);
+    new WidthKeeper(field, sample);
 }
 
 void keepSelectionInMenus(QLineEdit *field) {

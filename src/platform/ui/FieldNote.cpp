@@ -31,15 +31,14 @@ FieldNote::FieldNote(QWidget *parent) : QLabel(parent) {
     setSizePolicy(policy);
 }
 
-void FieldNote::keepRoomFor(const QString &text) {
-    m_room = text;
+void FieldNote::keepLine() {
+    m_keepsLine = true;
     updateGeometry();
 }
 
 void FieldNote::say(const QString &said, Kind kind) {
-    QPalette colours;
-    colours.setColor(QPalette::WindowText, colourOf(kind));
-    setPalette(colours);
+    m_kind = kind;
+    colour();
     if (said == text()) return;
     setText(said);
     if (said.isEmpty() || kind == Kind::Rule) return;
@@ -47,21 +46,28 @@ void FieldNote::say(const QString &said, Kind kind) {
     QAccessible::updateAccessibility(&announced);
 }
 
-QColor FieldNote::colourOf(Kind kind) const {
-    const QPalette colours = QGuiApplication::palette();
-    if (kind == Kind::Fault) return faultColour(colours.color(QPalette::Window));
-    const QColor text = colours.color(QPalette::WindowText);
-    return kind == Kind::Rule ? mixed(text, colours.color(QPalette::Window), rulePercent) : text;
+void FieldNote::colour() {
+    const QPalette desktop = QGuiApplication::palette();
+    const QColor text = desktop.color(QPalette::WindowText);
+    const QColor ground = desktop.color(QPalette::Window);
+    QPalette colours;
+    colours.setColor(QPalette::WindowText, m_kind == Kind::Fault  ? faultColour(ground)
+                                           : m_kind == Kind::Rule ? mixed(text, ground, rulePercent)
+                                                                  : text);
+    if (colours != palette()) setPalette(colours);
 }
 
-int FieldNote::heightOf(const QString &text, int width) const {
-    if (text.isEmpty()) return 0;
-    const QRect room(0, 0, width, QWIDGETSIZE_MAX);
-    return fontMetrics().boundingRect(room, Qt::TextWordWrap, text).height();
+void FieldNote::changeEvent(QEvent *event) {
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange) colour();
 }
 
 int FieldNote::heightForWidth(int width) const {
-    return std::max(heightOf(text(), width), heightOf(m_room, width));
+    const QFontMetrics metrics = fontMetrics();
+    const int line = m_keepsLine ? metrics.height() : 0;
+    if (text().isEmpty()) return line;
+    const QRect room(0, 0, width, QWIDGETSIZE_MAX);
+    return std::max(line, metrics.boundingRect(room, Qt::TextWordWrap, text()).height());
 }
 
 QSize FieldNote::sizeHint() const {

@@ -10,8 +10,8 @@ class FieldNote : public QLabel {
 
     explicit FieldNote(QWidget *parent = nullptr);
 
-    // Keeps the room that `text` needs, so that nothing moves when it is said.
-    void keepRoomFor(const QString &text);
+    // Keeps the room of one line, so that nothing moves when a short text is said.
+    void keepLine();
 
     // Says a text; an empty one says nothing. Notices and faults are announced to assistive
     // technologies.
@@ -19,12 +19,16 @@ class FieldNote : public QLabel {
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-    // The height of the text, or of the one that has room here, whichever is larger; in pixels.
+    // The height of the text and, where a line has room, at least of one; in pixels.
     int heightForWidth(int width) const override;
 
-  private:
-    int heightOf(const QString &text, int width) const;
-    QColor colourOf(Kind kind) const;
+  protected:
+    // Follows the colours of the desktop.
+    void changeEvent(QEvent *event) override;
 
-    QString m_room;
+  private:
+    void colour();
+
+    Kind m_kind = Kind::Rule;
+    bool m_keepsLine = false;
 };

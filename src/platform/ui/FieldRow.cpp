@@ -84,7 +84,7 @@ void FieldRow::setChange(const QString &change, const QString &undo) {
 
 void FieldRow::setRule(const QString &rule) {
     m_rule = rule;
-    m_note->keepRoomFor(rule);
+    m_note->keepLine();
     follow();
 }
 

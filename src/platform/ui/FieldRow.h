@@ -17,7 +17,7 @@ class FieldRow : public QWidget {
     // horizontal layout, of everything there.
     explicit FieldRow(QWidget *control);
 
-    // The rule, said while the control has the focus; there is always room for it.
+    // The rule, said while the control has the focus; a line of it always has room.
     void setRule(const QString &rule);
     // A notice about the value; an empty one takes it away.
     void setNotice(const QString &notice);
