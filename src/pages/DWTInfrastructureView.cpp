@@ -94,9 +94,9 @@ void DWTInfrastructureView::forgetNetwork() {
 }
 
 QList<const QWidget *> DWTInfrastructureView::putBackWith(const QWidget *control) const {
-    const QList<const QWidget *> security{popupbutton_InfrastructureAuthentic,
-                                          popupbutton_InfrastructureEncryption};
-    const QList<const QWidget *> network{textField_InfrastructureSSID, security[0], security[1]};
+    QList<const QWidget *> security{popupbutton_InfrastructureAuthentic,
+                                    popupbutton_InfrastructureEncryption};
+    QList<const QWidget *> network{textField_InfrastructureSSID, security[0], security[1]};
     if (bool_SSIDfromSelectSSID && network.contains(control)) return network;
     if (security.contains(control)) return security;
     return {control};

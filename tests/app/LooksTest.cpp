@@ -216,7 +216,8 @@ TEST_P(Looks, EveryViewOfASendFitsOnItsFirstShowing) {
 }
 
 // Colours of the highest contrast, and letters a quarter larger, while the windows are up.
-TEST_P(Looks, WindowsFollowTheDesktopsColoursAndLettersWhileTheyAreUp) {
+struct LooksOfTheDesktop : Looks {};
+TEST_P(LooksOfTheDesktop, AreFollowedWhileTheWindowsAreUp) {
     const QPalette usual = QApplication::palette();
     const QFont letters = QApplication::font();
     open("Packing-Desk");
@@ -251,6 +252,9 @@ TEST_P(Looks, WindowsFollowTheDesktopsColoursAndLettersWhileTheyAreUp) {
     walk.dialogs().on("view_SendChangeCheck", "button_SendChangeCheckNoReflect");
     walk.main()->close();
 }
+
+// Of long words and of wide letters.
+INSTANTIATE_TEST_SUITE_P(TwoLanguages, LooksOfTheDesktop, testing::Values(text("de"), text("ja")));
 
 INSTANTIATE_TEST_SUITE_P(EveryLanguage, Looks, testing::ValuesIn(text(NST_LANGUAGES).split(u',')),
                          [](const auto &language) { return language.param.toStdString(); });
