@@ -149,7 +149,7 @@ TEST(Commands, EndWithTheCodeOfWhatHappened) {
         {"{}", "paint", "", UsedWrongly, "paint"},
         {"{}", "show", "", UsedWrongly, "“show” needs PRINTER"},
         {"{}", "aply", "", UsedWrongly, "“apply” meant"},
-        {"{}", "help aply", "", UsedWrongly, "“apply” meant"},
+        {"{}", "help shwo", "", UsedWrongly, "“show” meant"},
         {"{}", "list --jsn", "", UsedWrongly, "“--json” meant"},
         {"{}", "provision t.csv --template", "", UsedWrongly, "“--template” needs FILE"},
         {"{}", "list --json=x", "", UsedWrongly, "takes no value"},

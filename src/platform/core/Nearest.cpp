@@ -9,21 +9,25 @@ namespace {
 // Words of at least so many letters may differ in two of them, shorter ones in one.
 constexpr qsizetype longWord = 6;
 
-// How many letters must be put in, left out or replaced to make one word of the other.
+// How many letters must be put in, left out, replaced or swapped with the next to make one word of
+// the other.
 int distanceOf(const QString &a, const QString &b) {
-    std::vector<int> row(size_t(b.size()) + 1);
-    for (size_t j = 0; j < row.size(); ++j) row[j] = int(j);
-    for (qsizetype i = 0; i < a.size(); ++i) {
-        int diagonal = row[0];
-        row[0] = int(i) + 1;
-        for (size_t j = 1; j < row.size(); ++j) {
-            const bool isSame = a[i].toLower() == b[qsizetype(j) - 1].toLower();
-            const int replaced = diagonal + (isSame ? 0 : 1);
-            diagonal = row[j];
-            row[j] = std::min({replaced, row[j] + 1, row[j - 1] + 1});
+    const QString one = a.toLower(), other = b.toLower();
+    const size_t width = size_t(other.size()) + 1;
+    std::vector<std::vector<int>> rows(size_t(one.size()) + 1, std::vector<int>(width));
+    for (size_t j = 0; j < width; ++j) rows[0][j] = int(j);
+    for (size_t i = 1; i < rows.size(); ++i) {
+        rows[i][0] = int(i);
+        for (size_t j = 1; j < width; ++j) {
+            const QChar from = one[qsizetype(i) - 1], to = other[qsizetype(j) - 1];
+            rows[i][j] = std::min({rows[i - 1][j - 1] + (from == to ? 0 : 1), rows[i - 1][j] + 1,
+                                   rows[i][j - 1] + 1});
+            const bool isSwapped =
+                i > 1 && j > 1 && from == other[qsizetype(j) - 2] && to == one[qsizetype(i) - 2];
+            if (isSwapped) rows[i][j] = std::min(rows[i][j], rows[i - 2][j - 2] + 1);
         }
     }
-    return row.back();
+    return rows.back().back();
 }
 
 // The only known word for which something holds.
