@@ -1528,6 +1528,9 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_PrinterList_Problem_NotLocated">
         <translation>Im Netzwerk angekündigte Drucker, deren Adresse noch nicht bekannt ist: %1.</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_ManyAnnounced">
+        <translation>Im Netzwerk melden sich mehr als %1 Drucker. Mit seinen üblichen Einstellungen merkt sich der Erkennungsdienst (Avahi) nicht alle; einige können fehlen.</translation>
+    </message>
     <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
         <translation>%1 ist angeschlossen, wird aber nicht aufgeführt, weil das Programm dieses Modell nicht kennt.</translation>
     </message>

@@ -1528,6 +1528,9 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_PrinterList_Problem_NotLocated">
         <translation>Printers announced on the network whose address is not known yet: %1.</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_ManyAnnounced">
+        <translation>More than %1 printers are announced on the network. With its usual settings, the discovery service (Avahi) does not keep all of them, so some may be missing.</translation>
+    </message>
     <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
         <translation>%1 is connected, but not listed: the tool does not know this model.</translation>
     </message>

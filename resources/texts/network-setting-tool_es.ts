@@ -1528,6 +1528,9 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_PrinterList_Problem_NotLocated">
         <translation>Impresoras anunciadas en la red cuya dirección aún no se conoce: %1.</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_ManyAnnounced">
+        <translation>En la red se anuncian más de %1 impresoras. Con sus ajustes habituales, el servicio de detección (Avahi) no las conserva todas; pueden faltar algunas.</translation>
+    </message>
     <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
         <translation>%1 está conectada, pero no aparece en la lista: la herramienta no conoce este modelo.</translation>
     </message>

@@ -1528,6 +1528,9 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     <message id="DWT_Localize_PrinterList_Problem_NotLocated">
         <translation>Imprimantes annoncées sur le réseau dont l’adresse n’est pas encore connue : %1.</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_ManyAnnounced">
+        <translation>Plus de %1 imprimantes s’annoncent sur le réseau. Avec ses réglages habituels, le service de détection (Avahi) ne les garde pas toutes ; certaines peuvent manquer.</translation>
+    </message>
     <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
         <translation>%1 est connectée, mais n’est pas affichée : l’outil ne connaît pas ce modèle.</translation>
     </message>

@@ -1528,6 +1528,9 @@
     <message id="DWT_Localize_PrinterList_Problem_NotLocated">
         <translation>ネットワーク上で見つかったが、アドレスがまだわからないプリンター: %1 台</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_ManyAnnounced">
+        <translation>ネットワーク上で %1 台を超えるプリンターが通知されています。検出サービス（Avahi）の通常の設定ではすべてを保持できないため、一部が表示されないことがあります。</translation>
+    </message>
     <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
         <translation>%1 が接続されていますが、対応していない機種のため一覧に表示されません。</translation>
     </message>

@@ -1528,6 +1528,9 @@
     <message id="DWT_Localize_PrinterList_Problem_NotLocated">
         <translation>网络上已发现但地址尚未知的打印机：%1 台。</translation>
     </message>
+    <message id="DWT_Localize_PrinterList_Problem_ManyAnnounced">
+        <translation>网络上通告的打印机超过 %1 台。发现服务 (Avahi) 在常用设置下无法保留全部，因此可能缺少部分打印机。</translation>
+    </message>
     <message id="DWT_Localize_PrinterList_Problem_UnknownModel">
         <translation>%1 已连接，但本工具不支持此型号，因此未列出。</translation>
     </message>

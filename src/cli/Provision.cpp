@@ -97,12 +97,11 @@ void Provision::look() {
 
 // Printers on the network have no part in it.
 void Provision::noteProblems() {
+    using enum PrinterProblem::Kind;
+    static const QSet ofNetwork{NoNetworkService, SilentNetworkService, NotLocated, ManyAnnounced};
     auto problems = Printers::problems();
-    problems.removeIf([](const PrinterProblem &problem) {
-        return problem.kind == PrinterProblem::NoNetworkService ||
-               problem.kind == PrinterProblem::SilentNetworkService ||
-               problem.kind == PrinterProblem::NotLocated;
-    });
+    problems.removeIf(
+        [](const PrinterProblem &problem) { return ofNetwork.contains(problem.kind); });
     for (const PrinterProblem &problem : std::exchange(m_problems, problems))
         problems.removeOne(problem);
     m_terminal.note(problems);

@@ -13,6 +13,7 @@ QString wordsOf(const PrinterProblem &problem) {
         {PrinterProblem::SilentNetworkService,
          "DWT_Localize_PrinterList_Problem_SilentNetworkService"},
         {PrinterProblem::NotLocated, "DWT_Localize_PrinterList_Problem_NotLocated"},
+        {PrinterProblem::ManyAnnounced, "DWT_Localize_PrinterList_Problem_ManyAnnounced"},
         {PrinterProblem::UnknownModel, "DWT_Localize_PrinterList_Problem_UnknownModel"}};
     const QString text = localized(keys.value(problem.kind));
     return problem.subject.isEmpty() ? text : text.arg(shownText(problem.subject));

@@ -41,6 +41,9 @@ Listing NetworkSource::announced() const {
     if (known.notLocated > 0)
         listing.problems.append(
             PrinterProblem{PrinterProblem::NotLocated, QString::number(known.notLocated)});
+    if (known.printers.size() + known.notLocated > m_surelyKept)
+        listing.problems.append(
+            PrinterProblem{PrinterProblem::ManyAnnounced, QString::number(m_surelyKept)});
     for (const AnnouncedPrinter &printer : known.printers)
         listing.entries.append(
             {{PrinterKey::DeviceURI, printer.uri},

@@ -11,7 +11,8 @@ class NetworkSource : public PrinterSource {
     // The part of an opening's time after which an address is needed: the rest is for connecting.
     static constexpr int resolvingShare = 2;
 
-    explicit NetworkSource(const BrowsingLimits &limits = {}) : m_browser(limits) {}
+    explicit NetworkSource(const BrowsingLimits &limits = {})
+        : m_browser(limits), m_surelyKept(limits.surelyKept) {}
 
     Listing list() override;
     bool isSettled() override { return m_browser.isSettled(); }
@@ -26,6 +27,7 @@ class NetworkSource : public PrinterSource {
     Listing announced() const;
 
     ServiceBrowser m_browser;
+    const qsizetype m_surelyKept;
     std::mutex m_mutex;  // guards what follows
     Listing m_listed;
 };

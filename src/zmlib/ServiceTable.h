@@ -29,6 +29,9 @@ struct BrowsingLimits {
     // How many questions are under way at once. Of more, the service loses answers when many
     // printers are announced: of 1,339 that it knew, a list of 3 s had 231 at 500, 1,142 at 100.
     std::size_t questionsAtOnce = 50;
+    // So many printers are kept by a service with its usual settings, which keeps 4,096 records, of
+    // which a printer has up to five; beyond, it drops some, and nobody can ask it which.
+    qsizetype surelyKept = 800;
     // How long a question is waited for while others wait that have not been asked in vain.
     std::chrono::milliseconds giveUpAfter{500};
     // How long an answer is taken as sure: half of the 120 s for which records of an address live.

@@ -48,6 +48,7 @@ struct PrinterProblem {
         EmptyCatalogue,        // printers are listed from a catalogue, and it has none
         SilentNetworkService,  // that service runs, but does not answer
         NotLocated,            // printers are announced whose address is not known yet
+        ManyAnnounced,         // so many that the service may not know all of them
         UnknownModel           // a USB printer is none of the supported models
     };
     Kind kind;

@@ -147,6 +147,7 @@ TEST_F(Network, OddAndManyAnnouncementsAreListedAsFarAsTheyCanBeReached) {
     constexpr int unanswered = 30;  // more than may be under way
     constexpr int endOfOne = 4500;  // ms; the service gives a question up after 5 s
     limits.questionsAtOnce = 20;
+    limits.surelyKept = 60;
     limits.firstLook = std::chrono::milliseconds(limit);
     const QByteArray longest = QByteArray("\xe5\x80\x89").repeated(21);  // bytes: 63
     ASSERT_TRUE(bed.announce(
@@ -169,7 +170,8 @@ TEST_F(Network, OddAndManyAnnouncementsAreListedAsFarAsTheyCanBeReached) {
     ASSERT_TRUE(QTest::qWaitFor(areThere, endOfOne)) << "others are in the way";
     EXPECT_FALSE(source.isSettled());
     const PrinterProblem others{PrinterProblem::NotLocated, QString::number(unanswered + 1)};
-    EXPECT_EQ(source.list().problems, QList{others});
+    const PrinterProblem missing{PrinterProblem::ManyAnnounced, u"60"_s};
+    EXPECT_EQ(source.list().problems, (QList{others, missing}));
     EXPECT_EQ(lines[0], lineOf(u"B"_s, u"(x)"_s));
     EXPECT_EQ(lines[1], lineOf(u"C1000"_s, {}));
     EXPECT_TRUE(lines[41].endsWith(u"|Larkfield L200"_s)) << qPrintable(lines[41]);
