@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <functional>
 
 #include "app/DWTPrinterSelector.h"
@@ -48,6 +49,47 @@ void openPrinter(benchmark::State &state) {
     }
 }
 BENCHMARK(openPrinter)->Unit(benchmark::kMillisecond);
+
+// Leaves the confirmation of a send when it was painted.
+class AtConfirmation : public QObject {
+  public:
+    explicit AtConfirmation(QWidget *view) : m_view(view) { view->installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override {
+        if (event->type() == QEvent::Paint)
+            QTimer::singleShot(0, m_view, [this] {
+                m_painted = true;
+                m_view->findChild<QPushButton *>(QStringLiteral("button_SendConfirmCancel"))
+                    ->click();
+            });
+        return false;
+    }
+    bool isPainted() const { return m_painted; }
+
+  private:
+    QWidget *const m_view;
+    bool m_painted = false;
+};
+
+// From the Send button to the painted confirmation, of a printer that answers at once.
+void confirmSend(benchmark::State &state) {
+    const auto selector = make<DWTPrinterSelector>();
+    selector->awakeFromNib();
+    selector->applicationDidFinishLaunching();
+    auto *const list = selector->window()->findChild<TableView *>();
+    list->selectRow(0);
+    QTest::keyClick(list, Qt::Key_Return);
+    Window *const opened = selector->mainSettingWindow()->window();
+    QTest::keyClicks(opened->findChild<QLineEdit *>(QStringLiteral("textField_PrintTimeOut")),
+                     QStringLiteral("1"));
+    auto *const send = opened->findChild<QPushButton *>(QStringLiteral("button_MainSend"));
+    auto *const view = opened->findChild<QWidget *>(QStringLiteral("view_SendConfirm"));
+    for (auto _ : state) {
+        const AtConfirmation confirmation(view);
+        send->click();
+        if (!confirmation.isPainted()) state.SkipWithError("there is no confirmation");
+    }
+}
+BENCHMARK(confirmSend)->Unit(benchmark::kMillisecond);
 
 // The list of forty printers on USB of which six report no name: from its showing to the first
 // painted row that can be opened, and to the last name.

@@ -801,9 +801,6 @@
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
         <translation>&amp;Weiter</translation>
     </message>
-    <message id="DWT_Localize_Guide_Button_Cancel">
-        <translation>&amp;Abbrechen</translation>
-    </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>Wählen Sie den Drucker, dessen Einstellungen Sie sehen möchten. Ändern lassen sich nur die Einstellungen eines über USB angeschlossenen Druckers.</translation>
     </message>
@@ -1053,6 +1050,12 @@ Aufruf: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Menu_ReadAgain">
         <translation>&amp;Neu einlesen</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Test">
+        <translation>&amp;Verbindung testen</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ChooseNetwork">
+        <translation>Netz&amp;werk wählen …</translation>
     </message>
     <message id="DWT_Localize_Menu_PrinterList">
         <translation>&amp;Druckerliste</translation>

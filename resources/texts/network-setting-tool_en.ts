@@ -801,9 +801,6 @@
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
         <translation>&amp;Next</translation>
     </message>
-    <message id="DWT_Localize_Guide_Button_Cancel">
-        <translation>&amp;Cancel</translation>
-    </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>Choose the printer whose settings you want to see. Settings can be changed only on a printer that is connected over USB.</translation>
     </message>
@@ -1053,6 +1050,12 @@ Usage: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Menu_ReadAgain">
         <translation>&amp;Read again</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Test">
+        <translation>&amp;Test connection</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ChooseNetwork">
+        <translation>&amp;Choose a network…</translation>
     </message>
     <message id="DWT_Localize_Menu_PrinterList">
         <translation>Printer &amp;list</translation>

@@ -801,9 +801,6 @@
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
         <translation>Si&amp;guiente</translation>
     </message>
-    <message id="DWT_Localize_Guide_Button_Cancel">
-        <translation>&amp;Cancelar</translation>
-    </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>Elija la impresora cuyos ajustes quiere ver. Solo se pueden cambiar los ajustes de una impresora conectada por USB.</translation>
     </message>
@@ -1053,6 +1050,12 @@ Uso: %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Menu_ReadAgain">
         <translation>&amp;Volver a leer</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Test">
+        <translation>&amp;Probar la conexión</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ChooseNetwork">
+        <translation>Elegir una &amp;red…</translation>
     </message>
     <message id="DWT_Localize_Menu_PrinterList">
         <translation>&amp;Lista de impresoras</translation>

@@ -801,9 +801,6 @@
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
         <translation>&amp;Suivant</translation>
     </message>
-    <message id="DWT_Localize_Guide_Button_Cancel">
-        <translation>&amp;Annuler</translation>
-    </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>Choisissez l’imprimante dont vous voulez voir les paramètres. Seuls les paramètres d’une imprimante connectée par USB peuvent être modifiés.</translation>
     </message>
@@ -1053,6 +1050,12 @@ Utilisation : %1 [-Installer] [--demo] [--help] [--version]
     </message>
     <message id="DWT_Localize_Menu_ReadAgain">
         <translation>&amp;Relire les paramètres</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Test">
+        <translation>&amp;Tester la connexion</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ChooseNetwork">
+        <translation>&amp;Choisir un réseau…</translation>
     </message>
     <message id="DWT_Localize_Menu_PrinterList">
         <translation>&amp;Liste des imprimantes</translation>

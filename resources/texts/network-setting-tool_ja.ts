@@ -801,9 +801,6 @@
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
         <translation>次へ(&amp;N)</translation>
     </message>
-    <message id="DWT_Localize_Guide_Button_Cancel">
-        <translation>キャンセル(&amp;C)</translation>
-    </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>設定を表示するプリンターを選択してください。設定を変更できるのは、USB で接続されたプリンターだけです。</translation>
     </message>
@@ -1053,6 +1050,12 @@
     </message>
     <message id="DWT_Localize_Menu_ReadAgain">
         <translation>再読み込み(&amp;R)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Test">
+        <translation>接続テスト(&amp;T)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ChooseNetwork">
+        <translation>ネットワークを選択(&amp;C)…</translation>
     </message>
     <message id="DWT_Localize_Menu_PrinterList">
         <translation>プリンター一覧(&amp;L)</translation>

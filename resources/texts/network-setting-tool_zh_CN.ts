@@ -801,9 +801,6 @@
     <message id="DWT_Localize_USBConnect_Button_Next_Key">
         <translation>下一步(&amp;N)</translation>
     </message>
-    <message id="DWT_Localize_Guide_Button_Cancel">
-        <translation>取消(&amp;C)</translation>
-    </message>
     <message id="DWT_Localize_PrinterList_TextField">
         <translation>请选择要查看其设置的打印机。只有通过 USB 连接的打印机才能更改设置。</translation>
     </message>
@@ -1053,6 +1050,12 @@
     </message>
     <message id="DWT_Localize_Menu_ReadAgain">
         <translation>重新读取(&amp;R)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_Test">
+        <translation>测试连接(&amp;T)</translation>
+    </message>
+    <message id="DWT_Localize_Menu_ChooseNetwork">
+        <translation>选择网络(&amp;C)…</translation>
     </message>
     <message id="DWT_Localize_Menu_PrinterList">
         <translation>打印机列表(&amp;L)</translation>

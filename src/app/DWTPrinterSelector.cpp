@@ -103,7 +103,7 @@ void DWTPrinterSelector::nameExits() {
     if (!m_guideLeadsToList) return;
     for (QPushButton *button : view_PrinterSelector->findChildren<QPushButton *>())
         if (button->objectName().endsWith(u"EXIT"_s) && !view_Printerlist->isAncestorOf(button))
-            button->setText(localized("DWT_Localize_Guide_Button_Cancel"));
+            button->setText(localized("DWT_Localize_Alert_Button_Cancel"));
 }
 
 // The window comes first.

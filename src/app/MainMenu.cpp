@@ -126,8 +126,10 @@ MainMenu::MainMenu(QWidget *parent) : QMenuBar(parent) {
     QMenu *const printer = addMenu(u"DWT_Localize_Menu_Printer"_s);
     m_send = add(printer, "DWT_Localize_Menu_Send", Qt::CTRL | Qt::Key_S);
     m_readAgain = add(printer, "DWT_Localize_Menu_ReadAgain", Qt::Key_F5);
+    m_test = add(printer, "DWT_Localize_Menu_Test", Qt::CTRL | Qt::Key_T);
+    m_chooseNetwork = add(printer, "DWT_Localize_Menu_ChooseNetwork", {});
     for (QAction *entry : {m_send, m_readAgain, m_revertPage, m_copyAllSettings, m_saveSettings,
-                           m_applyFile, m_print})
+                           m_applyFile, m_print, m_test, m_chooseNetwork})
         entry->setEnabled(false);
     QMenu *const view = addMenu(u"DWT_Localize_Menu_View"_s);
     add(view, "DWT_Localize_Menu_PrinterList", Qt::CTRL | Qt::Key_L,
@@ -207,15 +209,30 @@ void MainMenu::actOnList(QAbstractButton *open, QAbstractButton *lookAgain) {
 void MainMenu::actOnPrinter(DWTMainSettingWindow &printer) {
     pressBy(m_send, printer.sendButton());
     pressBy(m_readAgain, printer.readAgainButton());
-    auto *const revert = new WidgetEntry(
-        m_revertPage, printer.window(), [&printer] { printer.revertPage(); },
+    const auto follows = [&printer](QAction *entry, const std::function<void()> &action,
+                                    const std::function<bool()> &mayAct) {
+        auto *const made = new WidgetEntry(entry, printer.window(), action, mayAct);
+        connect(&printer, &DWTMainSettingWindow::editsFollowed, made, &WidgetEntry::follow);
+    };
+    follows(
+        m_revertPage, [&printer] { printer.revertPage(); },
         [&printer] { return printer.canRevertPage(); });
-    connect(&printer, &DWTMainSettingWindow::editsFollowed, revert, &WidgetEntry::follow);
-    new WidgetEntry(m_saveSettings, printer.window(), [&printer] { printer.saveSettings(); });
-    auto *const apply = new WidgetEntry(
-        m_applyFile, printer.window(), [&printer] { printer.applyFile(); },
+    follows(
+        m_applyFile, [&printer] { printer.applyFile(); },
         [&printer] { return printer.canBeChanged(); });
-    connect(&printer, &DWTMainSettingWindow::editsFollowed, apply, &WidgetEntry::follow);
+    // Of the page that is shown.
+    const auto presses = [&](QAction *entry,
+                             QAbstractButton *(DWTMainSettingWindow::*button)() const) {
+        follows(
+            entry, [&printer, button] { (printer.*button)()->click(); },
+            [&printer, button] {
+                const QAbstractButton *const pressed = (printer.*button)();
+                return pressed && pressed->isEnabled();
+            });
+    };
+    presses(m_test, &DWTMainSettingWindow::testButton);
+    presses(m_chooseNetwork, &DWTMainSettingWindow::chooseNetworkButton);
+    new WidgetEntry(m_saveSettings, printer.window(), [&printer] { printer.saveSettings(); });
     new WidgetEntry(m_print, printer.window(), [&printer] { printer.printReport(); });
     new WidgetEntry(m_copyAllSettings, printer.window(),
                     [&printer] { QApplication::clipboard()->setText(printer.report()); });

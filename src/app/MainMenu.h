@@ -48,6 +48,8 @@ class MainMenu : public QMenuBar {
     QAction *m_saveSettings = nullptr;
     QAction *m_applyFile = nullptr;
     QAction *m_print = nullptr;
+    QAction *m_test = nullptr;
+    QAction *m_chooseNetwork = nullptr;
     QAction *m_send = nullptr;
     QAction *m_readAgain = nullptr;
     QPointer<QWidget> m_focus;  // the widget that has it, or had it before a menu bar took it

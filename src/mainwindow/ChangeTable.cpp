@@ -1,10 +1,10 @@
 #include "mainwindow/ChangeTable.h"
 
 #include <QHeaderView>
-#include <QHelpEvent>
-#include <QToolTip>
 #include <algorithm>
 #include <numeric>
+
+#include "platform/ui/ItemTip.h"
 
 namespace {
 
@@ -84,12 +84,6 @@ void ChangeTable::resizeEvent(QResizeEvent *event) {
 }
 
 bool ChangeTable::viewportEvent(QEvent *event) {
-    if (event->type() == QEvent::ToolTip) {
-        const auto *help = static_cast<QHelpEvent *>(event);
-        const QModelIndex index = indexAt(help->pos());
-        const bool isCut = sizeHintForIndex(index).width() > visualRect(index).width();
-        QToolTip::showText(help->globalPos(), isCut ? index.data().toString() : QString(), this);
-        return true;
-    }
-    return QTreeWidget::viewportEvent(event);
+    const auto wholeText = [](const QModelIndex &index) { return index.data().toString(); };
+    return showItemTip(this, event, wholeText) || QTreeWidget::viewportEvent(event);
 }

@@ -60,6 +60,9 @@ class DWTMainSettingWindow : public QObject,
     QAbstractButton *sendButton() const { return button_MainSend; }
     QAbstractButton *readAgainButton() const { return button_MainNewSetting; }
     QAbstractButton *closeButton() const { return button_MainCancel; }
+    // The same of the shown page: null where it has none. editsFollowed() says when to ask anew.
+    QAbstractButton *testButton() const;
+    QAbstractButton *chooseNetworkButton() const;
     // Whether the shown page differs from what was read; editsFollowed() says when to ask anew.
     bool canRevertPage() const;
     // Puts back what was read on the shown page.
@@ -140,6 +143,8 @@ class DWTMainSettingWindow : public QObject,
     void askPasswordState();
     // The page that is shown; null when none is.
     DWTBaseView *shownPage() const;
+    // The button of the shown page whose name ends in this; null where it has none.
+    QAbstractButton *buttonOfPage(const QString &end) const;
     std::optional<QString> MSW_SelectedUIString() const;
     // False when the user chose Cancel.
     bool showStandardAlert(const char *titleKey, const char *kindKey, const char *informationKey,

@@ -1,6 +1,7 @@
 // The outline of the pages, their marks, and what the pages show as a whole.
 
 #include <QStyle>
+#include <algorithm>
 
 #include "mainwindow/DWTMainSettingWindow.h"
 #include "mainwindow/WaitWindow.h"
@@ -65,6 +66,24 @@ void DWTMainSettingWindow::askPasswordState() {
 
 DWTBaseView *DWTMainSettingWindow::shownPage() const {
     return dictionary_ViewManagement.value(MSW_SelectedUIString().value_or(QString())).get();
+}
+
+QAbstractButton *DWTMainSettingWindow::buttonOfPage(const QString &end) const {
+    const DWTBaseView *const page = shownPage();
+    const auto buttons = page ? page->mainCustomView()->findChildren<QAbstractButton *>()
+                              : QList<QAbstractButton *>();
+    const auto found = std::find_if(
+        buttons.begin(), buttons.end(),
+        [&](const QAbstractButton *button) { return button->objectName().endsWith(end); });
+    return found == buttons.end() ? nullptr : *found;
+}
+
+QAbstractButton *DWTMainSettingWindow::testButton() const {
+    return buttonOfPage(u"Connect"_s);
+}
+
+QAbstractButton *DWTMainSettingWindow::chooseNetworkButton() const {
+    return buttonOfPage(u"SelectSSID"_s);
 }
 
 bool DWTMainSettingWindow::canRevertPage() const {

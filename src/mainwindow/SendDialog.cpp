@@ -74,6 +74,7 @@ QList<ChangeTable::Row> rowsOf(const Ending &ending) {
 
 SendDialog::SendDialog(QWidget *parent) : ModalWindow(parent) {
     setupUi(this);
+    nameByLabels(this);
     dictionary_SendViewManagement =
         std::make_unique<ViewStack>(view_SendData, ViewStack::Room::OfShown);
     ViewStack &views = *dictionary_SendViewManagement;

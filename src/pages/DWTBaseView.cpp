@@ -72,9 +72,7 @@ void DWTBaseView::initializeUI() {
     for (const Field &field : m_fields)
         if (field.row && field.rule && field.rule->ruleKey)
             field.row->setRule(localized(field.rule->ruleKey));
-    for (const QLabel *label : view_Base->findChildren<QLabel *>())
-        if (label->buddy() && label->buddy()->accessibleName().isEmpty())
-            label->buddy()->setAccessibleName(nameInLabel(label->text()));
+    nameByLabels(view_Base);
     alignLabels();
     // In a narrow window the labels stand above their fields.
     for (QFormLayout *form : view_Base->findChildren<QFormLayout *>())

@@ -65,6 +65,18 @@ TEST_F(Menu, OffersWhatCanBeDoneWhileKeysAloneOpenAPrinterChangeItAndSend) {
     keys("Down Down Return");
     ASSERT_FALSE(isListed());
     EXPECT_EQ(enabled(offered), text("Read again"));
+    auto *const outline = controlOf(walk.main(), "outlineView_Main");
+    outline->setFocus();
+    keys("Down");
+    EXPECT_EQ(enabled(offered), text("Read again|Test connection"));
+    keys("Ctrl+T");
+    EXPECT_EQ(controlOf<QLabel>(walk.main(), "textField_EthernetConnection")->text(),
+              text("The printer answers"));
+    outline->setFocus();
+    keys("Down Down");
+    EXPECT_EQ(enabled(offered), text("Read again|Test connection|Choose a network…"));
+    outline->setFocus();
+    keys("Up Up Up");
     keys("Ctrl+S");
     const auto *const field = controlOf(walk.main(), name);
     for (int i = 0; i < 40 && !field->hasFocus(); ++i) keys("Tab");

@@ -135,6 +135,9 @@ TEST_F(Selector, TheDesktopSaysThatTheToolGoesOnAndItsActionBringsTheListBack) {
     desktop.act();
     EXPECT_TRUE(QTest::qWaitFor([&] { return isListed(); }));
     EXPECT_TRUE(hears("Notify CloseNotification"));
+    EXPECT_TRUE(quits([&] { keys("Ctrl+Q"); }));
+    QApplication::processEvents();
+    EXPECT_TRUE(hears("Notify CloseNotification")) << "it does not go on";
 }
 
 TEST_F(Selector, AHiddenWindowComesBackByReopeningAndByTheIconInTheTray) {

@@ -5,11 +5,14 @@
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <utility>
+
+#include "platform/core/Texts.h"
 
 namespace {
 
@@ -91,6 +94,12 @@ void keepLegible(QWidget *panel, bool on) {
             QPalette::Disabled, QPalette::ButtonText,
             QGuiApplication::palette().brush(QPalette::Disabled, QPalette::ButtonText));
     for (auto *button : panel->findChildren<QPushButton *>()) button->setPalette(disabled);
+}
+
+void nameByLabels(const QWidget *panel) {
+    for (const QLabel *label : panel->findChildren<QLabel *>())
+        if (label->buddy() && label->buddy()->accessibleName().isEmpty())
+            label->buddy()->setAccessibleName(nameInLabel(label->text()));
 }
 
 void showAsDigits(QLineEdit *field) {

@@ -18,5 +18,9 @@ void showAsValue(QLineEdit *field, bool on = true);
 // always look as they are.
 void keepLegible(QWidget *panel, bool on);
 
+// Names the controls of a panel for assistive technologies by their labels, without the colon;
+// those that have a name keep it.
+void nameByLabels(const QWidget *panel);
+
 // Shows digits that are compared one by one in a font of equal widths.
 void showAsDigits(QLineEdit *field);

@@ -1,18 +1,16 @@
 #include "platform/ui/TableView.h"
 
 #include <QHeaderView>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QSet>
 #include <QStyledItemDelegate>
-#include <QTextDocument>
-#include <QToolTip>
 #include <utility>
 
 #include "platform/ui/Colours.h"
+#include "platform/ui/ItemTip.h"
 #include "platform/ui/TableModel.h"
 
 namespace {
@@ -291,16 +289,8 @@ QString TableView::wholeTextOf(const QModelIndex &index) {
     return lines.join(u'\n');
 }
 
-// A text that its column cuts is shown whole, as plain text.
 bool TableView::viewportEvent(QEvent *event) {
-    if (event->type() != QEvent::ToolTip) return QTableView::viewportEvent(event);
-    const auto *help = static_cast<QHelpEvent *>(event);
-    const QModelIndex index = indexAt(help->pos());
-    const bool cut =
-        index.isValid() && sizeHintForIndex(index).width() > columnWidth(index.column());
-    QToolTip::showText(help->globalPos(),
-                       cut ? Qt::convertFromPlainText(wholeTextOf(index)) : QString(), viewport());
-    return true;
+    return showItemTip(this, event, wholeTextOf) || QTableView::viewportEvent(event);
 }
 
 QItemSelectionModel::SelectionFlags TableView::selectionCommand(const QModelIndex &index,
