@@ -1,5 +1,6 @@
-// Pictures of every view, filled from demo printers, as users see them: screenshots FOLDER [dark]
-// [NAME ...]; with names only those pictures are saved.
+// Pictures of every view, filled from demo printers, as users see them: screenshots FOLDER
+// [light|dark|contrast [NAME ...]]; with names only those pictures are saved. "contrast" has large
+// letters, too.
 // docs/screenshots.md names the command.
 
 #include <QApplication>
@@ -8,6 +9,7 @@
 
 #include "platform/core/Texts.h"
 #include "support/Arguments.h"
+#include "support/HighContrast.h"
 #include "support/PluggedSource.h"
 #include "support/Walk.h"
 
@@ -265,11 +267,16 @@ int main(int argc, char **argv) {
     programArguments = argv;
     Application app(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    if (arguments.size() < 2) qFatal("screenshots FOLDER [dark]");
-    if (arguments.contains(QStringLiteral("dark"))) useDarkColours();
-    wanted = arguments.mid(2);
-    wanted.removeAll(QStringLiteral("dark"));
-    wanted.removeAll(QStringLiteral("light"));
+    if (arguments.size() < 2) qFatal("screenshots FOLDER [light|dark|contrast [NAME ...]]");
+    const QString colours = arguments.value(2);
+    if (colours == QLatin1String("dark")) useDarkColours();
+    if (colours == QLatin1String("contrast")) {
+        QApplication::setPalette(highContrast());
+        QFont large = QApplication::font();
+        large.setPointSizeF(large.pointSizeF() * 1.25);
+        QApplication::setFont(large);
+    }
+    wanted = arguments.mid(3);
     installTexts();
     folder = arguments[1];
     QDir().mkpath(folder);

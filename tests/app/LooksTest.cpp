@@ -1,5 +1,6 @@
 #include "SelectionWindow.h"
 #include "platform/core/Texts.h"
+#include "support/HighContrast.h"
 #include "support/Profiles.h"
 #include "support/Rectangles.h"
 
@@ -251,16 +252,7 @@ TEST_P(LooksOfTheDesktop, AreFollowedWhileTheWindowsAreUp) {
     const QFont letters = QApplication::font();
     open("Packing-Desk");
     walk.type("textField_NetworkBonjour", text("no spaces"));
-    QPalette contrast;
-    for (const auto ground : {QPalette::Window, QPalette::Base, QPalette::Button,
-                              QPalette::AlternateBase, QPalette::ToolTipBase})
-        contrast.setColor(ground, Qt::black);
-    for (const auto ink : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
-                           QPalette::PlaceholderText, QPalette::ToolTipText})
-        contrast.setColor(ink, Qt::white);
-    contrast.setColor(QPalette::Highlight, Qt::yellow);
-    contrast.setColor(QPalette::HighlightedText, Qt::black);
-    QApplication::setPalette(contrast);
+    QApplication::setPalette(highContrast());
     QFont large = letters;
     large.setPointSizeF(letters.pointSizeF() * 1.25);
     QApplication::setFont(large);
