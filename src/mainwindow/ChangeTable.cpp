@@ -61,6 +61,10 @@ QSize ChangeTable::sizeHint() const {
             header()->sizeHint().height() + std::min(m_lines, shownRows) * row + frame};
 }
 
+QSize ChangeTable::minimumSizeHint() const {
+    return {fewestCharacters * fontMetrics().averageCharWidth(), sizeHint().height()};
+}
+
 int ChangeTable::wishOf(int column) const {
     return std::max(sizeHintForColumn(column), header()->sectionSizeHint(column));
 }

@@ -21,7 +21,8 @@ class ChangeTable : public QTreeWidget {
     static constexpr int shownRows = 14;
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    // The same, but narrower: long values are cut then.
+    QSize minimumSizeHint() const override;
 
   protected:
     void resizeEvent(QResizeEvent *event) override;

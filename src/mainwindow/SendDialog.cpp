@@ -1,6 +1,6 @@
 #include "mainwindow/SendDialog.h"
 
-#include <QCoreApplication>
+#include <QScreen>
 #include <algorithm>
 #include <chrono>
 
@@ -184,7 +184,8 @@ void SendDialog::makeRoom() {
     for (auto part = parts.rbegin(); part != parts.rend(); ++part)
         if (QLayout *const inside = (*part)->layout()) inside->activate();
     layout()->activate();
-    const int wide = std::max(layout()->sizeHint().width(), fontMetrics().averageCharWidth() * 60);
+    const int wish = std::max(layout()->sizeHint().width(), fontMetrics().averageCharWidth() * 60);
+    const int wide = std::min(wish, screen()->availableSize().width());
     resize(wide, layout()->totalHeightForWidth(wide));
 }
 
