@@ -1,7 +1,6 @@
 #include "app/Notice.h"
 
 #include <QCoreApplication>
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingReply>
 
@@ -26,11 +25,10 @@ QDBusMessage callOf(const QString &method, const QVariantList &arguments) {
 }  // namespace
 
 void Notice::show() {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected()) return;
+    if (!m_bus.isConnected()) return;
     if (!m_listens)
-        m_listens = bus.connect(service, path, service, u"ActionInvoked"_s, this,
-                                SLOT(actionInvoked(uint, QString)));
+        m_listens = m_bus.connect(service, path, service, u"ActionInvoked"_s, this,
+                                  SLOT(actionInvoked(uint, QString)));
     m_isWanted = true;
     const QString open = localized("DWT_Localize_Notice_Open");
     const QString program = QCoreApplication::applicationName();
@@ -39,7 +37,7 @@ void Notice::show() {
         callOf(u"Notify"_s, {name, m_id, program, name, localized("DWT_Localize_Notice_Text"),
                              QStringList{u"default"_s, open, u"open"_s, open},
                              QVariantMap{{u"desktop-entry"_s, program}}, usualTime});
-    connect(new QDBusPendingCallWatcher(bus.asyncCall(call), this),
+    connect(new QDBusPendingCallWatcher(m_bus.asyncCall(call), this),
             &QDBusPendingCallWatcher::finished, this, &Notice::noteShown);
 }
 
@@ -53,7 +51,7 @@ void Notice::noteShown(QDBusPendingCallWatcher *call) {
 void Notice::close() {
     m_isWanted = false;
     if (m_id == 0) return;
-    QDBusConnection::sessionBus().asyncCall(callOf(u"CloseNotification"_s, {m_id}));
+    m_bus.asyncCall(callOf(u"CloseNotification"_s, {m_id}));
     m_id = 0;
 }
 

@@ -31,7 +31,7 @@ void TrayIcon::follow() {
     if (visible && m_notice) m_notice->close();
     if (m_wasVisible && !visible) {
         if (!m_notice) {
-            m_notice = new Notice(this);
+            m_notice = new Notice(m_bus(), this);
             connect(m_notice, &Notice::windowsWanted, this, &TrayIcon::windowsWanted);
         }
         m_notice->show();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDBusConnection>
 #include <QMenu>
 #include <QPointer>
 #include <QSystemTrayIcon>
@@ -19,6 +20,9 @@ class TrayIcon : public QObject {
     // word.
     void setHasTray(std::function<bool()> hasTray) { m_hasTray = std::move(hasTray); }
 
+    // Where the desktop's notifications are, asked once; by default the bus of the session.
+    void setBus(std::function<QDBusConnection()> bus) { m_bus = std::move(bus); }
+
     // A window more whose hiding and showing counts. One that is destroyed counts as hidden.
     void watch(QWidget *window);
 
@@ -36,6 +40,7 @@ class TrayIcon : public QObject {
     void make();
 
     std::function<bool()> m_hasTray = &QSystemTrayIcon::isSystemTrayAvailable;
+    std::function<QDBusConnection()> m_bus = &QDBusConnection::sessionBus;
     QList<QPointer<QWidget>> m_windows;
     std::unique_ptr<QMenu> m_menu;
     QSystemTrayIcon *m_icon = nullptr;  // belongs to this object

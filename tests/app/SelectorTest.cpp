@@ -7,6 +7,9 @@
 #include "SelectionWindow.h"
 #include "app/TrayIcon.h"
 #include "platform/ui/SingleInstance.h"
+#include "settings/Frames.h"
+#include "support/Profiles.h"
+#include "virtualprinter/VirtualPrinterServer.h"
 
 namespace {
 
@@ -86,8 +89,7 @@ class Notifications : public QDBusVirtualObject {
         m_bus.start(text("dbus-daemon"),
                     {text("--session"), text("--nofork"), text("--print-address")});
         EXPECT_TRUE(m_bus.waitForReadyRead());
-        const QString address = QString::fromUtf8(m_bus.readLine().trimmed());
-        qputenv("DBUS_SESSION_BUS_ADDRESS", address.toUtf8());
+        address = QString::fromUtf8(m_bus.readLine().trimmed());
         m_here = QDBusConnection::connectToBus(address, text("desktop"));
         EXPECT_TRUE(m_here.registerVirtualObject(text(path), this));
         EXPECT_TRUE(m_here.registerService(text(service)));
@@ -111,6 +113,7 @@ class Notifications : public QDBusVirtualObject {
         m_here.send(signal);
     }
     static constexpr uint id = 7;
+    QString address;
     QStringList calls;
     QString said;
 
@@ -123,6 +126,8 @@ class Notifications : public QDBusVirtualObject {
 
 TEST_F(Selector, TheDesktopSaysThatTheToolGoesOnAndItsActionBringsTheListBack) {
     Notifications desktop;
+    walk.selector->findChild<TrayIcon *>()->setBus(
+        [&] { return QDBusConnection::connectToBus(desktop.address, text("tool")); });
     const auto hears = [&](const char *calls) {
         return QTest::qWaitFor([&] { return desktop.calls.join(u' ') == text(calls); });
     };
@@ -258,6 +263,31 @@ TEST(Start, PrintsItsHelpAndVersionAndOtherwiseReopensTheInstanceThatRuns) {
     }
     const SingleInstance next;
     EXPECT_TRUE(next.isFirst()) << "the first has gone";
+}
+
+TEST(Start, ASignalEndsTheToolAndTheQuestionThatIsUnderWay) {
+    const QTemporaryDir runtime;
+    qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
+    const auto printer = printerOf(R"({"faults": {"items": {"0x1006": {"noReply": true}}}})");
+    VirtualPrinterServer server(printer);
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost, 0));
+    QFile catalogue(runtime.filePath(text("catalogue.json")));
+    ASSERT_TRUE(catalogue.open(QIODevice::WriteOnly));
+    catalogue.write(R"({"printers": [{"ConnectionType": "USB", "ProductName": "Larkfield L200",
+                        "DeviceURI": "tcp://127.0.0.1:)" +
+                    QByteArray::number(server.port()) + "\"}]}");
+    catalogue.close();
+    qputenv("ZMLIB_PRINTERS", catalogue.fileName().toLocal8Bit());
+    QProcess program;
+    program.start(text(NST_PROGRAM), {});
+    const auto lastIs = [&](const QByteArray &frame) {
+        return !printer->log().isEmpty() && printer->log().last().bytes == frame;
+    };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return lastIs(Frames::requestFrame(0x1006)); }, 10000));
+    program.terminate();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return program.state() == QProcess::NotRunning; }));
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return lastIs(Frames::endFrame()); }));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QSet>
 #include <algorithm>
+#include <atomic>
 #include <thread>
 #include <utility>
 
@@ -15,6 +16,8 @@ namespace {
 
 // The innermost one of each thread.
 thread_local CancellableWait *cancellable = nullptr;
+
+std::atomic<bool> waitsEnd{false};
 
 // Swallows what a person does while the program waits.
 class InputFilter : public QObject {
@@ -65,7 +68,11 @@ CancellableWait::~CancellableWait() {
 }
 
 bool isWaitCancelled() {
-    return cancellable && cancellable->isCancelled();
+    return cancellable && (waitsEnd || cancellable->isCancelled());
+}
+
+void endWaits() {
+    waitsEnd = true;
 }
 
 bool waitUntil(const std::function<bool()> &done, const QDeadlineTimer &deadline,

@@ -39,6 +39,10 @@ class CancellableWait {
 // Whether what this thread waits for was cancelled.
 bool isWaitCancelled();
 
+// From now on, everything that a CancellableWait may end counts as cancelled, on every thread: the
+// process ends.
+void endWaits();
+
 // Waits until `done` answers true, asked after every slice, or `deadline` has passed.
 // `pause(slice)` waits at most that long; without one the thread sleeps. A cancelled wait lasts one
 // slice more. Result: the last answer of `done`.

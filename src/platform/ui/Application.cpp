@@ -12,6 +12,7 @@
 
 #include "platform/core/Texts.h"
 #include "platform/ui/OutlinedStyle.h"
+#include "platform/ui/QuitOnSignal.h"
 #include "platform/ui/SingleInstance.h"
 
 using namespace Qt::StringLiterals;
@@ -69,6 +70,7 @@ int Application::main(int argc, char **argv, const MakeDelegate &makeDelegate) {
         std::fprintf(stderr, "%s\n", qUtf8Printable(hangs));
         return 1;
     }
+    const QuitOnSignal signals;
     const auto delegate = makeDelegate();
     if (!delegate) return 1;
     application.setDelegate(delegate.get());
