@@ -54,14 +54,19 @@ std::optional<int> secondsOf(const QString &given) {
 
 ExitCode check(Context &context) {
     const QString file = context.options.arguments.first();
+    QList<Fault> faults;
     if (file.endsWith(tableSuffix, Qt::CaseInsensitive)) {
-        const QList<Fault> faults = wishesOf(context, file).faults;
-        return faults.isEmpty() ? ExitCode::Done : context.terminal.fail(faults);
+        faults = wishesOf(context, file).faults;
+    } else {
+        const GivenSettings given = settingsFromFile(file);
+        noteReadOnly(context, given);
+        faults = given.allFaults() + faultsBetween(given.values);
     }
-    const GivenSettings given = settingsFromFile(file);
-    noteReadOnly(context, given);
-    const QList<Fault> faults = given.allFaults() + faultsBetween(given.values);
-    return faults.isEmpty() ? ExitCode::Done : context.terminal.fail(faults);
+    Outcome outcome = faults.isEmpty() ? outcomeOf(ExitCode::Done, {}) : outcomeOf(faults);
+    if (faults.isEmpty()) outcome.word = u"valid"_s;
+    if (!faults.isEmpty()) context.terminal.fail(faults);
+    if (context.isJson()) context.terminal.printLine(asJson(outcome));
+    return outcome.code;
 }
 
 ExitCode provision(Context &context) {

@@ -205,7 +205,9 @@ TEST(Provision, NothingIsSentFromATableWithAFaultOrWithoutAFileForTheResults) {
     const QString common = printers.write(
         u"common.json"_s, R"({"wired": {"address": {"mode": "fixed", "ip": "10.0.0.1"}}})");
     EXPECT_EQ(run(printers, {u"provision"_s, table, u"--template"_s, common}).code, InputRefused);
-    EXPECT_EQ(run(printers, {u"check"_s, common}).code, Done);
+    const Ended valid = run(printers, {u"check"_s, common, u"--json"_s});
+    EXPECT_EQ(valid.code, Done);
+    EXPECT_TRUE(valid.out.contains(R"("outcome":"valid")")) << valid.out.constData();
     printers.write(u"table.csv"_s, "serial,device.timeout\nS1,90\n");
     EXPECT_EQ(run(printers, {u"provision"_s, table, u"--result"_s, u"/dev/full"_s}).code,
               InputRefused);
